@@ -1,0 +1,147 @@
+// RoofPlane.cpp - the roof-plane fit, its local frame, and intersections with planes.
+#include "geometry/RoofPlane.h"
+
+#include <cmath>
+#include <utility>
+
+#include "geometry/Intersections.h"
+#include "geometry/Trigonometry.h"
+
+namespace geometry {
+
+RoofPlane roofPlane{};
+
+namespace {
+
+// Two edges from corner `first` on span the normal; true when it reaches the tolerance.
+bool NormalFrom(int first) {
+  const Vec3& a = roofPlane.corners[first];
+  const Vec3& b = roofPlane.corners[(first + 1) % 4];
+  const Vec3& c = roofPlane.corners[(first + 2) % 4];
+  Vec3 d1{};
+  Vec3 d2{};
+  VecSub(a, b, d1);
+  VecSub(b, c, d2);
+  VecCross(d1, d2, roofPlane.normal);
+  return VecLength(roofPlane.normal) >= KernelTolerance;
+}
+
+// A normal that only the fourth attempt finds is rejected too.
+bool FindNormal() {
+  int attempts = 0;
+  bool found = false;
+  while (!found && attempts < 4)
+    found = NormalFrom(attempts++);
+  return attempts < 4;
+}
+
+// The turn about z that takes the normal's plan direction to local -y, in radians.
+double SlopeDirection(const Vec3& normal) {
+  const bool horizontal = std::abs(normal.x) < KernelTolerance && std::abs(normal.y) < KernelTolerance;
+  return horizontal ? 0.0 : ArcTangent2(-normal.x, -normal.y);
+}
+
+void SetFrame(double angle, const Vec3& origin) {
+  Matrix4 turn{};
+  Matrix4 shift{};
+  MatRotationZ(angle, turn);
+  MatTranslation({-origin.x, -origin.y, -origin.z}, shift);
+  MatMultiply(turn, shift, roofPlane.worldToLocal);
+  MatRotationZ(-angle, turn);
+  MatTranslation(origin, shift);
+  MatMultiply(shift, turn, roofPlane.localToWorld);
+}
+
+void OrderAlongX(Vec3& left, Vec3& right) {
+  if (left.x > right.x) std::swap(left, right);
+}
+
+bool LiesAlongX(const Vec3& n) {
+  return std::abs(n.y) <= KernelTolerance && std::abs(n.z) <= KernelTolerance;
+}
+bool LiesAlongY(const Vec3& n) {
+  return std::abs(n.x) <= KernelTolerance && std::abs(n.z) <= KernelTolerance;
+}
+bool LiesAlongZ(const Vec3& n) {
+  return std::abs(n.x) <= KernelTolerance && std::abs(n.y) <= KernelTolerance;
+}
+
+Vec3 AuxiliaryNormal(const Vec3& nA, const Vec3& nB) {
+  if (!LiesAlongX(nA) && !LiesAlongX(nB)) return {1, 0, 0};
+  if (!LiesAlongY(nA) && !LiesAlongY(nB)) return {0, 1, 0};
+  if (!LiesAlongZ(nA) && !LiesAlongZ(nB)) return {0, 0, 1};
+  return {0, 0, 0};
+}
+
+}  // namespace
+
+int FitRoofPlane(const Vec3& p1, const Vec3& p2, const Vec3& p3, std::int32_t /*unitFactor*/) {
+  RoofPlane& plane = roofPlane;
+  plane.isHorizontal = 0;
+  plane.corners[0] = p1;
+  plane.corners[1] = p2;
+  plane.corners[2] = p3;
+  plane.corners[3] = p3;
+  if (!FindNormal()) return 0;
+  VecNormalize(plane.normal, plane.normal);
+  if (plane.normal.z < 0.0) VecScale(plane.normal, -1.0, plane.normal);
+
+  SetFrame(SlopeDirection(plane.normal), {p3.x, p3.y, plane.originZ});
+  for (int i = 0; i < 3; ++i)
+    WorldToRoof(plane.corners[i], plane.localCorners[i]);
+  MatTransformVector(plane.worldToLocal, plane.normal, plane.localNormal);
+  OrderAlongX(plane.localCorners[0], plane.localCorners[1]);
+  OrderAlongX(plane.localCorners[3], plane.localCorners[2]);
+  return 1;
+}
+
+void RoofToWorld(const Vec3& p, Vec3& out) {
+  MatTransformPoint(roofPlane.localToWorld, p, out);
+}
+
+void WorldToRoof(const Vec3& p, Vec3& out) {
+  MatTransformPoint(roofPlane.worldToLocal, p, out);
+}
+
+void TransformByMatrix(const Vec3& p, const Matrix4& m, Vec3& out) {
+  Vec3 moved{};
+  MatTransformPoint(m, p, moved);
+  out = moved;
+}
+
+int ProjectAlong(const Vec3& p, const Vec3& direction, const Vec3& planePoint, const Vec3& planeNormal,
+                 Vec3& out) {
+  double t = 0.0;
+  if (LinePlane(p, direction, planePoint, planeNormal, t) != INTERSECT_POINT) return 0;
+  out = {p.x + t * direction.x, p.y + t * direction.y, p.z + t * direction.z};
+  return 1;
+}
+
+int HitRoofPlane(const Vec3& p, const Vec3& direction, Vec3& out) {
+  double t = 0.0;
+  if (LinePlane(p, direction, roofPlane.localCorners[0], roofPlane.localNormal, t) != INTERSECT_POINT)
+    return HIT_NONE;
+  out = {p.x + t * direction.x, p.y + t * direction.y, p.z + t * direction.z};
+  return t < -KernelTolerance ? HIT_BEHIND : HIT_AHEAD;
+}
+
+int IntersectThreePlanes(const Vec3& nA, const Vec3& pA, const Vec3& nB, const Vec3& pB, const Vec3& nC,
+                         const Vec3& pC, Vec3& out) {
+  Matrix4 system = {{{nA.x, nA.y, nA.z, 0}, {nB.x, nB.y, nB.z, 0}, {nC.x, nC.y, nC.z, 0}, {0, 0, 0, 1}}};
+  double solution[4] = {VecDot(nA, pA), VecDot(nB, pB), VecDot(nC, pC), 0};
+  std::int32_t index[4];
+  double parity = 0.0;
+  if (LuDecompose(system, index, parity) == 0) return 0;
+  LuSolve(system, index, solution);
+  out = {solution[0], solution[1], solution[2]};
+  return 1;
+}
+
+int IntersectTwoPlanes(const Vec3& pA, const Vec3& nA, const Vec3& pB, const Vec3& nB, Vec3& outPoint,
+                       Vec3& outDirection) {
+  VecCross(nA, nB, outDirection);
+  if (VecLength(outDirection) < KernelTolerance) return 0;
+  return IntersectThreePlanes(nA, pA, nB, pB, AuxiliaryNormal(nA, nB), {0, 0, 0}, outPoint);
+}
+
+}  // namespace geometry

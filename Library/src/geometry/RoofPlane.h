@@ -1,0 +1,63 @@
+// RoofPlane.h - the roof plane through three picked points, its local frame, and intersections with planes.
+#pragma once
+
+#include <cstdint>
+
+#include "geometry/Matrix4.h"
+#include "geometry/Vec3.h"
+
+namespace geometry {
+
+// The fitted roof plane. In its local frame the fall line runs in the y-z plane, the roof rises along +y, z
+// is up and the origin is the third picked point's place in the plan at height 0. World means drawing
+// coordinates.
+struct RoofPlane {
+  Vec3 corners[4];  // the picked points, world; the fourth repeats the third
+  Vec3
+      localCorners[4];  // the first three, local, ordered along x; the fourth is never computed, only swapped
+  Vec3 normal;          // unit normal, world, z never negative
+  Vec3 localNormal;     // the normal in the local frame: x = 0, y not positive
+  double originZ;       // z of the local origin; always 0
+  std::int32_t isHorizontal;
+  Matrix4 worldToLocal;
+  Matrix4 localToWorld;  // the placement matrix
+};
+
+// The module-wide instance: zeroed at load, overwritten by each fit, never reset. One command thread uses it.
+extern RoofPlane roofPlane;
+
+// Fits the plane through three points in drawing coordinates, in either direction of picking. Gives 1; or 0,
+// with the state partly overwritten, when (p1 - p2) x (p2 - p3) is shorter than the tolerance. `unitFactor`
+// has no effect.
+int FitRoofPlane(const Vec3& p1, const Vec3& p2, const Vec3& p3, std::int32_t unitFactor);
+
+// The point from the local frame to drawing coordinates and back, by the last fit. `out` may be p.
+void RoofToWorld(const Vec3& p, Vec3& out);
+void WorldToRoof(const Vec3& p, Vec3& out);
+void TransformByMatrix(const Vec3& p, const Matrix4& m, Vec3& out);
+
+// Intersects the line p + t direction with the plane. Gives 1 and the point, or 0, with `out` untouched, when
+// the line is parallel to the plane or lies in it. `out` may be p.
+int ProjectAlong(const Vec3& p, const Vec3& direction, const Vec3& planePoint, const Vec3& planeNormal,
+                 Vec3& out);
+
+// Results of HitRoofPlane.
+constexpr int HIT_NONE = 1;  // parallel to the roof or in it: `out` is untouched
+constexpr int HIT_AHEAD = 2;
+constexpr int HIT_BEHIND = 3;  // t is less than minus the tolerance
+
+// Intersects the line p + t direction, in local coordinates, with the fitted roof.
+int HitRoofPlane(const Vec3& p, const Vec3& direction, Vec3& out);
+
+// The point common to three planes, each given by a normal and a point on it: 1, or 0, with `out` untouched,
+// when a normal is zero. Other singular systems are solved with a tiny pivot (LuDecompose).
+int IntersectThreePlanes(const Vec3& nA, const Vec3& pA, const Vec3& nB, const Vec3& pB, const Vec3& nC,
+                         const Vec3& pC, Vec3& out);
+
+// The line common to two planes, through an auxiliary plane at the world origin: 1 with a point and the
+// direction nA x nB, which is not normalised; 0 when the planes are parallel or no auxiliary plane is found.
+// The direction is written in every case; `outDirection` must be none of the inputs.
+int IntersectTwoPlanes(const Vec3& pA, const Vec3& nA, const Vec3& pB, const Vec3& nB, Vec3& outPoint,
+                       Vec3& outDirection);
+
+}  // namespace geometry

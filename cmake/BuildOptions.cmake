@@ -1,0 +1,28 @@
+# Compiler settings of every target.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
+
+set(BREVANTA_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize")
+set(BREVANTA_TIDY OFF CACHE BOOL "Run clang-tidy on every source that is compiled")
+
+add_library(build_options INTERFACE)
+target_compile_options(build_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+  -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wduplicated-cond -Wlogical-op
+  -Wcast-align -Wimplicit-fallthrough -Wformat=2 -Wundef
+  -ffp-contract=off)  # the same rounding everywhere
+if(BREVANTA_SANITIZE)
+  target_compile_options(build_options INTERFACE -fsanitize=${BREVANTA_SANITIZE} -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  target_link_options(build_options INTERFACE -fsanitize=${BREVANTA_SANITIZE})
+endif()
+link_libraries(build_options)
+
+if(BREVANTA_TIDY)
+  find_program(CLANG_TIDY clang-tidy REQUIRED)
+  set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet)
+endif()

@@ -1,0 +1,50 @@
+// EdgeHeights.cpp - edge heights of a window in a roof of given pitch and build-up.
+#include "inc/EdgeHeights.h"
+
+#include <cmath>
+
+#include "geometry/Trigonometry.h"
+
+namespace brevanta {
+
+namespace {
+
+constexpr double RADIANS_PER_DEGREE = 0.017453292519943295;
+
+// In these combinations the roof layer has no part in the heights.
+bool LayerSkipped(const WindowParams& params) {
+  const std::int32_t reference = params.heightReference;
+  return (reference == 0 && params.roofBuildUp == BUILD_UP_SECOND_PLANE) ||
+         ((reference == 1 || reference == 2) && params.roofBuildUp == BUILD_UP_PLAIN);
+}
+
+// What a layer of the thickness t > 0 adds to the height, for a pitch in radians.
+double LayerRise(const WindowParams& params, double pitch, double t) {
+  const double plumb = std::abs(t / geometry::Sine(geometry::PI / 2 - pitch));
+  const double square = std::abs(geometry::Cosine(pitch) * t);
+  const std::int32_t reference = params.heightReference;
+  const bool secondPlane = params.roofBuildUp == BUILD_UP_SECOND_PLANE;
+  double rise = 0.0;
+  if (reference == 0 || reference == 3) rise -= square;
+  if ((reference == 1 || reference == 3) && secondPlane) rise += plumb;
+  if (reference == 2 && secondPlane) rise += square;
+  return rise;
+}
+
+}  // namespace
+
+double EdgeHeight(const WindowParams& params, int mode, int unitFactor) {
+  const double factor = unitFactor;
+  const double m = mode;
+  const double pitch = params.pitch * RADIANS_PER_DEGREE;
+  const double sine = geometry::Sine(pitch);
+  const double rise = params.length * factor * sine;
+  double height = mode == UPPER_FROM_LOWER ? params.lowerEdgeHeight * factor + rise
+                                           : params.upperEdgeHeight * factor - rise;
+  if (params.roofBuildUp == BUILD_UP_SLOPE_OFFSET) height += m * sine * (params.slopeOffset * factor);
+  const double thickness = LayerSkipped(params) ? 0.0 : params.layerThickness * factor;
+  if (thickness > 0.0) height += m * LayerRise(params, pitch, thickness);
+  return height;
+}
+
+}  // namespace brevanta

@@ -1,0 +1,39 @@
+// ValueNode.h - one group of the typed value lists in which entities are handed to the host.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace brevanta {
+
+// The value of one group, read according to the kind of its type code (ValueKinds.h). The node owns `text` of
+// a text kind and the bytes of a binary chunk; both come from the process heap (std::malloc).
+union GroupValue {
+  char* text;       // zero-terminated, may be null
+  double point[3];  // x, y, z
+  double real;
+  std::int16_t shortInteger;  // short, 16-bit integer and flag kinds
+  std::int32_t longInteger;
+  std::int64_t wideInteger;
+  std::int64_t entityName[2];
+  struct {
+    std::int16_t length;  // bytes at `data`
+    unsigned char* data;
+  } chunk;
+};
+
+// One group of a singly linked list. A list is named by its first node and belongs to whoever built it.
+struct ValueNode {
+  ValueNode* next;  // following group; null ends the list
+  std::int16_t
+      typeCode;  // drawing-interchange group code, or one of the host's codes (-5 to -1, 5001 to 5023)
+  GroupValue value;
+};
+
+static_assert(sizeof(void*) == 8, "the record formats are those of 64-bit systems");
+static_assert(sizeof(GroupValue) == 24);
+static_assert(offsetof(ValueNode, typeCode) == 8);
+static_assert(offsetof(ValueNode, value) == 16);
+static_assert(sizeof(ValueNode) == 40);
+
+}  // namespace brevanta
