@@ -10,17 +10,15 @@ set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
 set(BREVANTA_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize")
 set(BREVANTA_TIDY OFF CACHE BOOL "Run clang-tidy on every source that is compiled")
 
-add_library(build_options INTERFACE)
-target_compile_options(build_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-  -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wduplicated-cond -Wlogical-op
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion
+  -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wduplicated-cond -Wlogical-op
   -Wcast-align -Wimplicit-fallthrough -Wformat=2 -Wundef
   -ffp-contract=off)  # the same rounding everywhere
 if(BREVANTA_SANITIZE)
-  target_compile_options(build_options INTERFACE -fsanitize=${BREVANTA_SANITIZE} -fno-sanitize-recover=all
+  add_compile_options(-fsanitize=${BREVANTA_SANITIZE} -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
-  target_link_options(build_options INTERFACE -fsanitize=${BREVANTA_SANITIZE})
+  add_link_options(-fsanitize=${BREVANTA_SANITIZE})
 endif()
-link_libraries(build_options)
 
 if(BREVANTA_TIDY)
   find_program(CLANG_TIDY clang-tidy REQUIRED)
