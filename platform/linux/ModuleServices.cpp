@@ -89,7 +89,7 @@ DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size) {
 }
 
 FARPROC GetProcAddress(HMODULE module, LPCSTR name) {
-  return reinterpret_cast<FARPROC>(dlsym(module, name));
+  return module == nullptr ? nullptr : reinterpret_cast<FARPROC>(dlsym(module, name));
 }
 
 BOOL FreeLibrary(HMODULE module) {
