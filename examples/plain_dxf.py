@@ -11,7 +11,7 @@ Versions are "R2000" and "R12", the oldest form, without handles' owners and sub
 
 UNIT_CODES = {"unitless": 0, "mm": 4, "cm": 5, "m": 6}  # $INSUNITS
 UNITS_PER_METRE = {"mm": 1000, "cm": 100, "m": 1}
-DIGITS = 6  # decimals of a coordinate
+DIGITS = 6  # decimals of a coordinate, unless a drawing asks for others
 
 # Handles of what every drawing holds; the tables have 1 to A, their records those from 20 on.
 MODEL_SPACE, PAPER_SPACE = "1F", "1E"
@@ -24,16 +24,16 @@ OBJECTS = [(0, "DICTIONARY"), (5, "C"), (330, "0"), (100, "AcDbDictionary"), (28
            (0, "DICTIONARY"), (5, "D"), (330, "C"), (100, "AcDbDictionary"), (281, 1)]
 
 
-def number(value):
-    """The shortest text of a coordinate rounded to DIGITS, never -0.0."""
-    return repr(round(float(value), DIGITS) + 0.0)
+def number(value, digits=DIGITS):
+    """The shortest text of a number rounded to so many decimals, never -0.0."""
+    return repr(round(float(value), digits) + 0.0)
 
 
 class Drawing:
     """Collects layers and entities and writes them as one drawing file."""
 
-    def __init__(self, units="mm", version="R2000", code_page="ANSI_1250"):
-        self.units, self.version, self.code_page = units, version, code_page
+    def __init__(self, units="mm", version="R2000", code_page="ANSI_1250", digits=DIGITS):
+        self.units, self.version, self.code_page, self.digits = units, version, code_page, digits
         self.layers = [("0", 7)]
         self.entities = []
         self.lowest = self.highest = None
@@ -99,7 +99,7 @@ class Drawing:
         for index, point in enumerate(points):
             self.lowest = tuple(map(min, self.lowest or point, point))
             self.highest = tuple(map(max, self.highest or point, point))
-            groups += [(10 * axis + index, number(value)) for axis, value in enumerate(point, start=1)]
+            groups += [(10 * axis + index, number(value, self.digits)) for axis, value in enumerate(point, start=1)]
         return groups
 
     def _entity(self, kind, classes, layer, groups, owner=MODEL_SPACE):
