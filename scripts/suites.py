@@ -2,7 +2,6 @@
 # suites.py - builds the presets and runs the suites of tests; called by ./test.
 """Each suite leaves JUnit or GoogleTest XML files in build/results/<suite>; the summary counts those."""
 import argparse
-import json
 import os
 import pathlib
 import shutil
@@ -60,24 +59,28 @@ def environment(preset):
 
 
 def unit_tests(preset, results):
-    """The GoogleTest programs that ctest knows; a program that leaves no cases behind counts as failed."""
+    """The GoogleTest programs that ctest knows; one that leaves no cases behind, or fails after them, counts as failed."""
     if not build(preset):
         return summary.write_failure(results, "build", f"preset {preset} does not build")
-    folder, env = BUILD / preset, environment(preset)
-    for old in (folder / "results").glob("*.xml"):
-        old.unlink()
-    known = json.loads(subprocess.run(["ctest", "--test-dir", folder, "--show-only=json-v1"], check=True,
-                                      capture_output=True, env=env).stdout)["tests"]
-    subprocess.run(["ctest", "--test-dir", folder, "--output-on-failure", "--progress", "-j", str(os.cpu_count())],
-                   stdin=subprocess.DEVNULL, env=env)
-    for name in [test["name"] for test in known]:
-        made = folder / "results" / f"{name}.xml"
-        if made.exists() and made.stat().st_size > 0:
-            shutil.copy(made, results)
-        else:
+    folder, made = BUILD / preset, BUILD / preset / "results"
+    shutil.rmtree(made, ignore_errors=True)
+    made.mkdir()
+    (folder / "ctest.xml").unlink(missing_ok=True)
+    done = subprocess.run(["ctest", "--test-dir", folder, "--output-on-failure", "--no-tests=error", "-j",
+                           str(os.cpu_count()), "--output-junit", folder / "ctest.xml"], env=environment(preset),
+                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    if done.returncode != 0:
+        say(done.stdout.decode(errors="replace"))
+    for program in summary.cases(folder / "ctest.xml"):
+        name = program.get("name")
+        xml = made / f"{name}.xml"
+        if not summary.cases(xml):
             summary.write_failure(results, name, "the program ended without results")
-    if not known:
-        summary.write_failure(results, "ctest", "no test programs are known")
+            continue
+        shutil.copy(xml, results)
+        if summary.outcome(program) == "failed" and all(summary.outcome(case) != "failed"
+                                                        for case in summary.cases(xml)):
+            summary.write_failure(results, name, "the program failed outside of its tests")
 
 
 def pytest(folder, results, options=(), env=None):

@@ -14,6 +14,14 @@ def write_failure(folder, name, message):
     print(f"{name}: {message}", flush=True)
 
 
+def cases(file):
+    """The test cases of a result file; none when it is missing or damaged."""
+    try:
+        return list(ElementTree.parse(file).iter("testcase"))
+    except (OSError, ElementTree.ParseError):
+        return []
+
+
 def outcome(case):
     """passed, failed or skipped; a disabled GoogleTest case counts as skipped."""
     if case.find("failure") is not None or case.find("error") is not None:
@@ -24,14 +32,10 @@ def outcome(case):
 
 
 def count(folder):
-    """The cases of all result files below a folder; an unreadable file or one without cases is a failure."""
+    """The cases of all result files below a folder; a file without any is a failure."""
     found = collections.Counter()
-    for file in sorted(folder.rglob("*.xml")):
-        try:
-            cases = list(ElementTree.parse(file).iter("testcase"))
-        except ElementTree.ParseError:
-            cases = []
-        found.update([outcome(case) for case in cases] or ["failed"])
+    for file in folder.rglob("*.xml"):
+        found.update([outcome(case) for case in cases(file)] or ["failed"])
     return Count(found["passed"], found["failed"], found["skipped"])
 
 
@@ -42,19 +46,14 @@ def line(counted):
 
 def report(results, suites):
     """Names what failed, then prints the count as the last line. Gives the exit status."""
-    empty = [suite for suite in suites if sum(count(results / suite)) == 0]
-    for suite in empty:
-        write_failure(results / suite, suite, "no test ran")
+    for suite in suites:
+        if sum(count(results / suite)) == 0:
+            write_failure(results / suite, suite, "no test ran")
     print()
     for file in sorted(results.rglob("*.xml")):
-        try:
-            cases = list(ElementTree.parse(file).iter("testcase"))
-        except ElementTree.ParseError:
-            print(f"unreadable: {file.relative_to(results)}")
-            continue
-        for case in cases:
-            if outcome(case) == "failed":
-                print(f"failed: {file.relative_to(results).parent} {case.get('classname')}.{case.get('name')}")
+        names = [f"{case.get('classname')}.{case.get('name')}" for case in cases(file) if outcome(case) == "failed"]
+        for name in names if cases(file) else ["no results"]:
+            print(f"failed: {file.relative_to(results)}: {name}")
     total = count(results)
     print(line(total), flush=True)
     return 0 if total.failed == 0 and total.passed > 0 else 1
