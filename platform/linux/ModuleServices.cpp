@@ -114,3 +114,8 @@ int LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size) {
 HMODULE AfxLoadLibrary(LPCSTR name) {
   return name == nullptr ? nullptr : dlopen(name, RTLD_NOW | RTLD_LOCAL);
 }
+
+std::string ModuleLoadError() {
+  const char* text = dlerror();
+  return text == nullptr ? "no reason given" : text;
+}
