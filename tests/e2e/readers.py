@@ -1,4 +1,5 @@
 # readers.py - what independent programs read from a drawing.
+import difflib
 import json
 import subprocess
 
@@ -38,6 +39,17 @@ def handles(path):
     lines = path.read_bytes().decode("cp1250").splitlines()
     groups = zip(lines[0::2], lines[1::2])
     return [value.strip() for code, value in groups if code.strip() in ("5", "105")]
+
+
+def line_changes(before, after):
+    """What became of a file's lines: those that were changed or went, and the number of lines that came."""
+    matcher = difflib.SequenceMatcher(None, before.splitlines(), after.splitlines(), autojunk=False)
+    changed, came = [], 0
+    for kind, start, end, new_start, new_end in matcher.get_opcodes():
+        if kind != "equal":
+            changed += before.splitlines()[start:end]
+            came += new_end - new_start
+    return changed, came
 
 
 def first_difference(expected, actual):
