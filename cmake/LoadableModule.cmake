@@ -6,6 +6,7 @@ function(brevanta_loadable_module target file_name)
   cmake_path(GET file_name EXTENSION LAST_ONLY extension)
   set_target_properties(${target} PROPERTIES PREFIX "" OUTPUT_NAME ${stem} SUFFIX ${extension}
     LIBRARY_OUTPUT_DIRECTORY ${BREVANTA_OUTPUT_DIR} RUNTIME_OUTPUT_DIRECTORY ${BREVANTA_OUTPUT_DIR})
+  add_dependencies(programs ${target})
   if(WIN32)
     # The exports are those that PLATFORM_EXPORT marks; mingw must not add the rest.
     target_link_options(${target} PRIVATE -Wl,--exclude-all-symbols)
