@@ -12,7 +12,10 @@ bool IsFolder(const char* path) {
 
 std::FILE* Open(const char* path, const char* mode) {
   if (IsFolder(path)) return nullptr;  // some systems would open it and fail at the first read
-  return std::fopen(path, mode);
+  std::FILE* stream = std::fopen(path, mode);
+  // The catalogue's own blocks are the buffer; a second one would only cut them into smaller pieces.
+  if (stream != nullptr) std::setvbuf(stream, nullptr, _IONBF, 0);
+  return stream;
 }
 
 std::ptrdiff_t Read(void* buffer, std::size_t size, std::FILE* stream) {

@@ -7,14 +7,15 @@
 
 // The C library's stream operations on files named in the system's code page, with plain results.
 struct StdioOperations {
-  // As std::fopen; null on failure. A folder is never opened, on no system.
+  // As std::fopen, but without a buffer: read and write in blocks. Null on failure. A folder is never opened,
+  // on no system.
   std::FILE* (*open)(const char* path, const char* mode);
 
   // Reads up to `size` bytes and returns how many; fewer only at the end of the file, READ_FAILED on an
   // error.
   std::ptrdiff_t (*read)(void* buffer, std::size_t size, std::FILE* stream);
 
-  // True when the stream has taken all bytes. They may lie in its buffer until `close`.
+  // True when all bytes are written.
   bool (*write)(const void* bytes, std::size_t size, std::FILE* stream);
 
   // Releases the stream in any case; true when everything written has reached the system.

@@ -45,7 +45,7 @@ class CatalogueReader {
  private:
   void FillBlock();
 
-  static constexpr std::size_t BLOCK_SIZE = 32768;
+  static constexpr std::size_t BLOCK_SIZE = 65536;
 
   std::FILE* stream_;
   bool atEnd_ = false;
@@ -75,7 +75,7 @@ class CatalogueWriter {
  private:
   void Flush();
 
-  static constexpr std::size_t BLOCK_SIZE = 32768;
+  static constexpr std::size_t BLOCK_SIZE = 65536;
 
   std::FILE* stream_;
   bool failed_ = false;

@@ -1,49 +1,47 @@
 // LibraryItems.cpp - collects the items of both catalogues and writes them section by section.
 #include "arx/catalogue/LibraryItems.h"
 
+#include <algorithm>
 #include <memory>
+#include <string_view>
 
 #include "inc/LibraryMerge.h"
-#include "lttools/SUPP.h"
 
 namespace brevanta {
 
 namespace {
 
-// The key of a split item line: the first field without its leading blanks.
-const char* KeyOf(const lttools::TextList& fields) {
-  const char* key = fields[0];
-  while (*key == ' ')
-    ++key;
-  return key;
+// The key of an item line: what SplitFields gives as the first field, without its leading blanks. Only this
+// field is wanted, so the others are not copied.
+std::string_view KeyOf(std::string_view line) {
+  const std::string_view field = line.substr(0, line.find(*FIELD_DELIMITER));
+  return field.substr(std::min(field.find_first_not_of(' '), field.size()));
 }
 
 }  // namespace
 
 bool LibraryItems::Collect(CatalogueReader& file, bool unique) {
   ItemIndex::Section section = ItemIndex::NO_SECTION;
-  lttools::TextList fields;
   while (file.NextLine()) {
     if (file.Line().empty()) continue;
     if (IsSectionHeader(file.Line())) {
       section = index_.NumberSection(file.Line());
     } else if (section != ItemIndex::NO_SECTION) {
-      lttools::SplitFields(file.Text(), FIELD_DELIMITER, fields);
-      AddItem(section, KeyOf(fields), file, unique);
-      fields.Empty();
+      AddItem(section, file.Line(), unique);
     }
   }
   return !file.Failed();
 }
 
 // As Add or AddUnique of the set, but with the index in place of a walk over the set.
-void LibraryItems::AddItem(ItemIndex::Section section, const char* key, CatalogueReader& file, bool unique) {
+void LibraryItems::AddItem(ItemIndex::Section section, std::string_view line, bool unique) {
+  const std::string_view key = KeyOf(line);
   if (index_.NoteKey(section, key) && unique) return;
   auto item = std::make_unique<CBrevantaItem>();
   item->index = unique ? static_cast<std::uint32_t>(set_.GetCount()) : 0;
   item->section = index_.SectionName(section);
   item->key = CString(key);
-  item->line = CString(file.Line());
+  item->line = CString(line);
   index_.NoteItem(section);
   set_.Add(item.get());
   item.release();

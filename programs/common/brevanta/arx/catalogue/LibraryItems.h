@@ -1,6 +1,8 @@
 // LibraryItems.h - the items that a merge collects from both catalogues.
 #pragma once
 
+#include <string_view>
+
 #include "arx/catalogue/BrevantaSet.h"
 #include "arx/catalogue/CatalogueFile.h"
 #include "arx/catalogue/ItemIndex.h"
@@ -25,7 +27,7 @@ class LibraryItems {
 
  private:
   bool Collect(CatalogueReader& file, bool unique);
-  void AddItem(ItemIndex::Section section, const char* key, CatalogueReader& file, bool unique);
+  void AddItem(ItemIndex::Section section, std::string_view line, bool unique);
 
   CBrevantaSet set_;
   ItemIndex index_{set_};
