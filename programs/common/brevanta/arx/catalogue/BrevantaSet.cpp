@@ -1,8 +1,6 @@
 // BrevantaSet.cpp - the ordered list of catalogue items.
 #include "arx/catalogue/BrevantaSet.h"
 
-#include <limits>
-
 namespace brevanta {
 
 int IsSame(const CString& a, const CString& b) {
@@ -23,11 +21,6 @@ void CBrevantaSet::Serialize(CArchive& /*archive*/) {}
 void CBrevantaSet::AssertValid() const {}
 
 void CBrevantaSet::Dump(CDumpContext& /*context*/) const {}
-
-CBrevantaItem* CBrevantaSet::GetItem(std::uint32_t index) const {
-  if (index == std::numeric_limits<std::uint32_t>::max() || index >= GetCount()) return nullptr;
-  return static_cast<CBrevantaItem*>(GetAt(index));
-}
 
 std::int64_t CBrevantaSet::Add(CBrevantaItem* item) {
   return CPtrArray::Add(item);

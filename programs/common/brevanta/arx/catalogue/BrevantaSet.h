@@ -22,7 +22,11 @@ class CBrevantaSet : public CPtrArray {
   void Dump(CDumpContext& context) const override;
 
   // The item at `index`, still the set's; null when there is none.
-  CBrevantaItem* GetItem(std::uint32_t index) const;
+  CBrevantaItem* GetItem(std::uint32_t index) const {
+    constexpr std::uint32_t noIndex = UINT32_MAX;
+    if (index == noIndex || index >= GetCount()) return nullptr;
+    return static_cast<CBrevantaItem*>(GetAt(index));
+  }
 
   // Takes the item over and returns its position.
   std::int64_t Add(CBrevantaItem* item);

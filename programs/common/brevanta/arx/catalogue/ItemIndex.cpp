@@ -1,4 +1,4 @@
-// ItemIndex.cpp - an open hash table over section and key, and a chain of items for every section.
+// ItemIndex.cpp - an open hash table of keys and a chain of items for every section.
 #include "arx/catalogue/ItemIndex.h"
 
 #include <algorithm>
@@ -8,12 +8,10 @@ namespace brevanta {
 
 namespace {
 
-constexpr std::size_t FIRST_TABLE_SIZE = 64;
-constexpr std::uint64_t SECTION_SPREAD = 0x9E3779B97F4A7C15ULL;  // 2^64 over the golden ratio
+constexpr std::size_t FIRST_TABLE_SIZE = 8;
 
-std::uint32_t HashOf(ItemIndex::Section section, std::string_view key) {
-  const std::uint64_t hash = std::hash<std::string_view>()(key) ^ (section * SECTION_SPREAD);
-  return static_cast<std::uint32_t>(hash ^ (hash >> 32U));
+std::uint32_t HashOf(std::string_view key) {
+  return static_cast<std::uint32_t>(std::hash<std::string_view>()(key));
 }
 
 }  // namespace
@@ -32,35 +30,32 @@ ItemIndex::Section ItemIndex::NumberSection(std::string_view header) {
   return section;
 }
 
-bool ItemIndex::IsItem(const Slot& slot, std::uint32_t hash, Section section, std::string_view key) const {
-  if (slot.hash != hash) return false;
-  const CBrevantaItem* item = set_.GetItem(slot.position);
-  return item->key.View() == key && item->section == SectionName(section);
-}
-
 bool ItemIndex::NoteKey(Section section, std::string_view key) {
-  if ((usedSlots_ + 1) * 4 > slots_.size() * 3) Grow();
-  const std::uint32_t hash = HashOf(section, key);
-  const std::size_t mask = slots_.size() - 1;
+  SectionItems& items = sections_[section];
+  if ((items.usedSlots + 1) * 4 > items.slots.size() * 3) Grow(items.slots);
+  const std::uint32_t hash = HashOf(key);
+  const std::size_t mask = items.slots.size() - 1;
   std::size_t i = hash & mask;
-  for (; slots_[i].position != NO_ITEM; i = (i + 1) & mask)
-    if (IsItem(slots_[i], hash, section, key)) return true;
-  slots_[i] = {hash, NextPosition()};
-  ++usedSlots_;
+  for (; items.slots[i].position != NO_ITEM; i = (i + 1) & mask) {
+    const Slot& slot = items.slots[i];
+    if (slot.hash == hash && set_.GetItem(slot.position)->key.View() == key) return true;
+  }
+  items.slots[i] = {hash, NextPosition()};
+  ++items.usedSlots;
   return false;
 }
 
-void ItemIndex::Grow() {
-  std::vector<Slot> wider(std::max(FIRST_TABLE_SIZE, slots_.size() * 2));
+void ItemIndex::Grow(std::vector<Slot>& slots) {
+  std::vector<Slot> wider(std::max(FIRST_TABLE_SIZE, slots.size() * 2));
   const std::size_t mask = wider.size() - 1;
-  for (const Slot& slot : slots_) {
+  for (const Slot& slot : slots) {
     if (slot.position == NO_ITEM) continue;
     std::size_t i = slot.hash & mask;
     while (wider[i].position != NO_ITEM)
       i = (i + 1) & mask;
     wider[i] = slot;
   }
-  slots_.swap(wider);
+  slots.swap(wider);
 }
 
 void ItemIndex::NoteItem(Section section) {

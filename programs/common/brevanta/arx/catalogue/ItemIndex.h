@@ -44,28 +44,29 @@ class ItemIndex {
   std::uint32_t NextItem(std::uint32_t position) const { return nextInSection_[position]; }
 
  private:
-  struct SectionItems {
-    CString name;
-    std::uint32_t first = NO_ITEM;
-    std::uint32_t last = NO_ITEM;
-  };
-
-  // A slot of the open hash table; the first item of every section and key has one.
+  // A slot of an open hash table; the first item of every key has one.
   struct Slot {
     std::uint32_t hash = 0;
     std::uint32_t position = NO_ITEM;
   };
 
+  // Every section has a table of its own: catalogues go through their sections one by one, so the table in
+  // use stays in the processor's cache.
+  struct SectionItems {
+    CString name;
+    std::uint32_t first = NO_ITEM;
+    std::uint32_t last = NO_ITEM;
+    std::size_t usedSlots = 0;
+    std::vector<Slot> slots = {};  // a power of two, or none
+  };
+
   std::uint32_t NextPosition() const { return static_cast<std::uint32_t>(set_.GetCount()); }
-  bool IsItem(const Slot& slot, std::uint32_t hash, Section section, std::string_view key) const;
-  void Grow();
+  static void Grow(std::vector<Slot>& slots);
 
   const CBrevantaSet& set_;
   std::vector<SectionItems> sections_;
   std::unordered_map<std::string_view, Section> numbers_;  // the names are those in sections_
   std::vector<std::uint32_t> nextInSection_;               // by position in the set
-  std::vector<Slot> slots_;                                // a power of two, or none
-  std::size_t usedSlots_ = 0;
 };
 
 }  // namespace brevanta
