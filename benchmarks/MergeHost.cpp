@@ -13,8 +13,8 @@ int main(int argc, char** argv) {
   }
   HMODULE module = AfxLoadLibrary(argv[1]);
   if (module == nullptr) return 2;
-  const auto merge = ExportedFunction<brevanta::MergeLibraryFilesFunction>(
-      module, brevanta::MERGE_LIBRARY_FILES_EXPORT);
+  const auto merge =
+      ExportedFunction<brevanta::MergeLibraryFilesFunction>(module, brevanta::MERGE_LIBRARY_FILES_EXPORT);
   const std::int32_t result = merge(nullptr, argv[2], argv[3], brevanta::CATALOGUE_FOLDER_KIND);
   FreeLibrary(module);
   return result == brevanta::MERGE_DONE ? 0 : 1;

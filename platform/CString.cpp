@@ -11,9 +11,8 @@ CString::CString(const char* text) : CString(text == nullptr ? std::string_view(
 CString::CString(std::string_view text) : block_(text.empty() ? nullptr : NewBlock(text)) {}
 
 CString& CString::operator=(const CString& other) noexcept {
-  other.Share();
-  Release();
-  block_ = other.block_;
+  CString copy(other);
+  std::swap(block_, copy.block_);
   return *this;
 }
 
