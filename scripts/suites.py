@@ -5,6 +5,7 @@ import argparse
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -142,6 +143,7 @@ def main():
     if given.list:
         print("\n".join(SUITES))
         return 0
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped"))  # by way of what ends Wine's server
     chosen = given.suites or (QUICK if given.quick else list(SUITES))
     shutil.rmtree(RESULTS, ignore_errors=True)
     try:
