@@ -18,11 +18,11 @@ PARTS = {
     "host dxf": (HOST + "dxf/", {"host errors", "platform"}),
     "host drawing": (HOST + "drawing/", {"host dxf", "host errors", "inc", "geometry", "platform"}),
     "host modules": (HOST + "host/", {"host drawing", "host dxf", "host errors", "inc", "geometry", "platform"}),
-    "host commands": (HOST + "commands/", {"host modules", "host drawing", "host dxf", "host errors", "host main",
+    "host catalogue": (HOST + "catalogue/", {"host modules", "host dxf", "host errors", "inc", "platform"}),
+    "host commands": (HOST + "commands/", {"host catalogue", "host modules", "host drawing", "host dxf", "host errors",
                                            "inc", "geometry", "platform"}),
     "host errors": (HOST + "Error", set()),
-    "host main": (HOST, {"host commands", "host modules", "host drawing", "host dxf", "host errors", "inc",
-                         "geometry", "platform"}),
+    "host main": (HOST + "main", {"host commands", "platform"}),
 }
 # Folders that an include may start from, and the libraries that only the host, tests and benchmarks use.
 INCLUDE_ROOTS = ("", LIBRARY, BREVANTA, "programs/", HOST, "Library16/")
