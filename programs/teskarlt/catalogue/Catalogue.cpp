@@ -2,6 +2,7 @@
 #include "teskarlt/catalogue/Catalogue.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <unordered_map>
 
 #include <fmt/format.h>
@@ -72,7 +73,9 @@ class CatalogueBuilder {
 
 std::string CatalogueIn(const std::string& path) {
   if (path.ends_with('/') || path.ends_with('\\')) return path + std::string(CATALOGUE_FILE);
-  if (platform::StateOfFile(path).isFolder) return path + "/" + std::string(CATALOGUE_FILE);
+  std::error_code error;
+  const std::filesystem::path place(std::u8string(path.begin(), path.end()));
+  if (std::filesystem::is_directory(place, error)) return path + "/" + std::string(CATALOGUE_FILE);
   return path;
 }
 
