@@ -8,7 +8,7 @@ LIBRARY, BREVANTA, HOST = "Library/src/", "programs/common/brevanta/", "programs
 # Each part of the code, the folder that holds it, and what it may include besides itself.
 PARTS = {
     "geometry": (LIBRARY + "geometry/", set()),
-    "lttools": (LIBRARY + "lttools/", {"inc"}),
+    "lttools": (LIBRARY + "lttools/", {"inc", "platform"}),
     "collation": ("Library16/Inc/", set()),
     "platform": ("platform/", set()),
     "inc": (BREVANTA + "inc/", {"geometry", "platform"}),
