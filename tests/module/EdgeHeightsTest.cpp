@@ -81,7 +81,7 @@ TEST(EdgeHeight, AnotherModeWeighsTheLayerByItsNumber) {
 TEST(EdgeHeight, PartsOfTheLayerAreAddedOneAfterTheOther) {
   WindowParams record = LayeredRecord(3, 0);
   record.length = 0;
-  record.pitch = 0;               // both parts are the layer's thickness
+  record.pitch = 0;                    // both parts are the layer's thickness
   record.lowerEdgeHeight = 1e17 + 16;  // doubles are 16 apart there, and this one is odd
   record.layerThickness = 8;
   // Both - 8 and + 8 lie in the middle and go to the even one, 1e17. Together the two would be nothing.
