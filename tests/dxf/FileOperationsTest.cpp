@@ -148,8 +148,11 @@ TEST_F(FileOperationsTest, LinkLeadsToItsTarget) {
 }
 
 TEST_F(FileOperationsTest, MissingFileIsNamedWithTheSystemsReason) {
-  EXPECT_THAT(ErrorOf([&] { ReadWholeFile(In("missing.dxf")); }),
-              testing::MatchesRegex(".*missing.dxf: cannot be opened: .*[^.]"));
+  const std::string message = ErrorOf([&] { ReadWholeFile(In("missing.dxf")); });
+  const std::string beginning = In("missing.dxf") + ": cannot be opened: ";
+  EXPECT_THAT(message, testing::StartsWith(beginning));
+  EXPECT_GT(message.size(), beginning.size());
+  EXPECT_NE(message.back(), '.');
 }
 
 TEST_F(FileOperationsTest, MissingFolderIsAnError) {
