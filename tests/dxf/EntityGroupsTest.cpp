@@ -70,11 +70,12 @@ TEST(CheckGroups, SecondTypeIsRefused) {
 }
 
 TEST(CheckGroups, UnknownCodesAreRefused) {
-  for (const int code : {-1, -4, 80, 999, 5001, 1072})
+  for (const int code : {-1, -4, 80, 999, 5001, 1072}) {
     EXPECT_EQ(Refusal({{code, "x"sv}}).find("is not one that an entity can have") != std::string::npos ||
                   Refusal({{code, "x"sv}}).find("stands before") != std::string::npos,
               true)
         << code;
+  }
 }
 
 TEST(CheckGroups, ValueOfAnotherKindIsRefused) {

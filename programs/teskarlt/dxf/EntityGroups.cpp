@@ -140,9 +140,10 @@ void WriteGroup(TagWriter& writer, const TextCodec& codec, const Group& group) {
     return writer.Integer(group.code, *integer);
   std::string raw;
   codec.Encode(TextOf(group), raw);
-  if (group.code == CODE_XDATA_TEXT && raw.size() > LONGEST_EXTENDED_TEXT)
+  if (group.code == CODE_XDATA_TEXT && raw.size() > LONGEST_EXTENDED_TEXT) {
     Refuse(group.code, fmt::format("holds a text of {} bytes, and {} is the most that a drawing can hold",
                                    raw.size(), LONGEST_EXTENDED_TEXT));
+  }
   writer.Text(group.code, raw);
 }
 
