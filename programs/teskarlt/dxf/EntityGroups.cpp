@@ -42,7 +42,7 @@ void CheckFinite(int code, double value) {
 }
 
 void CheckPoint(const Group& group) {
-  const Point& point = ValueOf<Point>(group, "point");
+  const auto& point = ValueOf<Point>(group, "point");
   for (const double coordinate : {point.x, point.y, point.z})
     CheckFinite(group.code, coordinate);
 }
