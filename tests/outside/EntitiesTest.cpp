@@ -1,6 +1,7 @@
 // EntitiesTest.cpp - every group of every entity that the built module hands to its host.
 #include <algorithm>
 #include <map>
+#include <ostream>
 
 #include "tests/outside/StandAloneHost.h"
 #include "tests/support/RoundRecord.h"
@@ -126,6 +127,10 @@ struct Coded {
   const char* code;
   std::vector<Mark> marks;
 };
+
+void PrintTo(const Coded& p, std::ostream* out) {
+  *out << "code \"" << p.code << '"';
+}
 
 const std::vector<Mark> B = {{"0", "12", false}, {"12", "3", false}};
 const std::vector<Mark> B_DASHED = {{"0", "12", true}, {"12", "3", true}};

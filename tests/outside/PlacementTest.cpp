@@ -1,4 +1,7 @@
 // PlacementTest.cpp - where the built module puts windows: anchors, height references, build-ups, roofs.
+#include <ostream>
+#include <utility>
+
 #include "tests/outside/StandAloneHost.h"
 
 namespace {
@@ -70,6 +73,10 @@ struct Layered {
   double opening[2];
   double run[2];
 };
+
+void PrintTo(const Layered& p, std::ostream* out) {
+  *out << "reference " << p.reference << ", build-up " << p.buildUp;
+}
 
 constexpr Layered LAYERS[] = {
     {0, 0, {-7.2, 9.6}, {0, 0}, {160, 120}},      {0, 1, {0, 0}, {7.2, -9.6}, {160, 120}},
