@@ -218,6 +218,7 @@ void Document::Save(const std::string& path) const {
     platform::FileReplacement file(path);
     state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
     file.Commit();
+    if (isLoadedFile) state_->file = platform::StateOfFile(path);
   });
 }
 

@@ -60,7 +60,7 @@ std::uint64_t Edits::AddEntity(std::span<const Group> groups) {
   try {
     CheckGroups(groups);
     return AddCheckedEntity(groups);
-  } catch (const Error&) {
+  } catch (...) {
     Rollback(mark);
     throw;
   }
