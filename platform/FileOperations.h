@@ -15,7 +15,7 @@ using FileHandle = std::intptr_t;
 // What shows that a file was changed by somebody else.
 struct FileState {
   bool exists = false;
-  bool isFolder = false;
+  bool isOrdinary = false;        // a file with bytes of its own: no folder, pipe or device
   bool isWritable = false;        // for this user
   std::uint64_t size = 0;         // bytes
   std::int64_t modifiedTime = 0;  // in the system's own unit

@@ -9,28 +9,13 @@
 #include <string>
 #include <string_view>
 
-#include "platform/FileOperations.h"
+#include "teskarlt/dxf/Edits.h"
 #include "teskarlt/dxf/Group.h"
+#include "teskarlt/dxf/Index.h"
 #include "teskarlt/dxf/SourceText.h"
 #include "teskarlt/dxf/TagReader.h"
 
 namespace teskarlt::dxf {
-
-// An entity of the file. The views lie in the document's bytes.
-struct Entity {
-  std::string_view
-      text;  // all its tags; those of the vertices and the end of a POLYLINE too, of attributes likewise
-  std::string_view type;  // "3DFACE"
-  std::uint64_t handle;   // 0: none, or one that cannot be read
-};
-
-// A state of the edits to which a document can go back.
-struct EditMark {
-  std::size_t addedEntities;
-  std::size_t removedEntities;
-  std::size_t addedRecords;
-  std::uint64_t nextHandle;
-};
 
 // A drawing as text file (binary ones are refused). Reading keeps ranges of the file's bytes, not its tags;
 // edits are kept aside until Save. All functions throw teskarlt::Error.
@@ -70,6 +55,7 @@ class Document {
   // Number of entities that are not in the model space but in paper space.
   std::size_t PaperSpaceEntities() const;
 
+  // `name` in bytes of the drawing's code page.
   bool HasLayer(std::string_view name) const;
 
   // --- Texts ---

@@ -16,6 +16,8 @@ class SourceText {
 
   const std::string& Name() const { return name_; }
   std::string_view Text() const { return bytes_.View(); }
+  // The text behind a byte order mark, where one stands in front.
+  std::string_view Tags() const;
 
   // Number of the line, from 1, that holds the byte at `position` of the text. Counts through the file: for
   // messages only.

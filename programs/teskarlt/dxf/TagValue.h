@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace teskarlt::dxf {
@@ -25,6 +26,10 @@ std::optional<std::int64_t> ParseInteger(std::string_view text);
 // A handle: 1 to 16 hexadecimal digits, blanks around. Nothing for anything else. 0 is no handle but the null
 // reference.
 std::optional<std::uint64_t> ParseHandle(std::string_view text);
+
+// The text in quotation marks for a message: control characters and bytes beyond ASCII become "?", long texts
+// are cut.
+std::string Quoted(std::string_view text);
 
 // The text without blanks around it.
 std::string_view Trimmed(std::string_view text);

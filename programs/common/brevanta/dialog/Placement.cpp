@@ -15,7 +15,6 @@ namespace brevanta {
 namespace {
 
 using geometry::KernelTolerance;
-using geometry::RoofPlane;
 using geometry::roofPlane;
 using geometry::Vec3;
 
