@@ -8,9 +8,10 @@ LIBRARY, BREVANTA, HOST = "Library/src/", "programs/common/brevanta/", "programs
 # Each part of the code, the folder that holds it, and what it may include besides itself.
 PARTS = {
     "geometry": (LIBRARY + "geometry/", set()),
-    "lttools": (LIBRARY + "lttools/", {"inc", "platform"}),
+    "lttools": (LIBRARY + "lttools/", {"inc", "heap"}),
     "collation": ("Library16/Inc/", set()),
-    "platform": ("platform/", set()),
+    "heap": ("platform/Heap", set()),
+    "platform": ("platform/", {"heap"}),
     "inc": (BREVANTA + "inc/", {"geometry", "platform"}),
     "arx": (BREVANTA + "arx/", {"inc", "geometry", "lttools", "collation", "platform"}),
     "dialog": (BREVANTA + "dialog/", {"inc", "geometry", "platform"}),
@@ -60,7 +61,8 @@ def breaches_of_arrows(path):
         target = resolved(path, name) if mark == '"' else None
         if mark == '"' and target is None:
             yield f'{path}: "{name}" is not a file of this project'
-        if target and part_of(target) not in {own} | PARTS[own][1]:
+        allowed = {own} | PARTS[own][1] | ({"heap"} if "platform" in PARTS[own][1] else set())
+        if target and part_of(target) not in allowed:
             yield f"{path} ({own}) must not include {target}"
 
 
