@@ -8,7 +8,6 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
 
 set(BREVANTA_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize")
-set(BREVANTA_TIDY OFF CACHE BOOL "Run clang-tidy on every source that is compiled")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion
   -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wduplicated-cond -Wlogical-op
@@ -18,9 +17,4 @@ if(BREVANTA_SANITIZE)
   add_compile_options(-fsanitize=${BREVANTA_SANITIZE} -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${BREVANTA_SANITIZE})
-endif()
-
-if(BREVANTA_TIDY)
-  find_program(CLANG_TIDY clang-tidy REQUIRED)
-  set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY} --quiet)
 endif()

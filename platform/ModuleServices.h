@@ -1,6 +1,8 @@
 // ModuleServices.h - the operating system's module services under their Windows names, on every system.
 #pragma once
 
+#include <string>
+
 #ifdef _WIN32
 
 #include <windows.h>
@@ -43,6 +45,9 @@ int LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
 // load count of a module that is loaded already. Null on failure; the caller releases the result with
 // FreeLibrary.
 HMODULE AfxLoadLibrary(LPCSTR name);
+
+// Why the last AfxLoadLibrary failed, in the system's words.
+std::string ModuleLoadError();
 
 // The module's export `name` as the function that it is; null when there is none.
 template <typename Function>

@@ -89,7 +89,7 @@ DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size) {
 }
 
 FARPROC GetProcAddress(HMODULE module, LPCSTR name) {
-  return reinterpret_cast<FARPROC>(dlsym(module, name));
+  return module == nullptr ? nullptr : reinterpret_cast<FARPROC>(dlsym(module, name));
 }
 
 BOOL FreeLibrary(HMODULE module) {
@@ -113,4 +113,9 @@ int LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size) {
 
 HMODULE AfxLoadLibrary(LPCSTR name) {
   return name == nullptr ? nullptr : dlopen(name, RTLD_NOW | RTLD_LOCAL);
+}
+
+std::string ModuleLoadError() {
+  const char* text = dlerror();
+  return text == nullptr ? "no reason given" : text;
 }

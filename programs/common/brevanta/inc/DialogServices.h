@@ -14,26 +14,27 @@ constexpr std::int32_t REPORT_NOTE = 0;
 constexpr std::int32_t REPORT_WARNING = 1;
 constexpr std::int32_t REPORT_REFUSAL = 2;  // why the dialog does not confirm
 
-// A record of functions that the host owns and hands to "Dialog" as `hostContext`; "EraseWindow", which takes no
-// arguments, gets it from the host's export DIALOG_SERVICES_EXPORT. No entry is null. Coordinates are those of the
-// drawing; texts are zero-terminated bytes in the drawing's code page, messages are UTF-8. `context` is the first
-// argument of every call and is the host's own.
+// A record of functions that the host owns and hands to "Dialog" as `hostContext`; "EraseWindow", which takes
+// no arguments, gets it from the host's export DIALOG_SERVICES_EXPORT. No entry is null. Coordinates are
+// those of the drawing; texts are zero-terminated bytes in the drawing's code page, messages are UTF-8.
+// `context` is the first argument of every call and is the host's own.
 struct DialogServices {
   std::int32_t version;  // DIALOG_SERVICES_VERSION
   std::int32_t size;     // sizeof(DialogServices)
   void* context;
 
-  // The user's answer for the record's field of that name, put into `buffer` of `size` bytes, terminated. Gives its
-  // length in bytes, which is not below `size` when it was cut, or -1 when the user gave no answer for the field.
+  // The user's answer for the record's field of that name, put into `buffer` of `size` bytes, terminated.
+  // Gives its length in bytes, which is not below `size` when it was cut, or -1 when the user gave no answer
+  // for the field.
   std::int32_t (*answer)(void* context, const char* field, char* buffer, std::int32_t size);
 
   // The plan position that the user picked for the window: 1 with x and y, else 0.
   std::int32_t (*pickedPoint)(void* context, double (&xy)[2]);
 
-  // Roof face `index`: 0 is the face chosen for the window, the next ones lie in the same plane and continue it. Puts
-  // up to `capacity` corners, x, y and z each, into `corners` in order around the face and gives their number; 0 when
-  // there is no such face. `isBoundary` becomes 1 when the window must stay inside the faces, 0 when the corners are
-  // only points of an unbounded plane.
+  // Roof face `index`: 0 is the face chosen for the window, the next ones lie in the same plane and continue
+  // it. Puts up to `capacity` corners, x, y and z each, into `corners` in order around the face and gives
+  // their number; 0 when there is no such face. `isBoundary` becomes 1 when the window must stay inside the
+  // faces, 0 when the corners are only points of an unbounded plane.
   std::int32_t (*roofFace)(void* context, std::int32_t index, double* corners, std::int32_t capacity,
                            std::int32_t* isBoundary);
 
@@ -44,7 +45,8 @@ struct DialogServices {
   // Puts the window that is to be edited into the record: 1, or 0 when there is none.
   std::int32_t (*readWindow)(void* context, WindowParams* record);
 
-  // Takes the entities of the window that is edited or erased out of the drawing: their number, 0 when there is none.
+  // Takes the entities of the window that is edited or erased out of the drawing: their number, 0 when there
+  // is none.
   std::int32_t (*eraseWindow)(void* context);
 
   // Tells the record that the dialog is about to confirm.

@@ -12,7 +12,7 @@ namespace brevanta {
 
 namespace {
 
-constexpr const char* DASHED = "DASHED";
+constexpr char DASHED[] = "DASHED";
 
 void UseSymbolLinetype(CbvMakeWindow& maker) {
   std::memcpy(maker.currentLinetype, maker.symbolLinetype, sizeof maker.currentLinetype);
@@ -161,7 +161,9 @@ void DrawOpeningSymbol(CbvMakeWindow& maker) {
   DrawSash(maker, lines);
 
   const RecordText code(maker.params->openingCode);
-  if (std::strpbrk(code.Text(), "DI") != nullptr) std::strcpy(maker.symbolLinetype, DASHED);
+  if (std::strpbrk(code.Text(), "DI") != nullptr) {
+    std::memcpy(maker.symbolLinetype, DASHED, sizeof DASHED);
+  }
   DrawMarks(maker, code.Text(), lines);
 }
 

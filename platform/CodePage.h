@@ -1,0 +1,49 @@
+// CodePage.h - texts in the bytes of an 8-bit or double-byte code page, to UTF-8 and back.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// A text that cannot be converted. `what()` is a sentence that names the character.
+class CodePageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// The Windows number of a code page by its name in a drawing ("ANSI_1250", "ansi_1252", "dos850", "8859_2",
+// "big5"...; case does not matter); nothing for an unknown name.
+std::optional<int> CodePageNumber(std::string_view name);
+
+// Conversions are strict and the same on every system. A byte that the page does not define stands for the
+// character of its own number (U+0080 to U+00FF) and comes back as that byte.
+class CodePage {
+ public:
+  // Throws CodePageError when the system does not know the page.
+  explicit CodePage(int number);
+
+  int Number() const;
+
+  // Takes every text.
+  std::string ToUtf8(std::string_view bytes) const;
+
+  // Throws CodePageError for a character that the page does not have and for malformed UTF-8.
+  std::string FromUtf8(std::string_view utf8) const;
+
+ private:
+  struct Tables;
+  std::shared_ptr<const Tables> tables_;
+};
+
+// Steps through UTF-8: the character at `position`, which moves behind it. Nothing, and one byte further,
+// when the bytes there are malformed. `position` is below the text's size.
+std::optional<char32_t> NextCharacter(std::string_view utf8, std::size_t& position);
+
+// Puts a character behind the text.
+void AppendUtf8(std::string& text, char32_t character);
+
+}  // namespace platform

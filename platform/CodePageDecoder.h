@@ -1,0 +1,29 @@
+// CodePageDecoder.h - what the system knows about the bytes of a code page; CodePage.h makes its tables from
+// it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace platform {
+
+class CodePageDecoder {
+ public:
+  explicit CodePageDecoder(int number);
+  ~CodePageDecoder();
+  CodePageDecoder(const CodePageDecoder&) = delete;
+  CodePageDecoder& operator=(const CodePageDecoder&) = delete;
+
+  bool IsKnown() const;
+
+  // The character of one byte, or of two that belong together; nothing for bytes without a meaning of their
+  // own.
+  std::optional<char32_t> Decode(std::string_view bytes) const;
+  std::optional<char32_t> DecodePair(std::string_view bytes) const;
+
+ private:
+  std::intptr_t system_;
+};
+
+}  // namespace platform

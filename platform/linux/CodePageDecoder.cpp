@@ -1,0 +1,56 @@
+// CodePageDecoder.cpp - code pages by the C library's iconv.
+#include "platform/CodePageDecoder.h"
+
+#include <string>
+
+#include <iconv.h>
+
+namespace platform {
+namespace {
+
+constexpr int ISO_8859_BASE = 28590;
+constexpr int ISO_8859_LAST = 28605;
+constexpr int MAC_ROMAN = 10000;
+constexpr std::intptr_t UNKNOWN = -1;
+
+std::string NameOf(int number) {
+  if (number == MAC_ROMAN) return "MACINTOSH";
+  if (number > ISO_8859_BASE && number <= ISO_8859_LAST)
+    return "ISO-8859-" + std::to_string(number - ISO_8859_BASE);
+  return "CP" + std::to_string(number);
+}
+
+}  // namespace
+
+CodePageDecoder::CodePageDecoder(int number)
+    : system_(reinterpret_cast<std::intptr_t>(iconv_open("UTF-32LE", NameOf(number).c_str()))) {}
+
+CodePageDecoder::~CodePageDecoder() {
+  if (IsKnown()) iconv_close(reinterpret_cast<iconv_t>(system_));
+}
+
+bool CodePageDecoder::IsKnown() const {
+  return system_ != UNKNOWN;
+}
+
+std::optional<char32_t> CodePageDecoder::Decode(std::string_view bytes) const {
+  const auto converter = reinterpret_cast<iconv_t>(system_);
+  iconv(converter, nullptr, nullptr, nullptr, nullptr);
+  char input[2] = {};
+  bytes.copy(input, sizeof input);
+  char32_t output[2] = {};
+  char* from = input;
+  std::size_t fromLeft = bytes.size();
+  char* to = reinterpret_cast<char*>(output);
+  std::size_t toLeft = sizeof output;
+  if (iconv(converter, &from, &fromLeft, &to, &toLeft) != 0) return std::nullopt;
+  // Some pages keep a character back until they see whether an accent follows.
+  if (iconv(converter, nullptr, nullptr, &to, &toLeft) != 0) return std::nullopt;
+  return toLeft == sizeof output - sizeof *output ? std::optional(output[0]) : std::nullopt;
+}
+
+std::optional<char32_t> CodePageDecoder::DecodePair(std::string_view bytes) const {
+  return Decode(bytes.substr(0, 1)) ? std::nullopt : Decode(bytes);
+}
+
+}  // namespace platform

@@ -1,0 +1,112 @@
+// WindowRules.cpp - ranges and combinations of a window's fields.
+#include "dialog/WindowRules.h"
+
+#include <cmath>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "dialog/Refusal.h"
+
+namespace brevanta {
+
+namespace {
+
+[[noreturn]] void Refuse(const char* field, double value, const std::string& must) {
+  throw Refusal(std::string(field) + " must be " + must + ", not " + NumberText(value));
+}
+
+void MustBeFinite(const char* field, double value) {
+  if (!std::isfinite(value)) Refuse(field, value, "a finite number");
+}
+
+void MustBePositive(const char* field, double value) {
+  MustBeFinite(field, value);
+  if (value <= 0.0) Refuse(field, value, "greater than 0");
+}
+
+void MustNotBeNegative(const char* field, double value) {
+  MustBeFinite(field, value);
+  if (value < 0.0) Refuse(field, value, "0 or greater");
+}
+
+void MustBeWithin(const char* field, std::int32_t value, std::int32_t least, std::int32_t most) {
+  if (least <= value && value <= most) return;
+  Refuse(field, value, "from " + NumberText(least) + " to " + NumberText(most));
+}
+
+void CheckSizes(const WindowParams& record) {
+  MustBePositive("width", record.width);
+  MustBePositive("length", record.length);
+  MustBePositive("frameWidth", record.frameWidth);
+  MustBePositive("frameDepth", record.frameDepth);
+  MustNotBeNegative("skirtHeight", record.skirtHeight);
+  MustNotBeNegative("layerThickness", record.layerThickness);
+  const double narrower = std::fmin(record.width, record.length);
+  if (2 * record.frameWidth >= narrower) {
+    Refuse("frameWidth", record.frameWidth, "less than half the window (" + NumberText(narrower / 2) + ")");
+  }
+  MustBeFinite("lowerEdgeHeight", record.lowerEdgeHeight);
+  MustBeFinite("upperEdgeHeight", record.upperEdgeHeight);
+  MustBeFinite("pickOffset", record.pickOffset);
+  MustBeFinite("slopeOffset", record.slopeOffset);
+  MustBeFinite("rotation", record.rotation);
+  MustBeFinite("rotation2", record.rotation2);
+}
+
+void CheckChoices(const WindowParams& record) {
+  MustBeWithin("placeByHeight", record.placeByHeight, 0, 1);
+  MustBeWithin("heightReference", record.heightReference, 0, 3);
+  MustBeWithin("widthAnchor", record.widthAnchor, ANCHOR_CENTRE, ANCHOR_END);
+  MustBeWithin("roofBuildUp", record.roofBuildUp, BUILD_UP_SECOND_PLANE, BUILD_UP_SLOPE_OFFSET);
+  MustBeWithin("bodyAsFaces", record.bodyAsFaces, 0, 1);
+  // The drawing keeps 16 bits of it.
+  MustBeWithin("drawOpeningSymbol", record.drawOpeningSymbol, std::numeric_limits<std::int16_t>::min(),
+               std::numeric_limits<std::int16_t>::max());
+}
+
+// Takes one of the letters off the front of the code; false when none stands there.
+bool TakeOneOf(std::string_view letters, std::string_view& code) {
+  if (code.empty() || letters.find(code.front()) == std::string_view::npos) return false;
+  code.remove_prefix(1);
+  return true;
+}
+
+// Takes one mark with its suffixes off the front: B, C (then I or O), D, or E (then I or O and L or R, either
+// first).
+bool TakeMark(std::string_view& code) {
+  if (TakeOneOf("D", code)) return true;
+  if (TakeOneOf("BC", code)) {
+    TakeOneOf("IO", code);
+    return true;
+  }
+  if (!TakeOneOf("E", code)) return false;
+  if (TakeOneOf("IO", code)) {
+    TakeOneOf("LR", code);
+  } else if (TakeOneOf("LR", code)) {
+    TakeOneOf("IO", code);
+  }
+  return true;
+}
+
+void CheckOpeningCode(const WindowParams& record) {
+  const std::string code(record.openingCode);
+  std::string_view rest = code;
+  while (!rest.empty()) {
+    if (TakeMark(rest)) continue;
+    throw Refusal(
+        "openingCode: " + Quoted(code) + " is not understood from " + Quoted(rest) +
+        " on; the letters are B, C, D and E, behind B, C and E an I (dashed) or O (solid), behind E also an "
+        "L or R (hinge side)");
+  }
+}
+
+}  // namespace
+
+void CheckWindow(const WindowParams& record) {
+  CheckSizes(record);
+  CheckChoices(record);
+  CheckOpeningCode(record);
+}
+
+}  // namespace brevanta

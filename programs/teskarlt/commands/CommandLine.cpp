@@ -1,0 +1,59 @@
+// CommandLine.cpp - parses the command line and runs the subcommand.
+#include "teskarlt/commands/CommandLine.h"
+
+#include <cstdio>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "teskarlt/commands/InsertCommand.h"
+#include "teskarlt/commands/ListCommand.h"
+#include "teskarlt/commands/NewCommand.h"
+#include "teskarlt/commands/RoofsCommand.h"
+
+namespace teskarlt {
+
+namespace {
+
+constexpr const char* VERSION = "teskarlt " TESKARLT_VERSION;
+
+constexpr const char* ABOUT =
+    "Roof windows for CAD drawings: puts windows into the roof planes of DXF drawings.\n"
+    "Everything else in a drawing keeps its bytes.";
+
+constexpr const char* EXAMPLES =
+    "Examples:\n"
+    "  teskarlt roofs house.dxf\n"
+    "  teskarlt insert house.dxf --at 3000,2000 -o house-with-window.dxf\n"
+    "  teskarlt list house-with-window.dxf\n"
+    "\n"
+    "Exit status: 0 done, 1 refused or failed with nothing changed, 2 wrong usage.";
+
+void AddCommands(CLI::App& app) {
+  app.require_subcommand(1);
+  app.set_version_flag("-V,--version", VERSION);
+  app.footer(EXAMPLES);
+  app.get_formatter()->column_width(34);
+  AddRoofsCommand(app);
+  AddInsertCommand(app);
+  AddListCommand(app);
+  AddNewCommand(app);
+}
+
+}  // namespace
+
+int RunCommandLine(const std::vector<std::string>& arguments) {
+  CLI::App app(ABOUT, "teskarlt");
+  AddCommands(app);
+  try {
+    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    return EXIT_DONE;
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? EXIT_DONE : EXIT_USAGE;
+  } catch (const std::exception& error) {
+    fmt::print(stderr, "teskarlt: {}\n", error.what());
+    return EXIT_REFUSED;
+  }
+}
+
+}  // namespace teskarlt

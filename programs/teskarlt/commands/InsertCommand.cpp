@@ -1,0 +1,190 @@
+// InsertCommand.cpp - the subcommand "insert": inserts a roof window.
+#include "teskarlt/commands/InsertCommand.h"
+
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "inc/RecordFields.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/commands/Numbers.h"
+#include "teskarlt/commands/Report.h"
+#include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/Units.h"
+#include "teskarlt/host/WindowModule.h"
+
+namespace teskarlt {
+
+namespace {
+
+struct InsertOptions {
+  std::string file;
+  std::string at;
+  std::string roofFace;
+  std::vector<std::string> roof;
+  std::vector<std::string> settings;
+  std::string output;
+  std::string units;
+  bool dryRun = false;
+  bool asJson = false;
+};
+
+// "field=value" into the answers; a text goes from the terminal's UTF-8 to the drawing's code page.
+void TakeSetting(const std::string& setting, const dxf::Document& drawing, WindowRequest& request) {
+  const auto equals = setting.find('=');
+  const std::string name = setting.substr(0, equals);
+  const brevanta::RecordField* field = brevanta::FindRecordField(name);
+  if (equals == std::string::npos || field == nullptr) {
+    throw Error(
+        fmt::format("--set {}: there is no such field; teskarlt insert --fields lists them", setting));
+  }
+  const std::string value = setting.substr(equals + 1);
+  const bool isText = field->kind == brevanta::FieldKind::Text;
+  try {
+    request.answers[name] = isText ? drawing.ToCodePage(value) : value;
+  } catch (const std::exception& error) {
+    throw Error(fmt::format("--set {}: {}", name, error.what()));
+  }
+}
+
+// The face that the user named, or the uppermost over the point.
+const RoofFace& ChooseFace(const InsertOptions& options, const WindowRequest& request,
+                           const std::vector<RoofFace>& faces) {
+  if (!options.roofFace.empty()) {
+    const RoofFace* named = FindRoofFace(faces, options.roofFace);
+    if (named != nullptr) return *named;
+    throw Error(fmt::format("--roof-face {}: {} has no roof face of that name; teskarlt roofs lists them",
+                            options.roofFace, options.file));
+  }
+  if (!request.point) throw Error("say where the window goes with --at X,Y");
+  const auto [x, y] = *request.point;
+  const RoofFace* over = UppermostOver(faces, x, y);
+  if (over != nullptr) return *over;
+  if (faces.empty())
+    throw Error(fmt::format("{} holds no planar face that can take a roof window", options.file));
+  throw Error(fmt::format("--at {}: no roof face lies over that point; the roofs lie within {}", options.at,
+                          PlanExtents(faces)));
+}
+
+// The roof of the request; the face that was chosen, null when the user gave three points.
+const RoofFace* TakeRoof(const InsertOptions& options, const std::vector<RoofFace>& faces, double tolerance,
+                         WindowRequest& request) {
+  if (!options.roof.empty()) {
+    std::vector<geometry::Vec3> points;
+    for (const std::string& point : options.roof)
+      points.push_back(ParsePoint("--roof", point));
+    request.faces = {points};
+    return nullptr;
+  }
+  if (request.answers.count("roofPlanePoints") != 0) return nullptr;
+  const RoofFace& face = ChooseFace(options, request, faces);
+  request.faces = {face.corners};
+  for (const RoofFace* other : CoplanarWith(face, faces, tolerance))
+    request.faces.push_back(other->corners);
+  request.isBounded = true;
+  return &face;
+}
+
+nlohmann::ordered_json ToJson(const InsertOptions& options, const CommandOutcome& outcome,
+                              const RoofFace* face, const std::string& target) {
+  const brevanta::WindowParams& window = *outcome.confirmed;
+  nlohmann::ordered_json json;
+  json["version"] = JSON_VERSION;
+  json["number"] = window.markerValue;
+  json["face"] = face == nullptr ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(face->name);
+  json["pitch"] = window.pitch;
+  json["place"] = {window.storedPoint.x, window.storedPoint.y, window.storedPoint.z};
+  json["lowerEdgeHeight"] = window.lowerEdgeHeight;
+  json["unitFactor"] = window.unitFactor;
+  json["faces"] = outcome.faces;
+  json["lines"] = outcome.lines;
+  json["file"] = options.dryRun ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(target);
+  json["dryRun"] = options.dryRun;
+  return json;
+}
+
+void PrintText(const InsertOptions& options, const CommandOutcome& outcome, const RoofFace* face,
+               const std::string& target) {
+  const brevanta::WindowParams& window = *outcome.confirmed;
+  const std::string where =
+      face == nullptr ? "the given plane" : fmt::format("face {} of layer {}", face->name, face->layer);
+  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees, lower edge at {:.3f} m.\n",
+             window.markerValue, window.width, window.length, where, window.pitch, window.lowerEdgeHeight);
+  fmt::print(
+      "{} faces and {} lines {}.\n", outcome.faces, outcome.lines,
+      options.dryRun ? "would be added; nothing was written (dry run)" : "added; written to " + target);
+}
+
+void RunInsert(const InsertOptions& options) {
+  const WindowModule module;
+  dxf::Document drawing = dxf::Document::Load(options.file);
+  const DrawingUnit& unit = UnitOf(drawing, options.units);
+
+  WindowRequest request;
+  request.unitFactor = unit.perMetre;
+  for (const std::string& setting : options.settings)
+    TakeSetting(setting, drawing, request);
+  if (!options.at.empty()) request.point = ParsePlanPoint("--at", options.at);
+  const std::vector<RoofFace> faces = FindRoofFaces(drawing, RoofTolerance(unit));
+  const RoofFace* face = TakeRoof(options, faces, RoofTolerance(unit), request);
+  request.numbersInUse = NumbersOf(FindWindows(drawing, unit.perMetre));
+
+  const CommandOutcome outcome = module.Insert(drawing, request);
+  const std::string target = options.output.empty() ? options.file : options.output;
+  if (!options.dryRun) drawing.Save(target);
+  if (options.asJson) {
+    fmt::print("{}\n", ToJson(options, outcome, face, target).dump(2));
+  } else {
+    PrintText(options, outcome, face, target);
+  }
+}
+
+void PrintFields() {
+  Table table({"field", "meaning"});
+  for (const brevanta::RecordField& field : brevanta::RECORD_FIELDS) {
+    table.Add({std::string(field.name), std::string(field.meaning)});
+  }
+  table.Print();
+}
+
+}  // namespace
+
+void AddInsertCommand(CLI::App& app) {
+  CLI::App* command = app.add_subcommand("insert", "Insert a roof window");
+  const auto options = std::make_shared<InsertOptions>();
+  command->add_option("FILE", options->file, "the drawing")->required();
+  command->add_option("--at", options->at, "X,Y in the drawing; the uppermost roof face over it is taken");
+  CLI::Option* roofFace = command->add_option("--roof-face", options->roofFace,
+                                              "name of the roof face, as teskarlt roofs lists it");
+  command->add_option("--roof", options->roof, "three points X,Y,Z of the roof's plane")
+      ->expected(3)
+      ->excludes(roofFace);
+  command->add_option("--set", options->settings, "FIELD=VALUE of the window, as often as needed")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced");
+  command->add_option("--units", options->units, UNITS_HELP);
+  command->add_flag("--dry-run", options->dryRun, "say what would be done and write nothing");
+  command->add_flag("--json", options->asJson, JSON_HELP);
+  command->add_flag_callback(
+      "--fields",
+      [] {
+        PrintFields();
+        throw CLI::Success();
+      },
+      "list the fields for --set");
+  command->footer(
+      "The window's anchor comes to lie exactly at the point. With --set lowerEdgeHeight=H or "
+      "upperEdgeHeight=H it is\n"
+      "moved up or down the slope until that edge lies at H metres.\n"
+      "Examples:\n"
+      "  teskarlt insert house.dxf --at 3000,2000 -o out.dxf\n"
+      "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
+      "  teskarlt insert house.dxf --at 3000,2000 --roof-face 2F --set lowerEdgeHeight=4.2");
+  command->callback([options] { RunInsert(*options); });
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,26 @@
+// Report.h - how the subcommands print tables and what their options share.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace teskarlt {
+
+// Raised with every change of the JSON output that a reader would notice.
+constexpr int JSON_VERSION = 1;
+
+constexpr const char* UNITS_HELP = "unit of the drawing, mm, cm, dm or m, where its header does not say it";
+constexpr const char* JSON_HELP = "print JSON, for programs";
+
+// A table in aligned columns for people; the texts are UTF-8.
+class Table {
+ public:
+  explicit Table(std::vector<std::string> headings);
+  void Add(std::vector<std::string> row);
+  void Print() const;  // to standard output
+
+ private:
+  std::vector<std::vector<std::string>> rows_;
+};
+
+}  // namespace teskarlt

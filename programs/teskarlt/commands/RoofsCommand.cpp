@@ -1,0 +1,102 @@
+// RoofsCommand.cpp - the subcommand "roofs": lists the roof faces of a drawing.
+#include "teskarlt/commands/RoofsCommand.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "teskarlt/commands/Report.h"
+#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/Units.h"
+
+namespace teskarlt {
+
+namespace {
+
+struct RoofsOptions {
+  std::string file;
+  std::string units;
+  bool asJson = false;
+};
+
+// Lowest and highest corner, in metres.
+std::pair<double, double> HeightRange(const RoofFace& face, double unitFactor) {
+  const auto [low, high] = std::minmax_element(face.corners.begin(), face.corners.end(),
+                                               [](const auto& a, const auto& b) { return a.z < b.z; });
+  return {low->z / unitFactor, high->z / unitFactor};
+}
+
+nlohmann::ordered_json ToJson(const RoofFace& face, double unitFactor) {
+  nlohmann::ordered_json json;
+  json["face"] = face.name;
+  json["type"] = face.type;
+  json["layer"] = face.layer;
+  json["pitch"] = Pitch(face);
+  const std::optional<double> fall = FallDirection(face);
+  json["fallDirection"] = fall ? nlohmann::ordered_json(*fall) : nlohmann::ordered_json(nullptr);
+  json["area"] = Area(face) / (unitFactor * unitFactor);
+  for (const geometry::Vec3& corner : face.corners)
+    json["corners"].push_back({corner.x, corner.y, corner.z});
+  return json;
+}
+
+void PrintJson(const std::vector<RoofFace>& faces, const DrawingUnit& unit) {
+  nlohmann::ordered_json json;
+  json["version"] = JSON_VERSION;
+  json["units"] = unit.name;
+  json["unitFactor"] = unit.perMetre;
+  json["roofs"] = nlohmann::ordered_json::array();
+  for (const RoofFace& face : faces)
+    json["roofs"].push_back(ToJson(face, unit.perMetre));
+  fmt::print("{}\n", json.dump(2));
+}
+
+std::string FallText(const RoofFace& face) {
+  const std::optional<double> fall = FallDirection(face);
+  return fall ? fmt::format("{:.1f}", *fall) : "flat";
+}
+
+void PrintTable(const std::vector<RoofFace>& faces, double unitFactor) {
+  Table table({"face", "type", "layer", "pitch deg", "falls to deg", "area m2", "from m", "to m"});
+  for (const RoofFace& face : faces) {
+    const auto [low, high] = HeightRange(face, unitFactor);
+    table.Add({face.name, face.type, face.layer, fmt::format("{:.2f}", Pitch(face)), FallText(face),
+               fmt::format("{:.2f}", Area(face) / (unitFactor * unitFactor)), fmt::format("{:.3f}", low),
+               fmt::format("{:.3f}", high)});
+  }
+  table.Print();
+}
+
+void RunRoofs(const RoofsOptions& options) {
+  const dxf::Document drawing = dxf::Document::Load(options.file);
+  const DrawingUnit& unit = UnitOf(drawing, options.units);
+  const std::vector<RoofFace> faces = FindRoofFaces(drawing, RoofTolerance(unit));
+  if (options.asJson) {
+    PrintJson(faces, unit);
+  } else if (faces.empty()) {
+    fmt::print("{} holds no planar face that can take a roof window.\n", options.file);
+  } else {
+    PrintTable(faces, unit.perMetre);
+  }
+}
+
+}  // namespace
+
+void AddRoofsCommand(CLI::App& app) {
+  CLI::App* command = app.add_subcommand("roofs", "List the faces that can take a roof window");
+  const auto options = std::make_shared<RoofsOptions>();
+  command->add_option("FILE", options->file, "the drawing")->required();
+  command->add_option("--units", options->units, UNITS_HELP);
+  command->add_flag("--json", options->asJson, JSON_HELP);
+  command->footer(
+      "A face is named by the handle of its entity. Its pitch is measured from the horizontal; the "
+      "direction\n"
+      "in which it falls counter-clockwise from the drawing's x axis.\n"
+      "Example: teskarlt roofs house.dxf");
+  command->callback([options] { RunRoofs(*options); });
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,201 @@
+// DrawnWindow.cpp - reads the windows of a drawing back from the extended data of their entities.
+#include "teskarlt/drawing/DrawnWindow.h"
+
+#include <array>
+#include <limits>
+#include <string_view>
+#include <unordered_map>
+
+#include "teskarlt/dxf/TagValue.h"
+
+namespace teskarlt {
+
+namespace {
+
+using brevanta::RecordPoint;
+using brevanta::WindowParams;
+
+constexpr std::string_view ELEMENT_APPLICATION = "TK_LT_ELEM";
+constexpr std::string_view DESCRIPTION_APPLICATION = "TK_LT_DESC";
+constexpr std::string_view WINDOW_ELEMENT = "TKBRVA";
+
+constexpr int XDATA_POINT = 1011;
+constexpr int XDATA_REAL = 1040;
+constexpr int XDATA_DISTANCE = 1041;
+constexpr int XDATA_SCALE = 1042;
+constexpr int XDATA_SHORT = 1070;
+constexpr int XDATA_LONG = 1071;
+
+// The items of the description, by kind and in their order.
+struct Description {
+  std::vector<std::string> texts;
+  std::vector<std::int64_t> shorts;
+  std::vector<double> reals;
+  std::vector<double> distances;
+  std::vector<double> scales;
+  std::vector<RecordPoint> points;
+};
+
+enum class Section { Foreign, Element, WindowElement, Description };
+
+// Where the extended data of our applications stands in an entity, and what it says.
+struct Marks {
+  bool isWindow = false;
+  std::int32_t number = 0;
+  Description description;
+};
+
+void TakeDescription(const dxf::Document& drawing, const dxf::TagReader& reader, const dxf::Tag& tag,
+                     Description& to) {
+  switch (tag.code) {
+    case dxf::CODE_XDATA_TEXT:
+      to.texts.push_back(drawing.Text(tag));
+      break;
+    case XDATA_SHORT:
+      to.shorts.push_back(reader.Integer(tag));
+      break;
+    case XDATA_REAL:
+      to.reals.push_back(reader.Real(tag));
+      break;
+    case XDATA_DISTANCE:
+      to.distances.push_back(reader.Real(tag));
+      break;
+    case XDATA_SCALE:
+      to.scales.push_back(reader.Real(tag));
+      break;
+    case XDATA_POINT:
+      to.points.push_back({reader.Real(tag), 0, 0});
+      break;
+    case XDATA_POINT + 10:
+      if (!to.points.empty()) to.points.back().y = reader.Real(tag);
+      break;
+    case XDATA_POINT + 20:
+      if (!to.points.empty()) to.points.back().z = reader.Real(tag);
+      break;
+    default:
+      break;
+  }
+}
+
+Section SectionOf(std::string_view application) {
+  if (dxf::SameName(application, ELEMENT_APPLICATION)) return Section::Element;
+  if (dxf::SameName(application, DESCRIPTION_APPLICATION)) return Section::Description;
+  return Section::Foreign;
+}
+
+void TakeTag(const dxf::Document& drawing, const dxf::TagReader& reader, const dxf::Tag& tag,
+             Section& section, Marks& marks) {
+  if (tag.code == dxf::CODE_XDATA_APPLICATION) {
+    section = SectionOf(dxf::Trimmed(tag.value));
+  } else if (section == Section::Element && tag.code == dxf::CODE_XDATA_TEXT && tag.value == WINDOW_ELEMENT) {
+    section = Section::WindowElement;
+    marks.isWindow = true;
+  } else if (section == Section::WindowElement && tag.code == XDATA_LONG) {
+    marks.number = static_cast<std::int32_t>(reader.Integer(tag));
+  } else if (section == Section::Description) {
+    TakeDescription(drawing, reader, tag, marks.description);
+  }
+}
+
+// The part of the entity's text from its first application name on; empty when nothing of ours can be in it.
+std::string_view ExtendedData(const dxf::Document& drawing, const dxf::Entity& entity) {
+  if (entity.text.find(WINDOW_ELEMENT) == std::string_view::npos) return {};
+  dxf::TagReader reader = drawing.Reader(entity);
+  for (dxf::Tag tag; reader.Next(tag);) {
+    if (tag.code != dxf::CODE_XDATA_APPLICATION) continue;
+    return {reader.TagBegin(),
+            static_cast<std::size_t>(entity.text.data() + entity.text.size() - reader.TagBegin())};
+  }
+  return {};
+}
+
+Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData) {
+  Marks marks;
+  Section section = Section::Foreign;
+  dxf::TagReader reader(drawing.Source(), extendedData);
+  for (dxf::Tag tag; reader.Next(tag);)
+    TakeTag(drawing, reader, tag, section, marks);
+  return marks;
+}
+
+bool IsComplete(const Description& d) {
+  return d.texts.size() >= 4 && d.shorts.size() >= 5 && d.reals.size() >= 7 && !d.distances.empty() &&
+         !d.scales.empty() && d.points.size() >= 8;
+}
+
+// The window that a complete description tells of; the items come in the order in which the module writes
+// them.
+void TakeComplete(const Description& d, double unitFactor, DrawnWindow& window) {
+  WindowParams& params = window.params;
+  params.length = d.reals[0] / unitFactor;
+  params.width = d.distances[0] / unitFactor;
+  params.frameWidth = d.scales[0] / unitFactor;
+  window.text1 = d.texts[0];
+  window.text3 = d.texts[1];
+  window.openingCode = d.texts[2];
+  window.text2 = d.texts[3];
+  params.drawOpeningSymbol = static_cast<std::int32_t>(d.shorts[1]);
+  params.frameDepth = d.reals[1] / unitFactor;
+  params.lowerEdgeHeight = d.reals[2] / unitFactor;
+  params.heightReference = static_cast<std::int32_t>(d.shorts[2]);
+  params.widthAnchor = static_cast<std::int32_t>(d.shorts[3]);
+  params.roofBuildUp = static_cast<std::int32_t>(d.shorts[4]);
+  params.storedPoint = d.points[0];
+  params.insertionPoint = d.points[1];
+  params.rotation = d.reals[3];
+  params.rotation2 = d.reals[4];
+  params.layerThickness = d.reals[5] / unitFactor;
+  params.pitch = d.reals[6];
+  for (std::size_t i = 0; i < 3; ++i) {
+    params.secondPlanePoints[i] = d.points[2 + 2 * i];
+    params.roofPlanePoints[i] = d.points[3 + 2 * i];
+  }
+}
+
+DrawnWindow MakeWindow(const Marks& marks, std::int32_t unitFactor) {
+  DrawnWindow window;
+  window.number = marks.number;
+  window.params.markerValue = marks.number;
+  window.params.unitFactor = unitFactor;
+  window.isComplete = IsComplete(marks.description);
+  if (window.isComplete) TakeComplete(marks.description, unitFactor, window);
+  return window;
+}
+
+}  // namespace
+
+bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
+  const std::string_view extendedData = ExtendedData(drawing, entity);
+  return !extendedData.empty() && ReadMarks(drawing, extendedData).isWindow;
+}
+
+std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor) {
+  constexpr std::size_t notOurs = std::numeric_limits<std::size_t>::max();
+  std::vector<DrawnWindow> windows;
+  std::unordered_map<std::string_view, std::size_t> windowOf;  // by the bytes of the extended data
+  for (const dxf::Entity& entity : drawing.Entities()) {
+    const std::string_view extendedData = ExtendedData(drawing, entity);
+    if (extendedData.empty()) continue;
+    auto [found, isNew] = windowOf.try_emplace(extendedData, notOurs);
+    if (isNew) {
+      const Marks marks = ReadMarks(drawing, extendedData);
+      if (!marks.isWindow) continue;
+      found->second = windows.size();
+      windows.push_back(MakeWindow(marks, unitFactor));
+    }
+    if (found->second == notOurs) continue;
+    DrawnWindow& window = windows[found->second];
+    window.entities.push_back(&entity);
+    if (dxf::SameName(entity.type, "3DFACE")) ++window.faces;
+  }
+  return windows;
+}
+
+std::set<std::int32_t> NumbersOf(const std::vector<DrawnWindow>& windows) {
+  std::set<std::int32_t> numbers;
+  for (const DrawnWindow& window : windows)
+    numbers.insert(window.number);
+  return numbers;
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,38 @@
+// DrawnWindow.h - the roof windows that a drawing holds, read back from the extended data of their entities.
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "inc/WindowParams.h"
+#include "teskarlt/dxf/Document.h"
+
+namespace teskarlt {
+
+// One window of a drawing.
+struct DrawnWindow {
+  std::int32_t number = 0;  // of the record's `markerValue`; 0 when the entities carry none
+  // What the extended data holds, lengths in metres; the other fields are 0 and its texts are empty.
+  brevanta::WindowParams params{};
+  std::string text1;  // UTF-8
+  std::string text2;
+  std::string text3;
+  std::string openingCode;
+  bool isComplete = false;  // every item of the description was there
+  std::vector<const dxf::Entity*> entities;
+  std::size_t faces = 0;  // of the entities
+};
+
+// True when the entity is marked as one of a roof window.
+bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity);
+
+// The windows in the order of their first entities. Entities with the same number and the same description
+// are one window. `unitFactor` is in drawing units per metre. The drawing must outlive the result.
+std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor);
+
+// The numbers of the windows.
+std::set<std::int32_t> NumbersOf(const std::vector<DrawnWindow>& windows);
+
+}  // namespace teskarlt

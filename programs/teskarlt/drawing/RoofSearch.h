@@ -1,0 +1,20 @@
+// RoofSearch.h - finds the faces of a drawing that can take a roof window.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "teskarlt/drawing/RoofFace.h"
+#include "teskarlt/dxf/Document.h"
+
+namespace teskarlt {
+
+// The planar faces of the model space in the order of the file: 3D faces, the faces of polyface and polygon
+// meshes, and closed 3D polylines. Left out are vertical faces, those that are not planar within `tolerance`
+// (drawing units), and the faces of roof windows.
+std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double tolerance);
+
+// The face of that name (RoofFace.h), or null; without regard to case.
+const RoofFace* FindRoofFace(const std::vector<RoofFace>& faces, std::string_view name);
+
+}  // namespace teskarlt

@@ -1,0 +1,231 @@
+// Document.cpp - puts the parts of a drawing together.
+#include "teskarlt/dxf/Document.h"
+
+#include <algorithm>
+#include <charconv>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "platform/FileOperations.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/dxf/Rules.h"
+#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/TextCodec.h"
+#include "teskarlt/dxf/Version.h"
+
+namespace teskarlt::dxf {
+namespace {
+
+constexpr std::string_view DEFAULT_CODE_PAGE = "ANSI_1252";
+constexpr std::string_view VERSION_PREFIX = "AC";
+constexpr std::int64_t MEASUREMENT_METRIC = 1;
+
+std::string_view VariableText(const Index& index, std::string_view name) {
+  const HeaderVariable* const variable = index.FindVariable(name);
+  return variable == nullptr ? std::string_view() : Trimmed(variable->value.value);
+}
+
+// Versions before R12 have names with a point; their rules are those of R12.
+int VersionOf(const Index& index) {
+  std::string_view name = VariableText(index, "$ACADVER");
+  if (!name.starts_with(VERSION_PREFIX)) return VERSION_R12;
+  name.remove_prefix(VERSION_PREFIX.size());
+  return std::max(static_cast<int>(ParseInteger(name).value_or(VERSION_R12)), VERSION_R12);
+}
+
+std::string_view CodePageOf(const Index& index) {
+  const std::string_view name = VariableText(index, "$DWGCODEPAGE");
+  return name.empty() ? DEFAULT_CODE_PAGE : name;
+}
+
+std::string_view LineEndOf(std::string_view text) {
+  const auto end = text.find('\n');
+  return end != std::string_view::npos && end > 0 && text[end - 1] == '\r' ? "\r\n" : "\n";
+}
+
+// Old drawings have handles when $HANDLING says so, or else when their entities have some.
+bool UsesHandles(const Index& index, int version) {
+  if (NeedsHandles(version)) return true;
+  const auto handling = ParseInteger(VariableText(index, "$HANDLING"));
+  return handling ? *handling == 1 : index.hasEntityHandles;
+}
+
+Rules RulesOf(const SourceText& source, const Index& index) {
+  Rules rules;
+  rules.version = VersionOf(index);
+  rules.lineEnd = LineEndOf(source.Text());
+  rules.units = static_cast<int>(ParseInteger(VariableText(index, "$INSUNITS")).value_or(0));
+  rules.isMetric =
+      ParseInteger(VariableText(index, "$MEASUREMENT")).value_or(MEASUREMENT_METRIC) == MEASUREMENT_METRIC;
+  rules.usesHandles = UsesHandles(index, rules.version);
+  return rules;
+}
+
+// The file layer knows no error of the host's.
+template <typename Work>
+auto WithHostErrors(Work work) {
+  try {
+    return work();
+  } catch (const platform::FileError& error) {
+    throw Error(error.what());
+  }
+}
+
+}  // namespace
+
+struct Document::State {
+  State(SourceText text, platform::FileState stateOfFile)
+      : source(std::move(text)),
+        file(stateOfFile),
+        index(BuildIndex(source)),
+        rules(RulesOf(source, index)),
+        codec(source.Name(), std::string(CodePageOf(index)), IsUtf8(rules.version)),
+        edits(source, index, codec, rules) {}
+
+  SourceText source;
+  platform::FileState file;  // when it was loaded
+  Index index;
+  Rules rules;
+  TextCodec codec;
+  Edits edits;
+};
+
+Document::Document(std::unique_ptr<State> state) : state_(std::move(state)) {}
+Document::Document(Document&&) noexcept = default;
+Document& Document::operator=(Document&&) noexcept = default;
+Document::~Document() = default;
+
+Document Document::Load(const std::string& path) {
+  return WithHostErrors([&] {
+    const platform::FileState file = platform::StateOfFile(path);
+    return Document(std::make_unique<State>(SourceText(path, platform::ReadWholeFile(path)), file));
+  });
+}
+
+Document Document::FromText(const std::string& name, std::string_view text) {
+  platform::FileBytes bytes;
+  bytes.bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
+  bytes.size = text.copy(bytes.bytes.get(), text.size());
+  return Document(std::make_unique<State>(SourceText(name, std::move(bytes)), platform::FileState()));
+}
+
+const std::string& Document::FileName() const {
+  return state_->source.Name();
+}
+
+const SourceText& Document::Source() const {
+  return state_->source;
+}
+
+int Document::Version() const {
+  return state_->rules.version;
+}
+
+std::string_view Document::CodePageName() const {
+  return CodePageOf(state_->index);
+}
+
+int Document::Units() const {
+  const auto units = HeaderVariable("$INSUNITS");
+  if (!units) return 0;
+  return static_cast<int>(TagReader(Source(), {}).Integer(*units));
+}
+
+std::optional<Tag> Document::HeaderVariable(std::string_view name) const {
+  const auto* const variable = state_->index.FindVariable(name);
+  return variable == nullptr || variable->value.value.data() == nullptr ? std::nullopt
+                                                                        : std::optional(variable->value);
+}
+
+std::span<const Entity> Document::Entities() const {
+  return state_->index.entities;
+}
+
+const Entity* Document::FindEntity(std::uint64_t handle) const {
+  const auto& entities = state_->index.entities;
+  const auto found = std::find_if(entities.begin(), entities.end(), [&](const Entity& entity) {
+    return entity.handle == handle && handle != 0;
+  });
+  return found == entities.end() ? nullptr : &*found;
+}
+
+TagReader Document::Reader(const Entity& entity) const {
+  return {state_->source, entity.text};
+}
+
+std::size_t Document::PaperSpaceEntities() const {
+  return state_->index.paperSpaceEntities;
+}
+
+bool Document::HasLayer(std::string_view name) const {
+  return state_->edits.Records().Has(TableKind::Layer, name);
+}
+
+std::string Document::Text(const Tag& tag) const {
+  return state_->codec.Decode(tag.value);
+}
+
+std::string Document::ToCodePage(std::string_view utf8) const {
+  return state_->codec.ToCodePage(utf8);
+}
+
+std::string Document::ToUtf8(std::string_view bytes) const {
+  return state_->codec.ToUtf8(bytes);
+}
+
+std::uint64_t Document::AddEntity(std::span<const Group> groups) {
+  return state_->edits.AddEntity(groups);
+}
+
+void Document::RemoveEntity(const Entity& entity) {
+  state_->edits.RemoveEntity(entity);
+}
+
+bool Document::IsRemoved(const Entity& entity) const {
+  return state_->edits.IsRemoved(entity);
+}
+
+std::string Document::RequireLayer(std::string_view name) {
+  return state_->edits.Records().RequireLayer(name);
+}
+
+void Document::RequireLinetype(std::string_view name) {
+  state_->edits.Records().RequireLinetype(name);
+}
+
+void Document::RequireApplication(std::string_view name) {
+  state_->edits.Records().RequireApplication(name);
+}
+
+bool Document::IsChanged() const {
+  return state_->edits.IsChanged();
+}
+
+EditMark Document::Mark() const {
+  return state_->edits.Mark();
+}
+
+void Document::Rollback(const EditMark& mark) {
+  state_->edits.Rollback(mark);
+}
+
+void Document::Save(const std::string& path) const {
+  WithHostErrors([&] {
+    const bool isLoadedFile = path == FileName() && state_->file.exists;
+    if (isLoadedFile && platform::StateOfFile(path) != state_->file)
+      state_->source.Fail("was changed by another program meanwhile; nothing is written");
+    platform::FileReplacement file(path);
+    state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
+    file.Commit();
+    if (isLoadedFile) state_->file = platform::StateOfFile(path);
+  });
+}
+
+std::string Document::Serialize() const {
+  std::string text;
+  state_->edits.Write([&](std::string_view piece) { text += piece; });
+  return text;
+}
+
+}  // namespace teskarlt::dxf

@@ -1,0 +1,110 @@
+// Document.h - a drawing that is read, changed and saved without touching what it holds besides.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "teskarlt/dxf/Edits.h"
+#include "teskarlt/dxf/Group.h"
+#include "teskarlt/dxf/Index.h"
+#include "teskarlt/dxf/SourceText.h"
+#include "teskarlt/dxf/TagReader.h"
+
+namespace teskarlt::dxf {
+
+// A drawing as text file (binary ones are refused). Reading keeps ranges of the file's bytes, not its tags;
+// edits are kept aside until Save. All functions throw teskarlt::Error.
+//
+// A handle that cannot be read is kept and counts as none. It is an error, with its line, only where a new
+// object has to refer to it. Where handles are used twice, the first object of the file is meant.
+class Document {
+ public:
+  static Document Load(const std::string& path);
+  // `name` stands for the file in messages.
+  static Document FromText(const std::string& name, std::string_view text);
+
+  Document(Document&&) noexcept;
+  Document& operator=(Document&&) noexcept;
+  ~Document();
+
+  const std::string& FileName() const;
+  const SourceText& Source() const;
+
+  // --- What the file holds, as it was loaded ---
+
+  // Number of $ACADVER; VERSION_R12 when it is missing.
+  int Version() const;
+  // $DWGCODEPAGE as it stands; "ANSI_1252" when it is missing.
+  std::string_view CodePageName() const;
+  // $INSUNITS; 0 (no unit) when it is missing.
+  int Units() const;
+  // First tag of a header variable ("$INSUNITS").
+  std::optional<Tag> HeaderVariable(std::string_view name) const;
+
+  // The entities of the model space in the order of the file; those of paper space and of blocks are left
+  // out.
+  std::span<const Entity> Entities() const;
+  // The first entity of the model space with this handle; null when there is none.
+  const Entity* FindEntity(std::uint64_t handle) const;
+  TagReader Reader(const Entity& entity) const;
+  // Number of entities that are not in the model space but in paper space.
+  std::size_t PaperSpaceEntities() const;
+
+  // `name` in bytes of the drawing's code page.
+  bool HasLayer(std::string_view name) const;
+
+  // --- Texts ---
+
+  // A tag's text in UTF-8, with \U+XXXX and ^ escapes resolved. Bytes that are malformed become U+FFFD.
+  std::string Text(const Tag& tag) const;
+  // Between UTF-8 and bytes of the drawing's code page; throws for a character that the page does not have.
+  std::string ToCodePage(std::string_view utf8) const;
+  std::string ToUtf8(std::string_view bytes) const;
+
+  // --- Edits ---
+
+  // Adds an entity behind the last one and gives its handle, 0 in a drawing without handles. The groups come
+  // in the order 0, 100, 8, (6), (62), 100, points and numbers, 1001 with its extended data; -3 is passed
+  // over. Handle, owner and what the version wants otherwise are added here; so are layer, linetype and
+  // applications that the drawing lacks. Refused whole: unknown codes, values of a wrong kind or range,
+  // numbers that are not finite, extended texts of more than 255 bytes, unknown linetypes.
+  std::uint64_t AddEntity(std::span<const Group> groups);
+
+  // Takes an entity of Entities() out; a second time does nothing.
+  void RemoveEntity(const Entity& entity);
+  bool IsRemoved(const Entity& entity) const;
+
+  // Adds the record when the drawing has none of that name; an existing one stays as it is. Names are bytes
+  // of the drawing's code page. RequireLayer gives the name that the drawing uses: characters that the
+  // version does not allow become "_", an R12 name is in capitals and cut at 31 characters.
+  std::string RequireLayer(std::string_view name);
+  // "DASHED" and "CONTINUOUS" are known.
+  void RequireLinetype(std::string_view name);
+  void RequireApplication(std::string_view name);
+
+  bool IsChanged() const;
+  EditMark Mark() const;
+  // Undoes the edits made since the mark was taken. Marks taken later are void then.
+  void Rollback(const EditMark& mark);
+
+  // --- Output ---
+
+  // Writes the drawing with its edits in place of the file `path`. Refuses to overwrite the loaded file when
+  // somebody else changed it since. The document stays as it is: the edits are still pending.
+  void Save(const std::string& path) const;
+  // The same bytes as a text.
+  std::string Serialize() const;
+
+ private:
+  struct State;
+  explicit Document(std::unique_ptr<State> state);
+
+  std::unique_ptr<State> state_;
+};
+
+}  // namespace teskarlt::dxf

@@ -1,0 +1,206 @@
+// Edits.cpp - new entities as text, removals, and the file that comes of them.
+#include "teskarlt/dxf/Edits.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/dxf/EntityGroups.h"
+#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/TagWriter.h"
+#include "teskarlt/dxf/Version.h"
+
+namespace teskarlt::dxf {
+namespace {
+
+constexpr std::string_view SEED_VARIABLE = "$HANDSEED";
+
+HandleSeed SeedOf(const Index& index, const Rules& rules) {
+  const HeaderVariable* const variable = index.FindVariable(SEED_VARIABLE);
+  const std::uint64_t seed = variable == nullptr ? 0 : ParseHandle(variable->value.value).value_or(0);
+  return {index.largestHandle, seed, rules.usesHandles};
+}
+
+template <typename Plain>
+void AppendBytes(std::string& key, const Plain& value) {
+  key.append(reinterpret_cast<const char*>(&value), sizeof value);
+}
+
+// Equal for equal groups alone.
+void AppendKey(std::string& key, const Group& group) {
+  AppendBytes(key, group.code);
+  AppendBytes(key, group.value.index());
+  if (const auto* const text = std::get_if<std::string_view>(&group.value)) {
+    AppendBytes(key, text->size());
+    key.append(*text);
+  } else if (const auto* const point = std::get_if<Point>(&group.value)) {
+    AppendBytes(key, *point);
+  } else if (const auto* const real = std::get_if<double>(&group.value)) {
+    AppendBytes(key, *real);
+  } else {
+    AppendBytes(key, std::get<std::int64_t>(group.value));
+  }
+}
+
+}  // namespace
+
+Edits::Edits(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules)
+    : source_(source),
+      index_(index),
+      codec_(codec),
+      rules_(rules),
+      handles_(SeedOf(index, rules)),
+      records_(source, index, codec, rules, handles_),
+      isRemoved_(index.entities.size()) {}
+
+std::uint64_t Edits::AddEntity(std::span<const Group> groups) {
+  const EditMark mark = Mark();
+  try {
+    CheckGroups(groups);
+    return AddCheckedEntity(groups);
+  } catch (...) {
+    Rollback(mark);
+    throw;
+  }
+}
+
+std::uint64_t Edits::AddCheckedEntity(std::span<const Group> groups) {
+  RequireNames(groups);
+  const std::size_t extended = ExtendedDataBegin(groups);
+  const std::uint64_t handle = handles_.Take();
+  scratch_.clear();
+  TagWriter writer(scratch_, rules_.lineEnd);
+  writer.Text(CODE_TYPE, TextOf(groups[0]));
+  if (handle != 0) writer.Handle(CODE_HANDLE, handle);
+  if (const std::uint64_t owner = ModelSpaceHandle(); owner != 0) writer.Handle(CODE_OWNER, owner);
+  for (const Group& group : groups.subspan(1, extended - 1)) {
+    if (group.code == CODE_SUBCLASS && !HasSubclassMarkers(rules_.version)) continue;
+    if (group.code == CODE_LAYER) {
+      WriteGroup(writer, codec_, {CODE_LAYER, std::string_view(records_.RequireLayer(TextOf(group)))});
+    } else {
+      WriteGroup(writer, codec_, group);
+    }
+  }
+  const std::string_view body = store_.Add(scratch_);
+  const std::string_view extendedData = ExtendedData(groups.subspan(extended));
+  added_.push_back(body);
+  if (!extendedData.empty()) added_.push_back(extendedData);
+  return handle;
+}
+
+// What the entity refers to by name must be in the drawing, else strict programs refuse all of it.
+void Edits::RequireNames(std::span<const Group> groups) {
+  for (const Group& group : groups) {
+    if (group.code == CODE_LAYER) records_.RequireLayer(TextOf(group));
+    if (group.code == CODE_LINETYPE) records_.RequireLinetype(TextOf(group));
+    if (group.code == CODE_XDATA_APPLICATION) records_.RequireApplication(TextOf(group));
+  }
+}
+
+// The owner of new entities; 0 where there is none to name.
+std::uint64_t Edits::ModelSpaceHandle() const {
+  if (!HasOwners(rules_.version) || index_.modelSpace.code == 0) return 0;
+  if (const auto handle = ParseHandle(index_.modelSpace.value)) return *handle;
+  source_.FailAt(index_.modelSpace.value.data(),
+                 fmt::format("{} is no handle, and new entities of the model space have to refer to it",
+                             Quoted(index_.modelSpace.value)));
+}
+
+std::string_view Edits::ExtendedData(std::span<const Group> groups) {
+  if (groups.empty()) return {};
+  std::string key;
+  for (const Group& group : groups)
+    AppendKey(key, group);
+  if (key == lastKey_) return lastExtendedData_;
+  scratch_.clear();
+  TagWriter writer(scratch_, rules_.lineEnd);
+  for (const Group& group : groups)
+    if (group.code != CODE_XDATA_MARKER) WriteGroup(writer, codec_, group);
+  lastExtendedData_ = store_.Add(scratch_);
+  lastKey_ = std::move(key);
+  return lastExtendedData_;
+}
+
+std::size_t Edits::NumberOf(const Entity& entity) const {
+  const Entity* const first = index_.entities.data();
+  if (std::less<>()(&entity, first) || !std::less<>()(&entity, first + index_.entities.size()))
+    throw Error(fmt::format("{}: this entity is not one of the drawing", source_.Name()));
+  return static_cast<std::size_t>(&entity - first);
+}
+
+void Edits::RemoveEntity(const Entity& entity) {
+  const std::size_t number = NumberOf(entity);
+  if (isRemoved_[number]) return;
+  isRemoved_[number] = true;
+  removed_.push_back(number);
+}
+
+bool Edits::IsRemoved(const Entity& entity) const {
+  return isRemoved_[NumberOf(entity)];
+}
+
+bool Edits::IsChanged() const {
+  return !added_.empty() || !removed_.empty() || records_.Count() > 0;
+}
+
+EditMark Edits::Mark() const {
+  return {added_.size(), removed_.size(), records_.Count(), handles_.Next()};
+}
+
+void Edits::Rollback(const EditMark& mark) {
+  added_.resize(std::min(mark.addedTexts, added_.size()));
+  while (removed_.size() > mark.removedEntities) {
+    isRemoved_[removed_.back()] = false;
+    removed_.pop_back();
+  }
+  if (records_.Count() > mark.addedRecords) records_.GoBack(mark.addedRecords);
+  handles_.GoBack(mark.nextHandle);
+}
+
+void Edits::AddSeedSplice(std::vector<Splice>& splices) const {
+  if (!handles_.HasMoved()) return;
+  std::string text;
+  TagWriter writer(text, rules_.lineEnd);
+  if (const HeaderVariable* const variable = index_.FindVariable(SEED_VARIABLE);
+      variable != nullptr && variable->value.code != 0) {
+    const std::string_view old = variable->value.value;
+    splices.push_back({old.data(), old.data() + old.size(), fmt::format("{:X}", handles_.Next())});
+  } else if (const Section* const header = index_.FindSection("HEADER"); header != nullptr) {
+    writer.Text(CODE_VARIABLE, SEED_VARIABLE);
+    writer.Handle(CODE_HANDLE, handles_.Next());
+    splices.push_back({header->end, header->end, std::move(text)});
+  }
+}
+
+std::vector<Splice> Edits::Splices() const {
+  std::vector<Splice> splices;
+  AddSeedSplice(splices);
+  records_.AddSplices(splices);
+  for (const std::size_t number : removed_) {
+    const std::string_view text = index_.entities[number].text;
+    splices.push_back({text.data(), text.data() + text.size()});
+  }
+  const char* const end = index_.FindSection("ENTITIES")->end;
+  if (!added_.empty()) splices.push_back({end, end, {}, &added_});
+  std::stable_sort(splices.begin(), splices.end(),
+                   [](const Splice& a, const Splice& b) { return a.begin < b.begin; });
+  return splices;
+}
+
+void Edits::Write(const std::function<void(std::string_view)>& sink) const {
+  const std::string_view text = source_.Text();
+  const char* at = text.data();
+  for (const Splice& splice : Splices()) {
+    sink({at, static_cast<std::size_t>(splice.begin - at)});
+    sink(splice.text);
+    if (splice.more != nullptr)
+      for (const std::string_view more : *splice.more)
+        sink(more);
+    at = splice.end;
+  }
+  sink({at, static_cast<std::size_t>(text.data() + text.size() - at)});
+}
+
+}  // namespace teskarlt::dxf

@@ -1,0 +1,75 @@
+// Edits.h - what is to be added to a drawing and taken out of it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "teskarlt/dxf/Group.h"
+#include "teskarlt/dxf/HandleSeed.h"
+#include "teskarlt/dxf/Index.h"
+#include "teskarlt/dxf/NewRecords.h"
+#include "teskarlt/dxf/Rules.h"
+#include "teskarlt/dxf/TextCodec.h"
+#include "teskarlt/dxf/TextStore.h"
+
+namespace teskarlt::dxf {
+
+// A state of the edits to which a document can go back.
+struct EditMark {
+  std::size_t addedTexts;
+  std::size_t removedEntities;
+  std::size_t addedRecords;
+  std::uint64_t nextHandle;
+};
+
+// The references must outlive the object. Functions as those of Document, which are described there.
+class Edits {
+ public:
+  Edits(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules);
+
+  std::uint64_t AddEntity(std::span<const Group> groups);
+  void RemoveEntity(const Entity& entity);
+  bool IsRemoved(const Entity& entity) const;
+  NewRecords& Records() { return records_; }
+  const NewRecords& Records() const { return records_; }
+
+  bool IsChanged() const;
+  EditMark Mark() const;
+  void Rollback(const EditMark& mark);
+
+  // Gives the drawing's bytes with the edits to `sink`, piece by piece.
+  void Write(const std::function<void(std::string_view)>& sink) const;
+
+ private:
+  std::uint64_t AddCheckedEntity(std::span<const Group> groups);
+  void RequireNames(std::span<const Group> groups);
+  std::uint64_t ModelSpaceHandle() const;
+  std::string_view ExtendedData(std::span<const Group> groups);
+  std::size_t NumberOf(const Entity& entity) const;
+  std::vector<Splice> Splices() const;
+  void AddSeedSplice(std::vector<Splice>& splices) const;
+
+  const SourceText& source_;
+  const Index& index_;
+  const TextCodec& codec_;
+  const Rules& rules_;
+  HandleSeed handles_;
+  NewRecords records_;
+
+  TextStore store_;
+  std::vector<std::string_view> added_;  // texts of new entities, one behind the other
+  std::vector<std::size_t> removed_;     // numbers of entities in the order of their removal
+  std::vector<bool> isRemoved_;
+
+  std::string scratch_;
+  // The extended data that were written last: the entities of one window share theirs.
+  std::string lastKey_;
+  std::string_view lastExtendedData_;
+};
+
+}  // namespace teskarlt::dxf

@@ -1,0 +1,138 @@
+// HostSession.cpp - answers the dialog's questions and gathers the module's entities.
+#include "teskarlt/host/HostSession.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "teskarlt/host/EntityGroups.h"
+
+namespace teskarlt {
+
+namespace {
+
+constexpr std::int32_t HOST_DONE = 5100;
+constexpr std::int32_t HOST_FAILED = -5001;
+
+HostSession* currentSession = nullptr;
+
+}  // namespace
+
+// The dialog's questions; `context` is the session.
+struct ServiceCalls {
+  static HostSession& Session(void* context) { return *static_cast<HostSession*>(context); }
+
+  static std::int32_t Answer(void* context, const char* field, char* buffer, std::int32_t size) {
+    const auto& answers = Session(context).request_.answers;
+    const auto found = answers.find(std::string_view(field));
+    if (found == answers.end()) return -1;
+    const std::string& text = found->second;
+    const std::size_t room = size > 0 ? static_cast<std::size_t>(size) - 1 : 0;
+    const std::size_t copied = std::min(text.size(), room);
+    if (copied > 0) std::memcpy(buffer, text.data(), copied);
+    if (size > 0) buffer[copied] = '\0';
+    return static_cast<std::int32_t>(text.size());
+  }
+
+  static std::int32_t PickedPoint(void* context, double (&xy)[2]) {
+    const auto& point = Session(context).request_.point;
+    if (!point) return 0;
+    std::copy(point->begin(), point->end(), xy);
+    return 1;
+  }
+
+  static std::int32_t RoofFace(void* context, std::int32_t index, double* corners, std::int32_t capacity,
+                               std::int32_t* isBoundary) {
+    const WindowRequest& request = Session(context).request_;
+    if (index < 0 || static_cast<std::size_t>(index) >= request.faces.size()) return 0;
+    const auto& face = request.faces[static_cast<std::size_t>(index)];
+    *isBoundary = request.isBounded ? 1 : 0;
+    const std::size_t copied = std::min(face.size(), static_cast<std::size_t>(std::max(capacity, 0)));
+    for (std::size_t i = 0; i < copied; ++i) {
+      corners[3 * i] = face[i].x;
+      corners[3 * i + 1] = face[i].y;
+      corners[3 * i + 2] = face[i].z;
+    }
+    return static_cast<std::int32_t>(face.size());
+  }
+
+  static std::int32_t NumberInUse(void* context, std::int32_t number) {
+    return Session(context).request_.numbersInUse.count(number) != 0 ? 1 : 0;
+  }
+
+  static std::int32_t FreeNumber(void* context) {
+    std::int32_t number = 1;
+    while (NumberInUse(context, number) != 0)
+      ++number;
+    return number;
+  }
+
+  // A command that inserts has no window to read or to erase.
+  static std::int32_t ReadWindow(void* /*context*/, brevanta::WindowParams* /*record*/) { return 0; }
+  static std::int32_t EraseWindow(void* /*context*/) { return 0; }
+
+  static void Confirm(void* context, const brevanta::WindowParams* record) {
+    Session(context).outcome_.confirmed = *record;
+  }
+
+  static void Report(void* context, std::int32_t gravity, const char* text) {
+    Session(context).outcome_.reports.push_back({gravity, text});
+  }
+};
+
+HostSession::HostSession(dxf::Document& drawing, const WindowRequest& request)
+    : drawing_(drawing),
+      request_(request),
+      services_{brevanta::DIALOG_SERVICES_VERSION,
+                static_cast<std::int32_t>(sizeof(brevanta::DialogServices)),
+                this,
+                ServiceCalls::Answer,
+                ServiceCalls::PickedPoint,
+                ServiceCalls::RoofFace,
+                ServiceCalls::NumberInUse,
+                ServiceCalls::FreeNumber,
+                ServiceCalls::ReadWindow,
+                ServiceCalls::EraseWindow,
+                ServiceCalls::Confirm,
+                ServiceCalls::Report} {
+  currentSession = this;
+}
+
+HostSession::~HostSession() {
+  currentSession = nullptr;
+}
+
+HostSession* HostSession::Current() {
+  return currentSession;
+}
+
+std::int32_t HostSession::MakeEntity(const brevanta::ValueNode* list) {
+  try {
+    const std::vector<dxf::Group> groups = EntityGroups(list);
+    drawing_.AddEntity(groups);
+    const bool isFace =
+        !groups.empty() && groups[0].value == decltype(dxf::Group::value)(std::string_view("3DFACE"));
+    ++(isFace ? batchFaces_ : batchLines_);
+    return HOST_DONE;
+  } catch (const std::exception& error) {  // the caller knows no exceptions
+    if (outcome_.failure.empty()) outcome_.failure = error.what();
+    return HOST_FAILED;
+  }
+}
+
+void HostSession::BeginBatch() {
+  batchStart_ = drawing_.Mark();
+  batchFaces_ = batchLines_ = 0;
+}
+
+void HostSession::EndBatch(bool keep) {
+  if (!batchStart_) return;
+  if (keep) {
+    outcome_.faces += batchFaces_;
+    outcome_.lines += batchLines_;
+  } else {
+    drawing_.Rollback(*batchStart_);
+  }
+  batchStart_.reset();
+}
+
+}  // namespace teskarlt

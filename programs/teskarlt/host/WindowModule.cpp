@@ -1,0 +1,101 @@
+// WindowModule.cpp - loads the roof window module and runs its commands.
+#include "teskarlt/host/WindowModule.h"
+
+#include <fmt/format.h>
+
+#include "inc/DialogModule.h"
+#include "teskarlt/Error.h"
+
+namespace teskarlt {
+
+namespace {
+
+constexpr const char* PROGRAM = "TESKARLT.EXE";
+constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
+constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
+constexpr const char* INSERT_EXPORT = "Brevanta";
+
+std::string ProgramPath() {
+  char path[4096];
+  const DWORD length = GetModuleFileNameA(GetModuleHandleA(nullptr), path, sizeof path);
+  return {path, length};
+}
+
+// The program's folder with the separator at its end.
+std::string ProgramFolder() {
+  const std::string path = ProgramPath();
+  return path.substr(0, path.find_last_of("\\/") + 1);
+}
+
+// The modules find the host by the name of its program.
+void CheckProgramName() {
+  if (GetModuleHandleA(PROGRAM) == GetModuleHandleA(nullptr)) return;
+  throw Error(fmt::format(
+      "this program must be called teskarlt for the roof window module to find it; it is {}", ProgramPath()));
+}
+
+HMODULE LoadFromFolder(const char* name) {
+  const std::string path = ProgramFolder() + name;
+  HMODULE module = AfxLoadLibrary(path.c_str());
+  if (module == nullptr) throw Error(fmt::format("cannot load {}: {}", path, ModuleLoadError()));
+  return module;
+}
+
+// The module itself says nothing when a companion is missing, so each is tried first.
+void CheckCompanion(const char* name) {
+  FreeLibrary(LoadFromFolder(name));
+}
+
+std::string FirstRefusal(const CommandOutcome& outcome) {
+  for (const DialogReport& report : outcome.reports) {
+    if (report.gravity == brevanta::REPORT_REFUSAL) return report.text;
+  }
+  return {};
+}
+
+// The module reports nothing, so what it left behind has to show whether it did what was asked.
+void CheckOutcome(const CommandOutcome& outcome) {
+  if (!outcome.confirmed) {
+    const std::string reason = FirstRefusal(outcome);
+    throw Error(reason.empty()
+                    ? std::string("the dialog module did not confirm the window and gave no reason")
+                    : reason);
+  }
+  if (!outcome.failure.empty()) throw Error("the window cannot be written: " + outcome.failure);
+  if (outcome.faces + outcome.lines == 0) {
+    throw Error("the module made nothing of the window; the roof's plane cannot be used");
+  }
+}
+
+}  // namespace
+
+WindowModule::WindowModule() : module_(nullptr), insert_(nullptr) {
+  CheckProgramName();
+  CheckCompanion(brevanta::DIALOG_MODULE);
+  CheckCompanion(RESOURCE_MODULE);
+  module_ = LoadFromFolder(WINDOW_MODULE);
+  insert_ = ExportedFunction<InsertFunction>(module_, INSERT_EXPORT);
+  if (insert_ != nullptr) return;
+  FreeLibrary(module_);
+  throw Error(fmt::format("{}{} is not the roof window module: it has no export \"{}\"", ProgramFolder(),
+                          WINDOW_MODULE, INSERT_EXPORT));
+}
+
+WindowModule::~WindowModule() {
+  FreeLibrary(module_);
+}
+
+CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest& request) const {
+  const dxf::EditMark before = drawing.Mark();
+  try {
+    HostSession session(drawing, request);
+    insert_(session.Services(), request.unitFactor, nullptr, 0);
+    CheckOutcome(session.Outcome());
+    return session.Outcome();
+  } catch (...) {
+    drawing.Rollback(before);
+    throw;
+  }
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,44 @@
+# conftest.py - the fixtures of the end-to-end tests: the program under test and folders with drawings.
+import pathlib
+import shutil
+import sys
+
+import pytest
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+sys.path.insert(0, str(ROOT / "examples"))
+
+from program import Program  # noqa: E402
+
+
+def pytest_addoption(parser):
+    parser.addoption("--build", default="linux", choices=["linux", "asan", "windows"],
+                     help="whose teskarlt is tested; windows: under Wine")
+
+
+def pytest_collection_modifyitems(config, items):
+    """Tests without the program are the same for every build; they run once, with the native one."""
+    if config.getoption("--build") != "linux":
+        config.hook.pytest_deselected(items=[item for item in items if "teskarlt" not in item.fixturenames])
+        items[:] = [item for item in items if "teskarlt" in item.fixturenames]
+
+
+@pytest.fixture(scope="session")
+def build(request):
+    return request.config.getoption("--build")
+
+
+@pytest.fixture
+def teskarlt(build, tmp_path):
+    """The program under test, with an empty data folder: teskarlt("list", path, "--json").json"""
+    data_folder = tmp_path / "data"
+    data_folder.mkdir()
+    program = Program(ROOT, build, data_folder)
+    assert program.path.exists(), f"{program.path} has not been built"
+    return program
+
+
+@pytest.fixture
+def house(tmp_path):
+    """A copy of the example drawing."""
+    return pathlib.Path(shutil.copy(ROOT / "examples" / "house.dxf", tmp_path))

@@ -1,0 +1,51 @@
+# program.py - runs teskarlt natively or under Wine and gives what it answered.
+import dataclasses
+import json
+import os
+import pathlib
+import subprocess
+
+TIME_LIMIT = 120  # seconds
+
+
+@dataclasses.dataclass
+class Answer:
+    status: int
+    stdout: str
+    stderr: str
+
+    @property
+    def json(self):
+        return json.loads(self.stdout)
+
+
+class Program:
+    """The program of one build; paths among its arguments are given in the program's own notation."""
+
+    def __init__(self, root, build, data_folder):
+        self.windows = build == "windows"
+        self.folder = root / "build" / build / "bin"
+        self.path = self.folder / ("TESKARLT.EXE" if self.windows else "teskarlt")
+        self.data_folder = data_folder
+
+    def spelled(self, argument):
+        """An argument as the program understands it: under Wine, a path begins with a drive."""
+        if isinstance(argument, pathlib.Path) and argument.is_absolute() and self.windows:
+            return f"Z:{argument}"
+        return str(argument)
+
+    def __call__(self, *arguments, cwd=None, env=None, stdin=None):
+        """Runs the program; never raises for its exit status."""
+        command = [*(["wine"] if self.windows else []), str(self.path), *map(self.spelled, arguments)]
+        variables = {"TESKAR_DATA": self.data_folder, **(env or {})}
+        done = subprocess.run(command, cwd=cwd, capture_output=True, timeout=TIME_LIMIT,
+                              env={**os.environ, **{name: self.spelled(value) for name, value in variables.items()}},
+                              **({"stdin": subprocess.DEVNULL} if stdin is None else {"input": stdin.encode()}))
+        texts = [stream.decode("utf-8", "replace").replace("\r\n", "\n") for stream in (done.stdout, done.stderr)]
+        return Answer(done.returncode, *texts)
+
+    def done(self, *arguments, **options):
+        """Runs the program and expects that it did what was asked."""
+        answer = self(*arguments, **options)
+        assert answer.status == 0, f"status {answer.status}\n{answer.stdout}{answer.stderr}"
+        return answer
