@@ -19,5 +19,6 @@ add_custom_target(coverage
     --filter ${PROJECT_SOURCE_DIR}/Library/ --filter ${PROJECT_SOURCE_DIR}/Library16/
     --html-details ${CMAKE_BINARY_DIR}/coverage/index.html --txt --fail-under-line 100
   WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
-  USES_TERMINAL)
+  USES_TERMINAL
+  VERBATIM)
 add_dependencies(coverage ${coverage_tests})
