@@ -4,7 +4,7 @@
 #include "geometry/Arcs.h"
 #include "tests/geometry/KernelTesting.h"
 
-namespace geometry::testing_support {
+namespace geometry {
 
 // What an output holds that is not written.
 constexpr Vec3 UNTOUCHED{7, 8, 9};
@@ -57,4 +57,4 @@ struct ArcHits {
   }
 };
 
-}  // namespace geometry::testing_support
+}  // namespace geometry

@@ -12,8 +12,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 // An arc by its centre, radius, start and sweep, which is negative when it runs clockwise.
 struct RandomArc {
   Vec3 centre;
@@ -144,6 +142,29 @@ TEST_P(ArcProperties, LineHitsLieOnBothCurves) {
       EXPECT_NEAR(static_cast<double>(std::hypot(arm.x, arm.y)), arc.radius, bound);
     }
   }
+}
+
+// |hit - centre|^2 - r^2 is -disc / 4a, and |disc| is below 0.0001 r, so the hit is off by 0.0001 / 8a at
+// most.
+TEST_P(ArcProperties, TangentHitIsOffTheCircleByNoMoreThanItsTest) {
+  Random random(79);
+  int tangents = 0;
+  for (int i = 0; i < 5000; ++i) {
+    const RandomArc arc(random, GetParam());
+    const double direction = random.Uniform(-3, 3);
+    const double length = random.Uniform(0.1, 10);
+    const double gap = random.Uniform(-1e-4, 1e-4);
+    const double c = std::cos(direction);
+    const double s = std::sin(direction);
+    const Vec3 p0{arc.centre.x + (arc.radius + gap) * c, arc.centre.y + (arc.radius + gap) * s, 0};
+    const LineHits hits(p0, {p0.x - s * length, p0.y + c * length, 0}, arc.p[0], arc.p[2], arc.p[1]);
+    if (hits.count != ARC_ONE_HIT) continue;
+    ++tangents;
+    const double distance = std::hypot(hits.hit[0].x - arc.centre.x, hits.hit[0].y - arc.centre.y);
+    EXPECT_NEAR(distance, arc.radius,
+                1.01 * KernelTolerance / (8 * length * length) + 2 * CentreBound(arc, GetParam()));
+  }
+  EXPECT_GT(tangents, 100);
 }
 
 TEST_P(ArcProperties, ReversedLineExchangesTheHits) {

@@ -12,8 +12,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 constexpr Vec3 O{0, 0, 0};
 constexpr Vec3 EAST{1, 0, 0};
 constexpr Vec3 NORTH{0, 1, 0};

@@ -10,8 +10,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 const Vec3 UNTOUCHED{7, 8, 9};
 
 struct LineLine {

@@ -38,8 +38,6 @@ inline void PrintTo(const Matrix4& m, std::ostream* out) {
     *out << "\n  " << row[0] << " " << row[1] << " " << row[2] << " " << row[3];
 }
 
-namespace testing_support {
-
 // Unit roundoff: the relative error of one operation on doubles.
 constexpr double U = 0x1p-53;
 
@@ -136,5 +134,4 @@ inline double RowNorm(const Matrix4& m) {
   return norm;
 }
 
-}  // namespace testing_support
 }  // namespace geometry

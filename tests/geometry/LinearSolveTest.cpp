@@ -10,8 +10,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 struct Factored {
   Matrix4 lu;
   std::int32_t index[4] = {-1, -1, -1, -1};

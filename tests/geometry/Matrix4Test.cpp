@@ -10,8 +10,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 Matrix4 Made(void (*make)(Matrix4&)) {
   Matrix4 m{{{9, 9, 9, 9}, {9, 9, 9, 9}, {9, 9, 9, 9}, {9, 9, 9, 9}}};
   make(m);

@@ -11,8 +11,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 TEST(Distance3, CountsAllCoordinates) {
   EXPECT_EQ(Distance3({1, 1, 1}, {3, 4, 7}), 7.0);
 }

@@ -12,8 +12,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 const Vec3 UNTOUCHED{7, 8, 9};
 
 // Each test starts with the state of a freshly loaded module.

@@ -9,8 +9,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 TEST(Trigonometry, QuadrantsOfTheArcTangent) {
   EXPECT_EQ(ArcTangent2(0.0, 1.0), 0.0);
   EXPECT_EQ(ArcTangent2(1.0, 0.0), PI / 2);

@@ -11,8 +11,6 @@
 namespace geometry {
 namespace {
 
-using namespace testing_support;  // NOLINT(google-build-using-namespace): the tests' own helpers
-
 const Vec3 A{1, 2, 3};
 const Vec3 B{10, 20, 40};
 const Vec3 UNTOUCHED{7, 8, 9};
