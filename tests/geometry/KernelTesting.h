@@ -73,7 +73,7 @@ class Random {
 
   // A whole number from low to high.
   double Whole(int low, int high) {
-    const auto count = static_cast<std::uint64_t>(high - low + 1);
+    const auto count = static_cast<std::uint64_t>(high) - static_cast<std::uint64_t>(low) + 1;
     return low + static_cast<double>(engine_() % count);
   }
 
