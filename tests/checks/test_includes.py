@@ -9,7 +9,7 @@ LIBRARY, BREVANTA, HOST = "Library/src/", "programs/common/brevanta/", "programs
 PARTS = {
     "geometry": (LIBRARY + "geometry/", set()),
     "lttools": (LIBRARY + "lttools/", {"inc", "heap"}),
-    "collation": ("Library16/Inc/", set()),
+    "collation": ("Library16/Inc/", {"lttools", "heap"}),
     "heap": ("platform/Heap", set()),
     "platform": ("platform/", {"heap"}),
     "inc": (BREVANTA + "inc/", {"geometry", "platform"}),
