@@ -46,8 +46,11 @@ int LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
 // FreeLibrary.
 HMODULE AfxLoadLibrary(LPCSTR name);
 
-// Why the last AfxLoadLibrary failed, in the system's words.
+// Why the last AfxLoadLibrary failed, in the system's words, UTF-8.
 std::string ModuleLoadError();
+
+// A text that the services gave, which is in the system's code page, in UTF-8.
+std::string ModuleTextToUtf8(const std::string& text);
 
 // The module's export `name` as the function that it is; null when there is none.
 template <typename Function>
