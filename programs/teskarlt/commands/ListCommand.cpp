@@ -72,14 +72,14 @@ Json ToJson(const DrawnWindow& window) {
   return json;
 }
 
-void PrintJson(const std::vector<DrawnWindow>& windows, const DrawingUnit& unit) {
+void PrintWindows(const std::vector<DrawnWindow>& windows, const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
   json["windows"] = Json::array();
   for (const DrawnWindow& window : windows)
     json["windows"].push_back(ToJson(window));
-  fmt::print("{}\n", json.dump(2, ' ', false, Json::error_handler_t::replace));
+  PrintJson(json);
 }
 
 std::string Texts(const DrawnWindow& window) {
@@ -114,7 +114,7 @@ void RunList(const ListOptions& options) {
   const DrawingUnit& unit = UnitOf(drawing, options.units);
   const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
   if (options.asJson) {
-    PrintJson(windows, unit);
+    PrintWindows(windows, unit);
   } else if (windows.empty()) {
     fmt::print("{} holds no roof window.\n", options.file);
   } else {
