@@ -49,9 +49,6 @@ HMODULE AfxLoadLibrary(LPCSTR name);
 // Why the last AfxLoadLibrary failed, in the system's words, UTF-8.
 std::string ModuleLoadError();
 
-// A text that the services gave, which is in the system's code page, in UTF-8.
-std::string ModuleTextToUtf8(const std::string& text);
-
 // The module's export `name` as the function that it is; null when there is none.
 template <typename Function>
 Function ExportedFunction(HMODULE module, LPCSTR name) {

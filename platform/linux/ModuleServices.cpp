@@ -139,7 +139,3 @@ std::string ModuleLoadError() {
   const char* text = dlerror();
   return text == nullptr ? "no reason given" : text;
 }
-
-std::string ModuleTextToUtf8(const std::string& text) {
-  return text;
-}

@@ -1,7 +1,6 @@
 // ModuleServices.cpp - what Windows does not bring itself of the services in ModuleServices.h.
 #include "platform/ModuleServices.h"
 
-#include "platform/CodePage.h"
 #include "platform/FileOperations.h"
 
 HMODULE AfxLoadLibrary(LPCSTR name) {
@@ -10,8 +9,4 @@ HMODULE AfxLoadLibrary(LPCSTR name) {
 
 std::string ModuleLoadError() {
   return platform::SystemReason(static_cast<int>(GetLastError()));
-}
-
-std::string ModuleTextToUtf8(const std::string& text) {
-  return platform::CodePage(static_cast<int>(GetACP())).ToUtf8(text);
 }
