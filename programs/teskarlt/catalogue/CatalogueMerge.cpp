@@ -179,18 +179,24 @@ MergeReport MergeCatalogues(const WindowModule& module, const std::string& sourc
   return report;
 }
 
-std::string RecoverCatalogue(const std::optional<std::string>& target) {
-  const std::string path = MergeTarget(target);
-  const std::string backup = BackupOf(path);
+Recovery RecoverCatalogue(const std::optional<std::string>& target) {
+  Recovery recovery;
+  recovery.target = MergeTarget(target);
+  const std::string backup = BackupOf(recovery.target);
   if (!Exists(backup)) throw Error(fmt::format("{}: there is no catalogue of an interrupted merge", backup));
   platform::FolderLock lock;
-  LockFolderOf(path, lock);
-  platform::ReplaceFile(path, platform::ReadWholeFile(backup).View());
+  LockFolderOf(recovery.target, lock);
+  const platform::FileBytes kept = platform::ReadWholeFile(backup);
+  ReadCatalogue(backup);  // throws when it is none
+  if (Exists(recovery.target)) {
+    recovery.setAside = recovery.target + ".interrupted";
+    platform::ReplaceFile(recovery.setAside, platform::ReadWholeFile(recovery.target).View());
+  }
+  platform::ReplaceFile(recovery.target, kept.View());
   const int error = platform::CurrentFileOperations().remove(backup);
-  if (error != 0)
-    throw Error(fmt::format("{} was brought back, but {} cannot be removed: {}", path, backup,
-                            platform::SystemReason(error)));
-  return path;
+  if (error == 0) return recovery;
+  throw Error(fmt::format("{} was brought back, but {} cannot be removed: {}", recovery.target, backup,
+                          platform::SystemReason(error)));
 }
 
 }  // namespace teskarlt

@@ -127,8 +127,8 @@ void RunList(const ListOptions& options) {
 void AddListCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("list", "List the roof windows of a drawing");
   const auto options = std::make_shared<ListOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required();
-  command->add_option("--units", options->units, UNITS_HELP);
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
+  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
       "Sizes are in metres, the place in drawing units; a window is turned by the angle of its lower edge\n"

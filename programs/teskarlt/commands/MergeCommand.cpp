@@ -39,9 +39,14 @@ void PrintReport(const MergeReport& report) {
   PrintJson(json);
 }
 
+void PrintRecovery(const Recovery& recovery) {
+  fmt::print("{} is what it was before the interrupted merge.\n", recovery.target);
+  if (!recovery.setAside.empty()) fmt::print("What stood there lies in {} now.\n", recovery.setAside);
+}
+
 void RunMerge(const MergeOptions& options) {
   if (options.recover) {
-    fmt::print("{} is what it was before the interrupted merge.\n", RecoverCatalogue(Given(options.source)));
+    PrintRecovery(RecoverCatalogue(Given(options.source)));
     return;
   }
   if (options.source.empty()) throw CLI::RequiredError("SOURCE");

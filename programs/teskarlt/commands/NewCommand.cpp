@@ -46,10 +46,12 @@ void AddNewCommand(CLI::App& app) {
   CLI::App* command =
       app.add_subcommand("new", "Make an empty drawing with units, layers and linetypes ready");
   const auto options = std::make_shared<NewOptions>();
-  command->add_option("FILE", options->file, "the drawing to write")->required();
+  command->add_option("FILE", options->file, "the drawing to write")->required()->type_name("");
   command->add_option("--units", options->units, "unit of the drawing, mm, cm, dm or m")
+      ->type_name("UNIT")
       ->capture_default_str();
   command->add_option("--dxf-version", options->version, "version of the drawing")
+      ->type_name("VERSION")
       ->transform(CLI::IsMember(VERSIONS, CLI::ignore_case))
       ->capture_default_str();
   command->add_flag("--force", options->force, "replace a file that is there");

@@ -88,8 +88,8 @@ void RunRoofs(const RoofsOptions& options) {
 void AddRoofsCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("roofs", "List the faces that can take a roof window");
   const auto options = std::make_shared<RoofsOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required();
-  command->add_option("--units", options->units, UNITS_HELP);
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
+  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
       "A face is named by the handle of its entity. Its pitch is measured from the horizontal; the "
