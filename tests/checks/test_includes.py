@@ -9,7 +9,7 @@ LIBRARY, BREVANTA, HOST = "Library/src/", "programs/common/brevanta/", "programs
 PARTS = {
     "geometry": (LIBRARY + "geometry/", set()),
     "lttools": (LIBRARY + "lttools/", {"inc", "heap"}),
-    "collation": ("Library16/Inc/", set()),
+    "collation": ("Library16/Inc/", {"lttools", "heap"}),
     "heap": ("platform/Heap", set()),
     "platform": ("platform/", {"heap"}),
     "inc": (BREVANTA + "inc/", {"geometry", "platform"}),
@@ -19,11 +19,11 @@ PARTS = {
     "host dxf": (HOST + "dxf/", {"host errors", "platform"}),
     "host drawing": (HOST + "drawing/", {"host dxf", "host errors", "inc", "geometry", "platform"}),
     "host modules": (HOST + "host/", {"host drawing", "host dxf", "host errors", "inc", "geometry", "platform"}),
-    "host commands": (HOST + "commands/", {"host modules", "host drawing", "host dxf", "host errors", "host main",
+    "host catalogue": (HOST + "catalogue/", {"host modules", "host dxf", "host errors", "inc", "platform"}),
+    "host commands": (HOST + "commands/", {"host catalogue", "host modules", "host drawing", "host dxf", "host errors",
                                            "inc", "geometry", "platform"}),
     "host errors": (HOST + "Error", set()),
-    "host main": (HOST, {"host commands", "host modules", "host drawing", "host dxf", "host errors", "inc",
-                         "geometry", "platform"}),
+    "host main": (HOST + "main", {"host commands", "platform"}),
 }
 # Folders that an include may start from, and the libraries that only the host, tests and benchmarks use.
 INCLUDE_ROOTS = ("", LIBRARY, BREVANTA, "programs/", HOST, "Library16/")

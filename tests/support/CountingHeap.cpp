@@ -78,7 +78,7 @@ std::size_t BlockSize(const void* block) {
   return found == TheBook().live.end() ? 0 : found->second;
 }
 
-char* FindText(std::string_view text) {
+char* LiveText(std::string_view text) {
   for (const auto& [block, size] : TheBook().live) {
     if (size != text.size() + 1) continue;
     const auto* bytes = static_cast<const char*>(block);

@@ -25,6 +25,6 @@ std::size_t LiveBlocks();
 std::size_t BlockSize(const void* block);
 
 // A live block that holds exactly this zero-terminated text; null when there is none.
-char* FindText(std::string_view text);
+char* LiveText(std::string_view text);
 
 }  // namespace counting_heap

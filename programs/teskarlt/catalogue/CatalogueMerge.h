@@ -31,8 +31,13 @@ std::string BackupOf(const std::string& target);
 MergeReport MergeCatalogues(const WindowModule& module, const std::string& source,
                             const std::optional<std::string>& target);
 
-// Brings the catalogue back that an interrupted merge has left as a backup; gives its path. Throws Error when
-// there is none.
-std::string RecoverCatalogue(const std::optional<std::string>& target);
+struct Recovery {
+  std::string target;    // the catalogue that was brought back
+  std::string setAside;  // where what stood in its place lies now; empty when nothing did
+};
+
+// Brings the catalogue back that an interrupted merge has left as a backup. Throws Error when there is none
+// or it is no catalogue.
+Recovery RecoverCatalogue(const std::optional<std::string>& target);
 
 }  // namespace teskarlt
