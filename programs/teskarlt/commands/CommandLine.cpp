@@ -6,8 +6,10 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include "teskarlt/commands/CatalogueCommand.h"
 #include "teskarlt/commands/InsertCommand.h"
 #include "teskarlt/commands/ListCommand.h"
+#include "teskarlt/commands/MergeCommand.h"
 #include "teskarlt/commands/NewCommand.h"
 #include "teskarlt/commands/RoofsCommand.h"
 
@@ -38,6 +40,8 @@ void AddCommands(CLI::App& app) {
   AddInsertCommand(app);
   AddListCommand(app);
   AddNewCommand(app);
+  AddCatalogueCommand(app);
+  AddMergeCommand(app);
 }
 
 }  // namespace

@@ -9,11 +9,13 @@
 
 #include "inc/RecordFields.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/commands/Numbers.h"
 #include "teskarlt/commands/Report.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/host/DataFolder.h"
 #include "teskarlt/host/WindowModule.h"
 
 namespace teskarlt {
@@ -25,6 +27,8 @@ struct InsertOptions {
   std::string at;
   std::string roofFace;
   std::vector<std::string> roof;
+  std::string window;
+  std::string catalogue;
   std::vector<std::string> settings;
   std::string output;
   std::string units;
@@ -47,6 +51,19 @@ void TakeSetting(const std::string& setting, const dxf::Document& drawing, Windo
     request.answers[name] = isText ? drawing.ToCodePage(value) : value;
   } catch (const std::exception& error) {
     throw Error(fmt::format("--set {}: {}", name, error.what()));
+  }
+}
+
+// The catalogue's item that the user named, in the drawing's code page.
+void TakeWindow(const InsertOptions& options, const dxf::Document& drawing, WindowRequest& request) {
+  const Catalogue catalogue = ReadCatalogue(options.catalogue.empty() ? DataFolder() : options.catalogue);
+  const CatalogueItem& item = ChooseItem(catalogue, options.window);
+  try {
+    request.answers[brevanta::ANSWER_CATALOGUE_ITEM] = drawing.ToCodePage(CatalogueText(item.line));
+    request.answers[brevanta::ANSWER_CATALOGUE_MAKER] =
+        drawing.ToCodePage(CatalogueText(MakerOf(catalogue.sections[item.section])));
+  } catch (const std::exception& error) {
+    throw Error(fmt::format("--window {}: {}", options.window, error.what()));
   }
 }
 
@@ -125,6 +142,7 @@ void RunInsert(const InsertOptions& options) {
 
   WindowRequest request;
   request.unitFactor = unit.perMetre;
+  if (!options.window.empty()) TakeWindow(options, drawing, request);
   for (const std::string& setting : options.settings)
     TakeSetting(setting, drawing, request);
   if (!options.at.empty()) request.point = ParsePlanPoint("--at", options.at);
@@ -162,6 +180,12 @@ void AddInsertCommand(CLI::App& app) {
   command->add_option("--roof", options->roof, "three points X,Y,Z of the roof's plane")
       ->expected(3)
       ->excludes(roofFace);
+  CLI::Option* window = command->add_option(
+      "--window", options->window, "MAKER/KEY of a catalogue's window, whose sizes and texts are taken");
+  command
+      ->add_option("--catalogue", options->catalogue,
+                   "the catalogue, or its folder; without it the one in the data folder")
+      ->needs(window);
   command->add_option("--set", options->settings, "FIELD=VALUE of the window, as often as needed")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
@@ -177,12 +201,12 @@ void AddInsertCommand(CLI::App& app) {
       },
       "list the fields for --set");
   command->footer(
-      "The window's anchor comes to lie exactly at the point. With --set lowerEdgeHeight=H or "
-      "upperEdgeHeight=H it is\n"
-      "moved up or down the slope until that edge lies at H metres.\n"
+      "The window's anchor comes to lie exactly at the point. With --set lowerEdgeHeight=H or\n"
+      "upperEdgeHeight=H it is moved up or down the slope until that edge lies at H metres.\n"
       "Examples:\n"
       "  teskarlt insert house.dxf --at 3000,2000 -o out.dxf\n"
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
+      "  teskarlt insert house.dxf --at 3000,2000 --window \"Alfa/A 94\" --catalogue examples/BREVANTA.LIB\n"
       "  teskarlt insert house.dxf --at 3000,2000 --roof-face 2F --set lowerEdgeHeight=4.2");
   command->callback([options] { RunInsert(*options); });
 }

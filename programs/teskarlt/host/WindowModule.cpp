@@ -4,7 +4,9 @@
 #include <fmt/format.h>
 
 #include "inc/DialogModule.h"
+#include "platform/SystemFolders.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/host/DataFolder.h"
 
 namespace teskarlt {
 
@@ -14,6 +16,7 @@ constexpr const char* PROGRAM = "TESKARLT.EXE";
 constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
 constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
 constexpr const char* INSERT_EXPORT = "Brevanta";
+constexpr const char* MERGE_EXPORT = "mergeLibraryFiles";
 
 std::string ProgramPath() {
   char path[4096];
@@ -46,6 +49,11 @@ void CheckCompanion(const char* name) {
   FreeLibrary(LoadFromFolder(name));
 }
 
+std::string SystemPath(const std::string& path) {
+  if (const auto systemPath = platform::ToSystemPath(path)) return *systemPath;
+  throw Error(fmt::format("{}: the system's code page cannot hold this path", path));
+}
+
 std::string FirstRefusal(const CommandOutcome& outcome) {
   for (const DialogReport& report : outcome.reports) {
     if (report.gravity == brevanta::REPORT_REFUSAL) return report.text;
@@ -69,16 +77,17 @@ void CheckOutcome(const CommandOutcome& outcome) {
 
 }  // namespace
 
-WindowModule::WindowModule() : module_(nullptr), insert_(nullptr) {
+WindowModule::WindowModule() : module_(nullptr), insert_(nullptr), merge_(nullptr) {
   CheckProgramName();
   CheckCompanion(brevanta::DIALOG_MODULE);
   CheckCompanion(RESOURCE_MODULE);
   module_ = LoadFromFolder(WINDOW_MODULE);
   insert_ = ExportedFunction<InsertFunction>(module_, INSERT_EXPORT);
-  if (insert_ != nullptr) return;
+  merge_ = ExportedFunction<MergeFunction>(module_, MERGE_EXPORT);
+  if (insert_ != nullptr && merge_ != nullptr) return;
   FreeLibrary(module_);
   throw Error(fmt::format("{}{} is not the roof window module: it has no export \"{}\"", ProgramFolder(),
-                          WINDOW_MODULE, INSERT_EXPORT));
+                          WINDOW_MODULE, insert_ == nullptr ? INSERT_EXPORT : MERGE_EXPORT));
 }
 
 WindowModule::~WindowModule() {
@@ -96,6 +105,12 @@ CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest&
     drawing.Rollback(before);
     throw;
   }
+}
+
+std::int32_t WindowModule::Merge(const std::string& source, const std::optional<std::string>& target) const {
+  const std::string sourcePath = SystemPath(source);
+  const std::string targetPath = target ? SystemPath(*target) : std::string();
+  return merge_(nullptr, sourcePath.c_str(), target ? targetPath.c_str() : nullptr, CATALOGUE_FOLDER);
 }
 
 }  // namespace teskarlt
