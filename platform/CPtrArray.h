@@ -21,7 +21,7 @@ class CPtrArray : public CObject {
 
   CRuntimeClass* GetRuntimeClass() const override;
 
-  std::int64_t GetCount() const { return static_cast<std::int64_t>(elements_.size()); }
+  std::int64_t GetCount() const noexcept { return static_cast<std::int64_t>(elements_.size()); }
 
   void* GetAt(std::int64_t index) const {
     CheckElement(index);
@@ -32,6 +32,9 @@ class CPtrArray : public CObject {
     CheckElement(index);
     elements_[static_cast<std::size_t>(index)] = element;
   }
+
+  // All elements in order; valid until the array changes.
+  void* const* GetData() const noexcept { return elements_.data(); }
 
   // Appends and returns the element's index.
   std::int64_t Add(void* element) {

@@ -68,10 +68,10 @@ int Close(FileHandle file) {
 int Replace(const std::string& from, const std::string& to) {
   const std::wstring source = ToWide(from);
   const std::wstring target = ToWide(to);
-  // ReplaceFile keeps the old file's access rights and attributes, but needs an old file.
-  if (GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES)
-    return Result(ReplaceFileW(target.c_str(), source.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
-                               nullptr, nullptr));
+  // ReplaceFile keeps the old file's access rights, but needs an old file and a file system that can do it.
+  if (ReplaceFileW(target.c_str(), source.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                   nullptr) != 0)
+    return 0;
   return Result(
       MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
 }

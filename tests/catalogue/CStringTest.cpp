@@ -29,7 +29,8 @@ TEST(CString, KeepsItsCharactersTerminated) {
 
 TEST(CString, CopiesShareTheirCharacters) {
   const CString text("abc");
-  const CString copy = text;
+  CString copy;
+  copy = text;
   EXPECT_EQ(copy.GetString(), text.GetString());
 }
 

@@ -33,6 +33,8 @@ int TestFolder::FileCount() const {
 }
 
 void WriteBytes(const std::string& path, std::string_view bytes) {
+  std::error_code missing;
+  fs::remove(path, missing);  // some file systems flush a file that is emptied and written again
   std::ofstream file(path, std::ios::binary);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }

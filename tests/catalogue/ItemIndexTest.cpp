@@ -74,7 +74,7 @@ TEST_F(ItemIndexTest, AgreesWithAddUniqueOnRandomItems) {
     item->section = CString(std::string_view(header));
     item->key = CString(std::string_view(key));
     const bool added = walked.AddUnique(item.get());
-    if (added) item.release();
+    if (added) static_cast<void>(item.release());
     ASSERT_EQ(Add(header, key), added);
     refused += added ? 0 : 1;
   }

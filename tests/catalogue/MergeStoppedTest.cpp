@@ -42,13 +42,21 @@ class StoppedMerge : public MergeTest {
     return WIFSIGNALED(status);
   }
 
-  // The number of operations at which the merge was stopped.
+  int CountOperations() const {
+    const ScriptedStdio stdio;
+    Merge();
+    return static_cast<int>(stdio.Operations().size());
+  }
+
+  // Stops the merge at this moment of each operation and returns how many times it was stopped.
   int StopEverywhere(Moment moment) {
     const std::string target = Catalogue("t", 5000);
     const std::string source = Catalogue("s", 3000);
     const std::string merged = Merged(target, source);
+    Write(target, source);
+    const int operations = CountOperations();
     int stops = 0;
-    for (int number = 1; number < 60; ++number) {
+    for (int number = 1; number <= operations; ++number) {
       Write(target, source);
       std::filesystem::remove(Backup());
       stops += MergeStopped(number, moment) ? 1 : 0;

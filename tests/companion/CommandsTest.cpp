@@ -10,14 +10,14 @@
 #include "arx/commands/Commands.h"
 #include "arx/commands/HostTable.h"
 #include "platform/ModuleState.h"
-#include "tests/support/FakeServices.h"
+#include "tests/support/FakeModules.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/RoundRecord.h"
 
 namespace brevanta {
 namespace {
 
-using fake_services::TheWorld;
+using fake_modules::TheWorld;
 using testing::ElementsAre;
 
 // The dialog's script, and what it was called with.
@@ -67,7 +67,7 @@ HostFunctionTable* GiveTable() {
 class CommandsTest : public testing::Test {
  protected:
   void SetUp() override {
-    fake_services::Reset();
+    fake_modules::Reset();
     recording_host::Reset();
     ThePlay() = Play();
     dialog.exports["Dialog"] = reinterpret_cast<FARPROC>(PlayDialog);
@@ -91,9 +91,9 @@ class CommandsTest : public testing::Test {
     return calls;
   }
 
-  fake_services::Module host;
-  fake_services::Module dialog;
-  fake_services::Module resources;
+  fake_modules::Module host;
+  fake_modules::Module dialog;
+  fake_modules::Module resources;
   int context = 0;
 };
 
@@ -283,9 +283,9 @@ TEST_F(CommandsTest, HostTableIsLookedUpAfreshForEachWindow) {
 }
 
 TEST(HostFunctionTableLookup, StandAloneHostWithoutTheExportHidesTheExtensionModule) {
-  fake_services::Reset();
-  fake_services::Module standAlone;
-  fake_services::Module extension;
+  fake_modules::Reset();
+  fake_modules::Module standAlone;
+  fake_modules::Module extension;
   extension.exports["GetExport2D"] = reinterpret_cast<FARPROC>(GiveTable);
   TheWorld().running["TESKARLT.EXE"] = &standAlone;
   TheWorld().running["TESKAR2D.ARX"] = &extension;

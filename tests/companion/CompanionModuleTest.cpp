@@ -4,18 +4,18 @@
 
 #include "arx/commands/CompanionModule.h"
 #include "platform/ModuleState.h"
-#include "tests/support/FakeServices.h"
+#include "tests/support/FakeModules.h"
 
 namespace brevanta {
 namespace {
 
-using fake_services::TheWorld;
+using fake_modules::TheWorld;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 class CompanionModule : public testing::Test {
  protected:
-  void SetUp() override { fake_services::Reset(); }
+  void SetUp() override { fake_modules::Reset(); }
 
   void RunHost(const std::string& name, const std::string& path) {
     TheWorld().running[name] = &host;
@@ -31,8 +31,8 @@ class CompanionModule : public testing::Test {
     return calls.back().substr(std::string(verb).size());
   }
 
-  fake_services::Module host;
-  fake_services::Module companion;
+  fake_modules::Module host;
+  fake_modules::Module companion;
 };
 
 TEST_F(CompanionModule, NullNameGivesNull) {
@@ -149,7 +149,7 @@ TEST_F(CompanionModule, ModuleStateOfTheCallerComesBack) {
 }
 
 TEST(HostModule, ThereIsNoneWhenNeitherFormIsLoaded) {
-  fake_services::Reset();
+  fake_modules::Reset();
   EXPECT_EQ(FindHostModule(), nullptr);
 }
 

@@ -5,13 +5,16 @@
 
 #include <gtest/gtest.h>
 
-#include "FailingHeap.h"
 #include "lttools/SUPP.h"
 #include "lttools/resrel.h"
 #include "platform/Heap.h"
+#include "tests/support/CountingHeap.h"
 
 namespace lttools {
 namespace {
+
+using counting_heap::FailAllocation;
+using counting_heap::LiveBlocks;
 
 constexpr std::int32_t GROWTH = 10;
 
@@ -100,7 +103,7 @@ TEST(LowMemoryDeathTest, SplittingIsFatalAtEachOfItsAllocations) {
 }
 
 TEST(Heap, EveryBlockOfASplitIsReleased) {
-  const int before = LiveBlocks();
+  const std::size_t before = LiveBlocks();
   {
     TextList fields;
     SplitFields("a;b;;c;d;e;f;g;h;i;j;k;l", ";", fields);
@@ -111,7 +114,7 @@ TEST(Heap, EveryBlockOfASplitIsReleased) {
 }
 
 TEST(Heap, EveryBlockOfAnArrayIsReleased) {
-  const int before = LiveBlocks();
+  const std::size_t before = LiveBlocks();
   Numbers numbers;
   for (std::int32_t i = 0; i < 100; ++i)
     ArrayInsertAt(numbers.count, numbers.capacity, GROWTH, numbers.storage, sizeof i, 0, &i);

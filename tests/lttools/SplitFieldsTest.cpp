@@ -16,6 +16,7 @@ using testing::ElementsAre;
 
 std::vector<std::string> Texts(const TextList& list) {
   std::vector<std::string> texts;
+  texts.reserve(static_cast<std::size_t>(list.GetCount()));
   for (std::int32_t i = 0; i < list.GetCount(); ++i)
     texts.emplace_back(list[i]);
   return texts;

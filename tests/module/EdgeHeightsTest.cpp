@@ -2,6 +2,8 @@
 //
 // Pitch of 3 in 4: a length of 200 rises by 120, a slope offset of 5 by 3; a layer of 12 is 15 plumb (12 /
 // 0.8) and counts 9.6 square (12 * 0.8).
+#include <ostream>
+
 #include <gtest/gtest.h>
 
 #include "arx/BvMakeWindow/BvMakeWindow.h"
@@ -28,6 +30,10 @@ struct Heights {
   double upper;  // from a lower edge at 1000
   double lower;  // from an upper edge at 1000
 };
+
+void PrintTo(const Heights& p, std::ostream* out) {
+  *out << "reference " << p.reference << ", build-up " << p.buildUp;
+}
 
 constexpr Heights HEIGHTS[] = {
     {0, 0, 1120, 880},      // skipped
@@ -81,7 +87,7 @@ TEST(EdgeHeight, AnotherModeWeighsTheLayerByItsNumber) {
 TEST(EdgeHeight, PartsOfTheLayerAreAddedOneAfterTheOther) {
   WindowParams record = LayeredRecord(3, 0);
   record.length = 0;
-  record.pitch = 0;               // both parts are the layer's thickness
+  record.pitch = 0;                    // both parts are the layer's thickness
   record.lowerEdgeHeight = 1e17 + 16;  // doubles are 16 apart there, and this one is odd
   record.layerThickness = 8;
   // Both - 8 and + 8 lie in the middle and go to the even one, 1e17. Together the two would be nothing.

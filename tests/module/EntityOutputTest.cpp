@@ -221,7 +221,7 @@ const ValueNode* NodeAt(const ValueNode* node, int index) {
 // Gives the list's damaged text its address back, so that it can be released. `index` is that of the text.
 void ExpectDamagedText(ValueNode* list, int index) {
   auto* damaged = const_cast<ValueNode*>(NodeAt(list, index));
-  char* text = counting_heap::FindText("TKBRVA");
+  char* text = counting_heap::LiveText("TKBRVA");
   ASSERT_NE(text, nullptr);
   EXPECT_EQ(damaged->typeCode, 1000);
   EXPECT_EQ(HalvesOf(damaged->value.text).low, 0U);

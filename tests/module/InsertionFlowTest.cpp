@@ -232,7 +232,7 @@ double RotationOfRoofRisingTowards(double angle) {
   record.roofPlanePoints[0] = {100 * c, 100 * s, 75};
   record.roofPlanePoints[1] = {100 * s, -100 * c, 0};
   record.rotation = 9;
-  CbvMakeWindow maker;
+  static CbvMakeWindow maker;  // one for all: making one looks for its resource module
   maker.Make(&record, 1);
   return record.rotation;
 }

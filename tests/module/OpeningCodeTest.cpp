@@ -9,9 +9,15 @@
 namespace brevanta {
 namespace {
 
+// One for all calls: making one looks for its resource module.
+CbvMakeWindow& Maker() {
+  static CbvMakeWindow maker;
+  return maker;
+}
+
 // What a call leaves: "no", or "dashed" or "solid" with the hinge side.
 std::string Parse(const char* code, const char* letter, const char* symbolLinetype = "DASHED") {
-  CbvMakeWindow maker;
+  CbvMakeWindow& maker = Maker();
   std::strcpy(maker.currentLinetype, "LEFT OVER");
   std::strcpy(maker.symbolLinetype, symbolLinetype);
   std::strcpy(maker.hingeSide, "R");

@@ -2,8 +2,8 @@
 //
 // All on the slope of 3 in 4: a length d along it is (0, 0.8 d, 0.6 d), a length d normal to it (0, -0.6 d,
 // 0.8 d), and a layer of thickness 12 is 15 thick measured plumb. The window is 100 x 200 with a frame of 10.
-#include <array>
 #include <cmath>
+#include <ostream>
 
 #include <gtest/gtest.h>
 
@@ -104,6 +104,10 @@ struct Anchored {
   double innerTo;
 };
 
+void PrintTo(const Anchored& p, std::ostream* out) {
+  *out << "anchor " << p.anchor << ", width side " << p.widthSide;
+}
+
 constexpr Anchored ANCHORS[] = {
     {0, 1, -50, 50, -40, 40},  {0, -1, -50, 50, -40, 40},  {1, 1, 0, 100, 10, 90}, {1, -1, 0, -100, -10, -90},
     {2, 1, -100, 0, -90, -10}, {2, -1, -100, 0, -70, 10},  // 20 off the middle, kept
@@ -135,6 +139,10 @@ struct Layered {
   double openingY, openingZ;
   double runY, runZ;
 };
+
+void PrintTo(const Layered& p, std::ostream* out) {
+  *out << "mode " << p.mode << ", build-up " << p.buildUp;
+}
 
 constexpr Layered LAYERS[] = {
     {0, 0, -7.2, 9.6, 0, 0, 160, 120},      {0, 1, 0, 0, 7.2, -9.6, 160, 120},

@@ -140,7 +140,7 @@ struct Body {
 Body Insert(const Case& c) {
   recording_host::Reset();
   WindowParams record = c.record;
-  CbvMakeWindow maker;
+  static CbvMakeWindow maker;  // one for all: making one looks for its resource module
   maker.hostTable = recording_host::Table();
   EXPECT_EQ(maker.Make(&record, c.unitFactor), 1);
   const auto faces = recording_host::Faces();

@@ -53,18 +53,18 @@ class CatalogueBuilder {
   void TakeLine(std::string_view line) {
     if (line.empty()) return;
     if (line.starts_with(HEADER_KEYWORD)) {
-      const auto [found, isNew] = sectionOf_.try_emplace(std::string(line), catalogue_.sections.size());
-      if (isNew) catalogue_.sections.emplace_back(line);
+      const auto [found, isNew] = sectionOf_.try_emplace(line, catalogue_.sections.size());
+      if (isNew) catalogue_.sections.push_back(line);
       section_ = found->second;
       hasSection_ = true;
     } else if (hasSection_) {
       const std::string_view key = WithoutLeadingBlanks(line.substr(0, line.find(';')));
-      catalogue_.items.push_back({section_, std::string(key), std::string(line)});
+      catalogue_.items.push_back({section_, key, line});
     }
   }
 
   Catalogue& catalogue_;
-  std::unordered_map<std::string, std::size_t> sectionOf_;
+  std::unordered_map<std::string_view, std::size_t> sectionOf_;
   std::size_t section_ = 0;
   bool hasSection_ = false;
 };
@@ -82,8 +82,8 @@ std::string CatalogueIn(const std::string& path) {
 Catalogue ReadCatalogue(const std::string& path) {
   Catalogue catalogue;
   catalogue.path = CatalogueIn(path);
-  const platform::FileBytes file = platform::ReadWholeFile(catalogue.path);
-  std::string_view rest = file.View();
+  catalogue.file = platform::ReadWholeFile(catalogue.path);
+  std::string_view rest = catalogue.file.View();
   if (rest.empty()) throw Error(fmt::format("{}: the catalogue is empty", catalogue.path));
   if (rest.find('\0') != std::string_view::npos) {
     throw Error(fmt::format("{}: this is no catalogue; it holds NUL bytes", catalogue.path));

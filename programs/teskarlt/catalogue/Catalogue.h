@@ -6,22 +6,25 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/FileOperations.h"
+
 namespace teskarlt {
 
 constexpr std::string_view CATALOGUE_FILE = "BREVANTA.LIB";
 
-// The bytes of the file; a carriage return at the end of a line is taken off.
+// Views on the bytes of the file; a carriage return at the end of a line is taken off.
 struct CatalogueItem {
-  std::size_t section;  // index into the catalogue's sections
-  std::string key;      // first field, without leading blanks
-  std::string line;     // the whole line
+  std::size_t section;    // index into the catalogue's sections
+  std::string_view key;   // first field, without leading blanks
+  std::string_view line;  // the whole line
 };
 
 struct Catalogue {
-  std::string path;                   // UTF-8
-  std::vector<std::string> sections;  // different header lines in the order of the file
-  std::vector<CatalogueItem> items;   // in the order of the file, doubles included
-  bool hasWindowsLineEnds = false;    // lines end in CR LF
+  std::string path;                        // UTF-8
+  platform::FileBytes file;                // what the views below lie in
+  std::vector<std::string_view> sections;  // different header lines in the order of the file
+  std::vector<CatalogueItem> items;        // in the order of the file, doubles included
+  bool hasWindowsLineEnds = false;         // lines end in CR LF
   std::size_t cutLines = 0;  // lines that the module reads in pieces, being longer than 254 characters
 };
 

@@ -2,9 +2,9 @@
 // it.
 #include "teskarlt/catalogue/CatalogueMerge.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <set>
-#include <utility>
+#include <functional>
 
 #include <fmt/format.h>
 
@@ -62,17 +62,44 @@ void CheckTarget(const std::string& source, const std::string& target) {
     throw Error(fmt::format("{}: the catalogue must not be written", target));
 }
 
-std::vector<std::string> WarningsOf(const Catalogue& source, const Catalogue& target) {
+// What is compared of a catalogue before and after a merge; little, since catalogues may be large.
+struct Digest {
+  std::string path;
+  std::size_t sections;
+  std::size_t items;
+  bool hasWindowsLineEnds;
+  std::size_t cutLines;
+  std::vector<std::size_t> names;  // hashes of section and key, in order
+};
+
+Digest DigestOf(const std::string& path) {
+  const Catalogue catalogue = ReadCatalogue(path);
+  const std::hash<std::string_view> hash;
+  Digest digest{path,
+                catalogue.sections.size(),
+                catalogue.items.size(),
+                catalogue.hasWindowsLineEnds,
+                catalogue.cutLines,
+                {}};
+  digest.names.reserve(catalogue.items.size());
+  for (const CatalogueItem& item : catalogue.items) {
+    constexpr std::size_t spread = 31;
+    digest.names.push_back(hash(catalogue.sections[item.section]) * spread + hash(item.key));
+  }
+  std::sort(digest.names.begin(), digest.names.end());
+  return digest;
+}
+
+std::vector<std::string> WarningsOf(const Digest& source, const Digest& target) {
   std::vector<std::string> warnings;
   if (source.hasWindowsLineEnds != target.hasWindowsLineEnds) {
-    const Catalogue& windows = source.hasWindowsLineEnds ? source : target;
     warnings.push_back(
         fmt::format("{} has Windows line ends (CR LF) and the other catalogue has not; where the system does "
                     "not know such line "
                     "ends, sections and windows of the same name count as different",
-                    windows.path));
+                    source.hasWindowsLineEnds ? source.path : target.path));
   }
-  for (const Catalogue* catalogue : {&source, &target}) {
+  for (const Digest* catalogue : {&source, &target}) {
     if (catalogue->cutLines == 0) continue;
     warnings.push_back(fmt::format("{}: {} lines of more than 254 characters are cut into several",
                                    catalogue->path, catalogue->cutLines));
@@ -80,24 +107,14 @@ std::vector<std::string> WarningsOf(const Catalogue& source, const Catalogue& ta
   return warnings;
 }
 
-using ItemName = std::pair<std::string, std::string>;
-
-std::set<ItemName> NamesOf(const Catalogue& catalogue) {
-  std::set<ItemName> names;
-  for (const CatalogueItem& item : catalogue.items)
-    names.emplace(catalogue.sections[item.section], item.key);
-  return names;
-}
-
 // Throws when an item of either catalogue is not in the merged one.
-void CheckNothingLost(const Catalogue& source, const Catalogue& before, const Catalogue& after) {
-  const std::set<ItemName> names = NamesOf(after);
-  for (const Catalogue* catalogue : {&before, &source}) {
-    for (const CatalogueItem& item : catalogue->items) {
-      if (names.count({catalogue->sections[item.section], item.key}) != 0) continue;
-      throw Error(fmt::format("{}: the merged catalogue lacks \"{}\" of {}", after.path,
-                              CatalogueText(item.key), catalogue->path));
-    }
+void CheckNothingLost(const Digest& source, const Digest& before, const Digest& after) {
+  for (const Digest* catalogue : {&before, &source}) {
+    const bool isKept = std::all_of(catalogue->names.begin(), catalogue->names.end(), [&](std::size_t name) {
+      return std::binary_search(after.names.begin(), after.names.end(), name);
+    });
+    if (isKept) continue;
+    throw Error(fmt::format("{}: the merged catalogue lacks windows of {}", after.path, catalogue->path));
   }
 }
 
@@ -164,18 +181,18 @@ MergeReport MergeCatalogues(const WindowModule& module, const std::string& sourc
     claim.emplace();
   }
   CheckTarget(sourcePath, report.target);
-  const Catalogue from = ReadCatalogue(sourcePath);
-  const Catalogue before = ReadCatalogue(report.target);
+  const Digest from = DigestOf(sourcePath);
+  const Digest before = DigestOf(report.target);
   report.warnings = WarningsOf(from, before);
 
   const std::int32_t result = module.Merge(sourcePath, target ? std::optional(report.target) : std::nullopt);
   if (result != MERGE_DONE) FailMerge(result, sourcePath, report.target);
-  const Catalogue after = ReadCatalogue(report.target);
+  const Digest after = DigestOf(report.target);
   CheckNothingLost(from, before, after);
-  report.newSections = after.sections.size() - before.sections.size();
-  report.taken = after.items.size() - before.items.size();
-  report.alreadyThere = from.items.size() - report.taken;
-  report.total = after.items.size();
+  report.newSections = after.sections - before.sections;
+  report.taken = after.items - before.items;
+  report.alreadyThere = from.items - report.taken;
+  report.total = after.items;
   return report;
 }
 

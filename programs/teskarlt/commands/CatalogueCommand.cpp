@@ -47,7 +47,7 @@ std::vector<std::size_t> ChosenSections(const Catalogue& catalogue, const std::s
   }
   if (!chosen.empty()) return chosen;
   std::string makers;
-  for (const std::string& section : catalogue.sections) {
+  for (const std::string_view section : catalogue.sections) {
     makers += (makers.empty() ? "\"" : ", \"") + CatalogueText(MakerOf(section)) + "\"";
   }
   throw Error(fmt::format("--section {}: {} has no such section; it has {}", name, catalogue.path, makers));

@@ -12,8 +12,9 @@ int IsDifferent(const CString& a, const CString& b) {
 }
 
 CBrevantaSet::~CBrevantaSet() {
+  void* const* items = GetData();  // the checked access could raise an exception here
   for (std::int64_t i = 0; i < GetCount(); ++i)
-    delete static_cast<CBrevantaItem*>(GetAt(i));
+    delete static_cast<CBrevantaItem*>(items[i]);
 }
 
 void CBrevantaSet::Serialize(CArchive& /*archive*/) {}

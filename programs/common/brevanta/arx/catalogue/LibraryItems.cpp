@@ -44,7 +44,7 @@ void LibraryItems::AddItem(ItemIndex::Section section, std::string_view line, bo
   item->line = CString(line);
   index_.NoteItem(section);
   set_.Add(item.get());
-  item.release();
+  static_cast<void>(item.release());
 }
 
 // Removing an item from the set would move all later ones, for every item written. Its place stays instead,

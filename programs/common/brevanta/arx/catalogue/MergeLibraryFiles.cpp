@@ -31,9 +31,10 @@ bool CanBeOpened(const CString& path) {
 bool SameButCase(std::string_view a, std::string_view b) {
   constexpr unsigned CASE_BIT = 0x20;
   if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i)
-    if ((static_cast<unsigned char>(a[i]) | CASE_BIT) != (static_cast<unsigned char>(b[i]) | CASE_BIT))
-      return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    const unsigned difference = static_cast<unsigned char>(a[i]) ^ static_cast<unsigned char>(b[i]);
+    if ((difference & ~CASE_BIT) != 0) return false;
+  }
   return true;
 }
 

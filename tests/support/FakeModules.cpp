@@ -1,12 +1,12 @@
-// FakeServices.cpp - plays the module services from what a test has set up.
-#include "tests/support/FakeServices.h"
+// FakeModules.cpp - plays the module services from what a test has set up.
+#include "tests/support/FakeModules.h"
 
 #include <algorithm>
 #include <cstring>
 
 #include "platform/ModuleState.h"
 
-namespace fake_services {
+namespace fake_modules {
 
 namespace {
 
@@ -32,18 +32,18 @@ void Reset() {
   TheWorld() = World();
 }
 
-}  // namespace fake_services
+}  // namespace fake_modules
 
-using fake_services::Module;
-using fake_services::TheWorld;
+using fake_modules::Module;
+using fake_modules::TheWorld;
 
 HMODULE GetModuleHandleA(LPCSTR name) {
-  fake_services::Record(std::string("GetModuleHandleA ") + name);
-  return fake_services::Find(TheWorld().running, name);
+  fake_modules::Record(std::string("GetModuleHandleA ") + name);
+  return fake_modules::Find(TheWorld().running, name);
 }
 
 DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size) {
-  fake_services::Record("GetModuleFileNameA " + std::to_string(size));
+  fake_modules::Record("GetModuleFileNameA " + std::to_string(size));
   const auto found = TheWorld().fileNames.find(static_cast<Module*>(module));
   if (found == TheWorld().fileNames.end()) return 0;
   const std::string& path = found->second;
@@ -54,20 +54,20 @@ DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size) {
 }
 
 FARPROC GetProcAddress(HMODULE module, LPCSTR name) {
-  fake_services::Record(std::string("GetProcAddress ") + name);
+  fake_modules::Record(std::string("GetProcAddress ") + name);
   const auto& exports = static_cast<Module*>(module)->exports;
   const auto found = exports.find(name);
   return found == exports.end() ? nullptr : found->second;
 }
 
 BOOL FreeLibrary(HMODULE module) {
-  fake_services::Record("FreeLibrary");
+  fake_modules::Record("FreeLibrary");
   --static_cast<Module*>(module)->loadCount;
   return 1;
 }
 
 int LoadStringA(HINSTANCE /*module*/, UINT id, LPSTR buffer, int size) {
-  fake_services::Record("LoadStringA " + std::to_string(id));
+  fake_modules::Record("LoadStringA " + std::to_string(id));
   const std::string text = "LAYER_" + std::to_string(id);
   if (static_cast<std::size_t>(size) <= text.size()) return 0;
   std::memcpy(buffer, text.c_str(), text.size() + 1);
@@ -75,10 +75,10 @@ int LoadStringA(HINSTANCE /*module*/, UINT id, LPSTR buffer, int size) {
 }
 
 HMODULE AfxLoadLibrary(LPCSTR name) {
-  fake_services::Record(std::string("AfxLoadLibrary ") + name);
+  fake_modules::Record(std::string("AfxLoadLibrary ") + name);
   const auto left = TheWorld().loadsLeft.find(name);
   if (left != TheWorld().loadsLeft.end() && left->second-- <= 0) return nullptr;
-  Module* module = fake_services::Find(TheWorld().installed, name);
+  Module* module = fake_modules::Find(TheWorld().installed, name);
   if (module != nullptr) ++module->loadCount;
   return module;
 }

@@ -1,4 +1,4 @@
-// FakeServices.h - the operating system's module services, played by the test program.
+// FakeModules.h - the operating system's module services, played by the test program.
 #pragma once
 
 #include <map>
@@ -9,7 +9,7 @@
 
 // Linked into a test program, its source replaces platform/linux/ModuleServices.cpp. A handle is the address
 // of an entry here, so that every module has its own.
-namespace fake_services {
+namespace fake_modules {
 
 struct Module {
   std::map<std::string, FARPROC> exports;
@@ -30,4 +30,4 @@ void Reset();
 
 World& TheWorld();
 
-}  // namespace fake_services
+}  // namespace fake_modules
