@@ -16,4 +16,7 @@ std::optional<std::string> EnvironmentVariable(const char* name);
 // A UTF-8 path in the system's 8-bit code page; nothing when the code page cannot hold it.
 std::optional<std::string> ToSystemPath(const std::string& utf8);
 
+// A path in the system's 8-bit code page in UTF-8.
+std::string FromSystemPath(const std::string& path);
+
 }  // namespace platform

@@ -21,4 +21,8 @@ std::optional<std::string> ToSystemPath(const std::string& utf8) {
   return utf8;
 }
 
+std::string FromSystemPath(const std::string& path) {
+  return path;
+}
+
 }  // namespace platform

@@ -33,4 +33,11 @@ std::optional<std::string> ToSystemPath(const std::string& utf8) {
   return path;
 }
 
+std::string FromSystemPath(const std::string& path) {
+  std::wstring wide(path.size(), L'\0');  // never more units than bytes
+  const int length = MultiByteToWideChar(CP_ACP, 0, path.data(), static_cast<int>(path.size()), wide.data(),
+                                         static_cast<int>(wide.size()));
+  return ToNarrow(wide.data(), static_cast<std::size_t>(length));
+}
+
 }  // namespace platform

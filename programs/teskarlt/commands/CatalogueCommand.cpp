@@ -61,7 +61,7 @@ Json ItemJson(const CatalogueItem& item) {
   return json;
 }
 
-void PrintJson(const Catalogue& catalogue, const std::vector<std::size_t>& sections) {
+void PrintCatalogue(const Catalogue& catalogue, const std::vector<std::size_t>& sections) {
   Json json;
   json["version"] = JSON_VERSION;
   json["file"] = catalogue.path;
@@ -75,7 +75,7 @@ void PrintJson(const Catalogue& catalogue, const std::vector<std::size_t>& secti
       entry["items"].push_back(ItemJson(*item));
     json["sections"].push_back(entry);
   }
-  fmt::print("{}\n", json.dump(2));
+  PrintJson(json);
 }
 
 void PrintTables(const Catalogue& catalogue, const std::vector<std::size_t>& sections) {
@@ -97,7 +97,7 @@ void RunCatalogue(const CatalogueOptions& options) {
   const Catalogue catalogue = ReadCatalogue(options.file.empty() ? DataFolder() : options.file);
   const std::vector<std::size_t> sections = ChosenSections(catalogue, options.section);
   if (options.asJson) {
-    PrintJson(catalogue, sections);
+    PrintCatalogue(catalogue, sections);
   } else {
     PrintTables(catalogue, sections);
   }

@@ -1,7 +1,9 @@
 // CommandLine.cpp - parses the command line and runs the subcommand.
 #include "teskarlt/commands/CommandLine.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <system_error>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -44,6 +46,12 @@ void AddCommands(CLI::App& app) {
   AddMergeCommand(app);
 }
 
+// What was printed has to arrive: a full disk shows only when the last of it is written.
+void FinishOutput() {
+  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return;
+  throw std::system_error(errno, std::generic_category(), "the answer cannot be printed");
+}
+
 }  // namespace
 
 int RunCommandLine(const std::vector<std::string>& arguments) {
@@ -51,6 +59,7 @@ int RunCommandLine(const std::vector<std::string>& arguments) {
   AddCommands(app);
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    FinishOutput();
     return EXIT_DONE;
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? EXIT_DONE : EXIT_USAGE;

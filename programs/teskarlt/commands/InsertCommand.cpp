@@ -39,9 +39,11 @@ struct InsertOptions {
 // "field=value" into the answers; a text goes from the terminal's UTF-8 to the drawing's code page.
 void TakeSetting(const std::string& setting, const dxf::Document& drawing, WindowRequest& request) {
   const auto equals = setting.find('=');
+  if (equals == std::string::npos)
+    throw Error(fmt::format("--set {}: a setting is FIELD=VALUE, as in --set width=0.94", setting));
   const std::string name = setting.substr(0, equals);
   const brevanta::RecordField* field = brevanta::FindRecordField(name);
-  if (equals == std::string::npos || field == nullptr) {
+  if (field == nullptr) {
     throw Error(
         fmt::format("--set {}: there is no such field; teskarlt insert --fields lists them", setting));
   }
@@ -89,6 +91,9 @@ const RoofFace& ChooseFace(const InsertOptions& options, const WindowRequest& re
 // The roof of the request; the face that was chosen, null when the user gave three points.
 const RoofFace* TakeRoof(const InsertOptions& options, const std::vector<RoofFace>& faces, double tolerance,
                          WindowRequest& request) {
+  const bool hasPlaneField = request.answers.count("roofPlanePoints") != 0;
+  if (hasPlaneField && (!options.roof.empty() || !options.roofFace.empty()))
+    throw Error("--set roofPlanePoints gives the roof already; leave --roof and --roof-face out");
   if (!options.roof.empty()) {
     std::vector<geometry::Vec3> points;
     for (const std::string& point : options.roof)
@@ -96,7 +101,7 @@ const RoofFace* TakeRoof(const InsertOptions& options, const std::vector<RoofFac
     request.faces = {points};
     return nullptr;
   }
-  if (request.answers.count("roofPlanePoints") != 0) return nullptr;
+  if (hasPlaneField) return nullptr;
   const RoofFace& face = ChooseFace(options, request, faces);
   request.faces = {face.corners};
   for (const RoofFace* other : CoplanarWith(face, faces, tolerance))
@@ -154,7 +159,7 @@ void RunInsert(const InsertOptions& options) {
   const std::string target = options.output.empty() ? options.file : options.output;
   if (!options.dryRun) drawing.Save(target);
   if (options.asJson) {
-    fmt::print("{}\n", ToJson(options, outcome, face, target).dump(2));
+    PrintJson(ToJson(options, outcome, face, target));
   } else {
     PrintText(options, outcome, face, target);
   }
@@ -173,24 +178,35 @@ void PrintFields() {
 void AddInsertCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("insert", "Insert a roof window");
   const auto options = std::make_shared<InsertOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required();
-  command->add_option("--at", options->at, "X,Y in the drawing; the uppermost roof face over it is taken");
-  CLI::Option* roofFace = command->add_option("--roof-face", options->roofFace,
-                                              "name of the roof face, as teskarlt roofs lists it");
-  command->add_option("--roof", options->roof, "three points X,Y,Z of the roof's plane")
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
+  command
+      ->add_option("--at", options->at, "the place in the drawing; the uppermost roof face over it is taken")
+      ->type_name("X,Y");
+  CLI::Option* roofFace =
+      command
+          ->add_option("--roof-face", options->roofFace, "name of the roof face, as teskarlt roofs lists it")
+          ->type_name("FACE");
+  command->add_option("--roof", options->roof, "three points of the roof's plane")
+      ->type_name("X,Y,Z")
       ->expected(3)
       ->excludes(roofFace);
-  CLI::Option* window = command->add_option(
-      "--window", options->window, "MAKER/KEY of a catalogue's window, whose sizes and texts are taken");
+  CLI::Option* window =
+      command
+          ->add_option("--window", options->window, "a catalogue's window, whose sizes and texts are taken")
+          ->type_name("MAKER/KEY");
   command
       ->add_option("--catalogue", options->catalogue,
                    "the catalogue, or its folder; without it the one in the data folder")
+      ->type_name("FILE")
       ->needs(window);
-  command->add_option("--set", options->settings, "FIELD=VALUE of the window, as often as needed")
+  command->add_option("--set", options->settings, "a value of the window, as often as needed")
+      ->type_name("FIELD=VALUE")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced");
-  command->add_option("--units", options->units, UNITS_HELP);
+  command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
+      ->type_name("FILE")
+      ->check([](const std::string& name) { return std::string(name.empty() ? "the name is empty" : ""); });
+  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--dry-run", options->dryRun, "say what would be done and write nothing");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->add_flag_callback(
@@ -207,7 +223,7 @@ void AddInsertCommand(CLI::App& app) {
       "  teskarlt insert house.dxf --at 3000,2000 -o out.dxf\n"
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
       "  teskarlt insert house.dxf --at 3000,2000 --window \"Alfa/A 94\" --catalogue examples/BREVANTA.LIB\n"
-      "  teskarlt insert house.dxf --at 3000,2000 --roof-face 2F --set lowerEdgeHeight=4.2");
+      "  teskarlt insert house.dxf --at 3000,2000 --roof-face 100 --set lowerEdgeHeight=4.2");
   command->callback([options] { RunInsert(*options); });
 }
 

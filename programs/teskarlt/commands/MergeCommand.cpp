@@ -27,7 +27,7 @@ std::optional<std::string> Given(const std::string& path) {
   return path.empty() ? std::nullopt : std::optional(path);
 }
 
-void PrintJson(const MergeReport& report) {
+void PrintReport(const MergeReport& report) {
   nlohmann::ordered_json json;
   json["version"] = JSON_VERSION;
   json["target"] = report.target;
@@ -36,7 +36,7 @@ void PrintJson(const MergeReport& report) {
   json["alreadyThere"] = report.alreadyThere;
   json["total"] = report.total;
   json["warnings"] = report.warnings;
-  fmt::print("{}\n", json.dump(2));
+  PrintJson(json);
 }
 
 void PrintRecovery(const Recovery& recovery) {
@@ -55,7 +55,7 @@ void RunMerge(const MergeOptions& options) {
   for (const std::string& warning : report.warnings)
     fmt::print(stderr, "teskarlt: warning: {}\n", warning);
   if (options.asJson) {
-    PrintJson(report);
+    PrintReport(report);
     return;
   }
   fmt::print("{} windows taken, {} already there, {} new sections; {} now holds {} windows.\n", report.taken,

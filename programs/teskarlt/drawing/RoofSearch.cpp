@@ -30,9 +30,9 @@ constexpr std::int64_t VERTEX_OF_POLYFACE = 128;
 struct Shape {
   std::string layer;
   std::vector<Vec3> points = std::vector<Vec3>(4);  // groups 10 to 13
-  bool hasFourth = false;
-  std::int64_t flags = 0;                // group 70
-  std::int64_t count[4] = {0, 0, 0, 0};  // groups 71 to 74
+  bool isGiven[4] = {false, false, false, false};   // which of the points
+  std::int64_t flags = 0;                           // group 70
+  std::int64_t count[4] = {0, 0, 0, 0};             // groups 71 to 74
 };
 
 void TakeTag(const dxf::Document& drawing, const dxf::TagReader& reader, const dxf::Tag& tag, Shape& shape) {
@@ -40,7 +40,7 @@ void TakeTag(const dxf::Document& drawing, const dxf::TagReader& reader, const d
   if (code >= 10 && code <= 39 && code % 10 <= 3) {
     Vec3& point = shape.points[static_cast<std::size_t>(code % 10)];
     (code < 20 ? point.x : code < 30 ? point.y : point.z) = reader.Real(tag);
-    if (code % 10 == 3) shape.hasFourth = true;
+    shape.isGiven[code % 10] = true;
   } else if (code == 70) {
     shape.flags = reader.Integer(tag);
   } else if (code >= 71 && code <= 74) {
@@ -69,8 +69,22 @@ std::vector<Shape> ReadShapes(const dxf::Document& drawing, const dxf::Entity& e
 using Corners = std::vector<Vec3>;
 
 std::vector<Corners> FacesOf3dFace(const Shape& face) {
-  Corners corners(face.points.begin(), face.points.begin() + (face.hasFourth ? 4 : 3));
+  if (!face.isGiven[0] || !face.isGiven[1] || !face.isGiven[2]) return {};
+  Corners corners(face.points.begin(), face.points.begin() + (face.isGiven[3] ? 4 : 3));
   return {corners};
+}
+
+// The corners that a face of a polyface mesh names by their numbers, from 1; a negative number hides the edge
+// behind it, 0 is none. Empty when a number is not that of a vertex: what the face would be cannot be known.
+Corners CornersOfMeshFace(const Shape& face, const Corners& vertices) {
+  const auto count = static_cast<std::int64_t>(vertices.size());
+  Corners corners;
+  for (const std::int64_t number : face.count) {
+    if (number == 0) continue;
+    if (number < -count || number > count) return {};
+    corners.push_back(vertices[static_cast<std::size_t>(std::abs(number)) - 1]);
+  }
+  return corners;
 }
 
 std::vector<Corners> FacesOfPolyface(const std::vector<Shape>& shapes) {
@@ -83,12 +97,7 @@ std::vector<Corners> FacesOfPolyface(const std::vector<Shape>& shapes) {
       vertices.push_back(vertex.points[0]);
       continue;
     }
-    Corners corners;
-    for (const std::int64_t index : vertex.count) {  // from 1; negative: the edge behind it is hidden
-      const auto place = static_cast<std::size_t>(std::abs(index));
-      if (place >= 1 && place <= vertices.size()) corners.push_back(vertices[place - 1]);
-    }
-    faces.push_back(corners);
+    faces.push_back(CornersOfMeshFace(vertex, vertices));
   }
   return faces;
 }
