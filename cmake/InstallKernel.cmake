@@ -29,6 +29,7 @@ endfunction()
 brevanta_link_closure(libraries geometry lttools xsort)
 foreach(library IN LISTS libraries)
   target_include_directories(${library} PUBLIC $<INSTALL_INTERFACE:${headers}>)
+  target_compile_features(${library} PUBLIC cxx_std_17)
 endforeach()
 
 install(TARGETS ${libraries} EXPORT BrevantaKernelTargets
