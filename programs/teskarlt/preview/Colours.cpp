@@ -79,9 +79,11 @@ Colour Ink(const Colour& colour) {
 }
 
 Colour Paint(const Colour& colour) {
-  constexpr Colour plaster = {226, 220, 210};
-  constexpr double share = 0.45;
-  return Mixed(colour, plaster, share);
+  constexpr Colour plaster = {238, 232, 222};
+  constexpr double greyer = 0.4;
+  constexpr double share = 0.35;
+  const std::uint8_t luma = Channel(Luma(colour));
+  return Mixed(Mixed(colour, {luma, luma, luma}, greyer), plaster, share);
 }
 
 Colour EdgeInk(const Colour& colour) {

@@ -24,7 +24,6 @@ constexpr int FLOATS = 5126;  // component type of an accessor
 constexpr int VERTICES = 34962;
 constexpr int LINES = 1;
 constexpr int TRIANGLES = 4;
-constexpr Colour GLASS = {150, 190, 215};
 
 void PutNumber(std::string& to, std::uint32_t value) {
   for (int shift = 0; shift < 32; shift += 8)
@@ -91,12 +90,12 @@ class Writer {
 
   static void AddSurface(const Surface& surface, std::map<Material, std::vector<Vec3>>& layer) {
     const Kind kind = surface.isGlass ? Kind::Glass : Kind::Surface;
-    std::vector<Vec3>& triangles = layer[MaterialOf(kind, surface.isGlass ? GLASS : Paint(surface.colour))];
+    std::vector<Vec3>& triangles = layer[MaterialOf(kind, PaintOf(surface))];
     for (const std::size_t index : Triangles(surface.corners))
       triangles.push_back(surface.corners[index]);
     std::vector<Vec3>& edges = layer[MaterialOf(Kind::Edge, EdgeInk(surface.colour))];
     for (std::size_t k = 0; k < surface.corners.size(); ++k) {
-      if (k >= 32 || (surface.hiddenEdges >> k & 1U) == 0)
+      if (k >= HIDDEN_EDGE_BITS || (surface.hiddenEdges >> k & 1U) == 0)
         AddLine(surface.corners[k], surface.corners[(k + 1) % surface.corners.size()], edges);
     }
   }

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+#include "teskarlt/preview/VisibleLines.h"
+
 namespace teskarlt::preview {
 
 namespace {
@@ -15,9 +17,7 @@ constexpr int BAND = 32;            // rows of pixels that are held at a time
 constexpr double MARGIN = 0.04;     // of the picture's width
 constexpr double TALLEST = 1.5;     // height of the picture against its width
 constexpr double EDGE_WIDTH = 1.1;  // pixels
-constexpr double PULL = 1.5;        // of a line towards the viewer, in pixels
 constexpr Colour GROUND = {250, 249, 246};
-constexpr Colour GLASS = {150, 190, 215};
 
 // In samples, y downwards, z towards the viewer.
 struct Triangle {
@@ -123,16 +123,19 @@ class Renderer {
     left_ = (options.width - frame_.Width() * scale) / 2 * SAMPLES;
     top_ = margin * SAMPLES;
     depth_ = view_.Project(scene.box.Centre()).z;
+    const Vec3& low = scene.box.low;
+    const Vec3& high = scene.box.high;
+    pull_ = (high.x - low.x + high.y - low.y + high.z - low.z) * scale_;
   }
 
   Picture Run() {
     for (const Surface& surface : scene_.surfaces)
       AddSurface(surface);
-    for (const Curve& curve : scene_.curves) {
-      for (const std::vector<Vec3>& dash : Dashes(curve.points, scene_.patterns[curve.pattern])) {
-        for (std::size_t i = 1; i < dash.size(); ++i)
-          AddLine(At(dash[i - 1]), At(dash[i]), Ink(curve.colour));
-      }
+    for (const VisibleLine& line : VisibleLines(scene_, view_, frame_)) {
+      const Colour colour = line.isEdge ? EdgeInk(line.colour) : Ink(line.colour);
+      for (const std::vector<Vec3>& dash :
+           Dashes({line.a, line.b}, scene_.patterns[line.pattern], line.offset))
+        AddLine(InSamples(dash.front()), InSamples(dash.back()), colour);
     }
     picture_.bytes.resize(static_cast<std::size_t>(picture_.width) *
                           static_cast<std::size_t>(picture_.height) * 3);
@@ -142,33 +145,30 @@ class Renderer {
   }
 
  private:
-  Vec3 At(const Vec3& point) const {
-    const Vec3 p = view_.Project(point);
+  Vec3 InSamples(const Vec3& p) const {
     return {left_ + (p.x - frame_.left) * scale_, top_ + (frame_.top - p.y) * scale_,
             (p.z - depth_) * scale_};
   }
 
+  Vec3 At(const Vec3& point) const { return InSamples(view_.Project(point)); }
+
   void AddSurface(const Surface& surface) {
     const std::vector<Vec3>& corners = surface.corners;
-    const Colour paint = surface.isGlass ? GLASS : Paint(surface.colour);
-    const Colour colour = Lit(paint, Brightness(view_, NormalOf(corners)));
+    const Colour colour = Lit(PaintOf(surface), Brightness(view_, NormalOf(corners)));
     const std::vector<std::size_t> indices = Triangles(corners);
     for (std::size_t i = 0; i < indices.size(); i += 3)
       Add({{At(corners[indices[i]]), At(corners[indices[i + 1]]), At(corners[indices[i + 2]])}, colour});
-    for (std::size_t k = 0; k < corners.size(); ++k) {
-      if (k < 32 && (surface.hiddenEdges >> k & 1U) != 0) continue;
-      AddLine(At(corners[k]), At(corners[(k + 1) % corners.size()]), EdgeInk(surface.colour));
-    }
   }
 
-  // A line is a narrow strip, a little nearer to the viewer than the surfaces that it bounds.
+  // A visible line is a narrow strip, so much nearer to the viewer than the surfaces that it bounds that
+  // none of them cuts it.
   void AddLine(Vec3 a, Vec3 b, const Colour& colour) {
     constexpr double half = EDGE_WIDTH * SAMPLES / 2;
     const double length = std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y));
     const double alongX = length > 0 ? (b.x - a.x) / length * half : half;
     const double alongY = length > 0 ? (b.y - a.y) / length * half : 0;
-    a.z += PULL * SAMPLES;
-    b.z += PULL * SAMPLES;
+    a.z += pull_;
+    b.z += pull_;
     // Ends stand out by half of the width, so that corners are closed.
     const Vec3 p = {a.x - alongX, a.y - alongY, a.z};
     const Vec3 q = {b.x + alongX, b.y + alongY, b.z};
@@ -208,6 +208,7 @@ class Renderer {
   double left_ = 0;
   double top_ = 0;
   double depth_ = 0;
+  double pull_ = 0;
   std::vector<Triangle> triangles_;
   Picture picture_;
 };

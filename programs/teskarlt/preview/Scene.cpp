@@ -102,7 +102,13 @@ std::vector<std::size_t> Triangles(const std::vector<Vec3>& corners) {
   return EarCutter(corners, normal).Run();
 }
 
-std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern) {
+Colour PaintOf(const Surface& surface) {
+  constexpr Colour glass = {150, 190, 215};
+  return surface.isGlass ? glass : Paint(surface.colour);
+}
+
+std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern,
+                                      double offset) {
   constexpr double mostRepeats = 500;
   double period = 0;
   for (const double length : pattern)
@@ -118,6 +124,12 @@ std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const Das
   std::size_t element = 0;  // even ones are dashes
   double left = pattern[0];
   std::vector<Vec3> dash{points[0]};
+  for (double used = std::fmod(offset, period); used > 0;) {
+    const double step = std::min(used, left);
+    used -= step;
+    left -= step;
+    if (used > 0) left = pattern[element = (element + 1) % pattern.size()];
+  }
   const auto nextElement = [&](const Vec3& at) {
     if (element % 2 == 0) dashes.push_back(std::move(dash));
     element = (element + 1) % pattern.size();

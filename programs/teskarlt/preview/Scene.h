@@ -30,6 +30,8 @@ struct Box {
 
 constexpr int NO_WINDOW = -1;
 
+constexpr std::size_t HIDDEN_EDGE_BITS = 32;
+
 // A flat piece of an entity. Coordinates are those of the drawing.
 struct Surface {
   std::vector<Vec3> corners;      // 3 or more, in order around it
@@ -85,7 +87,12 @@ std::vector<std::size_t> Triangles(const std::vector<Vec3>& corners);
 // Unit normal of the corners' polygon; (0, 0, 0) when it has no area.
 Vec3 NormalOf(const std::vector<Vec3>& corners);
 
-// The dashes of a line: the line itself when it is unbroken, or when so many dashes would not be told apart.
-std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern);
+// The colour of a surface in pictures and models.
+Colour PaintOf(const Surface& surface);
+
+// The dashes of a line whose pattern is used up to the length `offset` at its first point: the line itself
+// when it is unbroken, or when so many dashes would not be told apart.
+std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern,
+                                      double offset = 0);
 
 }  // namespace teskarlt::preview

@@ -6,8 +6,8 @@
 
 #include <fmt/format.h>
 
-#include "teskarlt/preview/HiddenLines.h"
 #include "teskarlt/preview/PaintOrder.h"
+#include "teskarlt/preview/VisibleLines.h"
 
 namespace teskarlt::preview {
 
@@ -58,14 +58,6 @@ double RoundLength(double most) {
   return step * 5 <= most ? step * 5 : step * 2 <= most ? step * 2 : step;
 }
 
-struct Line {
-  Vec3 a;
-  Vec3 b;
-  Colour colour;
-  std::size_t pattern = 0;
-  double offset = 0;  // of the pattern at a
-};
-
 class Writer {
  public:
   Writer(const Scene& scene, const PictureOptions& options)
@@ -112,10 +104,9 @@ class Writer {
   void Head();
   void Surfaces();
   void Layers();
-  void LayerLines(const std::vector<Line>& lines, const SceneLayer& layer);
-  void AddVisible(const Vec3& a, const Vec3& b, Line line, bool isAlwaysVisible, std::vector<Line>& lines);
+  void LayerLines(const std::vector<VisibleLine>& lines, const SceneLayer& layer);
   bool IsOutside(const Vec3& a, const Vec3& b) const;
-  std::string DashText(const Line& line) const;
+  std::string DashText(const VisibleLine& line) const;
   void Numbers();
   void Footer();
   void ScaleBar(double y);
@@ -127,7 +118,6 @@ class Writer {
   double scale_ = 1;  // pixels a drawing unit
   double height_ = 0;
   double left_ = 0;
-  HiddenLines hidden_{scene_, view_};
   std::string text_;
 };
 
@@ -151,8 +141,7 @@ bool Writer::IsOutside(const Vec3& a, const Vec3& b) const {
 }
 
 void Writer::Surfaces() {
-  constexpr Colour glass = {150, 190, 215};
-  constexpr double wash = 0.5;  // share of white
+  constexpr double wash = 0.6;  // share of white
   Put("<g id=\"surfaces\" stroke-width=\"0.6\">\n");
   for (const std::size_t index : PaintOrder(scene_, view_)) {
     const Surface& surface = scene_.surfaces[index];
@@ -163,8 +152,7 @@ void Writer::Surfaces() {
       path += (path.empty() ? "M" : "L") + At(view_.Project(corner));
     }
     if (IsOutside(box.low, box.high)) continue;
-    const Colour paint =
-        Lit(surface.isGlass ? glass : Paint(surface.colour), Brightness(view_, NormalOf(surface.corners)));
+    const Colour paint = Lit(PaintOf(surface), Brightness(view_, NormalOf(surface.corners)));
     const auto washed = [&](std::uint8_t channel) {
       return static_cast<std::uint8_t>(channel + (255 - channel) * wash);
     };
@@ -174,44 +162,12 @@ void Writer::Surfaces() {
   Put("</g>\n");
 }
 
-// Adds the visible parts of the line from a to b (projected).
-void Writer::AddVisible(const Vec3& a, const Vec3& b, Line line, bool isAlwaysVisible,
-                        std::vector<Line>& lines) {
-  if (IsOutside(a, b)) return;
-  const double length = std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y));
-  std::vector<std::pair<double, double>> parts{{0, 1}};
-  if (!isAlwaysVisible) parts = hidden_.Visible(a, b);
-  const auto point = [&](double t) {
-    return Vec3{a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t, a.z + (b.z - a.z) * t};
-  };
-  for (const auto& [from, to] : parts) {
-    if ((to - from) * length * scale_ < SHORTEST_LINE) continue;
-    Line part = line;
-    part.a = point(from);
-    part.b = point(to);
-    part.offset += from * length;
-    lines.push_back(part);
-  }
-}
-
 void Writer::Layers() {
-  std::vector<std::vector<Line>> lines(scene_.layers.size());
-  for (const Surface& surface : scene_.surfaces) {
-    for (std::size_t k = 0; k < surface.corners.size(); ++k) {
-      if (k < 32 && (surface.hiddenEdges >> k & 1U) != 0) continue;
-      const Vec3& next = surface.corners[(k + 1) % surface.corners.size()];
-      AddVisible(view_.Project(surface.corners[k]), view_.Project(next), {{}, {}, surface.colour, 0, 0},
-                 false, lines[surface.layer]);
-    }
-  }
-  for (const Curve& curve : scene_.curves) {
-    double offset = 0;
-    for (std::size_t i = 1; i < curve.points.size(); ++i) {
-      const Vec3 a = view_.Project(curve.points[i - 1]);
-      const Vec3 b = view_.Project(curve.points[i]);
-      AddVisible(a, b, {{}, {}, curve.colour, curve.pattern, offset}, view_.IsPlan(), lines[curve.layer]);
-      offset += std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y));
-    }
+  std::vector<std::vector<VisibleLine>> lines(scene_.layers.size());
+  for (const VisibleLine& line : VisibleLines(scene_, view_, frame_)) {
+    const double length = std::sqrt((line.b.x - line.a.x) * (line.b.x - line.a.x) +
+                                    (line.b.y - line.a.y) * (line.b.y - line.a.y));
+    if (length * scale_ >= SHORTEST_LINE) lines[line.layer].push_back(line);
   }
   for (std::size_t layer = 0; layer < lines.size(); ++layer) {
     Put("<g id=\"layer-{}\" inkscape:groupmode=\"layer\" inkscape:label=\"{}\"", layer,
@@ -223,7 +179,7 @@ void Writer::Layers() {
 }
 
 // stroke-dasharray and its offset; empty for a line that shows no dashes at this scale.
-std::string Writer::DashText(const Line& line) const {
+std::string Writer::DashText(const VisibleLine& line) const {
   const DashPattern& pattern = scene_.patterns[line.pattern];
   double period = 0;
   std::string lengths;
@@ -239,10 +195,10 @@ std::string Writer::DashText(const Line& line) const {
 }
 
 // One path for neighbouring lines of the same look.
-void Writer::LayerLines(const std::vector<Line>& lines, const SceneLayer& layer) {
+void Writer::LayerLines(const std::vector<VisibleLine>& lines, const SceneLayer& layer) {
   std::string path;
   std::string end;
-  const Line* last = nullptr;
+  const VisibleLine* last = nullptr;
   const auto close = [&] {
     if (last == nullptr) return;
     const std::string colour =
@@ -251,7 +207,7 @@ void Writer::LayerLines(const std::vector<Line>& lines, const SceneLayer& layer)
     path.clear();
     end.clear();
   };
-  for (const Line& line : lines) {
+  for (const VisibleLine& line : lines) {
     const bool joins =
         last != nullptr && last->colour == line.colour && last->pattern == 0 && line.pattern == 0;
     if (!joins) close();

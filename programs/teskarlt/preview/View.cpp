@@ -51,9 +51,9 @@ const View* FindView(std::string_view name) {
 double Brightness(const View& view, const Vec3& normal) {
   constexpr Vec3 key = {-0.42, 0.68, 0.6};
   constexpr Vec3 fill = {0.8, 0.1, 0.59};
-  constexpr double ambient = 0.46;
-  constexpr double keyStrength = 0.54;
-  constexpr double fillStrength = 0.16;
+  constexpr double ambient = 0.62;
+  constexpr double keyStrength = 0.42;
+  constexpr double fillStrength = 0.1;
   Vec3 n = view.Project(normal);
   if (n.z < 0) n = {-n.x, -n.y, -n.z};
   return ambient + keyStrength * std::max(0.0, geometry::VecDot(n, key)) +
