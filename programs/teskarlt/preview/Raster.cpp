@@ -17,7 +17,7 @@ constexpr int BAND = 32;            // rows of pixels that are held at a time
 constexpr double MARGIN = 0.04;     // of the picture's width
 constexpr double TALLEST = 1.5;     // height of the picture against its width
 constexpr double EDGE_WIDTH = 1.1;  // pixels
-constexpr Colour GROUND = {250, 249, 246};
+constexpr Colour GROUND = {236, 239, 241};
 
 // In samples, y downwards, z towards the viewer.
 struct Triangle {

@@ -231,14 +231,18 @@ void Reader::AddCurve(CurvePoints points, const Record& record, const Look& look
   scene_.curves.push_back(std::move(curve));
 }
 
+// An INSERT, or a DIMENSION, whose block is drawn where it stands.
 void Reader::ReadInsert(const Record& insert, const Look& look, const Placement& placement) {
   const auto found = blocks_.find(dxf::FoldedName(insert.Text(dxf::CODE_NAME)));
   if (found == blocks_.end()) {
-    ++scene_.leftOut["INSERT of a missing block"];
+    ++scene_.leftOut[fmt::format("{} of a missing block", insert.Type())];
     return;
   }
   if (placement.depth == MOST_NESTED) drawing_.Source().Fail("holds blocks in blocks without an end");
-  for (const Matrix4& matrix : InsertMatrices(insert, found->second.base)) {
+  Matrix4 where{};
+  geometry::MatIdentity(where);
+  const bool isInsert = dxf::SameName(insert.Type(), "INSERT");
+  for (const Matrix4& matrix : isInsert ? InsertMatrices(insert, found->second.base) : std::vector{where}) {
     Placement inside = placement;
     inside.matrix = matrix;
     if (placement.isBlock) geometry::MatMultiply(placement.matrix, matrix, inside.matrix);
@@ -257,7 +261,7 @@ void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
   const Look look = LookOf(own, placement);
   const auto is = [&](std::string_view type) { return dxf::SameName(entity.type, type); };
   if (own.Integer(CODE_INVISIBLE) != 0 || !styles_.Layer(look.layer).isVisible) return;
-  if (is("INSERT")) {
+  if (is("INSERT") || is("DIMENSION")) {
     ReadInsert(own, look, placement);
     return;
   }

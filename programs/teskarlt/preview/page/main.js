@@ -123,7 +123,8 @@ class Viewer {
 
   showAll(direction, isAtOnce) {
     const { center, radius } = this.sphere;
-    this.moveTo(center, this.place(center, new Vector3(...direction), radius * 0.88), isAtOnce);
+    const fit = this.camera.aspect < 1 ? 1 : 0.88; // a house is not as high as the ball around it
+    this.moveTo(center, this.place(center, new Vector3(...direction), radius * fit), isAtOnce);
   }
 
   showWindow({ middle, size, facing }, isAtOnce) {
