@@ -138,9 +138,10 @@ std::string CodePage::FromUtf8(std::string_view utf8) const {
     const auto character = NextCharacter(utf8, at);
     if (!character) throw CodePageError("the text is not UTF-8");
     const auto found = tables_->bytesOf.find(*character);
-    if (found == tables_->bytesOf.end())
+    if (found == tables_->bytesOf.end()) {
       throw CodePageError("the character " + CharacterName(*character) + " does not exist in code page " +
                           std::to_string(tables_->number));
+    }
     if (found->second >= BYTE_VALUES) bytes += static_cast<char>(found->second / BYTE_VALUES);
     bytes += static_cast<char>(found->second % BYTE_VALUES);
   }

@@ -46,7 +46,7 @@ int LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
 // FreeLibrary.
 HMODULE AfxLoadLibrary(LPCSTR name);
 
-// Why the last AfxLoadLibrary failed, in the system's words.
+// Why the last AfxLoadLibrary failed, in the system's words, UTF-8.
 std::string ModuleLoadError();
 
 // The module's export `name` as the function that it is; null when there is none.

@@ -5,6 +5,7 @@ import argparse
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -15,6 +16,7 @@ import wine
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build"
 RESULTS = BUILD / "results"
+TEST_TIME_LIMIT = 600  # seconds for one test program
 PYTEST = ["/usr/bin/python3", "-m", "pytest", "-q", "-p", "no:cacheprovider"]
 SANITIZER_OPTIONS = {"ASAN_OPTIONS": "detect_leaks=1:detect_stack_use_after_return=1",
                      "UBSAN_OPTIONS": "print_stacktrace=1"}
@@ -66,8 +68,9 @@ def unit_tests(preset, results):
     shutil.rmtree(made, ignore_errors=True)
     made.mkdir()
     (folder / "ctest.xml").unlink(missing_ok=True)
-    done = subprocess.run(["ctest", "--test-dir", folder, "--output-on-failure", "--no-tests=error", "-j",
-                           str(os.cpu_count()), "--output-junit", folder / "ctest.xml"], env=environment(preset),
+    done = subprocess.run(["ctest", "--test-dir", folder, "--output-on-failure", "--no-tests=error",
+                           "--timeout", str(TEST_TIME_LIMIT), "-j", str(os.cpu_count()),
+                           "--output-junit", folder / "ctest.xml"], env=environment(preset),
                           stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     if done.returncode != 0:
         say(done.stdout.decode(errors="replace"))
@@ -142,6 +145,7 @@ def main():
     if given.list:
         print("\n".join(SUITES))
         return 0
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped"))  # by way of what ends Wine's server
     chosen = given.suites or (QUICK if given.quick else list(SUITES))
     shutil.rmtree(RESULTS, ignore_errors=True)
     try:

@@ -3,7 +3,10 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstdint>
 #include <cstring>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -60,6 +63,28 @@ HMODULE WithoutReference(void* handle) {
   return handle;
 }
 
+// The file that is mapped at the address; empty when there is none.
+std::string MappedFile(std::uintptr_t address) {
+  std::ifstream maps("/proc/self/maps");
+  for (std::string line; std::getline(maps, line);) {
+    std::uintptr_t from = 0;
+    std::uintptr_t to = 0;
+    char dash = 0;
+    std::istringstream(line) >> std::hex >> from >> dash >> to;
+    const auto path = line.find('/');
+    if (from <= address && address < to && path != std::string::npos) return line.substr(path);
+  }
+  return {};
+}
+
+// The loader keeps the name by which a module was loaded; a relative one says little once the folder changes.
+std::string ModulePath(HMODULE module) {
+  link_map* map = nullptr;
+  if (dlinfo(module, RTLD_DI_LINKMAP, static_cast<void*>(&map)) != 0) return {};
+  const std::string name = map->l_name;
+  return name.empty() || name.front() == '/' ? name : MappedFile(reinterpret_cast<std::uintptr_t>(map->l_ld));
+}
+
 HMODULE ProgramHandle() {
   return WithoutReference(dlopen(nullptr, RTLD_LAZY));
 }
@@ -75,13 +100,8 @@ HMODULE GetModuleHandleA(LPCSTR name) {
 
 DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size) {
   if (size == 0) return 0;
-  std::string path;
-  if (module == nullptr || module == ProgramHandle()) {
-    path = ProgramPath();
-  } else {
-    link_map* map = nullptr;
-    if (dlinfo(module, RTLD_DI_LINKMAP, static_cast<void*>(&map)) == 0) path = map->l_name;
-  }
+  const std::string path =
+      module == nullptr || module == ProgramHandle() ? ProgramPath() : ModulePath(module);
   const std::size_t length = std::min<std::size_t>(path.size(), size - 1);
   std::memcpy(buffer, path.data(), length);
   buffer[length] = '\0';

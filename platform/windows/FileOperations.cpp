@@ -5,27 +5,13 @@
 
 #include <algorithm>
 
+#include "platform/windows/WideText.h"
+
 namespace platform {
 namespace {
 
 constexpr DWORD LARGEST_TRANSFER = DWORD{1} << 30;
 constexpr DWORD LONGEST_PATH = 32768;
-
-std::wstring Wide(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');  // never more units than bytes
-  wide.resize(static_cast<std::size_t>(
-      MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), static_cast<int>(wide.size()))));
-  return wide;
-}
-
-std::string Narrow(const wchar_t* wide, std::size_t length) {
-  const int size = static_cast<int>(length);
-  std::string text(length * 3, '\0');  // never more bytes than three a unit
-  text.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, wide, size, text.data(),
-                                                           static_cast<int>(text.size()), nullptr, nullptr)));
-  return text;
-}
 
 HANDLE Handle(FileHandle file) {
   return reinterpret_cast<HANDLE>(file);
@@ -41,7 +27,7 @@ bool IsMissing(DWORD error) {
 
 int Open(const std::string& path, DWORD access, DWORD share, DWORD disposition, FileHandle& file) {
   const HANDLE handle =
-      CreateFileW(Wide(path).c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+      CreateFileW(ToWide(path).c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
   file = reinterpret_cast<FileHandle>(handle);
   return Result(handle != INVALID_HANDLE_VALUE);
 }
@@ -80,18 +66,18 @@ int Close(FileHandle file) {
 }
 
 int Replace(const std::string& from, const std::string& to) {
-  const std::wstring source = Wide(from);
-  const std::wstring target = Wide(to);
-  // ReplaceFile keeps the old file's access rights and attributes, but needs an old file.
-  if (GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES)
-    return Result(ReplaceFileW(target.c_str(), source.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS,
-                               nullptr, nullptr));
+  const std::wstring source = ToWide(from);
+  const std::wstring target = ToWide(to);
+  // ReplaceFile keeps the old file's access rights, but needs an old file and a file system that can do it.
+  if (ReplaceFileW(target.c_str(), source.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                   nullptr) != 0)
+    return 0;
   return Result(
       MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
 }
 
 int Remove(const std::string& path) {
-  return Result(DeleteFileW(Wide(path).c_str()));
+  return Result(DeleteFileW(ToWide(path).c_str()));
 }
 
 std::int64_t Joined(DWORD high, DWORD low) {
@@ -101,7 +87,7 @@ std::int64_t Joined(DWORD high, DWORD low) {
 int Stat(const std::string& path, FileState& state) {
   state = {};
   WIN32_FILE_ATTRIBUTE_DATA found{};
-  if (GetFileAttributesExW(Wide(path).c_str(), GetFileExInfoStandard, &found) == 0) {
+  if (GetFileAttributesExW(ToWide(path).c_str(), GetFileExInfoStandard, &found) == 0) {
     const DWORD error = GetLastError();
     return IsMissing(error) ? 0 : static_cast<int>(error);
   }
@@ -115,7 +101,7 @@ int Stat(const std::string& path, FileState& state) {
 
 int LinkTarget(const std::string& path, std::string& target) {
   target = path;
-  const std::wstring wide = Wide(path);
+  const std::wstring wide = ToWide(path);
   const DWORD attributes = GetFileAttributesW(wide.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return 0;
   const HANDLE file = CreateFileW(wide.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
@@ -125,7 +111,7 @@ int LinkTarget(const std::string& path, std::string& target) {
   const DWORD length = GetFinalPathNameByHandleW(file, found.data(), LONGEST_PATH, FILE_NAME_NORMALIZED);
   const int error = Result(length != 0);
   CloseHandle(file);
-  if (error == 0) target = Narrow(found.data(), std::min(length, LONGEST_PATH));
+  if (error == 0) target = ToNarrow(found.data(), std::min(length, LONGEST_PATH));
   return error;
 }
 
@@ -144,7 +130,7 @@ std::string SystemReason(int error) {
                                 static_cast<DWORD>(error), 0, text, sizeof text / sizeof *text, nullptr);
   while (length > 0 && (text[length - 1] <= L' ' || text[length - 1] == L'.'))
     --length;
-  return length > 0 ? Narrow(text, length) : "system error " + std::to_string(error);
+  return length > 0 ? ToNarrow(text, length) : "system error " + std::to_string(error);
 }
 
 }  // namespace platform

@@ -3,18 +3,18 @@
 
 #include <windows.h>
 
+#include <cwchar>
+
 #include <shellapi.h>
+
+#include "platform/windows/WideText.h"
 
 std::vector<std::string> ProgramArguments(int /*argc*/, char** /*argv*/) {
   std::vector<std::string> arguments;
   int count = 0;
   wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &count);
   for (int i = 1; i < count; ++i) {
-    const int size = WideCharToMultiByte(CP_UTF8, 0, wide[i], -1, nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide[i], -1, text.data(), size, nullptr, nullptr);
-    text.resize(static_cast<std::size_t>(size) - 1);
-    arguments.push_back(text);
+    arguments.push_back(platform::ToNarrow(wide[i], std::wcslen(wide[i])));
   }
   LocalFree(wide);
   return arguments;

@@ -6,7 +6,8 @@ import pytest
 from sources import ROOT
 
 # What each file exports, on Linux and on Windows. The resources of a Windows module are no exports.
-MODULE_EXPORTS = {"BREVANTA.CRX": {"Brevanta", "EditBrevanta"}, "BREVANTA_D.CRX": {"Dialog", "EraseWindow"}}
+MODULE_EXPORTS = {"BREVANTA.CRX": {"Brevanta", "EditBrevanta", "mergeLibraryFiles"},
+                  "BREVANTA_D.CRX": {"Dialog", "EraseWindow"}}
 HOST_EXPORTS = {"GetExport2D", "GetDialogServices"}
 ON_LINUX = {**MODULE_EXPORTS, "Brevanta_d.tkr": {"TeskarStringTable"}, "teskarlt": HOST_EXPORTS}
 ON_WINDOWS = {**MODULE_EXPORTS, "Brevanta_d.tkr": set(), "TESKARLT.EXE": HOST_EXPORTS}

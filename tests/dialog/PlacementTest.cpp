@@ -105,6 +105,22 @@ TEST_F(PlacementTest, WindowAcrossTwoTrianglesOfOneRoofFits) {
   EXPECT_EQ(host.RunDialog(), 1) << host.refusal;
 }
 
+TEST_F(PlacementTest, RoofDrawnTwiceIsNoLargerThanOne) {
+  host.faces = {SimpleRoof(35), SimpleRoof(35)};
+  host.point = {0, 2000};  // half of the window lies beside the roof
+  EXPECT_EQ(host.RunDialog(), 0);
+  EXPECT_EQ(
+      host.refusal,
+      "the window would leave the roof face: 50 % of its area lies outside; move it or make it smaller");
+}
+
+TEST_F(PlacementTest, OffsetBeyondAllNumbersIsRefusedInWords) {
+  host.answers["pickOffset"] = "1e308";
+  EXPECT_EQ(host.RunDialog(), 0);
+  EXPECT_EQ(host.refusal,
+            "the window would lie farther away than numbers reach; check its sizes and offsets");
+}
+
 TEST_F(PlacementTest, ThreePointsBoundNothing) {
   host.isBounded = false;
   host.point = {-50000, -50000};

@@ -61,25 +61,3 @@ def first_difference(expected, actual):
         if left != right:
             return f"line {index}: expected {left!r}, got {right!r}"
     return f"one is the other's beginning: {len(expected)} bytes expected, {len(actual)} found"
-
-
-# The description of a window in the order of its items, after the application's name; points are (x, y, z).
-DESCRIPTION = ("version", "length", "width", "frameWidth", "text1", "text3", "openingCode", "drawOpeningSymbol", "frameDepth",
-               "lowerEdgeHeight", "heightReference", "widthAnchor", "roofBuildUp", "storedPoint", "insertionPoint",
-               "rotation", "rotation2", "layerThickness", "pitch", "secondPlanePoint0", "roofPlanePoint0",
-               "secondPlanePoint1", "roofPlanePoint1", "secondPlanePoint2", "roofPlanePoint2", "text2")
-
-
-def windows(path):
-    """The windows of a drawing by number: a list of their entities, and the description that all of these carry."""
-    found = {}
-    for entity in audited(path).modelspace():
-        if not entity.has_xdata("TK_LT_ELEM"):
-            continue
-        (_, _), (_, kind), (_, number) = entity.get_xdata("TK_LT_ELEM")
-        values = [value for _, value in entity.get_xdata("TK_LT_DESC")][1:]
-        assert kind == "TKBRVA" and len(values) == len(DESCRIPTION)
-        entities, description = found.setdefault(number, ([], dict(zip(DESCRIPTION, values))))
-        assert description == dict(zip(DESCRIPTION, values)), f"entities of window {number} differ in their description"
-        entities.append(entity)
-    return found

@@ -1,7 +1,9 @@
 # test_bad_input.py - bad input gets one clear sentence and a status, and loses nothing.
+import json
 import os
 import shutil
 import stat
+import subprocess
 
 import pytest
 from roofs import Roof
@@ -67,7 +69,11 @@ def test_damaged_drawing(teskarlt, tmp_path, damage):
     ([*INSERT, "--set", "frameDepth=nan"], ["frameDepth", "nan"]),
     ([*INSERT, "--set", "frameWidth=0.5"], ["frameWidth", "0.47", "not 0.5"]),
     ([*INSERT, "--set", "colour=red"], ["colour=red", "no such field"]),
-    ([*INSERT, "--set", "width"], ["--set width"]),
+    ([*INSERT, "--set", "width"], ["--set width", "FIELD=VALUE"]),
+    ([*INSERT, "--set", "pickOffset=1e308"], ["farther away than numbers reach"]),
+    ([*INSERT, "--roof-face", "100", "--set", "roofPlanePoints=0,0,0;1,0,0;0,1,1"], ["roofPlanePoints", "--roof-face"]),
+    ([*INSERT, "--roof", "0,0,0", "1,0,0", "0,1,1", "--set", "roofPlanePoints=0,0,0;1,0,0;0,1,1"],
+     ["roofPlanePoints", "--roof"]),
     ([*INSERT, "--set", "openingCode=XYZ"], ["openingCode", "XYZ"]),
     ([*INSERT, "--set", "openingCode=DDDDDDDDDDD"], ["openingCode", "11", "10"]),
     ([*INSERT, "--set", "text1=" + "x" * 200], ["text1", "200", "199"]),
@@ -101,7 +107,7 @@ def test_drawing_without_a_unit(teskarlt, tmp_path, house):
 
 
 @pytest.mark.parametrize("arguments", [(), ("insert",), ("fly", "house.dxf"), ("insert", "house.dxf", "--wings"),
-                                       ("insert", "a.dxf", "b.dxf"), ("new", "x.dxf", "--dxf-version", "R99")], ids=str)
+                                       ("insert", "a.dxf", "b.dxf"), ("insert", "a.dxf", "--at", "1,1", "-o", ""), ("new", "x.dxf", "--dxf-version", "R99")], ids=str)
 def test_wrong_usage_has_a_status_of_its_own(teskarlt, arguments, tmp_path):
     answer = teskarlt(*arguments, cwd=tmp_path)
     assert answer.status == 2
@@ -127,6 +133,42 @@ def test_module_that_cannot_be_loaded_is_named_with_its_folder(teskarlt, house, 
     before = house.read_bytes()
     refused(teskarlt("insert", house, *INSERT), "cannot load", missing, "installed")
     assert house.read_bytes() == before
+
+
+@pytest.mark.parametrize("foreign", ["BREVANTA.CRX", "BREVANTA_D.CRX"])
+def test_module_without_its_exports_is_refused(teskarlt, house, tmp_path, foreign):
+    folder = tmp_path / "installed"
+    shutil.copytree(teskarlt.folder, folder)
+    shutil.copy(folder / "Brevanta_d.tkr", folder / foreign)
+    teskarlt.path = folder / teskarlt.path.name
+    refused(teskarlt("insert", house, *INSERT), foreign, "has no export")
+
+
+def test_answer_that_cannot_be_printed_is_a_failure(teskarlt, house):
+    if teskarlt.windows:
+        pytest.skip("there is no full device")
+    done = subprocess.run(["sh", "-c", '"$0" roofs "$1" > /dev/full', teskarlt.path, house], capture_output=True, text=True)
+    assert done.returncode == 1
+    assert done.stderr == "teskarlt: the answer cannot be printed: No space left on device\n"
+
+
+def test_answer_about_a_file_name_that_is_no_utf8(teskarlt, house, tmp_path):
+    if teskarlt.windows:
+        pytest.skip("file names are UTF-16")
+    name = os.fsencode(tmp_path) + b"/\xff.dxf"
+    shutil.copy(house, name)
+    done = subprocess.run([teskarlt.path, "insert", name, *INSERT, "--json"], capture_output=True, text=True)
+    assert done.returncode == 0, done.stderr
+    assert json.loads(done.stdout)["file"].endswith("/\ufffd.dxf")
+
+
+def test_folder_of_the_program_is_named_in_its_own_letters(teskarlt, house, tmp_path):
+    folder = tmp_path / "Müller"
+    shutil.copytree(teskarlt.folder, folder)
+    teskarlt.path = folder / teskarlt.path.name
+    teskarlt.done("insert", house, *INSERT)
+    (folder / "BREVANTA_D.CRX").unlink()
+    refused(teskarlt("insert", house, *INSERT), "Müller", "BREVANTA_D.CRX")
 
 
 def test_program_under_another_name_says_so(teskarlt, house, tmp_path):

@@ -103,6 +103,23 @@ TEST(FindWindows, DescriptionThatIsCutShortIsNotComplete) {
   EXPECT_FALSE(windows[0].isComplete);
 }
 
+TEST(FindWindows, ItemThatIsNoNumberMakesTheDescriptionIncomplete) {
+  const dxf::Document drawing = Drawing("", Line(Element(3) + Description("nan")));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].number, 3);
+  EXPECT_FALSE(windows[0].isComplete);
+}
+
+TEST(FindWindows, NumberOutOfRangeIsNone) {
+  const std::string element = "1001\nTK_LT_ELEM\n1000\nTKBRVA\n1071\n99999999999\n";
+  const dxf::Document drawing = Drawing("", Line(element + Description()));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].number, 0);
+  EXPECT_FALSE(windows[0].isComplete);
+}
+
 TEST(FindWindows, ForeignDataUnderOtherNamesIsNoWindow) {
   const dxf::Document drawing = Drawing("", Line("1001\nOTHER\n1000\nTKBRVA\n1071\n5\n"));
   EXPECT_TRUE(FindWindows(drawing, 1000).empty());

@@ -32,5 +32,11 @@ TEST(ParsePoint, TakesThreeNumbers) {
   EXPECT_THROW(ParsePoint("--roof", "1,2"), Error);
 }
 
+TEST(PlanExtents, FarFromTheOriginEveryUnitIsTold) {
+  RoofFace face;
+  face.corners = {{-743000000, -1043000000.5, 0}, {-742992000, -1042996000, 0}, {-742999000, -1043000000, 0}};
+  EXPECT_EQ(PlanExtents({face}), "x -743000000 to -742992000, y -1043000000.5 to -1042996000");
+}
+
 }  // namespace
 }  // namespace teskarlt

@@ -50,6 +50,11 @@ TEST(FindRoofFaces, MissingFourthCornerMakesATriangle) {
   EXPECT_EQ(faces[0].corners.size(), 3U);
 }
 
+TEST(FindRoofFaces, FaceWithoutOneOfItsFirstCornersIsLeftOut) {
+  const std::string points = Point(10, 0, 1000, 0) + Point(12, 4000, 3000, 3000) + Point(13, 0, 3000, 3000);
+  EXPECT_TRUE(FindRoofFaces(Drawing("", Face("2F", points)), TOLERANCE).empty());
+}
+
 TEST(FindRoofFaces, WallsAndTwistedFacesAreLeftOut) {
   const std::string wall =
       Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 0, 2500) + Point(13, 0, 0, 2500);
@@ -83,6 +88,17 @@ TEST(FindRoofFaces, PolyfaceMeshGivesItsFacesWithNumbers) {
   EXPECT_EQ(faces[0].corners.size(), 4U);
   EXPECT_EQ(faces[1].name, "30/2");
   EXPECT_EQ(faces[1].corners.size(), 3U);
+}
+
+TEST(FindRoofFaces, FaceOfAMeshThatNamesAMissingVertexIsLeftOut) {
+  const std::string vertices = Vertex(192, Point(10, 0, 0, 0)) + Vertex(192, Point(10, 4000, 0, 0)) +
+                               Vertex(192, Point(10, 4000, 3000, 3000));
+  for (const char* number : {"4", "-4", "9223372036854775807", "-9223372036854775808"}) {
+    const std::string mesh = "0\nPOLYLINE\n5\n30\n70\n64\n" + vertices +
+                             Vertex(128, "71\n1\n72\n2\n73\n3\n74\n" + std::string(number) + "\n") +
+                             "0\nSEQEND\n";
+    EXPECT_TRUE(FindRoofFaces(Drawing("", mesh), TOLERANCE).empty()) << number;
+  }
 }
 
 TEST(FindRoofFaces, PolygonMeshGivesItsQuadrilaterals) {

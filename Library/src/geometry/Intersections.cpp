@@ -85,15 +85,15 @@ int LinePlane(const Vec3& p, const Vec3& direction, const Vec3& planePoint, cons
 }
 
 int PlanePlane(const Vec3& p0, const Vec3& n0, const Vec3& p1, const Vec3& n1, Vec3& point, Vec3& direction) {
-  VecCross(n0, n1, direction);
-  if (VecLength(direction) < KernelTolerance) return -1;
-  Vec3 s{};
-  VecCross(n0, direction, s);
+  Vec3 along{};
+  VecCross(n0, n1, along);
+  Vec3 s{};  // in the first plane, across the common line
+  VecCross(n0, along, s);
   double t = 0.0;
-  if (LinePlane(p0, s, p1, n1, t) != INTERSECT_POINT) return -1;
-  VecScale(s, t, s);
-  VecAdd(p0, s, point);
-  return 0;
+  const bool found = !(VecLength(along) < KernelTolerance) && LinePlane(p0, s, p1, n1, t) == INTERSECT_POINT;
+  if (found) point = {p0.x + t * s.x, p0.y + t * s.y, p0.z + t * s.z};
+  direction = along;
+  return found ? 0 : -1;
 }
 
 }  // namespace geometry

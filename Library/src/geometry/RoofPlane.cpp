@@ -1,7 +1,9 @@
 // RoofPlane.cpp - the roof-plane fit, its local frame, and intersections with planes.
 #include "geometry/RoofPlane.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 #include "geometry/Intersections.h"
@@ -12,6 +14,10 @@ namespace geometry {
 RoofPlane roofPlane{};
 
 namespace {
+
+// Three normals, each scaled to a largest component of 1, span at most this volume when they lie in one
+// plane: the rounding of their triple product stays below 18 units of 2^-53.
+constexpr double SINGULAR_VOLUME = 1e-14;
 
 // Two edges from corner `first` on span the normal; true when it reaches the tolerance.
 bool NormalFrom(int first) {
@@ -66,6 +72,19 @@ bool LiesAlongZ(const Vec3& n) {
   return std::abs(n.x) <= KernelTolerance && std::abs(n.y) <= KernelTolerance;
 }
 
+// The normal without its size, which may be anything.
+Vec3 Scaled(const Vec3& n) {
+  const double largest = std::max({std::abs(n.x), std::abs(n.y), std::abs(n.z)});
+  return {n.x / largest, n.y / largest, n.z / largest};
+}
+
+// False when the normals lie in one plane but for rounding, and when one of them is not finite.
+bool Independent(const Vec3& nA, const Vec3& nB, const Vec3& nC) {
+  Vec3 cross{};
+  VecCross(Scaled(nA), Scaled(nB), cross);
+  return std::abs(VecDot(cross, Scaled(nC))) > SINGULAR_VOLUME;
+}
+
 Vec3 AuxiliaryNormal(const Vec3& nA, const Vec3& nB) {
   if (!LiesAlongX(nA) && !LiesAlongX(nB)) return {1, 0, 0};
   if (!LiesAlongY(nA) && !LiesAlongY(nB)) return {0, 1, 0};
@@ -77,16 +96,14 @@ Vec3 AuxiliaryNormal(const Vec3& nA, const Vec3& nB) {
 
 int FitRoofPlane(const Vec3& p1, const Vec3& p2, const Vec3& p3, std::int32_t /*unitFactor*/) {
   RoofPlane& plane = roofPlane;
+  const Vec3 picked[4] = {p1, p2, p3, p3};  // the points may be the last fit's own corners
   plane.isHorizontal = 0;
-  plane.corners[0] = p1;
-  plane.corners[1] = p2;
-  plane.corners[2] = p3;
-  plane.corners[3] = p3;
+  std::copy(std::begin(picked), std::end(picked), plane.corners);
   if (!FindNormal()) return 0;
   VecNormalize(plane.normal, plane.normal);
   if (plane.normal.z < 0.0) VecScale(plane.normal, -1.0, plane.normal);
 
-  SetFrame(SlopeDirection(plane.normal), {p3.x, p3.y, plane.originZ});
+  SetFrame(SlopeDirection(plane.normal), {picked[2].x, picked[2].y, plane.originZ});
   for (int i = 0; i < 3; ++i)
     WorldToRoof(plane.corners[i], plane.localCorners[i]);
   MatTransformVector(plane.worldToLocal, plane.normal, plane.localNormal);
@@ -131,7 +148,7 @@ int IntersectThreePlanes(const Vec3& nA, const Vec3& pA, const Vec3& nB, const V
   double solution[4] = {VecDot(nA, pA), VecDot(nB, pB), VecDot(nC, pC), 0};
   std::int32_t index[4];
   double parity = 0.0;
-  if (LuDecompose(system, index, parity) == 0) return 0;
+  if (LuDecompose(system, index, parity) == 0 || !Independent(nA, nB, nC)) return 0;
   LuSolve(system, index, solution);
   out = {solution[0], solution[1], solution[2]};
   return 1;
@@ -139,9 +156,13 @@ int IntersectThreePlanes(const Vec3& nA, const Vec3& pA, const Vec3& nB, const V
 
 int IntersectTwoPlanes(const Vec3& pA, const Vec3& nA, const Vec3& pB, const Vec3& nB, Vec3& outPoint,
                        Vec3& outDirection) {
-  VecCross(nA, nB, outDirection);
-  if (VecLength(outDirection) < KernelTolerance) return 0;
-  return IntersectThreePlanes(nA, pA, nB, pB, AuxiliaryNormal(nA, nB), {0, 0, 0}, outPoint);
+  Vec3 direction{};
+  VecCross(nA, nB, direction);
+  int found = 0;
+  if (VecLength(direction) >= KernelTolerance)
+    found = IntersectThreePlanes(nA, pA, nB, pB, AuxiliaryNormal(nA, nB), {0, 0, 0}, outPoint);
+  outDirection = direction;
+  return found;
 }
 
 }  // namespace geometry

@@ -13,12 +13,13 @@ namespace geometry {
 // coordinates.
 struct RoofPlane {
   Vec3 corners[4];  // the picked points, world; the fourth repeats the third
-  Vec3
-      localCorners[4];  // the first three, local, ordered along x; the fourth is never computed, only swapped
-  Vec3 normal;          // unit normal, world, z never negative
-  Vec3 localNormal;     // the normal in the local frame: x = 0, y not positive
-  double originZ;       // z of the local origin; always 0
-  std::int32_t isHorizontal;
+  // The picked points, local, ordered along x by two exchanges: the first with the second, the third with the
+  // fourth. The fourth is never computed, only exchanged.
+  Vec3 localCorners[4];
+  Vec3 normal;                // unit normal, world, z never negative
+  Vec3 localNormal;           // the normal in the local frame: x = 0, y not positive
+  double originZ;             // z of the local origin; always 0
+  std::int32_t isHorizontal;  // reset to 0 by each fit
   Matrix4 worldToLocal;
   Matrix4 localToWorld;  // the placement matrix
 };
@@ -27,8 +28,9 @@ struct RoofPlane {
 extern RoofPlane roofPlane;
 
 // Fits the plane through three points in drawing coordinates, in either direction of picking. Gives 1; or 0,
-// with the state partly overwritten, when (p1 - p2) x (p2 - p3) is shorter than the tolerance. `unitFactor`
-// has no effect.
+// with the state partly overwritten (corners and normal), when (p1 - p2) x (p2 - p3) is shorter than the
+// tolerance or not a number. Points so far away that the product overflows give 1 and a frame of NaN.
+// `unitFactor` has no effect.
 int FitRoofPlane(const Vec3& p1, const Vec3& p2, const Vec3& p3, std::int32_t unitFactor);
 
 // The point from the local frame to drawing coordinates and back, by the last fit. `out` may be p.
@@ -49,14 +51,16 @@ constexpr int HIT_BEHIND = 3;  // t is less than minus the tolerance
 // Intersects the line p + t direction, in local coordinates, with the fitted roof.
 int HitRoofPlane(const Vec3& p, const Vec3& direction, Vec3& out);
 
-// The point common to three planes, each given by a normal and a point on it: 1, or 0, with `out` untouched,
-// when a normal is zero. Other singular systems are solved with a tiny pivot (LuDecompose).
+// The point common to three planes, each given by a normal of any length and a point on it: 1, or 0, with
+// `out` untouched, when the normals lie in one plane (their triple product, each normal scaled to a largest
+// component of 1, is at most 1e-14), when one is zero and when one is not finite.
 int IntersectThreePlanes(const Vec3& nA, const Vec3& pA, const Vec3& nB, const Vec3& pB, const Vec3& nC,
                          const Vec3& pC, Vec3& out);
 
-// The line common to two planes, through an auxiliary plane at the world origin: 1 with a point and the
-// direction nA x nB, which is not normalised; 0 when the planes are parallel or no auxiliary plane is found.
-// The direction is written in every case; `outDirection` must be none of the inputs.
+// The line common to two planes: 1 with a point and the direction nA x nB, which is not normalised. The point
+// is where the line meets an auxiliary plane through the world origin: that across x, unless a normal lies
+// along x; then that across y, unless a normal lies along y; else that across z. Gives 0 when the planes are
+// parallel and when the line does not meet the auxiliary plane. The direction is written in every case.
 int IntersectTwoPlanes(const Vec3& pA, const Vec3& nA, const Vec3& pB, const Vec3& nB, Vec3& outPoint,
                        Vec3& outDirection);
 

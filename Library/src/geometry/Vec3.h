@@ -45,7 +45,7 @@ void VecPerpXY(const Vec3& v, int clockwise, Vec3& out);
 // 1 when every coordinate differs by at most the tolerance, else 0.
 int PointsEqual(const Vec3& a, const Vec3& b);
 
-// Exchanges `count` bytes between two buffers that do not overlap.
+// Exchanges `count` bytes between two buffers, from the last byte to the first.
 void SwapBytes(void* a, void* b, std::size_t count);
 
 }  // namespace geometry

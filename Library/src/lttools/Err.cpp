@@ -39,15 +39,12 @@ void SetKindName(std::int32_t kind) {
 }  // namespace
 
 void Err(std::int32_t kind, const char* format, ...) {
-  if (format == nullptr) {
-    Err(ERR_BUG, "Bad pointer in arguments to Err()");
-    format = "";
-  }
+  if (format == nullptr) Err(ERR_BUG, "Bad pointer in arguments to Err()");
   ErrKind = kind;
   SetKindName(kind);
   std::va_list values;
   va_start(values, format);
-  std::vsnprintf(ErrMessage, sizeof ErrMessage, format, values);
+  std::vsnprintf(ErrMessage, sizeof ErrMessage, format != nullptr ? format : "", values);
   va_end(values);
   ErrReport();
 }

@@ -1,13 +1,17 @@
 // CommandLine.cpp - parses the command line and runs the subcommand.
 #include "teskarlt/commands/CommandLine.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <system_error>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include "teskarlt/commands/CatalogueCommand.h"
 #include "teskarlt/commands/InsertCommand.h"
 #include "teskarlt/commands/ListCommand.h"
+#include "teskarlt/commands/MergeCommand.h"
 #include "teskarlt/commands/NewCommand.h"
 #include "teskarlt/commands/PreviewCommand.h"
 #include "teskarlt/commands/RoofsCommand.h"
@@ -41,6 +45,14 @@ void AddCommands(CLI::App& app) {
   AddListCommand(app);
   AddPreviewCommand(app);
   AddNewCommand(app);
+  AddCatalogueCommand(app);
+  AddMergeCommand(app);
+}
+
+// What was printed has to arrive: a full disk shows only when the last of it is written.
+void FinishOutput() {
+  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return;
+  throw std::system_error(errno, std::generic_category(), "the answer cannot be printed");
 }
 
 }  // namespace
@@ -50,6 +62,7 @@ int RunCommandLine(const std::vector<std::string>& arguments) {
   AddCommands(app);
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    FinishOutput();
     return EXIT_DONE;
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? EXIT_DONE : EXIT_USAGE;

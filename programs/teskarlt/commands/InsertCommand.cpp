@@ -9,11 +9,13 @@
 
 #include "inc/RecordFields.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/commands/Numbers.h"
 #include "teskarlt/commands/Report.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/host/DataFolder.h"
 #include "teskarlt/host/WindowModule.h"
 
 namespace teskarlt {
@@ -25,6 +27,8 @@ struct InsertOptions {
   std::string at;
   std::string roofFace;
   std::vector<std::string> roof;
+  std::string window;
+  std::string catalogue;
   std::vector<std::string> settings;
   std::string output;
   std::string units;
@@ -35,9 +39,11 @@ struct InsertOptions {
 // "field=value" into the answers; a text goes from the terminal's UTF-8 to the drawing's code page.
 void TakeSetting(const std::string& setting, const dxf::Document& drawing, WindowRequest& request) {
   const auto equals = setting.find('=');
+  if (equals == std::string::npos)
+    throw Error(fmt::format("--set {}: a setting is FIELD=VALUE, as in --set width=0.94", setting));
   const std::string name = setting.substr(0, equals);
   const brevanta::RecordField* field = brevanta::FindRecordField(name);
-  if (equals == std::string::npos || field == nullptr) {
+  if (field == nullptr) {
     throw Error(
         fmt::format("--set {}: there is no such field; teskarlt insert --fields lists them", setting));
   }
@@ -47,6 +53,19 @@ void TakeSetting(const std::string& setting, const dxf::Document& drawing, Windo
     request.answers[name] = isText ? drawing.ToCodePage(value) : value;
   } catch (const std::exception& error) {
     throw Error(fmt::format("--set {}: {}", name, error.what()));
+  }
+}
+
+// The catalogue's item that the user named, in the drawing's code page.
+void TakeWindow(const InsertOptions& options, const dxf::Document& drawing, WindowRequest& request) {
+  const Catalogue catalogue = ReadCatalogue(options.catalogue.empty() ? DataFolder() : options.catalogue);
+  const CatalogueItem& item = ChooseItem(catalogue, options.window);
+  try {
+    request.answers[brevanta::ANSWER_CATALOGUE_ITEM] = drawing.ToCodePage(CatalogueText(item.line));
+    request.answers[brevanta::ANSWER_CATALOGUE_MAKER] =
+        drawing.ToCodePage(CatalogueText(MakerOf(catalogue.sections[item.section])));
+  } catch (const std::exception& error) {
+    throw Error(fmt::format("--window {}: {}", options.window, error.what()));
   }
 }
 
@@ -72,6 +91,9 @@ const RoofFace& ChooseFace(const InsertOptions& options, const WindowRequest& re
 // The roof of the request; the face that was chosen, null when the user gave three points.
 const RoofFace* TakeRoof(const InsertOptions& options, const std::vector<RoofFace>& faces, double tolerance,
                          WindowRequest& request) {
+  const bool hasPlaneField = request.answers.count("roofPlanePoints") != 0;
+  if (hasPlaneField && (!options.roof.empty() || !options.roofFace.empty()))
+    throw Error("--set roofPlanePoints gives the roof already; leave --roof and --roof-face out");
   if (!options.roof.empty()) {
     std::vector<geometry::Vec3> points;
     for (const std::string& point : options.roof)
@@ -79,7 +101,7 @@ const RoofFace* TakeRoof(const InsertOptions& options, const std::vector<RoofFac
     request.faces = {points};
     return nullptr;
   }
-  if (request.answers.count("roofPlanePoints") != 0) return nullptr;
+  if (hasPlaneField) return nullptr;
   const RoofFace& face = ChooseFace(options, request, faces);
   request.faces = {face.corners};
   for (const RoofFace* other : CoplanarWith(face, faces, tolerance))
@@ -125,6 +147,7 @@ void RunInsert(const InsertOptions& options) {
 
   WindowRequest request;
   request.unitFactor = unit.perMetre;
+  if (!options.window.empty()) TakeWindow(options, drawing, request);
   for (const std::string& setting : options.settings)
     TakeSetting(setting, drawing, request);
   if (!options.at.empty()) request.point = ParsePlanPoint("--at", options.at);
@@ -136,7 +159,7 @@ void RunInsert(const InsertOptions& options) {
   const std::string target = options.output.empty() ? options.file : options.output;
   if (!options.dryRun) drawing.Save(target);
   if (options.asJson) {
-    fmt::print("{}\n", ToJson(options, outcome, face, target).dump(2));
+    PrintJson(ToJson(options, outcome, face, target));
   } else {
     PrintText(options, outcome, face, target);
   }
@@ -155,18 +178,35 @@ void PrintFields() {
 void AddInsertCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("insert", "Insert a roof window");
   const auto options = std::make_shared<InsertOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required();
-  command->add_option("--at", options->at, "X,Y in the drawing; the uppermost roof face over it is taken");
-  CLI::Option* roofFace = command->add_option("--roof-face", options->roofFace,
-                                              "name of the roof face, as teskarlt roofs lists it");
-  command->add_option("--roof", options->roof, "three points X,Y,Z of the roof's plane")
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
+  command
+      ->add_option("--at", options->at, "the place in the drawing; the uppermost roof face over it is taken")
+      ->type_name("X,Y");
+  CLI::Option* roofFace =
+      command
+          ->add_option("--roof-face", options->roofFace, "name of the roof face, as teskarlt roofs lists it")
+          ->type_name("FACE");
+  command->add_option("--roof", options->roof, "three points of the roof's plane")
+      ->type_name("X,Y,Z")
       ->expected(3)
       ->excludes(roofFace);
-  command->add_option("--set", options->settings, "FIELD=VALUE of the window, as often as needed")
+  CLI::Option* window =
+      command
+          ->add_option("--window", options->window, "a catalogue's window, whose sizes and texts are taken")
+          ->type_name("MAKER/KEY");
+  command
+      ->add_option("--catalogue", options->catalogue,
+                   "the catalogue, or its folder; without it the one in the data folder")
+      ->type_name("FILE")
+      ->needs(window);
+  command->add_option("--set", options->settings, "a value of the window, as often as needed")
+      ->type_name("FIELD=VALUE")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced");
-  command->add_option("--units", options->units, UNITS_HELP);
+  command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
+      ->type_name("FILE")
+      ->check([](const std::string& name) { return std::string(name.empty() ? "the name is empty" : ""); });
+  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--dry-run", options->dryRun, "say what would be done and write nothing");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->add_flag_callback(
@@ -177,13 +217,13 @@ void AddInsertCommand(CLI::App& app) {
       },
       "list the fields for --set");
   command->footer(
-      "The window's anchor comes to lie exactly at the point. With --set lowerEdgeHeight=H or "
-      "upperEdgeHeight=H it is\n"
-      "moved up or down the slope until that edge lies at H metres.\n"
+      "The window's anchor comes to lie exactly at the point. With --set lowerEdgeHeight=H or\n"
+      "upperEdgeHeight=H it is moved up or down the slope until that edge lies at H metres.\n"
       "Examples:\n"
       "  teskarlt insert house.dxf --at 3000,2000 -o out.dxf\n"
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
-      "  teskarlt insert house.dxf --at 3000,2000 --roof-face 2F --set lowerEdgeHeight=4.2");
+      "  teskarlt insert house.dxf --at 3000,2000 --window \"Alfa/A 94\" --catalogue examples/BREVANTA.LIB\n"
+      "  teskarlt insert house.dxf --at 3000,2000 --roof-face 100 --set lowerEdgeHeight=4.2");
   command->callback([options] { RunInsert(*options); });
 }
 

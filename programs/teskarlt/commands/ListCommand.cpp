@@ -72,14 +72,14 @@ Json ToJson(const DrawnWindow& window) {
   return json;
 }
 
-void PrintJson(const std::vector<DrawnWindow>& windows, const DrawingUnit& unit) {
+void PrintWindows(const std::vector<DrawnWindow>& windows, const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
   json["windows"] = Json::array();
   for (const DrawnWindow& window : windows)
     json["windows"].push_back(ToJson(window));
-  fmt::print("{}\n", json.dump(2, ' ', false, Json::error_handler_t::replace));
+  PrintJson(json);
 }
 
 std::string Texts(const DrawnWindow& window) {
@@ -114,7 +114,7 @@ void RunList(const ListOptions& options) {
   const DrawingUnit& unit = UnitOf(drawing, options.units);
   const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
   if (options.asJson) {
-    PrintJson(windows, unit);
+    PrintWindows(windows, unit);
   } else if (windows.empty()) {
     fmt::print("{} holds no roof window.\n", options.file);
   } else {
@@ -127,8 +127,8 @@ void RunList(const ListOptions& options) {
 void AddListCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("list", "List the roof windows of a drawing");
   const auto options = std::make_shared<ListOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required();
-  command->add_option("--units", options->units, UNITS_HELP);
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
+  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
       "Sizes are in metres, the place in drawing units; a window is turned by the angle of its lower edge\n"

@@ -22,7 +22,7 @@ const std::map<std::string, int> VERSIONS = {
 struct NewOptions {
   std::string file;
   std::string units = "mm";
-  int version = dxf::VERSION_R2000;
+  std::string version = "R2000";
   bool force = false;
 };
 
@@ -31,7 +31,7 @@ void RunNew(const NewOptions& options) {
     throw Error(fmt::format("{} exists already; --force replaces it", options.file));
   }
   dxf::NewDrawingOptions drawing;
-  drawing.version = options.version;
+  drawing.version = VERSIONS.at(options.version);
   drawing.units = UnitByName(options.units).insUnits;
   drawing.layers = {"ROOF", "ROOF_WINDOW_BODY", "ROOF_WINDOW_OPENING", "ROOF_WINDOW_OUTLINE",
                     "ROOF_WINDOW_SYMBOL"};
@@ -46,12 +46,14 @@ void AddNewCommand(CLI::App& app) {
   CLI::App* command =
       app.add_subcommand("new", "Make an empty drawing with units, layers and linetypes ready");
   const auto options = std::make_shared<NewOptions>();
-  command->add_option("FILE", options->file, "the drawing to write")->required();
+  command->add_option("FILE", options->file, "the drawing to write")->required()->type_name("");
   command->add_option("--units", options->units, "unit of the drawing, mm, cm, dm or m")
+      ->type_name("UNIT")
       ->capture_default_str();
-  command->add_option("--dxf-version", options->version, "version of the drawing, R12, R2000 or R2018")
-      ->transform(CLI::CheckedTransformer(VERSIONS, CLI::ignore_case))
-      ->default_str("R2000");
+  command->add_option("--dxf-version", options->version, "version of the drawing")
+      ->type_name("VERSION")
+      ->transform(CLI::IsMember(VERSIONS, CLI::ignore_case))
+      ->capture_default_str();
   command->add_flag("--force", options->force, "replace a file that is there");
   command->footer("Example: teskarlt new house.dxf --units m");
   command->callback([options] { RunNew(*options); });

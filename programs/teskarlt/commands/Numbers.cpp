@@ -54,7 +54,7 @@ std::string PlanExtents(const std::vector<RoofFace>& faces) {
       high = {std::max(high.x, corner.x), std::max(high.y, corner.y), 0};
     }
   }
-  return fmt::format("x {:.6g} to {:.6g}, y {:.6g} to {:.6g}", low.x, high.x, low.y, high.y);
+  return fmt::format("x {:.12g} to {:.12g}, y {:.12g} to {:.12g}", low.x, high.x, low.y, high.y);
 }
 
 }  // namespace teskarlt

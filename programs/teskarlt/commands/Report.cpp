@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include <fmt/format.h>
+#include <nlohmann/json.hpp>
 
 namespace teskarlt {
 
@@ -16,6 +17,10 @@ std::size_t Width(const std::string& text) {
 }
 
 }  // namespace
+
+void PrintJson(const nlohmann::ordered_json& json) {
+  fmt::print("{}\n", json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
+}
 
 Table::Table(std::vector<std::string> headings) : rows_{std::move(headings)} {}
 

@@ -4,13 +4,18 @@
 #include <string>
 #include <vector>
 
+#include <nlohmann/json_fwd.hpp>
+
 namespace teskarlt {
 
 // Raised with every change of the JSON output that a reader would notice.
 constexpr int JSON_VERSION = 1;
 
-constexpr const char* UNITS_HELP = "unit of the drawing, mm, cm, dm or m, where its header does not say it";
+constexpr const char* UNITS_HELP = "unit of the drawing, mm, cm, dm or m, in place of what its header says";
 constexpr const char* JSON_HELP = "print JSON, for programs";
+
+// To standard output; bytes that are no UTF-8, as file names may hold them, become U+FFFD.
+void PrintJson(const nlohmann::ordered_json& json);
 
 // A table in aligned columns for people; the texts are UTF-8.
 class Table {

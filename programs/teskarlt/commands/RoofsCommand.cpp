@@ -43,7 +43,7 @@ nlohmann::ordered_json ToJson(const RoofFace& face, double unitFactor) {
   return json;
 }
 
-void PrintJson(const std::vector<RoofFace>& faces, const DrawingUnit& unit) {
+void PrintRoofs(const std::vector<RoofFace>& faces, const DrawingUnit& unit) {
   nlohmann::ordered_json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
@@ -51,7 +51,7 @@ void PrintJson(const std::vector<RoofFace>& faces, const DrawingUnit& unit) {
   json["roofs"] = nlohmann::ordered_json::array();
   for (const RoofFace& face : faces)
     json["roofs"].push_back(ToJson(face, unit.perMetre));
-  fmt::print("{}\n", json.dump(2));
+  PrintJson(json);
 }
 
 std::string FallText(const RoofFace& face) {
@@ -75,7 +75,7 @@ void RunRoofs(const RoofsOptions& options) {
   const DrawingUnit& unit = UnitOf(drawing, options.units);
   const std::vector<RoofFace> faces = FindRoofFaces(drawing, RoofTolerance(unit));
   if (options.asJson) {
-    PrintJson(faces, unit);
+    PrintRoofs(faces, unit);
   } else if (faces.empty()) {
     fmt::print("{} holds no planar face that can take a roof window.\n", options.file);
   } else {
@@ -88,8 +88,8 @@ void RunRoofs(const RoofsOptions& options) {
 void AddRoofsCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("roofs", "List the faces that can take a roof window");
   const auto options = std::make_shared<RoofsOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required();
-  command->add_option("--units", options->units, UNITS_HELP);
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
+  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
       "A face is named by the handle of its entity. Its pitch is measured from the horizontal; the "

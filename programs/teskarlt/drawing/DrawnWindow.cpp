@@ -3,6 +3,7 @@
 
 #include <array>
 #include <limits>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 
@@ -26,14 +27,16 @@ constexpr int XDATA_SCALE = 1042;
 constexpr int XDATA_SHORT = 1070;
 constexpr int XDATA_LONG = 1071;
 
-// The items of the description, by kind and in their order.
+// The items of the description, by kind and in their order. What cannot be read stands as 0 and marks the
+// description as damaged: a drawing stays usable when one of its windows is not.
 struct Description {
   std::vector<std::string> texts;
-  std::vector<std::int64_t> shorts;
+  std::vector<std::int32_t> shorts;
   std::vector<double> reals;
   std::vector<double> distances;
   std::vector<double> scales;
   std::vector<RecordPoint> points;
+  bool isDamaged = false;
 };
 
 enum class Section { Foreign, Element, WindowElement, Description };
@@ -45,32 +48,45 @@ struct Marks {
   Description description;
 };
 
-void TakeDescription(const dxf::Document& drawing, const dxf::TagReader& reader, const dxf::Tag& tag,
-                     Description& to) {
+double RealOf(const dxf::Tag& tag, Description& of) {
+  const std::optional<double> value = dxf::ParseReal(tag.value);
+  of.isDamaged = of.isDamaged || !value;
+  return value.value_or(0.0);
+}
+
+std::int32_t IntegerOf(const dxf::Tag& tag, Description& of) {
+  const std::optional<std::int64_t> value = dxf::ParseInteger(tag.value);
+  const bool fits = value && *value >= std::numeric_limits<std::int32_t>::min() &&
+                    *value <= std::numeric_limits<std::int32_t>::max();
+  of.isDamaged = of.isDamaged || !fits;
+  return fits ? static_cast<std::int32_t>(*value) : 0;
+}
+
+void TakeDescription(const dxf::Document& drawing, const dxf::Tag& tag, Description& to) {
   switch (tag.code) {
     case dxf::CODE_XDATA_TEXT:
       to.texts.push_back(drawing.Text(tag));
       break;
     case XDATA_SHORT:
-      to.shorts.push_back(reader.Integer(tag));
+      to.shorts.push_back(IntegerOf(tag, to));
       break;
     case XDATA_REAL:
-      to.reals.push_back(reader.Real(tag));
+      to.reals.push_back(RealOf(tag, to));
       break;
     case XDATA_DISTANCE:
-      to.distances.push_back(reader.Real(tag));
+      to.distances.push_back(RealOf(tag, to));
       break;
     case XDATA_SCALE:
-      to.scales.push_back(reader.Real(tag));
+      to.scales.push_back(RealOf(tag, to));
       break;
     case XDATA_POINT:
-      to.points.push_back({reader.Real(tag), 0, 0});
+      to.points.push_back({RealOf(tag, to), 0, 0});
       break;
     case XDATA_POINT + 10:
-      if (!to.points.empty()) to.points.back().y = reader.Real(tag);
+      if (!to.points.empty()) to.points.back().y = RealOf(tag, to);
       break;
     case XDATA_POINT + 20:
-      if (!to.points.empty()) to.points.back().z = reader.Real(tag);
+      if (!to.points.empty()) to.points.back().z = RealOf(tag, to);
       break;
     default:
       break;
@@ -83,17 +99,16 @@ Section SectionOf(std::string_view application) {
   return Section::Foreign;
 }
 
-void TakeTag(const dxf::Document& drawing, const dxf::TagReader& reader, const dxf::Tag& tag,
-             Section& section, Marks& marks) {
+void TakeTag(const dxf::Document& drawing, const dxf::Tag& tag, Section& section, Marks& marks) {
   if (tag.code == dxf::CODE_XDATA_APPLICATION) {
     section = SectionOf(dxf::Trimmed(tag.value));
   } else if (section == Section::Element && tag.code == dxf::CODE_XDATA_TEXT && tag.value == WINDOW_ELEMENT) {
     section = Section::WindowElement;
     marks.isWindow = true;
   } else if (section == Section::WindowElement && tag.code == XDATA_LONG) {
-    marks.number = static_cast<std::int32_t>(reader.Integer(tag));
+    marks.number = IntegerOf(tag, marks.description);
   } else if (section == Section::Description) {
-    TakeDescription(drawing, reader, tag, marks.description);
+    TakeDescription(drawing, tag, marks.description);
   }
 }
 
@@ -114,13 +129,13 @@ Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData) {
   Section section = Section::Foreign;
   dxf::TagReader reader(drawing.Source(), extendedData);
   for (dxf::Tag tag; reader.Next(tag);)
-    TakeTag(drawing, reader, tag, section, marks);
+    TakeTag(drawing, tag, section, marks);
   return marks;
 }
 
 bool IsComplete(const Description& d) {
-  return d.texts.size() >= 4 && d.shorts.size() >= 5 && d.reals.size() >= 7 && !d.distances.empty() &&
-         !d.scales.empty() && d.points.size() >= 8;
+  return !d.isDamaged && d.texts.size() >= 4 && d.shorts.size() >= 5 && d.reals.size() >= 7 &&
+         !d.distances.empty() && !d.scales.empty() && d.points.size() >= 8;
 }
 
 // The window that a complete description tells of; the items come in the order in which the module writes
@@ -134,12 +149,12 @@ void TakeComplete(const Description& d, double unitFactor, DrawnWindow& window) 
   window.text3 = d.texts[1];
   window.openingCode = d.texts[2];
   window.text2 = d.texts[3];
-  params.drawOpeningSymbol = static_cast<std::int32_t>(d.shorts[1]);
+  params.drawOpeningSymbol = d.shorts[1];
   params.frameDepth = d.reals[1] / unitFactor;
   params.lowerEdgeHeight = d.reals[2] / unitFactor;
-  params.heightReference = static_cast<std::int32_t>(d.shorts[2]);
-  params.widthAnchor = static_cast<std::int32_t>(d.shorts[3]);
-  params.roofBuildUp = static_cast<std::int32_t>(d.shorts[4]);
+  params.heightReference = d.shorts[2];
+  params.widthAnchor = d.shorts[3];
+  params.roofBuildUp = d.shorts[4];
   params.storedPoint = d.points[0];
   params.insertionPoint = d.points[1];
   params.rotation = d.reals[3];

@@ -27,9 +27,9 @@ constexpr std::uint32_t ALL_EDGES = 15;  // of a 3D face: group 70 hides edge k 
 struct Shape {
   std::string layer;
   std::vector<Vec3> points = std::vector<Vec3>(4);  // groups 10 to 13
-  bool hasFourth = false;
-  std::int64_t flags = 0;                // group 70
-  std::int64_t count[4] = {0, 0, 0, 0};  // groups 71 to 74
+  bool isGiven[4] = {false, false, false, false};   // which of the points
+  std::int64_t flags = 0;                           // group 70
+  std::int64_t count[4] = {0, 0, 0, 0};             // groups 71 to 74
 };
 
 void TakeTag(const dxf::Document& drawing, const dxf::TagReader& reader, const dxf::Tag& tag, Shape& shape) {
@@ -37,7 +37,7 @@ void TakeTag(const dxf::Document& drawing, const dxf::TagReader& reader, const d
   if (code >= 10 && code <= 39 && code % 10 <= 3) {
     Vec3& point = shape.points[static_cast<std::size_t>(code % 10)];
     (code < 20 ? point.x : code < 30 ? point.y : point.z) = reader.Real(tag);
-    if (code % 10 == 3) shape.hasFourth = true;
+    shape.isGiven[code % 10] = true;
   } else if (code == 70) {
     shape.flags = reader.Integer(tag);
   } else if (code >= 71 && code <= 74) {
@@ -64,10 +64,25 @@ std::vector<Shape> ReadShapes(const dxf::Document& drawing, const dxf::Entity& e
 }
 
 std::vector<FaceCorners> FacesOf3dFace(const Shape& face) {
+  if (!face.isGiven[0] || !face.isGiven[1] || !face.isGiven[2]) return {};
   FaceCorners made;
-  made.corners.assign(face.points.begin(), face.points.begin() + (face.hasFourth ? 4 : 3));
+  made.corners.assign(face.points.begin(), face.points.begin() + (face.isGiven[3] ? 4 : 3));
   made.hiddenEdges = static_cast<std::uint32_t>(face.flags) & ALL_EDGES;
   return {made};
+}
+
+// The corners that a face of a polyface mesh names by their numbers, from 1; a negative number hides the edge
+// behind it, 0 is none. Empty when a number is not that of a vertex: what the face would be cannot be known.
+FaceCorners CornersOfMeshFace(const Shape& shape, const std::vector<Vec3>& vertices) {
+  const auto count = static_cast<std::int64_t>(vertices.size());
+  FaceCorners face;
+  for (const std::int64_t number : shape.count) {
+    if (number == 0) continue;
+    if (number < -count || number > count) return {};
+    if (number < 0) face.hiddenEdges |= 1U << face.corners.size();
+    face.corners.push_back(vertices[static_cast<std::size_t>(std::abs(number)) - 1]);
+  }
+  return face;
 }
 
 std::vector<FaceCorners> FacesOfPolyface(const std::vector<Shape>& shapes) {
@@ -80,14 +95,7 @@ std::vector<FaceCorners> FacesOfPolyface(const std::vector<Shape>& shapes) {
       vertices.push_back(vertex.points[0]);
       continue;
     }
-    FaceCorners face;
-    for (const std::int64_t index : vertex.count) {  // from 1; negative: the edge behind it is hidden
-      const auto place = static_cast<std::size_t>(std::abs(index));
-      if (place < 1 || place > vertices.size()) continue;
-      if (index < 0) face.hiddenEdges |= 1U << face.corners.size();
-      face.corners.push_back(vertices[place - 1]);
-    }
-    faces.push_back(std::move(face));
+    faces.push_back(CornersOfMeshFace(vertex, vertices));
   }
   return faces;
 }

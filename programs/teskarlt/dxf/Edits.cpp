@@ -2,12 +2,13 @@
 #include "teskarlt/dxf/Edits.h"
 
 #include <algorithm>
-#include <cstring>
+#include <unordered_set>
 
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/EntityGroups.h"
+#include "teskarlt/dxf/Referrers.h"
 #include "teskarlt/dxf/TagValue.h"
 #include "teskarlt/dxf/TagWriter.h"
 #include "teskarlt/dxf/Version.h"
@@ -178,10 +179,13 @@ std::vector<Splice> Edits::Splices() const {
   std::vector<Splice> splices;
   AddSeedSplice(splices);
   records_.AddSplices(splices);
+  std::unordered_set<std::uint64_t> removedHandles;
   for (const std::size_t number : removed_) {
-    const std::string_view text = index_.entities[number].text;
-    splices.push_back({text.data(), text.data() + text.size()});
+    const Entity& entity = index_.entities[number];
+    splices.push_back({entity.text.data(), entity.text.data() + entity.text.size()});
+    if (entity.handle != 0) removedHandles.insert(entity.handle);
   }
+  AddReferrerSplices(source_, index_, removedHandles, splices);
   const char* const end = index_.FindSection("ENTITIES")->end;
   if (!added_.empty()) splices.push_back({end, end, {}, &added_});
   std::stable_sort(splices.begin(), splices.end(),
@@ -195,9 +199,10 @@ void Edits::Write(const std::function<void(std::string_view)>& sink) const {
   for (const Splice& splice : Splices()) {
     sink({at, static_cast<std::size_t>(splice.begin - at)});
     sink(splice.text);
-    if (splice.more != nullptr)
+    if (splice.more != nullptr) {
       for (const std::string_view more : *splice.more)
         sink(more);
+    }
     at = splice.end;
   }
   sink({at, static_cast<std::size_t>(text.data() + text.size() - at)});

@@ -42,7 +42,7 @@ void CheckFinite(int code, double value) {
 }
 
 void CheckPoint(const Group& group) {
-  const Point& point = ValueOf<Point>(group, "point");
+  const auto& point = ValueOf<Point>(group, "point");
   for (const double coordinate : {point.x, point.y, point.z})
     CheckFinite(group.code, coordinate);
 }
@@ -140,9 +140,10 @@ void WriteGroup(TagWriter& writer, const TextCodec& codec, const Group& group) {
     return writer.Integer(group.code, *integer);
   std::string raw;
   codec.Encode(TextOf(group), raw);
-  if (group.code == CODE_XDATA_TEXT && raw.size() > LONGEST_EXTENDED_TEXT)
+  if (group.code == CODE_XDATA_TEXT && raw.size() > LONGEST_EXTENDED_TEXT) {
     Refuse(group.code, fmt::format("holds a text of {} bytes, and {} is the most that a drawing can hold",
                                    raw.size(), LONGEST_EXTENDED_TEXT));
+  }
   writer.Text(group.code, raw);
 }
 

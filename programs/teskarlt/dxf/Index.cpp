@@ -51,9 +51,10 @@ Index Indexer::Run() {
       if (index_.FindSection("ENTITIES") == nullptr) source_.Fail("has no section ENTITIES");
       return std::move(index_);
     }
-    if (tag_.code != CODE_TYPE || tag_.value != "SECTION")
+    if (tag_.code != CODE_TYPE || tag_.value != "SECTION") {
       source_.FailAt(reader_.TagBegin(), fmt::format("a section should begin here, not {} (group {})",
                                                      Quoted(tag_.value), tag_.code));
+    }
     ReadSection();
   }
   source_.Fail("is cut short: EOF is missing at its end");
@@ -82,10 +83,11 @@ bool Indexer::NextInSection() {
   const bool isThere = reader_.Next(tag_);
   if (isThere && tag_.code != CODE_TYPE) return true;
   const Section& section = index_.sections.back();
-  if (!isThere || tag_.value == "SECTION" || tag_.value == "EOF")
+  if (!isThere || tag_.value == "SECTION" || tag_.value == "EOF") {
     source_.FailAt(section.begin,
                    fmt::format("the section {} that begins here is not closed{}", Quoted(section.name),
                                isThere ? "" : ": the file is cut short"));
+  }
   return tag_.value != "ENDSEC";
 }
 
@@ -140,9 +142,10 @@ void Indexer::ReadTable() {
     }
   }
   table.end = reader_.TagBegin();
-  if (tag_.value != "ENDTAB")
+  if (tag_.value != "ENDTAB") {
     source_.FailAt(table.begin,
                    fmt::format("the table {} that begins here is not closed", Quoted(table.name)));
+  }
   index_.tables.push_back(std::move(table));
 }
 

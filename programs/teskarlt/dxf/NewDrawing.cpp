@@ -270,9 +270,11 @@ std::string Skeleton::Text() {
 }  // namespace
 
 std::string NewDrawing(const NewDrawingOptions& options) {
-  if (options.version != VERSION_R12 && options.version != VERSION_R2000 && options.version != VERSION_R2018)
+  if (options.version != VERSION_R12 && options.version != VERSION_R2000 &&
+      options.version != VERSION_R2018) {
     throw Error(fmt::format("a new drawing cannot be made in version AC{}; R12, R2000 and R2018 are offered",
                             options.version));
+  }
   Document drawing = Document::FromText("new drawing", Skeleton(options).Text());
   drawing.RequireLinetype(LINETYPE_DASHED);
   for (const std::string& layer : options.layers)

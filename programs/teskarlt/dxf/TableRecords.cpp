@@ -25,9 +25,10 @@ constexpr int CODE_PATTERN_LENGTH = 40;
 constexpr int CODE_DASH = 49;
 constexpr int CODE_DASH_TYPE = 74;
 constexpr int ALIGNMENT_LETTER = 'A';
-constexpr double DASH_MILLIMETRES = 12.7;
-constexpr double GAP_MILLIMETRES = 6.35;
-constexpr double PATTERN_MILLIMETRES = 19.05;  // both
+// In tenths of a millimetre, which doubles hold exactly: so the quotients come out as people write them.
+constexpr double DASH_TENTHS = 127;
+constexpr double GAP_TENTHS = 63.5;
+constexpr double TENTHS_PER_MILLIMETRE = 10;
 
 constexpr double MILLIMETRES_PER_INCH = 25.4;
 
@@ -130,10 +131,11 @@ void WriteSolidLinetype(TagWriter& writer, std::string_view name, const RecordHe
 }
 
 void WriteDashedLinetype(TagWriter& writer, const RecordHead& head, double millimetresPerUnit) {
+  const double tenths = millimetresPerUnit * TENTHS_PER_MILLIMETRE;
   WriteLinetypeBegin(writer, LINETYPE_DASHED, "Dashed __ __ __ __ __ __ __ __ __ __", head, 2,
-                     PATTERN_MILLIMETRES / millimetresPerUnit);
-  WriteDash(writer, DASH_MILLIMETRES / millimetresPerUnit, head.version);
-  WriteDash(writer, -GAP_MILLIMETRES / millimetresPerUnit, head.version);
+                     (DASH_TENTHS + GAP_TENTHS) / tenths);
+  WriteDash(writer, DASH_TENTHS / tenths, head.version);
+  WriteDash(writer, -GAP_TENTHS / tenths, head.version);
 }
 
 double MillimetresPerUnit(int units, bool isMetric) {

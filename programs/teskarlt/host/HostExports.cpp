@@ -1,7 +1,13 @@
 // HostExports.cpp - the exports of the host program that the module and its dialog module look up.
+#include <cstring>
+#include <optional>
+#include <string>
+
 #include "inc/DialogServices.h"
 #include "inc/HostFunctionTable.h"
 #include "platform/Export.h"
+#include "platform/SystemFolders.h"
+#include "teskarlt/host/DataFolder.h"
 #include "teskarlt/host/HostSession.h"
 
 namespace teskarlt {
@@ -22,6 +28,26 @@ void EndEntityBatch(std::int32_t keep) {
   if (HostSession* session = HostSession::Current()) session->EndBatch(keep != 0);
 }
 
+bool GetDataFolder(std::int32_t kind, char* buffer, std::int32_t size) {
+  if (kind != CATALOGUE_FOLDER) return false;
+  try {
+    const std::optional<std::string> folder = platform::ToSystemPath(DataFolder());
+    if (!folder || size <= 0 || folder->size() >= static_cast<std::size_t>(size)) return false;
+    std::memcpy(buffer, folder->c_str(), folder->size() + 1);
+    return true;
+  } catch (const std::exception&) {  // the caller knows no exceptions
+    return false;
+  }
+}
+
+std::int32_t DataFolderAccess(std::int32_t kind, std::int32_t operation) {
+  try {
+    return AccessDataFolder(kind, operation);
+  } catch (const std::exception&) {
+    return ACCESS_REFUSED;
+  }
+}
+
 template <typename Function>
 brevanta::HostFunction Entry(Function* function) {
   return reinterpret_cast<brevanta::HostFunction>(function);
@@ -29,9 +55,11 @@ brevanta::HostFunction Entry(Function* function) {
 
 brevanta::HostFunctionTable MakeTable() {
   brevanta::HostFunctionTable table{};
+  table.entries[brevanta::ENTRY_GET_DATA_FOLDER] = Entry(GetDataFolder);
   table.entries[brevanta::ENTRY_MAKE_ENTITY] = Entry(MakeEntity);
   table.entries[brevanta::ENTRY_BEGIN_ENTITY_BATCH] = Entry(BeginEntityBatch);
   table.entries[brevanta::ENTRY_END_ENTITY_BATCH] = Entry(EndEntityBatch);
+  table.entries[brevanta::ENTRY_DATA_FOLDER_ACCESS] = Entry(DataFolderAccess);
   return table;
 }
 

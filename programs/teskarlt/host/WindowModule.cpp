@@ -1,10 +1,15 @@
 // WindowModule.cpp - loads the roof window module and runs its commands.
 #include "teskarlt/host/WindowModule.h"
 
+#include <algorithm>
+#include <initializer_list>
+
 #include <fmt/format.h>
 
 #include "inc/DialogModule.h"
+#include "platform/SystemFolders.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/host/DataFolder.h"
 
 namespace teskarlt {
 
@@ -14,6 +19,7 @@ constexpr const char* PROGRAM = "TESKARLT.EXE";
 constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
 constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
 constexpr const char* INSERT_EXPORT = "Brevanta";
+constexpr const char* MERGE_EXPORT = "mergeLibraryFiles";
 
 std::string ProgramPath() {
   char path[4096];
@@ -30,20 +36,40 @@ std::string ProgramFolder() {
 // The modules find the host by the name of its program.
 void CheckProgramName() {
   if (GetModuleHandleA(PROGRAM) == GetModuleHandleA(nullptr)) return;
-  throw Error(fmt::format(
-      "this program must be called teskarlt for the roof window module to find it; it is {}", ProgramPath()));
+  throw Error(
+      fmt::format("this program must be called teskarlt for the roof window module to find it; it is {}",
+                  platform::FromSystemPath(ProgramPath())));
+}
+
+[[noreturn]] void ThrowForeign(const char* name, const char* meaning, const char* missingExport) {
+  throw Error(fmt::format("{}{} is not {}: it has no export \"{}\"",
+                          platform::FromSystemPath(ProgramFolder()), name, meaning, missingExport));
 }
 
 HMODULE LoadFromFolder(const char* name) {
   const std::string path = ProgramFolder() + name;
   HMODULE module = AfxLoadLibrary(path.c_str());
-  if (module == nullptr) throw Error(fmt::format("cannot load {}: {}", path, ModuleLoadError()));
-  return module;
+  if (module != nullptr) return module;
+  std::string reason = ModuleLoadError();
+  if (reason.starts_with(path + ": ")) reason.erase(0, path.size() + 2);  // some loaders name the file too
+  throw Error(fmt::format("cannot load {}: {}", platform::FromSystemPath(path), reason));
 }
 
-// The module itself says nothing when a companion is missing, so each is tried first.
-void CheckCompanion(const char* name) {
-  FreeLibrary(LoadFromFolder(name));
+// The module itself says nothing when a companion is missing, and calls the companion's exports unseen, so
+// each is tried first.
+void CheckCompanion(const char* name, const char* meaning, std::initializer_list<const char*> exports) {
+  HMODULE companion = LoadFromFolder(name);
+  const auto* missing = std::find_if(exports.begin(), exports.end(), [&](const char* wanted) {
+    return GetProcAddress(companion, wanted) == nullptr;
+  });
+  const char* const missingName = missing == exports.end() ? nullptr : *missing;
+  FreeLibrary(companion);
+  if (missingName != nullptr) ThrowForeign(name, meaning, missingName);
+}
+
+std::string SystemPath(const std::string& path) {
+  if (const auto systemPath = platform::ToSystemPath(path)) return *systemPath;
+  throw Error(fmt::format("{}: the system's code page cannot hold this path", path));
 }
 
 std::string FirstRefusal(const CommandOutcome& outcome) {
@@ -69,16 +95,17 @@ void CheckOutcome(const CommandOutcome& outcome) {
 
 }  // namespace
 
-WindowModule::WindowModule() : module_(nullptr), insert_(nullptr) {
+WindowModule::WindowModule() : module_(nullptr), insert_(nullptr), merge_(nullptr) {
   CheckProgramName();
-  CheckCompanion(brevanta::DIALOG_MODULE);
-  CheckCompanion(RESOURCE_MODULE);
+  CheckCompanion(brevanta::DIALOG_MODULE, "the dialog module",
+                 {brevanta::DIALOG_EXPORT, brevanta::ERASE_WINDOW_EXPORT});
+  CheckCompanion(RESOURCE_MODULE, "the string module", {});
   module_ = LoadFromFolder(WINDOW_MODULE);
   insert_ = ExportedFunction<InsertFunction>(module_, INSERT_EXPORT);
-  if (insert_ != nullptr) return;
+  merge_ = ExportedFunction<MergeFunction>(module_, MERGE_EXPORT);
+  if (insert_ != nullptr && merge_ != nullptr) return;
   FreeLibrary(module_);
-  throw Error(fmt::format("{}{} is not the roof window module: it has no export \"{}\"", ProgramFolder(),
-                          WINDOW_MODULE, INSERT_EXPORT));
+  ThrowForeign(WINDOW_MODULE, "the roof window module", insert_ == nullptr ? INSERT_EXPORT : MERGE_EXPORT);
 }
 
 WindowModule::~WindowModule() {
@@ -96,6 +123,12 @@ CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest&
     drawing.Rollback(before);
     throw;
   }
+}
+
+std::int32_t WindowModule::Merge(const std::string& source, const std::optional<std::string>& target) const {
+  const std::string sourcePath = SystemPath(source);
+  const std::string targetPath = target ? SystemPath(*target) : std::string();
+  return merge_(nullptr, sourcePath.c_str(), target ? targetPath.c_str() : nullptr, CATALOGUE_FOLDER);
 }
 
 }  // namespace teskarlt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "platform/ModuleServices.h"
@@ -25,12 +26,20 @@ class WindowModule {
   // out of it.
   CommandOutcome Insert(dxf::Document& drawing, const WindowRequest& request) const;
 
+  // Runs the command `mergeLibraryFiles` over two catalogues and gives its result; without a target it is the
+  // one in the data folder. Paths are UTF-8. Throws Error for a path that the system's 8-bit code page cannot
+  // hold.
+  std::int32_t Merge(const std::string& source, const std::optional<std::string>& target) const;
+
  private:
+  using MergeFunction = std::int32_t (*)(void* unused, const char* source, const char* target,
+                                         std::int32_t dataFolderKind);
   using InsertFunction = std::int32_t (*)(void* hostContext, std::int32_t unitFactor, void* reserved,
                                           std::int32_t dialogArg);
 
   HMODULE module_;
   InsertFunction insert_;
+  MergeFunction merge_;
 };
 
 }  // namespace teskarlt

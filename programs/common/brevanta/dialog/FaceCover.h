@@ -12,7 +12,8 @@ using PlanPolygon = std::vector<geometry::Vec3>;  // corners in order, either wa
 // The area, not negative.
 double PlanArea(const PlanPolygon& polygon);
 
-// The area of the convex outline that lies inside the polygon, which may be concave.
-double CoveredArea(const PlanPolygon& outline, const PlanPolygon& polygon);
+// The area of the convex outline that lies inside at least one of the polygons. They may be concave, and
+// where they lie over each other the area counts once.
+double CoveredArea(const PlanPolygon& outline, const std::vector<PlanPolygon>& polygons);
 
 }  // namespace brevanta

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <string>
+#include <vector>
 
 #include "dialog/FaceCover.h"
 #include "dialog/Refusal.h"
@@ -161,14 +162,16 @@ PlanPolygon OuterOutline(const WindowParams& record, const Vec3& anchor) {
 }
 
 void CheckInside(const Roof& roof, const PlanPolygon& outline) {
-  double covered = 0.0;
+  const double area = PlanArea(outline);
+  if (!(area > 0.0) || !std::isfinite(area))
+    throw Refusal("the window would lie farther away than numbers reach; check its sizes and offsets");
+  std::vector<PlanPolygon> faces;
   for (const FaceCorners& face : roof.faces) {
-    PlanPolygon local(face.size());
+    PlanPolygon& local = faces.emplace_back(face.size());
     for (std::size_t i = 0; i < face.size(); ++i)
       geometry::WorldToRoof(face[i], local[i]);
-    covered += CoveredArea(outline, local);
   }
-  const double outside = 1.0 - covered / PlanArea(outline);
+  const double outside = 1.0 - CoveredArea(outline, faces) / area;
   if (outside <= COVER_TOLERANCE) return;
   const double percent = std::ceil(outside * 1000.0) / 10.0;
   throw Refusal("the window would leave the roof face: " + NumberText(percent) +

@@ -9,6 +9,11 @@ namespace brevanta {
 
 constexpr std::int32_t DIALOG_SERVICES_VERSION = 1;
 
+// Answers that are no fields of the record: an item line of a catalogue and its maker's name. Fields go
+// before them.
+constexpr const char* ANSWER_CATALOGUE_ITEM = "catalogueItem";
+constexpr const char* ANSWER_CATALOGUE_MAKER = "catalogueMaker";
+
 // How grave a message of the dialog is.
 constexpr std::int32_t REPORT_NOTE = 0;
 constexpr std::int32_t REPORT_WARNING = 1;
@@ -23,9 +28,9 @@ struct DialogServices {
   std::int32_t size;     // sizeof(DialogServices)
   void* context;
 
-  // The user's answer for the record's field of that name, put into `buffer` of `size` bytes, terminated.
-  // Gives its length in bytes, which is not below `size` when it was cut, or -1 when the user gave no answer
-  // for the field.
+  // The user's answer for the record's field of that name, or under one of the names below, put into `buffer`
+  // of `size` bytes, terminated. Gives its length in bytes, which is not below `size` when it was cut, or -1
+  // when the user gave no answer for the field.
   std::int32_t (*answer)(void* context, const char* field, char* buffer, std::int32_t size);
 
   // The plan position that the user picked for the window: 1 with x and y, else 0.

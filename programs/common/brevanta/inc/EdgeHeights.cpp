@@ -18,17 +18,15 @@ bool LayerSkipped(const WindowParams& params) {
          ((reference == 1 || reference == 2) && params.roofBuildUp == BUILD_UP_PLAIN);
 }
 
-// What a layer of the thickness t > 0 adds to the height, for a pitch in radians.
-double LayerRise(const WindowParams& params, double pitch, double t) {
+// Takes a layer of the thickness t > 0 into the height, for a pitch in radians; m as in EdgeHeight.
+void AddLayer(const WindowParams& params, double pitch, double t, double m, double& height) {
   const double plumb = std::abs(t / geometry::Sine(geometry::PI / 2 - pitch));
   const double square = std::abs(geometry::Cosine(pitch) * t);
   const std::int32_t reference = params.heightReference;
   const bool secondPlane = params.roofBuildUp == BUILD_UP_SECOND_PLANE;
-  double rise = 0.0;
-  if (reference == 0 || reference == 3) rise -= square;
-  if ((reference == 1 || reference == 3) && secondPlane) rise += plumb;
-  if (reference == 2 && secondPlane) rise += square;
-  return rise;
+  if (reference == 0 || reference == 3) height -= m * square;
+  if ((reference == 1 || reference == 3) && secondPlane) height += m * plumb;
+  if (reference == 2 && secondPlane) height += m * square;
 }
 
 }  // namespace
@@ -43,7 +41,7 @@ double EdgeHeight(const WindowParams& params, int mode, int unitFactor) {
                                            : params.upperEdgeHeight * factor - rise;
   if (params.roofBuildUp == BUILD_UP_SLOPE_OFFSET) height += m * sine * (params.slopeOffset * factor);
   const double thickness = LayerSkipped(params) ? 0.0 : params.layerThickness * factor;
-  if (thickness > 0.0) height += m * LayerRise(params, pitch, thickness);
+  if (thickness > 0.0) AddLayer(params, pitch, thickness, m, height);
   return height;
 }
 

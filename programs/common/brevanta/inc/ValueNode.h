@@ -6,7 +6,7 @@
 
 namespace brevanta {
 
-// The value of one group, read according to the kind of its type code (ValueKinds.h). The node owns `text` of
+// The value of one group, read according to the kind of its type code (ValueList.h). The node owns `text` of
 // a text kind and the bytes of a binary chunk; both come from the process heap (std::malloc).
 union GroupValue {
   char* text;       // zero-terminated, may be null

@@ -1,0 +1,34 @@
+// CatalogueItem.cpp - takes a window out of a catalogue's item line into the record.
+#include "dialog/CatalogueItem.h"
+
+#include "dialog/FieldText.h"
+
+namespace brevanta {
+
+namespace {
+
+constexpr double CENTIMETRES_PER_METRE = 100.0;
+
+void TakeSize(std::string_view name, std::string_view text, double& metres) {
+  if (!text.empty()) metres = ParseReal(name, text) / CENTIMETRES_PER_METRE;
+}
+
+template <std::size_t SIZE>
+void TakeText(std::string_view name, std::string_view text, char (&field)[SIZE]) {
+  if (!text.empty()) StoreText(name, text, SIZE, field);
+}
+
+}  // namespace
+
+void TakeCatalogueItem(std::string_view line, WindowParams& record) {
+  const auto next = [&line] { return Trimmed(CutField(line, ';')); };
+  TakeText("text2", next(), record.text2);
+  TakeSize("width", next(), record.width);
+  TakeSize("length", next(), record.length);
+  TakeSize("frameWidth", next(), record.frameWidth);
+  TakeSize("frameDepth", next(), record.frameDepth);
+  TakeText("openingCode", next(), record.openingCode);
+  TakeText("text3", next(), record.text3);
+}
+
+}  // namespace brevanta

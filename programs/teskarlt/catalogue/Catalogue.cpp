@@ -1,0 +1,124 @@
+// Catalogue.cpp - reads window catalogues.
+#include "teskarlt/catalogue/Catalogue.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <unordered_map>
+
+#include <fmt/format.h>
+
+#include "platform/CodePage.h"
+#include "platform/FileOperations.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/dxf/TagValue.h"
+
+namespace teskarlt {
+
+namespace {
+
+constexpr std::string_view HEADER_KEYWORD = "VYROBCE";
+constexpr std::size_t LONGEST_LINE = 254;  // characters that the module reads as one line
+constexpr int CZECH_CODE_PAGE = 1250;
+
+bool IsUtf8(std::string_view bytes) {
+  for (std::size_t position = 0; position < bytes.size();) {
+    if (!platform::NextCharacter(bytes, position)) return false;
+  }
+  return true;
+}
+
+std::string_view WithoutLeadingBlanks(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string_view() : text.substr(first);
+}
+
+// Takes the lines of a catalogue one by one.
+class CatalogueBuilder {
+ public:
+  explicit CatalogueBuilder(Catalogue& catalogue) : catalogue_(catalogue) {}
+
+  // A line of the file; one that is too long comes in pieces, as the module reads it.
+  void TakePhysicalLine(std::string_view line) {
+    if (line.ends_with('\r')) {
+      catalogue_.hasWindowsLineEnds = true;
+      line.remove_suffix(1);
+    }
+    if (line.size() > LONGEST_LINE) ++catalogue_.cutLines;
+    for (; line.size() > LONGEST_LINE; line.remove_prefix(LONGEST_LINE))
+      TakeLine(line.substr(0, LONGEST_LINE));
+    TakeLine(line);
+  }
+
+ private:
+  void TakeLine(std::string_view line) {
+    if (line.empty()) return;
+    if (line.starts_with(HEADER_KEYWORD)) {
+      const auto [found, isNew] = sectionOf_.try_emplace(line, catalogue_.sections.size());
+      if (isNew) catalogue_.sections.push_back(line);
+      section_ = found->second;
+      hasSection_ = true;
+    } else if (hasSection_) {
+      const std::string_view key = WithoutLeadingBlanks(line.substr(0, line.find(';')));
+      catalogue_.items.push_back({section_, key, line});
+    }
+  }
+
+  Catalogue& catalogue_;
+  std::unordered_map<std::string_view, std::size_t> sectionOf_;
+  std::size_t section_ = 0;
+  bool hasSection_ = false;
+};
+
+}  // namespace
+
+std::string CatalogueIn(const std::string& path) {
+  if (path.ends_with('/') || path.ends_with('\\')) return path + std::string(CATALOGUE_FILE);
+  std::error_code error;
+  const std::filesystem::path place(std::u8string(path.begin(), path.end()));
+  if (std::filesystem::is_directory(place, error)) return path + "/" + std::string(CATALOGUE_FILE);
+  return path;
+}
+
+Catalogue ReadCatalogue(const std::string& path) {
+  Catalogue catalogue;
+  catalogue.path = CatalogueIn(path);
+  catalogue.file = platform::ReadWholeFile(catalogue.path);
+  std::string_view rest = catalogue.file.View();
+  if (rest.empty()) throw Error(fmt::format("{}: the catalogue is empty", catalogue.path));
+  if (rest.find('\0') != std::string_view::npos) {
+    throw Error(fmt::format("{}: this is no catalogue; it holds NUL bytes", catalogue.path));
+  }
+  CatalogueBuilder builder(catalogue);
+  while (!rest.empty()) {
+    const std::string_view line = rest.substr(0, rest.find('\n'));
+    builder.TakePhysicalLine(line);
+    rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+  }
+  if (catalogue.sections.empty()) {
+    throw Error(
+        fmt::format("{}: this is no catalogue; no line begins with {}", catalogue.path, HEADER_KEYWORD));
+  }
+  return catalogue;
+}
+
+std::string_view MakerOf(std::string_view header) {
+  std::string_view maker = header.substr(std::min(HEADER_KEYWORD.size(), header.size()));
+  const auto first = maker.find_first_not_of(" :\t");
+  return first == std::string_view::npos ? header : dxf::Trimmed(maker.substr(first));
+}
+
+std::string CatalogueText(std::string_view bytes) {
+  if (IsUtf8(bytes)) return std::string(bytes);
+  return platform::CodePage(CZECH_CODE_PAGE).ToUtf8(bytes);
+}
+
+std::string_view ItemField(std::string_view line, std::size_t index) {
+  for (; index > 0; --index) {
+    const auto separator = line.find(';');
+    if (separator == std::string_view::npos) return {};
+    line.remove_prefix(separator + 1);
+  }
+  return dxf::Trimmed(line.substr(0, line.find(';')));
+}
+
+}  // namespace teskarlt

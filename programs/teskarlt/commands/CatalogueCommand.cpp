@@ -1,0 +1,121 @@
+// CatalogueCommand.cpp - the subcommand "catalogue": shows a window catalogue.
+#include "teskarlt/commands/CatalogueCommand.h"
+
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/catalogue/Catalogue.h"
+#include "teskarlt/commands/Report.h"
+#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/host/DataFolder.h"
+
+namespace teskarlt {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct CatalogueOptions {
+  std::string file;
+  std::string section;
+  bool asJson = false;
+};
+
+// Fields of an item line in their order, behind the key.
+constexpr const char* FIELDS[] = {"widthCm",      "lengthCm",    "frameWidthCm",
+                                  "frameDepthCm", "openingCode", "description"};
+
+std::vector<const CatalogueItem*> ItemsOf(const Catalogue& catalogue, std::size_t section) {
+  std::vector<const CatalogueItem*> items;
+  for (const CatalogueItem& item : catalogue.items) {
+    if (item.section == section) items.push_back(&item);
+  }
+  return items;
+}
+
+// The sections to show: all, or the one that is named by its maker or its header line.
+std::vector<std::size_t> ChosenSections(const Catalogue& catalogue, const std::string& name) {
+  std::vector<std::size_t> chosen;
+  for (std::size_t i = 0; i < catalogue.sections.size(); ++i) {
+    const std::string header = CatalogueText(catalogue.sections[i]);
+    const bool named = dxf::SameName(header, name) || dxf::SameName(MakerOf(header), name);
+    if (name.empty() || named) chosen.push_back(i);
+  }
+  if (!chosen.empty()) return chosen;
+  std::string makers;
+  for (const std::string_view section : catalogue.sections) {
+    makers += (makers.empty() ? "\"" : ", \"") + CatalogueText(MakerOf(section)) + "\"";
+  }
+  throw Error(fmt::format("--section {}: {} has no such section; it has {}", name, catalogue.path, makers));
+}
+
+Json ItemJson(const CatalogueItem& item) {
+  Json json;
+  json["key"] = CatalogueText(item.key);
+  for (std::size_t i = 0; i < std::size(FIELDS); ++i)
+    json[FIELDS[i]] = CatalogueText(ItemField(item.line, i + 1));
+  return json;
+}
+
+void PrintCatalogue(const Catalogue& catalogue, const std::vector<std::size_t>& sections) {
+  Json json;
+  json["version"] = JSON_VERSION;
+  json["file"] = catalogue.path;
+  json["sections"] = Json::array();
+  for (const std::size_t section : sections) {
+    Json entry;
+    entry["maker"] = CatalogueText(MakerOf(catalogue.sections[section]));
+    entry["header"] = CatalogueText(catalogue.sections[section]);
+    entry["items"] = Json::array();
+    for (const CatalogueItem* item : ItemsOf(catalogue, section))
+      entry["items"].push_back(ItemJson(*item));
+    json["sections"].push_back(entry);
+  }
+  PrintJson(json);
+}
+
+void PrintTables(const Catalogue& catalogue, const std::vector<std::size_t>& sections) {
+  for (const std::size_t section : sections) {
+    fmt::print("{}{}\n", section == sections.front() ? "" : "\n",
+               CatalogueText(MakerOf(catalogue.sections[section])));
+    Table table({"key", "width cm", "length cm", "frame cm", "depth cm", "code", "description"});
+    for (const CatalogueItem* item : ItemsOf(catalogue, section)) {
+      std::vector<std::string> row = {CatalogueText(item->key)};
+      for (std::size_t i = 0; i < std::size(FIELDS); ++i)
+        row.push_back(CatalogueText(ItemField(item->line, i + 1)));
+      table.Add(row);
+    }
+    table.Print();
+  }
+}
+
+void RunCatalogue(const CatalogueOptions& options) {
+  const Catalogue catalogue = ReadCatalogue(options.file.empty() ? DataFolder() : options.file);
+  const std::vector<std::size_t> sections = ChosenSections(catalogue, options.section);
+  if (options.asJson) {
+    PrintCatalogue(catalogue, sections);
+  } else {
+    PrintTables(catalogue, sections);
+  }
+}
+
+}  // namespace
+
+void AddCatalogueCommand(CLI::App& app) {
+  CLI::App* command = app.add_subcommand("catalogue", "Show a window catalogue");
+  const auto options = std::make_shared<CatalogueOptions>();
+  command->add_option("FILE", options->file,
+                      "the catalogue, or its folder; without it the one in the data folder");
+  command->add_option("--section", options->section, "show this maker's windows only");
+  command->add_flag("--json", options->asJson, JSON_HELP);
+  command->footer(
+      "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder.\n"
+      "Example: teskarlt catalogue examples/BREVANTA.LIB");
+  command->callback([options] { RunCatalogue(*options); });
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,87 @@
+// MergeCommand.cpp - the subcommand "merge": merges one window catalogue into another.
+#include "teskarlt/commands/MergeCommand.h"
+
+#include <memory>
+#include <optional>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "teskarlt/catalogue/CatalogueMerge.h"
+#include "teskarlt/commands/Report.h"
+#include "teskarlt/host/WindowModule.h"
+
+namespace teskarlt {
+
+namespace {
+
+struct MergeOptions {
+  std::string source;
+  std::string target;
+  bool recover = false;
+  bool asJson = false;
+};
+
+std::optional<std::string> Given(const std::string& path) {
+  return path.empty() ? std::nullopt : std::optional(path);
+}
+
+void PrintReport(const MergeReport& report) {
+  nlohmann::ordered_json json;
+  json["version"] = JSON_VERSION;
+  json["target"] = report.target;
+  json["newSections"] = report.newSections;
+  json["taken"] = report.taken;
+  json["alreadyThere"] = report.alreadyThere;
+  json["total"] = report.total;
+  json["warnings"] = report.warnings;
+  PrintJson(json);
+}
+
+void PrintRecovery(const Recovery& recovery) {
+  fmt::print("{} is what it was before the interrupted merge.\n", recovery.target);
+  if (!recovery.setAside.empty()) fmt::print("What stood there lies in {} now.\n", recovery.setAside);
+}
+
+void RunMerge(const MergeOptions& options) {
+  if (options.recover) {
+    PrintRecovery(RecoverCatalogue(Given(options.source)));
+    return;
+  }
+  if (options.source.empty()) throw CLI::RequiredError("SOURCE");
+  const WindowModule module;
+  const MergeReport report = MergeCatalogues(module, options.source, Given(options.target));
+  for (const std::string& warning : report.warnings)
+    fmt::print(stderr, "teskarlt: warning: {}\n", warning);
+  if (options.asJson) {
+    PrintReport(report);
+    return;
+  }
+  fmt::print("{} windows taken, {} already there, {} new sections; {} now holds {} windows.\n", report.taken,
+             report.alreadyThere, report.newSections, report.target, report.total);
+}
+
+}  // namespace
+
+void AddMergeCommand(CLI::App& app) {
+  CLI::App* command = app.add_subcommand("merge", "Merge a window catalogue into another");
+  const auto options = std::make_shared<MergeOptions>();
+  command->add_option("SOURCE", options->source, "the catalogue whose windows are added, or its folder");
+  command->add_option("TARGET", options->target,
+                      "the catalogue that takes them, or its folder; without it the one in the data folder");
+  command->add_flag(
+      "--recover", options->recover,
+      "bring back the catalogue SOURCE (or that of the data folder) that an interrupted merge left");
+  command->add_flag("--json", options->asJson, JSON_HELP);
+  command->footer(
+      "A window that the target has already stays as the target has it.\n"
+      "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder.\n"
+      "Examples:\n"
+      "  teskarlt merge update.LIB\n"
+      "  teskarlt merge update.LIB catalogues/BREVANTA.LIB\n"
+      "  teskarlt merge --recover catalogues/BREVANTA.LIB");
+  command->callback([options] { RunMerge(*options); });
+}
+
+}  // namespace teskarlt
