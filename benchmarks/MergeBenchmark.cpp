@@ -38,8 +38,8 @@ std::string Catalogue(const std::string& name, int items) {
   for (int section = 0; section < SECTIONS; ++section) {
     text += "VYROBCE " + std::to_string(section) + " maker of roof windows\n";
     for (int i = 0; i < items / SECTIONS; ++i) {
-      text +=
-          (i % 3 == 0 ? "shared " : name + " ") + std::to_string(i) + "; 78; 118; 10; 8; D; roof window\n";
+      text += (i % 3 == 0 ? "shared " : name + " ") + std::to_string(section) + "-" + std::to_string(i);
+      text += "; 78; 118; 10; 8; D; roof window\n";
     }
     text += "\n";
   }

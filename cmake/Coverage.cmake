@@ -14,6 +14,8 @@ endforeach()
 list(JOIN coverage_tests "|" pattern)
 
 add_custom_target(coverage
+  # Counts of an earlier build do not fit this one.
+  COMMAND find ${CMAKE_BINARY_DIR} -name "*.gcda" -delete
   COMMAND ${CMAKE_CTEST_COMMAND} --output-on-failure -R "^(${pattern})$"
   COMMAND ${GCOVR} --root ${PROJECT_SOURCE_DIR} --object-directory ${CMAKE_BINARY_DIR}
     --filter ${PROJECT_SOURCE_DIR}/Library/ --filter ${PROJECT_SOURCE_DIR}/Library16/

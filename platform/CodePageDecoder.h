@@ -2,7 +2,6 @@
 // it.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -23,7 +22,8 @@ class CodePageDecoder {
   std::optional<char32_t> DecodePair(std::string_view bytes) const;
 
  private:
-  std::intptr_t system_;
+  int number_;
+  void* converter_ = nullptr;  // of systems that have one for each page
 };
 
 }  // namespace platform

@@ -1,6 +1,8 @@
 // CodePageDecoder.cpp - code pages by the C library's iconv.
 #include "platform/CodePageDecoder.h"
 
+#include <bit>
+#include <cstdint>
 #include <string>
 
 #include <iconv.h>
@@ -11,7 +13,6 @@ namespace {
 constexpr int ISO_8859_BASE = 28590;
 constexpr int ISO_8859_LAST = 28605;
 constexpr int MAC_ROMAN = 10000;
-constexpr std::intptr_t UNKNOWN = -1;
 
 std::string NameOf(int number) {
   if (number == MAC_ROMAN) return "MACINTOSH";
@@ -23,19 +24,19 @@ std::string NameOf(int number) {
 }  // namespace
 
 CodePageDecoder::CodePageDecoder(int number)
-    : system_(reinterpret_cast<std::intptr_t>(iconv_open("UTF-32LE", NameOf(number).c_str()))) {}
+    : number_(number), converter_(iconv_open("UTF-32LE", NameOf(number).c_str())) {}
 
 CodePageDecoder::~CodePageDecoder() {
-  if (IsKnown()) iconv_close(reinterpret_cast<iconv_t>(system_));
+  if (IsKnown()) iconv_close(converter_);
 }
 
 bool CodePageDecoder::IsKnown() const {
-  return system_ != UNKNOWN;
+  // The C library's mark for a page that it does not have is -1.
+  return number_ > 0 && std::bit_cast<std::intptr_t>(converter_) != -1;
 }
 
 std::optional<char32_t> CodePageDecoder::Decode(std::string_view bytes) const {
-  const auto converter = reinterpret_cast<iconv_t>(system_);
-  iconv(converter, nullptr, nullptr, nullptr, nullptr);
+  iconv(converter_, nullptr, nullptr, nullptr, nullptr);
   char input[2] = {};
   bytes.copy(input, sizeof input);
   char32_t output[2] = {};
@@ -43,9 +44,9 @@ std::optional<char32_t> CodePageDecoder::Decode(std::string_view bytes) const {
   std::size_t fromLeft = bytes.size();
   char* to = reinterpret_cast<char*>(output);
   std::size_t toLeft = sizeof output;
-  if (iconv(converter, &from, &fromLeft, &to, &toLeft) != 0) return std::nullopt;
+  if (iconv(converter_, &from, &fromLeft, &to, &toLeft) != 0) return std::nullopt;
   // Some pages keep a character back until they see whether an accent follows.
-  if (iconv(converter, nullptr, nullptr, &to, &toLeft) != 0) return std::nullopt;
+  if (iconv(converter_, nullptr, nullptr, &to, &toLeft) != 0) return std::nullopt;
   return toLeft == sizeof output - sizeof *output ? std::optional(output[0]) : std::nullopt;
 }
 

@@ -117,7 +117,8 @@ int LinkTarget(const std::string& path, std::string& target) {
     }
     const std::string next(text, static_cast<std::size_t>(length));
     const auto slash = at.rfind('/');
-    at = next.starts_with('/') || slash == std::string::npos ? next : at.substr(0, slash + 1) + next;
+    at.resize(next.starts_with('/') || slash == std::string::npos ? 0 : slash + 1);
+    at.append(next);
   }
   return ELOOP;
 }

@@ -6,24 +6,24 @@
 namespace platform {
 namespace {
 
-constexpr std::intptr_t UNKNOWN = -1;
+constexpr int UNKNOWN = -1;
 constexpr wchar_t FIRST_PRIVATE = 0xE000;
 constexpr wchar_t LAST_PRIVATE = 0xF8FF;
 
 }  // namespace
 
 CodePageDecoder::CodePageDecoder(int number)
-    : system_(IsValidCodePage(static_cast<UINT>(number)) != 0 ? number : UNKNOWN) {}
+    : number_(IsValidCodePage(static_cast<UINT>(number)) != 0 ? number : UNKNOWN) {}
 
 CodePageDecoder::~CodePageDecoder() = default;
 
 bool CodePageDecoder::IsKnown() const {
-  return system_ != UNKNOWN;
+  return number_ != UNKNOWN;
 }
 
 std::optional<char32_t> CodePageDecoder::Decode(std::string_view bytes) const {
   wchar_t output[2];
-  const int length = MultiByteToWideChar(static_cast<UINT>(system_), MB_ERR_INVALID_CHARS, bytes.data(),
+  const int length = MultiByteToWideChar(static_cast<UINT>(number_), MB_ERR_INVALID_CHARS, bytes.data(),
                                          static_cast<int>(bytes.size()), output, 2);
   // Undefined bytes of some pages become private characters here.
   if (length != 1 || (output[0] >= FIRST_PRIVATE && output[0] <= LAST_PRIVATE)) return std::nullopt;
@@ -31,7 +31,7 @@ std::optional<char32_t> CodePageDecoder::Decode(std::string_view bytes) const {
 }
 
 std::optional<char32_t> CodePageDecoder::DecodePair(std::string_view bytes) const {
-  if (IsDBCSLeadByteEx(static_cast<UINT>(system_), static_cast<BYTE>(bytes[0])) == 0) return std::nullopt;
+  if (IsDBCSLeadByteEx(static_cast<UINT>(number_), static_cast<BYTE>(bytes[0])) == 0) return std::nullopt;
   return Decode(bytes);
 }
 

@@ -47,7 +47,7 @@ void Collect(std::string_view text, CBrevantaSet& set, bool unique) {
       item->section = CString(std::string_view(section));
       item->key = CString(std::string_view(Key(line)));
       item->line = CString(std::string_view(line));
-      if (unique ? set.AddUnique(item.get()) : set.Add(item.get()) >= 0) item.release();
+      if (unique ? set.AddUnique(item.get()) : set.Add(item.get()) >= 0) static_cast<void>(item.release());
     }
   }
 }

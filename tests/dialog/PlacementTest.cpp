@@ -81,6 +81,21 @@ TEST_F(PlacementTest, BothEdgeHeightsTogetherAreRefused) {
             "lowerEdgeHeight and upperEdgeHeight cannot both be given; one follows from the other");
 }
 
+TEST_F(PlacementTest, HeightBesideTheRoofTellsItsHeights) {
+  host.answers["lowerEdgeHeight"] = "9";
+  EXPECT_EQ(host.RunDialog(), 0);
+  EXPECT_NE(host.refusal.find("(the face lies at 2.5 to 6.701 m)"), std::string::npos) << host.refusal;
+}
+
+TEST_F(PlacementTest, ContradictionsInThePlacementAreRefused) {
+  host.answers = {{"lowerEdgeHeight", "3"}, {"placeByHeight", "0"}};
+  EXPECT_EQ(host.RunDialog(), 0);
+  host.answers = {{"placeByHeight", "1"}};
+  EXPECT_EQ(host.RunDialog(), 0);
+  host.answers = {{"insertionPoint", "1,2,3"}};  // beside the picked point
+  EXPECT_EQ(host.RunDialog(), 0);
+}
+
 TEST_F(PlacementTest, StoredPointIsTheAnchorInTheDrawing) {
   ASSERT_EQ(host.RunDialog(), 1);
   EXPECT_NEAR(host.record.storedPoint.x, 4000, 1e-9);

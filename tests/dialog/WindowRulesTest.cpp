@@ -41,7 +41,9 @@ INSTANTIATE_TEST_SUITE_P(
            Refused{"frameWidth", "0.47", "frameWidth must be less than half the window (0.47), not 0.47"},
            Refused{"frameDepth", "-0.1", "frameDepth must be greater than 0, not -0.1"},
            Refused{"skirtHeight", "-0.1", "skirtHeight must be 0 or greater, not -0.1"},
-           Refused{"layerThickness", "-0.1", "layerThickness must be 0 or greater, not -0.1"}));
+           Refused{"layerThickness", "-0.1", "layerThickness must be 0 or greater, not -0.1"},
+           Refused{"skirtHeight", "1e305", "skirtHeight must be at most 10000, not 1e+305"},
+           Refused{"pickOffset", "-1e6", "pickOffset must be at most 10000, not -1e+06"}));
 
 INSTANTIATE_TEST_SUITE_P(
     NumbersThatAreNone, RefusedAnswer,

@@ -85,6 +85,13 @@ TEST(Index, FirstOfTwoEntitiesWithOneHandleIsMeant) {
   EXPECT_EQ(drawing.FindEntity(0), nullptr);
 }
 
+TEST(Index, NamesOfSectionsCompareWithoutRegardToCaseAndBlanks) {
+  const Document drawing = Parsed(
+      Tags("0|SECTION|2|header|9|$INSUNITS|70|4|0|ENDSEC|0|SECTION|2|Entities |0|LINE|8|0|0|ENDSEC|0|EOF"));
+  EXPECT_EQ(drawing.Units(), 4);
+  EXPECT_EQ(Types(drawing), "LINE ");
+}
+
 TEST(Index, FileWithoutEndIsCutShort) {
   EXPECT_EQ(LoadError(Tags("0|SECTION|2|ENTITIES|0|LINE|8|0|0|ENDSEC")),
             "roof.dxf: is cut short: EOF is missing at its end");

@@ -81,6 +81,8 @@ def test_damaged_drawing(teskarlt, tmp_path, damage):
     ([*INSERT, "--set", "markerValue=0"], ["markerValue"]),
     ([*INSERT, "--set", "pitch=20"], ["pitch 20"]),
     ([*INSERT, "--units", "parsec"], ["parsec"]),
+    ([*INSERT, "--set", "lowerEdgeHeight=99"], ["leave the roof face", "3.05 to 6.201 m"]),
+    ([*INSERT, "--set", "skirtHeight=1e305"], ["skirtHeight", "10000"]),
     (["--at", "2500,3900"], ["leave the roof face"]),
 ], ids=str)
 def test_refused_request(teskarlt, house, options, parts):
@@ -214,3 +216,24 @@ def test_full_disk_leaves_the_drawing_as_it_was(teskarlt, house, tmp_path):
         assert sorted(path.name for path in folder.iterdir()) == ["ballast", "house.dxf"]
     finally:
         os.system(f"umount {folder}")
+
+
+def test_file_named_without_a_folder_is_replaced(teskarlt, house):
+    before = house.read_bytes()
+    teskarlt.done("insert", "house.dxf", *INSERT, cwd=house.parent)
+    assert house.read_bytes() != before
+
+
+def test_unit_that_contradicts_the_header_is_warned_of(teskarlt, house, tmp_path):
+    answer = teskarlt.done("insert", house, "--at", "2500,1200", "--roof", "0,0,0", "9,0,0", "0,9,9", "--units", "m",
+                           "-o", tmp_path / "out.dxf")
+    assert "warning" in answer.stderr and "$INSUNITS 4" in answer.stderr
+
+
+def test_text_that_does_not_fit_once_encoded_names_its_field(teskarlt, tmp_path):
+    path = tmp_path / "new.dxf"
+    teskarlt.done("new", path, "--dxf-version", "R2018")
+    before = path.read_bytes()
+    refused(teskarlt("insert", path, "--roof", "0,0,0", "9000,0,0", "0,9000,9000", "--at", "0,0", "--set",
+                     "text1=" + "ř" * 199), "--set text1", "398 bytes", "255")
+    assert path.read_bytes() == before

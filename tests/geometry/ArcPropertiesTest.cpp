@@ -24,9 +24,10 @@ struct RandomArc {
     radius = random.Uniform(0.5, 20);
     const double from = random.Uniform(-3, 3);
     sweep = random.Uniform(0.3, 6.0) * (random.Whole(0, 1) > 0 ? 1 : -1);
-    for (int i = 0; i < 3; ++i)
-      p[i] = {centre.x + radius * std::cos(from + sweep * i / 2),
-              centre.y + radius * std::sin(from + sweep * i / 2), 0};
+    for (int i = 0; i < 3; ++i) {
+      const double angle = from + sweep * i / 2;
+      p[i] = {centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle), 0};
+    }
   }
 };
 

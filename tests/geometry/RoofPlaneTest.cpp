@@ -426,9 +426,10 @@ TEST_P(RoofProperties, PlacementMatrixIsTheInverseByTheSolverToo) {
     Matrix4 inverse{};
     ASSERT_EQ(MatInverse(roofPlane.worldToLocal, inverse), 1);
     for (int row = 0; row < 3; ++row) {
-      for (int column = 0; column < 4; ++column)
+      for (int column = 0; column < 4; ++column) {
         EXPECT_NEAR(inverse.m[row][column], roofPlane.localToWorld.m[row][column],
                     32 * U * (GetParam() + 10));
+      }
     }
   }
 }
@@ -461,10 +462,10 @@ TEST_P(RoofProperties, EachCornerLiesInTheLocalPlane) {
   for (int i = 0; i < 2000; ++i) {
     const Triangle t(random, GetParam());
     ASSERT_EQ(FitRoofPlane(t.p[0], t.p[1], t.p[2], 1), 1);
-    for (int k = 0; k < 3; ++k) {
+    for (const Vec3& p : t.p) {
       Vec3 local{};
       Vec3 dropped{};
-      WorldToRoof(t.p[k], local);
+      WorldToRoof(p, local);
       ASSERT_NE(HitRoofPlane({local.x, local.y, -50}, {0, 0, 1}, dropped), HIT_NONE);
       // z = 50 is reached over a slope of up to 80 degrees, whose tangent multiplies the plan's rounding.
       EXPECT_NEAR(dropped.z, local.z, 16 * 6 * U * (GetParam() + 60) * 2);

@@ -134,10 +134,15 @@ TEST(FindRoofFaces, FaceWithoutAHandleIsNumbered) {
   EXPECT_EQ(faces[0].name, "#2");
 }
 
-TEST(FindRoofFace, NamesCompareWithoutRegardToCase) {
+TEST(FacesNamed, NamesCompareWithoutRegardToCase) {
   const auto faces = FindRoofFaces(Drawing("", Face("2F", SLOPE)), TOLERANCE);
-  EXPECT_EQ(FindRoofFace(faces, "2f"), &faces[0]);
-  EXPECT_EQ(FindRoofFace(faces, "30"), nullptr);
+  EXPECT_EQ(FacesNamed(faces, "2f"), std::vector<const RoofFace*>{&faces[0]});
+  EXPECT_TRUE(FacesNamed(faces, "30").empty());
+}
+
+TEST(FacesNamed, HandleThatIsUsedTwiceGivesBothFaces) {
+  const auto faces = FindRoofFaces(Drawing("", Face("2F", SLOPE) + Face("2F", SLOPE)), TOLERANCE);
+  EXPECT_EQ(FacesNamed(faces, "2F").size(), 2U);
 }
 
 }  // namespace

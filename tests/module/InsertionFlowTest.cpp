@@ -178,6 +178,19 @@ TEST_F(InsertionFlow, WindowOnAFlatRoofRunsAlongPlusY) {
   EXPECT_NEAR(top[2], 0, 1e-9);
 }
 
+// A roof that falls towards +y by less than the tolerance counts as flat and is not turned, but its slope
+// sign is -1.
+TEST_F(InsertionFlow, WindowOnANearlyFlatRoofRunsUpItsSlope) {
+  record.roofPlanePoints[1] = {0, 100, -0.005};
+  record.placeByHeight = 1;  // too flat for it
+  record.lowerEdgeHeight = 90;
+  Make();
+  const Point top = group_list::PointOf(recording_host::Faces()[0], 11);
+  EXPECT_NEAR(top[1], -200, 1e-6);
+  EXPECT_NEAR(top[2], 0.01, 1e-9);
+  EXPECT_EQ(record.rotation, 0);
+}
+
 TEST_F(InsertionFlow, PickOffsetMovesTheInsertionPointInTheDirectionOfRotation) {
   record.insertionPoint = {30, 40, 5};
   record.pickOffset = 2;

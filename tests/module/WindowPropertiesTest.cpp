@@ -18,7 +18,7 @@ using group_list::Point;
 using Corners = std::array<Point, 4>;
 
 constexpr double PI = 3.141592653589793;
-constexpr int ROUNDS = 500;
+constexpr int ROUNDS = 200;
 constexpr unsigned SEED = 20240607;
 constexpr double GLASS_INSET = 0.02;  // metres
 

@@ -144,6 +144,16 @@ TEST_F(OutsidePlacement, FlatRoofRunsAlongPlusY) {
   ExpectPoint(OuterFoot(3), {1100, 2000, 0});
 }
 
+// It counts as flat, so its frame is not turned; it falls towards +y, so the window runs the other way.
+TEST_F(OutsidePlacement, NearlyFlatRoofRunsUpItsSlope) {
+  record().roofPlanePoints[0] = {1100, 2000, 0};
+  record().roofPlanePoints[1] = {1000, 2100, -0.005};
+  Insert();
+  EXPECT_NEAR(OuterFoot(1)[1], 1800, 1e-6);
+  EXPECT_NEAR(OuterFoot(1)[2], 0.01, 1e-9);
+  EXPECT_NEAR(OuterFoot(3)[0], 1100, 1e-9);
+}
+
 TEST_F(OutsidePlacement, HeightOfTheWindowsLowerEdgeIsStoredInDrawingUnits) {
   Insert();
   EXPECT_EQ(group_list::ToString(recording_host::Faces()[0][9 + 14]), "1040 real 25");

@@ -21,7 +21,7 @@ constexpr const char* DIALOG_MODULE = "BREVANTA_D.CRX";
 
 template <typename Function>
 Function Command(const char* name) {
-  static const HMODULE module = AfxLoadLibrary((ProgramFolder() + "BREVANTA.CRX").c_str());
+  static HMODULE module = AfxLoadLibrary((ProgramFolder() + "BREVANTA.CRX").c_str());
   EXPECT_NE(module, nullptr) << ModuleLoadError();
   return ExportedFunction<Function>(module, name);
 }

@@ -59,7 +59,7 @@ TEST_F(ModuleServices, EveryLoadNeedsItsOwnRelease) {
 }
 
 TEST(ModuleServicesProgram, ExeNameStandsForTheProgram) {
-  const HMODULE program = GetModuleHandleA(nullptr);
+  HMODULE program = GetModuleHandleA(nullptr);
   ASSERT_NE(program, nullptr);
   EXPECT_EQ(GetModuleHandleA("services_test.EXE"), program);
   EXPECT_EQ(GetModuleHandleA("SERVICES_TEST.exe"), program);
@@ -125,7 +125,7 @@ TEST_F(ModuleServices, NoBufferGetsNoFileName) {
 TEST_F(ModuleServices, FileNameIsFullForAModuleLoadedByARelativePath) {
   const std::filesystem::path before = std::filesystem::current_path();
   std::filesystem::current_path(ProgramFolder());
-  const HMODULE other = AfxLoadLibrary("./OtherStrings.tkr");
+  HMODULE other = AfxLoadLibrary("./OtherStrings.tkr");
   std::filesystem::current_path(before);
   ASSERT_NE(other, nullptr);
   char path[4096];
@@ -192,7 +192,7 @@ TEST(LoadingModules, FileThatIsNoModuleGivesNull) {
 }
 
 TEST(LoadingModules, NameWithoutAPathGoesThroughTheOrdinarySearch) {
-  const HMODULE library = AfxLoadLibrary("libm.so.6");
+  HMODULE library = AfxLoadLibrary("libm.so.6");
   ASSERT_NE(library, nullptr);
   FreeLibrary(library);
   EXPECT_EQ(AfxLoadLibrary("TestStrings.tkr"), nullptr);  // not in the program's own folder

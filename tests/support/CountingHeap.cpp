@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,7 @@ struct Book {
   int allocations = 0;
   int releases = 0;
   int failIn = 0;  // 0: no failure asked for
+  std::function<void(std::size_t)> watcher;
 };
 
 Book& TheBook() {
@@ -29,6 +31,7 @@ Book& TheBook() {
 
 void* HeapAllocate(std::size_t size) {
   Book& book = TheBook();
+  if (book.watcher) book.watcher(size);
   if (size > LARGEST_BLOCK) return nullptr;
   if (book.failIn > 0 && --book.failIn == 0) return nullptr;
   void* block = std::malloc(size);
@@ -55,10 +58,15 @@ void Reset() {
   book.allocations = 0;
   book.releases = 0;
   book.failIn = 0;
+  book.watcher = nullptr;
 }
 
 void FailAllocation(int n) {
   TheBook().failIn = n;
+}
+
+void Watch(std::function<void(std::size_t)> watcher) {
+  TheBook().watcher = std::move(watcher);
 }
 
 int Allocations() {

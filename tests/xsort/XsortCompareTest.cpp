@@ -114,7 +114,7 @@ TEST_F(XsortDeathTest, LowMemoryForEitherKeyIsFatal) {
   for (int n = 1; n <= 2; ++n) {
     EXPECT_EXIT(
         {
-          test_heap::FailAt(n);
+          counting_heap::FailAllocation(n);
           XsortCompare("a", "b");
         },
         testing::ExitedWithCode(1),
@@ -123,9 +123,9 @@ TEST_F(XsortDeathTest, LowMemoryForEitherKeyIsFatal) {
 }
 
 TEST_F(XsortDeathTest, ThirdAllocationIsNotAskedFor) {
-  test_heap::FailAt(3);
+  counting_heap::FailAllocation(3);
   EXPECT_EQ(Compare("a", "b"), -1);
-  EXPECT_EQ(test_heap::Allocations(), 2);
+  EXPECT_EQ(counting_heap::Allocations(), 2);
 }
 
 // The kind of the report that a comparison raises when its n-th allocation fails, caught by the jump.
@@ -133,7 +133,7 @@ int CaughtKind(int n) {
   const int caught = setjmp(lttools::ErrJump);
   if (caught == 0) {
     lttools::ErrJumpArmed = 1;
-    test_heap::FailAt(n);
+    counting_heap::FailAllocation(n);
     XsortCompare("a", "b");
   }
   lttools::ErrJumpArmed = 0;
@@ -142,9 +142,9 @@ int CaughtKind(int n) {
 
 TEST_F(XsortDeathTest, CaughtLowMemoryLosesNoBlock) {
   for (int n = 1; n <= 2; ++n) {
-    test_heap::Reset();
+    counting_heap::Reset();
     EXPECT_EQ(CaughtKind(n), lttools::ERR_FATAL);
-    EXPECT_EQ(test_heap::Allocations(), test_heap::Releases());
+    EXPECT_EQ(counting_heap::Allocations(), counting_heap::Releases());
   }
 }
 

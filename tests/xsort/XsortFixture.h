@@ -10,7 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/xsort/TestHeap.h"
+#include "tests/support/CountingHeap.h"
 #include "xsort.h"
 
 namespace xsort {
@@ -23,12 +23,12 @@ class XsortTest : public testing::Test {
     for (char& c : path_) {
       if (c == '/') c = '_';
     }
-    test_heap::Reset();
+    counting_heap::Reset();
   }
 
   void TearDown() override {
     XsortUnload();
-    EXPECT_EQ(test_heap::Allocations(), test_heap::Releases());
+    EXPECT_EQ(counting_heap::Allocations(), counting_heap::Releases());
     std::filesystem::remove_all(path_);
   }
 

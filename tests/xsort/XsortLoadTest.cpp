@@ -143,7 +143,7 @@ TEST_F(XsortLoadTest, WrappedLastElementNeverMatches) {
 
 TEST_F(XsortLoadTest, LowMemoryIsRefusedAndLeavesNothing) {
   Write("a b");
-  test_heap::FailAt(1);
+  counting_heap::FailAllocation(1);
   EXPECT_EQ(Load(), -1);
   EXPECT_EQ(XsortUnload(), -1);
   EXPECT_EQ(Load(), 0);
@@ -151,7 +151,7 @@ TEST_F(XsortLoadTest, LowMemoryIsRefusedAndLeavesNothing) {
 
 TEST_F(XsortLoadTest, AllocatesTheFilesSizeAndOneByteMore) {
   std::size_t size = 0;
-  test_heap::Watch([&](std::size_t asked) { size = asked; });
+  counting_heap::Watch([&](std::size_t asked) { size = asked; });
   EXPECT_EQ(LoadText("a b c"), 0);
   EXPECT_EQ(size, 6U);
 }
@@ -159,14 +159,15 @@ TEST_F(XsortLoadTest, AllocatesTheFilesSizeAndOneByteMore) {
 TEST_F(XsortLoadTest, FileThatGrowsWhileReadIsCutAtItsFirstSize) {
   // The memory is asked for between the measuring and the reading.
   Write("a b c");
-  test_heap::Watch([&](std::size_t) { std::ofstream(Path(), std::ios::binary | std::ios::app) << "d e f"; });
+  counting_heap::Watch(
+      [&](std::size_t) { std::ofstream(Path(), std::ios::binary | std::ios::app) << "d e f"; });
   EXPECT_EQ(Load(), 0);
   EXPECT_EQ(Key("abcd"), "\1\2\3\5");
 }
 
 TEST_F(XsortLoadTest, FileThatShrinksWhileReadGivesWhatIsLeft) {
   Write("a b c " + std::string(100000, 'x'));
-  test_heap::Watch([&](std::size_t) { std::filesystem::resize_file(Path(), 5); });
+  counting_heap::Watch([&](std::size_t) { std::filesystem::resize_file(Path(), 5); });
   EXPECT_EQ(Load(), 0);
   EXPECT_EQ(Key("abcx"), "\1\2\3\5");
 }
@@ -174,7 +175,7 @@ TEST_F(XsortLoadTest, FileThatShrinksWhileReadGivesWhatIsLeft) {
 TEST_F(XsortLoadTest, FileThatIsEmptiedWhileReadIsRefusedOrReadFromTheBuffer) {
   // The measuring may have left the text in the stream's buffer.
   Write("a b c");
-  test_heap::Watch([&](std::size_t) { std::filesystem::resize_file(Path(), 0); });
+  counting_heap::Watch([&](std::size_t) { std::filesystem::resize_file(Path(), 0); });
   if (Load() == 0) {
     EXPECT_EQ(Key("abcd"), "\1\2\3\5");
   } else {

@@ -40,6 +40,9 @@ void AddCommands(CLI::App& app) {
   app.set_version_flag("-V,--version", VERSION);
   app.footer(EXAMPLES);
   app.get_formatter()->column_width(34);
+  app.failure_message([](const CLI::App*, const CLI::Error& error) {
+    return fmt::format("teskarlt: {}; --help tells more\n", error.what());
+  });
   AddRoofsCommand(app);
   AddInsertCommand(app);
   AddListCommand(app);

@@ -15,6 +15,7 @@
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/dxf/NewDrawing.h"
 #include "teskarlt/host/DataFolder.h"
 #include "teskarlt/host/WindowModule.h"
 
@@ -36,6 +37,15 @@ struct InsertOptions {
   bool asJson = false;
 };
 
+// A text in the drawing's code page, which extended data can hold in the drawing's version.
+std::string StoredText(const std::string& utf8, const dxf::Document& drawing) {
+  std::string bytes = drawing.ToCodePage(utf8);
+  const std::size_t size = drawing.EncodedSize(bytes);
+  if (size <= dxf::LONGEST_EXTENDED_TEXT) return bytes;
+  throw Error(fmt::format("the text takes {} bytes in this drawing, and {} is the most that it can hold",
+                          size, dxf::LONGEST_EXTENDED_TEXT));
+}
+
 // "field=value" into the answers; a text goes from the terminal's UTF-8 to the drawing's code page.
 void TakeSetting(const std::string& setting, const dxf::Document& drawing, WindowRequest& request) {
   const auto equals = setting.find('=');
@@ -48,9 +58,9 @@ void TakeSetting(const std::string& setting, const dxf::Document& drawing, Windo
         fmt::format("--set {}: there is no such field; teskarlt insert --fields lists them", setting));
   }
   const std::string value = setting.substr(equals + 1);
-  const bool isText = field->kind == brevanta::FieldKind::Text;
   try {
-    request.answers[name] = isText ? drawing.ToCodePage(value) : value;
+    const bool isText = field->kind == brevanta::FieldKind::Text;
+    request.answers[name] = isText ? StoredText(value, drawing) : value;
   } catch (const std::exception& error) {
     throw Error(fmt::format("--set {}: {}", name, error.what()));
   }
@@ -73,8 +83,13 @@ void TakeWindow(const InsertOptions& options, const dxf::Document& drawing, Wind
 const RoofFace& ChooseFace(const InsertOptions& options, const WindowRequest& request,
                            const std::vector<RoofFace>& faces) {
   if (!options.roofFace.empty()) {
-    const RoofFace* named = FindRoofFace(faces, options.roofFace);
-    if (named != nullptr) return *named;
+    const std::vector<const RoofFace*> named = FacesNamed(faces, options.roofFace);
+    if (named.size() == 1) return *named.front();
+    if (named.size() > 1) {
+      throw Error(
+          fmt::format("--roof-face {}: {} faces of {} have that handle; leave it out, and --at chooses",
+                      options.roofFace, named.size(), options.file));
+    }
     throw Error(fmt::format("--roof-face {}: {} has no roof face of that name; teskarlt roofs lists them",
                             options.roofFace, options.file));
   }
@@ -140,10 +155,20 @@ void PrintText(const InsertOptions& options, const CommandOutcome& outcome, cons
       options.dryRun ? "would be added; nothing was written (dry run)" : "added; written to " + target);
 }
 
+// The user's word goes before the header's, but a slip would make a window a thousand times too small.
+void WarnOfOtherUnit(const InsertOptions& options, const dxf::Document& drawing, const DrawingUnit& unit) {
+  if (options.units.empty() || drawing.Units() == dxf::UNITS_NONE || drawing.Units() == unit.insUnits) return;
+  fmt::print(stderr,
+             "teskarlt: warning: {} says that its unit is another one ($INSUNITS {}) than --units {}\n",
+             options.file, drawing.Units(), options.units);
+}
+
 void RunInsert(const InsertOptions& options) {
   const WindowModule module;
   dxf::Document drawing = dxf::Document::Load(options.file);
   const DrawingUnit& unit = UnitOf(drawing, options.units);
+  WarnOfOtherUnit(options, drawing, unit);
+  drawing.AssumeUnits(unit.insUnits);
 
   WindowRequest request;
   request.unitFactor = unit.perMetre;

@@ -102,7 +102,8 @@ Section SectionOf(std::string_view application) {
 void TakeTag(const dxf::Document& drawing, const dxf::Tag& tag, Section& section, Marks& marks) {
   if (tag.code == dxf::CODE_XDATA_APPLICATION) {
     section = SectionOf(dxf::Trimmed(tag.value));
-  } else if (section == Section::Element && tag.code == dxf::CODE_XDATA_TEXT && tag.value == WINDOW_ELEMENT) {
+  } else if (section == Section::Element && tag.code == dxf::CODE_XDATA_TEXT &&
+             dxf::Trimmed(tag.value) == WINDOW_ELEMENT) {
     section = Section::WindowElement;
     marks.isWindow = true;
   } else if (section == Section::WindowElement && tag.code == XDATA_LONG) {

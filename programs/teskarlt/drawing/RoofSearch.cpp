@@ -40,11 +40,12 @@ std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double toleran
   return found;
 }
 
-const RoofFace* FindRoofFace(const std::vector<RoofFace>& faces, std::string_view name) {
+std::vector<const RoofFace*> FacesNamed(const std::vector<RoofFace>& faces, std::string_view name) {
+  std::vector<const RoofFace*> named;
   for (const RoofFace& face : faces) {
-    if (dxf::SameName(face.name, name)) return &face;
+    if (dxf::SameName(face.name, name)) named.push_back(&face);
   }
-  return nullptr;
+  return named;
 }
 
 }  // namespace teskarlt

@@ -14,7 +14,7 @@ namespace teskarlt {
 // (drawing units), and the faces of roof windows.
 std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double tolerance);
 
-// The face of that name (RoofFace.h), or null; without regard to case.
-const RoofFace* FindRoofFace(const std::vector<RoofFace>& faces, std::string_view name);
+// The faces of that name (RoofFace.h), without regard to case; several where the drawing uses a handle twice.
+std::vector<const RoofFace*> FacesNamed(const std::vector<RoofFace>& faces, std::string_view name);
 
 }  // namespace teskarlt

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <utility>
 
 #include <fmt/format.h>
@@ -51,11 +52,25 @@ bool UsesHandles(const Index& index, int version) {
   return handling ? *handling == 1 : index.hasEntityHandles;
 }
 
+int UnitsOf(const Index& index) {
+  constexpr std::int64_t most = 1000;  // far above the units there are
+  const std::int64_t units = ParseInteger(VariableText(index, "$INSUNITS")).value_or(0);
+  return units < 0 || units > most ? 0 : static_cast<int>(units);
+}
+
+bool IsSameFile(const std::string& a, const std::string& b) {
+  const auto path = [](const std::string& utf8) {
+    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+  };
+  std::error_code error;
+  return a == b || std::filesystem::equivalent(path(a), path(b), error);
+}
+
 Rules RulesOf(const SourceText& source, const Index& index) {
   Rules rules;
   rules.version = VersionOf(index);
   rules.lineEnd = LineEndOf(source.Text());
-  rules.units = static_cast<int>(ParseInteger(VariableText(index, "$INSUNITS")).value_or(0));
+  rules.units = UnitsOf(index);
   rules.isMetric =
       ParseInteger(VariableText(index, "$MEASUREMENT")).value_or(MEASUREMENT_METRIC) == MEASUREMENT_METRIC;
   rules.usesHandles = UsesHandles(index, rules.version);
@@ -127,9 +142,11 @@ std::string_view Document::CodePageName() const {
 }
 
 int Document::Units() const {
-  const auto units = HeaderVariable("$INSUNITS");
-  if (!units) return 0;
-  return static_cast<int>(TagReader(Source(), {}).Integer(*units));
+  return UnitsOf(state_->index);
+}
+
+void Document::AssumeUnits(int units) {
+  state_->rules.units = units;
 }
 
 std::optional<Tag> Document::HeaderVariable(std::string_view name) const {
@@ -180,6 +197,12 @@ std::string Document::ToUtf8(std::string_view bytes) const {
   return state_->codec.ToUtf8(bytes);
 }
 
+std::size_t Document::EncodedSize(std::string_view bytes) const {
+  std::string raw;
+  state_->codec.Encode(bytes, raw);
+  return raw.size();
+}
+
 std::uint64_t Document::AddEntity(std::span<const Group> groups) {
   return state_->edits.AddEntity(groups);
 }
@@ -218,7 +241,7 @@ void Document::Rollback(const EditMark& mark) {
 
 void Document::Save(const std::string& path) const {
   WithHostErrors([&] {
-    const bool isLoadedFile = path == FileName() && state_->file.exists;
+    const bool isLoadedFile = state_->file.exists && IsSameFile(path, FileName());
     if (isLoadedFile && platform::StateOfFile(path) != state_->file)
       state_->source.Fail("was changed by another program meanwhile; nothing is written");
     platform::FileReplacement file(path);

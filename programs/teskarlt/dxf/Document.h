@@ -41,8 +41,10 @@ class Document {
   int Version() const;
   // $DWGCODEPAGE as it stands; "ANSI_1252" when it is missing.
   std::string_view CodePageName() const;
-  // $INSUNITS; 0 (no unit) when it is missing.
+  // $INSUNITS; 0 (no unit) when it is missing or no number of a unit.
   int Units() const;
+  // What to count with where the user knows the unit better than the header ($INSUNITS); the header stays.
+  void AssumeUnits(int units);
   // First tag of a header variable ("$INSUNITS").
   std::optional<Tag> HeaderVariable(std::string_view name) const;
 
@@ -69,6 +71,8 @@ class Document {
   // Between UTF-8 and bytes of the drawing's code page; throws for a character that the page does not have.
   std::string ToCodePage(std::string_view utf8) const;
   std::string ToUtf8(std::string_view bytes) const;
+  // Bytes that a text in the drawing's code page takes in the file, with its encoding and escapes.
+  std::size_t EncodedSize(std::string_view bytes) const;
 
   // --- Edits ---
 

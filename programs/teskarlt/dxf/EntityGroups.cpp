@@ -15,7 +15,6 @@
 namespace teskarlt::dxf {
 namespace {
 
-constexpr std::size_t LONGEST_EXTENDED_TEXT = 255;  // bytes as encoded
 constexpr std::size_t LONGEST_APPLICATION = 31;
 constexpr int FIRST_XDATA_CODE = 1000;
 

@@ -64,13 +64,13 @@ void Indexer::ReadSection() {
   Section section{{}, reader_.TagBegin(), nullptr};
   if (!reader_.Next(tag_) || tag_.code != CODE_NAME)
     source_.FailAt(section.begin, "the section that begins here has no name");
-  section.name = tag_.value;
+  section.name = Trimmed(tag_.value);
   index_.sections.push_back(section);
-  if (section.name == "HEADER") {
+  if (SameName(section.name, "HEADER")) {
     ReadHeader();
-  } else if (section.name == "TABLES") {
+  } else if (SameName(section.name, "TABLES")) {
     ReadTables();
-  } else if (section.name == "ENTITIES") {
+  } else if (SameName(section.name, "ENTITIES")) {
     ReadEntities();
   } else {
     ReadOther();
@@ -126,11 +126,11 @@ void Indexer::ReadTable() {
       isNamed = false;
       handle = {};
     } else if (!isInRecord && tag_.code == CODE_NAME) {
-      table.name = tag_.value;
+      table.name = Trimmed(tag_.value);
     } else if (!isInRecord && tag_.code == CODE_COUNT) {
       table.count = tag_;
     } else if (tag_.code == CODE_DIMSTYLE_HANDLE ||
-               (tag_.code == CODE_HANDLE && !(isInRecord && table.name == "DIMSTYLE"))) {
+               (tag_.code == CODE_HANDLE && !(isInRecord && SameName(table.name, "DIMSTYLE")))) {
       // 5 in a dimension style is the name of an arrow block.
       TakeHandle();
       Tag& owner = isInRecord ? handle : table.handle;
@@ -138,7 +138,8 @@ void Indexer::ReadTable() {
     } else if (isInRecord && !isNamed && tag_.code == CODE_NAME) {
       isNamed = true;
       table.records.push_back(tag_.value);
-      if (table.name == "BLOCK_RECORD" && SameName(tag_.value, "*Model_Space")) index_.modelSpace = handle;
+      if (SameName(table.name, "BLOCK_RECORD") && SameName(tag_.value, "*Model_Space"))
+        index_.modelSpace = handle;
     }
   }
   table.end = reader_.TagBegin();

@@ -251,7 +251,7 @@ void NewRecords::AddSectionSplice(const std::string& tables, std::vector<Splice>
   text += tables;
   writer.Text(CODE_TYPE, "ENDSEC");
   const auto next = std::find_if(index_.sections.begin(), index_.sections.end(), [](const Section& section) {
-    return section.name != "HEADER" && section.name != "CLASSES";
+    return !SameName(section.name, "HEADER") && !SameName(section.name, "CLASSES");
   });
   splices.push_back({next->begin, next->begin, std::move(text)});
 }

@@ -48,12 +48,12 @@ inline int TagReader::ReadCode() {
     ++at;
   const bool isNegative = at != end_ && *at == '-';
   if (isNegative) ++at;
+  constexpr int MOST_DIGITS = 6;
   const char* const digits = at;
   int code = 0;
-  while (at != end_ && *at >= '0' && *at <= '9')
+  while (at != end_ && *at >= '0' && *at <= '9' && at - digits < MOST_DIGITS)
     code = code * 10 + (*at++ - '0');
-  constexpr int MOST_DIGITS = 6;
-  if (at == digits || at - digits > MOST_DIGITS) FailAtCode();
+  if (at == digits) FailAtCode();
   while (at != end_ && (*at == ' ' || *at == '\t' || *at == '\r'))
     ++at;
   if (at == end_) FailAtCut();

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "teskarlt/host/EntityGroups.h"
+#include "teskarlt/host/ListGroups.h"
 
 namespace teskarlt {
 
@@ -107,7 +107,7 @@ HostSession* HostSession::Current() {
 
 std::int32_t HostSession::MakeEntity(const brevanta::ValueNode* list) {
   try {
-    const std::vector<dxf::Group> groups = EntityGroups(list);
+    const std::vector<dxf::Group> groups = ListGroups(list);
     drawing_.AddEntity(groups);
     const bool isFace =
         !groups.empty() && groups[0].value == decltype(dxf::Group::value)(std::string_view("3DFACE"));

@@ -95,7 +95,7 @@ void CheckOutcome(const CommandOutcome& outcome) {
 
 }  // namespace
 
-WindowModule::WindowModule() : module_(nullptr), insert_(nullptr), merge_(nullptr) {
+WindowModule::WindowModule() {
   CheckProgramName();
   CheckCompanion(brevanta::DIALOG_MODULE, "the dialog module",
                  {brevanta::DIALOG_EXPORT, brevanta::ERASE_WINDOW_EXPORT});

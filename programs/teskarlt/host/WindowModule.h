@@ -37,9 +37,9 @@ class WindowModule {
   using InsertFunction = std::int32_t (*)(void* hostContext, std::int32_t unitFactor, void* reserved,
                                           std::int32_t dialogArg);
 
-  HMODULE module_;
-  InsertFunction insert_;
-  MergeFunction merge_;
+  HMODULE module_ = nullptr;
+  InsertFunction insert_ = nullptr;
+  MergeFunction merge_ = nullptr;
 };
 
 }  // namespace teskarlt

@@ -101,7 +101,10 @@ Vec3 OntoPlane(const Vec3& p) {
 void TakePoint(const DialogServices& services, const Answers& answers, WindowParams& record) {
   double xy[2] = {};
   const bool picked = services.pickedPoint(services.context, xy) != 0;
-  if (answers.Has("insertionPoint")) return;
+  if (answers.Has("insertionPoint")) {
+    if (picked) throw Refusal("insertionPoint gives the window's place already; leave the picked point out");
+    return;
+  }
   if (!picked) throw Refusal("no place was given for the window");
   Vec3 local{};
   geometry::WorldToRoof({xy[0], xy[1], 0.0}, local);
@@ -124,8 +127,13 @@ Vec3 TakeHeights(const Answers& answers, WindowParams& record) {
   const bool upper = answers.Has("upperEdgeHeight");
   if (lower && upper)
     throw Refusal("lowerEdgeHeight and upperEdgeHeight cannot both be given; one follows from the other");
+  if ((lower || upper) && answers.Has("placeByHeight") && record.placeByHeight == 0)
+    throw Refusal(
+        "placeByHeight 0 leaves the window at its point; leave it out for the edge height to count");
+  if (answers.Has("placeByHeight") && record.placeByHeight == 1 && !lower && !upper)
+    throw Refusal("placeByHeight 1 needs a lowerEdgeHeight or an upperEdgeHeight");
   const Vec3 anchor = MovedAnchor(record);
-  const bool byHeight = answers.Has("placeByHeight") ? record.placeByHeight == 1 : lower || upper;
+  const bool byHeight = lower || upper;
   record.placeByHeight = byHeight ? 1 : 0;
   if (!byHeight) {
     record.lowerEdgeHeight = anchor.z / record.unitFactor;
@@ -161,7 +169,21 @@ PlanPolygon OuterOutline(const WindowParams& record, const Vec3& anchor) {
   return {{x, y, 0}, {x, y + rise, 0}, {x + width, y + rise, 0}, {x + width, y, 0}};
 }
 
-void CheckInside(const Roof& roof, const PlanPolygon& outline) {
+// For people: between which heights the faces lie, in metres.
+std::string HeightRange(const Roof& roof, std::int32_t unitFactor) {
+  double low = roof.faces.front().front().z;
+  double high = low;
+  for (const FaceCorners& face : roof.faces) {
+    for (const Vec3& corner : face) {
+      low = std::fmin(low, corner.z);
+      high = std::fmax(high, corner.z);
+    }
+  }
+  const auto metres = [&](double z) { return NumberText(std::round(z / unitFactor * 1000.0) / 1000.0); };
+  return metres(low) + " to " + metres(high) + " m";
+}
+
+void CheckInside(const Roof& roof, const PlanPolygon& outline, const WindowParams& record) {
   const double area = PlanArea(outline);
   if (!(area > 0.0) || !std::isfinite(area))
     throw Refusal("the window would lie farther away than numbers reach; check its sizes and offsets");
@@ -175,7 +197,10 @@ void CheckInside(const Roof& roof, const PlanPolygon& outline) {
   if (outside <= COVER_TOLERANCE) return;
   const double percent = std::ceil(outside * 1000.0) / 10.0;
   throw Refusal("the window would leave the roof face: " + NumberText(percent) +
-                " % of its area lies outside; move it or make it smaller");
+                " % of its area lies outside; move it or make it smaller" +
+                (record.placeByHeight == 1
+                     ? " (the face lies at " + HeightRange(roof, record.unitFactor) + ")"
+                     : std::string()));
 }
 
 }  // namespace
@@ -193,7 +218,8 @@ void PlaceWindow(const DialogServices& services, const Answers& answers, WindowP
   TakePoint(services, answers, record);
   const Vec3 anchor = TakeHeights(answers, record);
 
-  if (roof.isBounded && !answers.Has("roofPlanePoints")) CheckInside(roof, OuterOutline(record, anchor));
+  if (roof.isBounded && !answers.Has("roofPlanePoints"))
+    CheckInside(roof, OuterOutline(record, anchor), record);
   if (!answers.Has("storedPoint")) {
     Vec3 world{};
     geometry::RoofToWorld(anchor, world);

@@ -12,6 +12,9 @@ namespace brevanta {
 
 namespace {
 
+// In metres; far above any house, and far below what a drawing's numbers can still tell apart.
+constexpr double LARGEST_LENGTH = 10000.0;
+
 [[noreturn]] void Refuse(const char* field, double value, const std::string& must) {
   throw Refusal(std::string(field) + " must be " + must + ", not " + NumberText(value));
 }
@@ -20,13 +23,18 @@ void MustBeFinite(const char* field, double value) {
   if (!std::isfinite(value)) Refuse(field, value, "a finite number");
 }
 
-void MustBePositive(const char* field, double value) {
+void MustBeALength(const char* field, double value) {
   MustBeFinite(field, value);
+  if (std::abs(value) > LARGEST_LENGTH) Refuse(field, value, "at most " + NumberText(LARGEST_LENGTH));
+}
+
+void MustBePositive(const char* field, double value) {
+  MustBeALength(field, value);
   if (value <= 0.0) Refuse(field, value, "greater than 0");
 }
 
 void MustNotBeNegative(const char* field, double value) {
-  MustBeFinite(field, value);
+  MustBeALength(field, value);
   if (value < 0.0) Refuse(field, value, "0 or greater");
 }
 
@@ -46,10 +54,10 @@ void CheckSizes(const WindowParams& record) {
   if (2 * record.frameWidth >= narrower) {
     Refuse("frameWidth", record.frameWidth, "less than half the window (" + NumberText(narrower / 2) + ")");
   }
-  MustBeFinite("lowerEdgeHeight", record.lowerEdgeHeight);
-  MustBeFinite("upperEdgeHeight", record.upperEdgeHeight);
-  MustBeFinite("pickOffset", record.pickOffset);
-  MustBeFinite("slopeOffset", record.slopeOffset);
+  MustBeALength("lowerEdgeHeight", record.lowerEdgeHeight);
+  MustBeALength("upperEdgeHeight", record.upperEdgeHeight);
+  MustBeALength("pickOffset", record.pickOffset);
+  MustBeALength("slopeOffset", record.slopeOffset);
   MustBeFinite("rotation", record.rotation);
   MustBeFinite("rotation2", record.rotation2);
 }

@@ -1,10 +1,10 @@
-// EntityGroupsTest.cpp - entities from the module's value lists.
+// ListGroupsTest.cpp - entities from the module's value lists.
 #include <deque>
 
 #include <gtest/gtest.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/host/EntityGroups.h"
+#include "teskarlt/host/ListGroups.h"
 
 namespace teskarlt {
 namespace {
@@ -30,7 +30,7 @@ class List {
   std::deque<ValueNode> nodes_;
 };
 
-TEST(EntityGroups, EachKindOfValueIsTaken) {
+TEST(ListGroups, EachKindOfValueIsTaken) {
   List list;
   list.Text(0, "LINE");
   ValueNode& point = list.Add(10);
@@ -45,41 +45,41 @@ TEST(EntityGroups, EachKindOfValueIsTaken) {
                                             {40, 0.5},
                                             {70, std::int64_t{-7}},
                                             {1071, std::int64_t{70000}}};
-  EXPECT_EQ(EntityGroups(list.Head()), expected);
+  EXPECT_EQ(ListGroups(list.Head()), expected);
 }
 
-TEST(EntityGroups, MarkerOfTheExtendedDataGoes) {
+TEST(ListGroups, MarkerOfTheExtendedDataGoes) {
   List list;
   list.Text(0, "LINE").Add(-3);
   list.Text(1001, "TK_LT_ELEM");
-  EXPECT_EQ(EntityGroups(list.Head()).size(), 2U);
+  EXPECT_EQ(ListGroups(list.Head()).size(), 2U);
 }
 
-TEST(EntityGroups, EmptyLayerNameBecomesLayerZero) {
+TEST(ListGroups, EmptyLayerNameBecomesLayerZero) {
   List list;
   list.Text(0, "LINE").Text(8, "");
-  EXPECT_EQ(EntityGroups(list.Head())[1].value, Value(std::string_view("0")));
+  EXPECT_EQ(ListGroups(list.Head())[1].value, Value(std::string_view("0")));
 }
 
-TEST(EntityGroups, MissingTextIsAnError) {
+TEST(ListGroups, MissingTextIsAnError) {
   List list;
   list.Text(0, "LINE").Text(8, nullptr);
-  EXPECT_THROW(EntityGroups(list.Head()), Error);
+  EXPECT_THROW(ListGroups(list.Head()), Error);
 }
 
-TEST(EntityGroups, CodeWithoutAKindIsAnError) {
+TEST(ListGroups, CodeWithoutAKindIsAnError) {
   for (const int code : {-6, 80, 310, 5007}) {
     List list;
     list.Text(0, "LINE").Add(code);
-    EXPECT_THROW(EntityGroups(list.Head()), Error) << code;
+    EXPECT_THROW(ListGroups(list.Head()), Error) << code;
   }
 }
 
-TEST(EntityGroups, ListThatClosesOnItselfIsAnError) {
+TEST(ListGroups, ListThatClosesOnItselfIsAnError) {
   List list;
   ValueNode& node = list.Text(0, "LINE").Add(70);
   node.next = &node;
-  EXPECT_THROW(EntityGroups(list.Head()), Error);
+  EXPECT_THROW(ListGroups(list.Head()), Error);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// EntityGroups.h - an entity from the module's typed value list to the groups of a drawing.
+// ListGroups.h - an entity from the module's typed value list to the groups of a drawing.
 #pragma once
 
 #include <vector>
@@ -10,6 +10,6 @@ namespace teskarlt {
 
 // The list's groups in their order; texts stay the list's. The marker in front of extended data goes, an
 // empty layer name becomes "0". Throws Error for a code that has no kind, a missing text and an endless list.
-std::vector<dxf::Group> EntityGroups(const brevanta::ValueNode* list);
+std::vector<dxf::Group> ListGroups(const brevanta::ValueNode* list);
 
 }  // namespace teskarlt

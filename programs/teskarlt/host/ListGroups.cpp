@@ -1,5 +1,5 @@
-// EntityGroups.cpp - an entity from the module's typed value list to the groups of a drawing.
-#include "teskarlt/host/EntityGroups.h"
+// ListGroups.cpp - an entity from the module's typed value list to the groups of a drawing.
+#include "teskarlt/host/ListGroups.h"
 
 #include <cstddef>
 #include <string_view>
@@ -47,7 +47,7 @@ GroupValue ValueOf(const brevanta::ValueNode& node) {
 
 }  // namespace
 
-std::vector<dxf::Group> EntityGroups(const brevanta::ValueNode* list) {
+std::vector<dxf::Group> ListGroups(const brevanta::ValueNode* list) {
   std::vector<dxf::Group> groups;
   for (; list != nullptr; list = list->next) {
     if (groups.size() == MOST_GROUPS) throw Error("the module handed over an entity without an end");
