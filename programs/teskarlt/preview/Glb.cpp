@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdint>
 #include <map>
+#include <tuple>
 #include <utility>
 
 #include <nlohmann/json.hpp>
@@ -50,7 +51,10 @@ enum class Kind { Surface, Glass, Edge };
 struct Material {
   Kind kind;
   std::uint8_t red, green, blue;
-  auto operator<=>(const Material&) const = default;
+
+  bool operator<(const Material& other) const {
+    return std::tie(kind, red, green, blue) < std::tie(other.kind, other.red, other.green, other.blue);
+  }
 };
 
 class Writer {

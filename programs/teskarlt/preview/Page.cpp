@@ -1,6 +1,7 @@
 // Page.cpp - puts a model into the page.
 #include "teskarlt/preview/Page.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 

@@ -53,9 +53,10 @@ class Sorter {
     for (std::size_t i = 0; i < shapes_.size(); ++i) {
       const std::vector<Vec3>& corners = scene.surfaces[i].corners;
       const std::vector<std::size_t> indices = Triangles(corners);
-      for (std::size_t k = 0; k < indices.size(); k += 3)
+      for (std::size_t k = 0; k < indices.size(); k += 3) {
         Add(shapes_[i], {view.Project(corners[indices[k]]), view.Project(corners[indices[k + 1]]),
                          view.Project(corners[indices[k + 2]])});
+      }
     }
     size_ = std::max({all_.high.x - all_.low.x, all_.high.y - all_.low.y, all_.high.z - all_.low.z, 0.0});
     tolerance_ = size_ * RELATIVE_TOLERANCE;

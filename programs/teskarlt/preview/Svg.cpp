@@ -170,7 +170,7 @@ void Writer::Layers() {
     if (length * scale_ >= SHORTEST_LINE) lines[line.layer].push_back(line);
   }
   for (std::size_t layer = 0; layer < lines.size(); ++layer) {
-    Put("<g id=\"layer-{}\" inkscape:groupmode=\"layer\" inkscape:label=\"{}\"", layer,
+    Put(R"(<g id="layer-{}" inkscape:groupmode="layer" inkscape:label="{}")", layer,
         Escaped(scene_.layers[layer].name));
     Put(" fill=\"none\" stroke=\"{}\" stroke-width=\"0.8\">\n", Hex(Ink(scene_.layers[layer].colour)));
     LayerLines(lines[layer], scene_.layers[layer]);
@@ -188,7 +188,7 @@ std::string Writer::DashText(const VisibleLine& line) const {
     lengths += (lengths.empty() ? "" : ",") + Number(length * scale_);
   }
   if (period < SHORTEST_DASHES) return {};
-  std::string text = fmt::format(" stroke-dasharray=\"{}\" stroke-linecap=\"butt\"", lengths);
+  std::string text = fmt::format(R"( stroke-dasharray="{}" stroke-linecap="butt")", lengths);
   const double offset = std::fmod(line.offset * scale_, period);
   if (Number(offset) != "0") text += fmt::format(" stroke-dashoffset=\"{}\"", Number(offset));
   return text;
@@ -248,8 +248,8 @@ void Writer::ScaleBar(double y) {
       Number(x), Number(y), Number(width), thickness);
   Put("<path d=\"M{0},{1}h{2}v{3}h-{2}z\"/>\n", Number(x), Number(y), Number(width / 2), thickness);
   const std::string unit = scene_.perMetre > 0 ? " m" : "";
-  Put("<text x=\"{}\" y=\"{}\">0</text>", Number(x), Number(y + 19));
-  Put("<text x=\"{}\" y=\"{}\">{}</text>", Number(x + width / 2), Number(y + 19), length / 2);
+  Put(R"(<text x="{}" y="{}">0</text>)", Number(x), Number(y + 19));
+  Put(R"(<text x="{}" y="{}">{}</text>)", Number(x + width / 2), Number(y + 19), length / 2);
   Put("<text x=\"{}\" y=\"{}\">{}{}</text>\n</g>\n", Number(x + width), Number(y + 19), length, unit);
 }
 
