@@ -76,6 +76,12 @@ TEST(ReadScene, EmptyDrawingIsAnError) {
   EXPECT_EQ(MessageOf({}), "test.dxf: nothing is to be seen in this drawing");
 }
 
+TEST(ReadScene, DrawingThatReachesTooFarIsAnError) {
+  EXPECT_EQ(MessageOf({.entities = Line("A", 0, 0, 1e300, 1)}), "test.dxf: reaches too far for a picture");
+  EXPECT_EQ(MessageOf({.entities = "0 CIRCLE|8 A|10 0|20 0|40 1e308|"}),
+            "test.dxf: reaches too far for a picture");
+}
+
 TEST(ReadScene, LinetypeOfTheLayerIsScaled) {
   const Scene scene = SceneOf(
       {.tables = "0 LAYER|2 A|70 0|62 3|6 DASHED|0 LTYPE|2 Dashed|70 0|49 2.0|49 -1.0|49 0.0|49 -1.0|",

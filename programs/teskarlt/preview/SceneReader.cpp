@@ -26,6 +26,7 @@ using geometry::Matrix4;
 
 constexpr std::size_t MOST_NESTED = 32;            // blocks in blocks
 constexpr std::size_t MOST_ENTITIES = 20'000'000;  // with those of every inserted block
+constexpr double FARTHEST = 1e12;                  // coordinate, in drawing units
 constexpr int CODE_INVISIBLE = 60;
 constexpr int CODE_NUMBER = 62;
 constexpr int CODE_TRUE_COLOUR = 420;
@@ -296,6 +297,10 @@ Scene Reader::Run(const SceneOptions& options) {
       drawing_.Source().Fail(fmt::format("nothing is to be seen on layer \"{}\"", layer));
   }
   if (scene_.box.IsEmpty()) drawing_.Source().Fail("nothing is to be seen in this drawing");
+  const Box& box = scene_.box;
+  for (const double reach : {box.low.x, box.low.y, box.low.z, box.high.x, box.high.y, box.high.z}) {
+    if (!(std::abs(reach) <= FARTHEST)) drawing_.Source().Fail("reaches too far for a picture");
+  }
   return std::move(scene_);
 }
 

@@ -1,6 +1,7 @@
 // Styles.cpp - reads the tables of layers and linetypes.
 #include "teskarlt/preview/Styles.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "teskarlt/dxf/TagValue.h"
@@ -18,10 +19,12 @@ constexpr std::int64_t FROZEN = 1;
 
 LayerStyle ReadLayer(const Record& record) {
   LayerStyle layer;
-  const std::int64_t number = record.Integer(CODE_NUMBER, COLOUR_WHITE);
-  layer.isVisible = number >= 0 && (record.Integer(dxf::CODE_COUNT) & FROZEN) == 0;
+  constexpr std::int64_t most = COLOUR_BY_LAYER;
+  const std::int64_t number = std::clamp(record.Integer(CODE_NUMBER, COLOUR_WHITE), -most, most);
+  const bool isOff = number < 0;
+  layer.isVisible = !isOff && (record.Integer(dxf::CODE_COUNT) & FROZEN) == 0;
   layer.colour = record.Has(CODE_TRUE_COLOUR) ? ColourOfValue(record.Integer(CODE_TRUE_COLOUR))
-                                              : ColourOfNumber(std::abs(number));
+                                              : ColourOfNumber(isOff ? -number : number);
   layer.linetype = record.Text(dxf::CODE_LINETYPE, layer.linetype);
   return layer;
 }
