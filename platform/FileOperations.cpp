@@ -142,7 +142,7 @@ void FileReplacement::Fail(const char* operation, int error) {
   FailAt(path_, operation, error);
 }
 
-void ReplaceFile(const std::string& path, std::string_view bytes) {
+void WriteWholeFile(const std::string& path, std::string_view bytes) {
   FileReplacement file(path);
   file.Write(bytes);
   file.Commit();

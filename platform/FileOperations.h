@@ -103,6 +103,6 @@ class FileReplacement {
 };
 
 // Puts `bytes` in the place of the file `path` by FileReplacement; throws FileError.
-void ReplaceFile(const std::string& path, std::string_view bytes);
+void WriteWholeFile(const std::string& path, std::string_view bytes);
 
 }  // namespace platform

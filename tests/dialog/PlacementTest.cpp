@@ -129,8 +129,9 @@ TEST_F(PlacementTest, RoofDrawnTwiceIsNoLargerThanOne) {
       "the window would leave the roof face: 50 % of its area lies outside; move it or make it smaller");
 }
 
-TEST_F(PlacementTest, OffsetBeyondAllNumbersIsRefusedInWords) {
-  host.answers["pickOffset"] = "1e308";
+TEST_F(PlacementTest, PlaceBeyondAllNumbersIsRefusedInWords) {
+  host.point.reset();
+  host.answers["insertionPoint"] = "1e308,0,0";
   EXPECT_EQ(host.RunDialog(), 0);
   EXPECT_EQ(host.refusal,
             "the window would lie farther away than numbers reach; check its sizes and offsets");

@@ -14,7 +14,7 @@ std::string WithHeader(std::string_view variables) {
 // A file of the test folder that is gone after the test.
 class TemporaryFile {
  public:
-  explicit TemporaryFile(const std::string& text) { platform::ReplaceFile(path_, text); }
+  explicit TemporaryFile(const std::string& text) { platform::WriteWholeFile(path_, text); }
   ~TemporaryFile() { std::remove(path_.c_str()); }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -117,7 +117,7 @@ TEST(DocumentFile, FileThatSomebodyChangedIsNotOverwritten) {
   const TemporaryFile file(OnlyEntities("0|LINE|8|A"));
   const Document drawing = Document::Load(file.Path());
   const std::string changed = OnlyEntities("0|LINE|8|A|0|POINT|8|B");
-  platform::ReplaceFile(file.Path(), changed);
+  platform::WriteWholeFile(file.Path(), changed);
   EXPECT_EQ(ErrorOf([&] { drawing.Save(file.Path()); }),
             "document_test.dxf: was changed by another program meanwhile; nothing is written");
   EXPECT_EQ(file.Text(), changed);

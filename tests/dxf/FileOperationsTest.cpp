@@ -53,9 +53,9 @@ class FileOperationsTest : public testing::Test {
 
   // Replaces a file's text with one operation failing; checks that the old file is untouched and alone.
   std::string ErrorOfReplacing() {
-    ReplaceFile(In("a.dxf"), "old");
+    WriteWholeFile(In("a.dxf"), "old");
     SetFileOperations(&failing_);
-    const std::string message = ErrorOf([&] { ReplaceFile(In("a.dxf"), "new"); });
+    const std::string message = ErrorOf([&] { WriteWholeFile(In("a.dxf"), "new"); });
     SetFileOperations(nullptr);
     EXPECT_EQ(Text(In("a.dxf")), "old");
     EXPECT_EQ(Files(), std::set<std::string>{"a.dxf"});
@@ -71,18 +71,18 @@ class FileOperationsTest : public testing::Test {
 FileOperations FileOperationsTest::failing_;
 
 TEST_F(FileOperationsTest, WrittenFileIsReadBack) {
-  ReplaceFile(In("a.dxf"), "some text");
+  WriteWholeFile(In("a.dxf"), "some text");
   EXPECT_EQ(Text(In("a.dxf")), "some text");
   EXPECT_EQ(Files(), std::set<std::string>{"a.dxf"});
 }
 
 TEST_F(FileOperationsTest, EmptyFile) {
-  ReplaceFile(In("a.dxf"), "");
+  WriteWholeFile(In("a.dxf"), "");
   EXPECT_EQ(Text(In("a.dxf")), "");
 }
 
 TEST_F(FileOperationsTest, NamesAreUtf8) {
-  ReplaceFile(In("střecha 屋根.dxf"), "x");
+  WriteWholeFile(In("střecha 屋根.dxf"), "x");
   EXPECT_EQ(Text(In("střecha 屋根.dxf")), "x");
   EXPECT_TRUE(fs::exists(fs::path(In("")) / fs::path(u8"střecha 屋根.dxf")));
 }
@@ -102,7 +102,7 @@ TEST_F(FileOperationsTest, LargeFileInSmallAndLargePieces) {
 }
 
 TEST_F(FileOperationsTest, WithoutCommitTheOldFileStays) {
-  ReplaceFile(In("a.dxf"), "old");
+  WriteWholeFile(In("a.dxf"), "old");
   {
     FileReplacement file(In("a.dxf"));
     file.Write("new");
@@ -113,36 +113,36 @@ TEST_F(FileOperationsTest, WithoutCommitTheOldFileStays) {
 
 TEST_F(FileOperationsTest, StateTellsChangedFilesApart) {
   EXPECT_FALSE(StateOfFile(In("a.dxf")).exists);
-  ReplaceFile(In("a.dxf"), "old");
+  WriteWholeFile(In("a.dxf"), "old");
   const FileState old = StateOfFile(In("a.dxf"));
   EXPECT_TRUE(old.exists && old.isOrdinary && old.isWritable);
   EXPECT_EQ(old.size, 3U);
   EXPECT_EQ(StateOfFile(In("a.dxf")), old);
-  ReplaceFile(In("a.dxf"), "newer");
+  WriteWholeFile(In("a.dxf"), "newer");
   EXPECT_NE(StateOfFile(In("a.dxf")), old);
 }
 
 TEST_F(FileOperationsTest, RightsOfTheOldFileStay) {
-  ReplaceFile(In("a.dxf"), "old");
+  WriteWholeFile(In("a.dxf"), "old");
   const auto rights = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
   fs::permissions(In("a.dxf"), rights);
   const auto before = fs::status(In("a.dxf")).permissions();
-  ReplaceFile(In("a.dxf"), "new");
+  WriteWholeFile(In("a.dxf"), "new");
   EXPECT_EQ(fs::status(In("a.dxf")).permissions(), before);
 }
 
 TEST_F(FileOperationsTest, FolderIsNotReplaced) {
   fs::create_directory(In("a.dxf"));
-  EXPECT_EQ(ErrorOf([&] { ReplaceFile(In("a.dxf"), "x"); }),
+  EXPECT_EQ(ErrorOf([&] { WriteWholeFile(In("a.dxf"), "x"); }),
             In("a.dxf") + ": cannot be written: it is not an ordinary file");
 }
 
 TEST_F(FileOperationsTest, LinkLeadsToItsTarget) {
-  ReplaceFile(In("a.dxf"), "old");
+  WriteWholeFile(In("a.dxf"), "old");
   std::error_code error;
   fs::create_symlink("a.dxf", In("link.dxf"), error);
   if (error) GTEST_SKIP() << "no symbolic links here";
-  ReplaceFile(In("link.dxf"), "new");
+  WriteWholeFile(In("link.dxf"), "new");
   EXPECT_TRUE(fs::is_symlink(In("link.dxf")));
   EXPECT_EQ(Text(In("a.dxf")), "new");
 }
@@ -156,12 +156,12 @@ TEST_F(FileOperationsTest, MissingFileIsNamedWithTheSystemsReason) {
 }
 
 TEST_F(FileOperationsTest, MissingFolderIsAnError) {
-  EXPECT_THAT(ErrorOf([&] { ReplaceFile(In("none/a.dxf"), "x"); }),
+  EXPECT_THAT(ErrorOf([&] { WriteWholeFile(In("none/a.dxf"), "x"); }),
               testing::HasSubstr("a.dxf: cannot be written: no file can be made in its folder: "));
 }
 
 TEST_F(FileOperationsTest, FailedReadIsAnError) {
-  ReplaceFile(In("a.dxf"), "old");
+  WriteWholeFile(In("a.dxf"), "old");
   failing_.read = [](FileHandle, char*, std::size_t, std::size_t&) { return SYSTEM_ERROR; };
   SetFileOperations(&failing_);
   EXPECT_EQ(ErrorOf([&] { ReadWholeFile(In("a.dxf")); }),
@@ -169,7 +169,7 @@ TEST_F(FileOperationsTest, FailedReadIsAnError) {
 }
 
 TEST_F(FileOperationsTest, ShortReadsAreContinued) {
-  ReplaceFile(In("a.dxf"), "some text");
+  WriteWholeFile(In("a.dxf"), "some text");
   failing_.read = [](FileHandle file, char* buffer, std::size_t, std::size_t& count) {
     return SystemFileOperations().read(file, buffer, 2, count);
   };
@@ -179,7 +179,7 @@ TEST_F(FileOperationsTest, ShortReadsAreContinued) {
 
 TEST_F(FileOperationsTest, FileThatGrewSinceItsSizeWasAskedIsReadWhole) {
   const std::string text(200'000, 'x');
-  ReplaceFile(In("a.dxf"), text);
+  WriteWholeFile(In("a.dxf"), text);
   failing_.stat = [](const std::string&, FileState& state) {
     state = {true, true, true, 1, 0};
     return 0;
@@ -193,7 +193,7 @@ TEST_F(FileOperationsTest, ShortWritesAreContinued) {
     return SystemFileOperations().write(file, bytes, 1, count);
   };
   SetFileOperations(&failing_);
-  ReplaceFile(In("a.dxf"), "some text");
+  WriteWholeFile(In("a.dxf"), "some text");
   EXPECT_EQ(Text(In("a.dxf")), "some text");
 }
 

@@ -14,7 +14,7 @@ class CatalogueTest : public testing::Test {
   ~CatalogueTest() override { platform::CurrentFileOperations().remove(path); }
 
   Catalogue Read(const std::string& text) {
-    platform::ReplaceFile(path, text);
+    platform::WriteWholeFile(path, text);
     return ReadCatalogue(path);
   }
 

@@ -207,9 +207,9 @@ Recovery RecoverCatalogue(const std::optional<std::string>& target) {
   ReadCatalogue(backup);  // throws when it is none
   if (Exists(recovery.target)) {
     recovery.setAside = recovery.target + ".interrupted";
-    platform::ReplaceFile(recovery.setAside, platform::ReadWholeFile(recovery.target).View());
+    platform::WriteWholeFile(recovery.setAside, platform::ReadWholeFile(recovery.target).View());
   }
-  platform::ReplaceFile(recovery.target, kept.View());
+  platform::WriteWholeFile(recovery.target, kept.View());
   const int error = platform::CurrentFileOperations().remove(backup);
   if (error == 0) return recovery;
   throw Error(fmt::format("{} was brought back, but {} cannot be removed: {}", recovery.target, backup,

@@ -36,7 +36,7 @@ void RunNew(const NewOptions& options) {
   drawing.layers = {"ROOF", "ROOF_WINDOW_BODY", "ROOF_WINDOW_OPENING", "ROOF_WINDOW_OUTLINE",
                     "ROOF_WINDOW_SYMBOL"};
   drawing.applications = {"TK_LT_ELEM", "TK_LT_DESC"};
-  platform::ReplaceFile(options.file, dxf::NewDrawing(drawing));
+  platform::WriteWholeFile(options.file, dxf::NewDrawing(drawing));
   fmt::print("Empty drawing in {} written to {}.\n", options.units, options.file);
 }
 

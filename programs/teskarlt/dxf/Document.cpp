@@ -52,10 +52,10 @@ bool UsesHandles(const Index& index, int version) {
   return handling ? *handling == 1 : index.hasEntityHandles;
 }
 
-int UnitsOf(const Index& index) {
-  constexpr std::int64_t most = 1000;  // far above the units there are
-  const std::int64_t units = ParseInteger(VariableText(index, "$INSUNITS")).value_or(0);
-  return units < 0 || units > most ? 0 : static_cast<int>(units);
+// A number far above the units there are counts as none.
+int UnitsOf(std::int64_t number) {
+  constexpr std::int64_t most = 1000;
+  return number < 0 || number > most ? 0 : static_cast<int>(number);
 }
 
 bool IsSameFile(const std::string& a, const std::string& b) {
@@ -70,7 +70,7 @@ Rules RulesOf(const SourceText& source, const Index& index) {
   Rules rules;
   rules.version = VersionOf(index);
   rules.lineEnd = LineEndOf(source.Text());
-  rules.units = UnitsOf(index);
+  rules.units = UnitsOf(ParseInteger(VariableText(index, "$INSUNITS")).value_or(0));
   rules.isMetric =
       ParseInteger(VariableText(index, "$MEASUREMENT")).value_or(MEASUREMENT_METRIC) == MEASUREMENT_METRIC;
   rules.usesHandles = UsesHandles(index, rules.version);
@@ -142,7 +142,8 @@ std::string_view Document::CodePageName() const {
 }
 
 int Document::Units() const {
-  return UnitsOf(state_->index);
+  const auto units = HeaderVariable("$INSUNITS");
+  return units ? UnitsOf(TagReader(Source(), {}).Integer(*units)) : 0;
 }
 
 void Document::AssumeUnits(int units) {
