@@ -6,7 +6,6 @@
 #ifdef _WIN32
 
 #include <windows.h>
-#undef ReplaceFile  // a macro there, a function of FileOperations.h
 
 #else
 

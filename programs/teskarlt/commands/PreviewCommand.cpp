@@ -98,7 +98,7 @@ void RunPreview(const PreviewOptions& options) {
   RefuseUnusable(options, format);
   const dxf::Document drawing = dxf::Document::Load(options.file);
   const preview::Scene scene = preview::ReadScene(drawing, {options.units, options.layers});
-  platform::ReplaceFile(options.output, Made(options, format, scene));
+  platform::WriteWholeFile(options.output, Made(options, format, scene));
   ReportLeftOut(scene);
   fmt::print("{} written.\n", options.output);
 }
