@@ -22,14 +22,15 @@ namespace xsort {
 // below (128 to 256 characters) never match; above, a token counts as the first length - 256 of its
 //   characters, and so on by 256;
 // - the last element one character long: the sort by length leaves it in the last place, so a longer one
-// loses
-//   to an earlier element that it begins with;
+//   loses to an earlier element that it begins with;
+// - no element twice: the first one's rank counts;
+// - the line ends of its system: on Linux a carriage return is no separator and belongs to its element;
 // - no NUL: the table ends there.
 
-// Reads the table from the file, which is opened as text. Gives 0; or -1, with the table as it was, when one
-// is loaded already, when the file cannot be opened or read, when it is empty or a folder, and when memory is
-// low. A file of separators alone gives 0 and no table. If the file changes while it is read, the table is
-// made of what was read, at most the size that the file had when it was opened.
+// Reads the table from the file (a path, never null), which is opened as text. Gives 0; or -1, with the table
+// as it was, when one is loaded already, when the file cannot be opened or read, when it is empty or a
+// folder, and when memory is low. A file of separators alone gives 0 and no table. If the file changes while
+// it is read, the table is made of what was read, at most the size that the file had when it was opened.
 int XsortLoad(const char* fileName);
 
 // Releases the table and gives 0; -1 when none is loaded.

@@ -105,7 +105,7 @@ def frames():
     start = (3.1, 3.9)
     end = (start[0] - y_axis[0] * 1.9, start[1] - y_axis[1] * 1.9)
     plan.line(start, end, MARK, 2, arrow=True)
-    plan.text(start, "normal, seen from above", MARK, dx=-90, dy=-8)
+    plan.text(start, "normal, seen from above", MARK, dx=-105, dy=-14)
     svg.text(40, 30, "Plan (world)", INK, size=16)
 
     section = Panel(svg, 560, 320, 38)
@@ -215,7 +215,9 @@ def references():
             for end in (0, 1):
                 panel.line(window[end], opening[end], MARK, 2)
             panel.dot((0, 0), INK, 5)
-            panel.text((0, 0), "P", INK, dx=-16, dy=-2)
+            panel.text((0, 0), "P", INK, dx=8 if second_plane else -16, dy=20 if second_plane else -2)
+            if mode == 0:
+                panel.measure(window[1], opening[1], "D")
             title = Panel(svg, 40 + mode * 220, 112 + row * 318, 1)
             title.text((0, 0), f"heightReference {mode}", INK)
             title.text((0, 0), names[mode], MARK, dy=18, size=13)

@@ -63,6 +63,16 @@ TEST_F(FindItem, KeyAndQualifierArePatterns) {
   EXPECT_EQ(Find("b@", "A*"), 1);
 }
 
+TEST_F(FindItem, LineOf300CharactersCountsAsTwo) {
+  Write("VYROBCE+ Alfa\n" + std::string(300, 'x') + "\na1; 78\n");
+  EXPECT_EQ(Find("a1"), 2);
+}
+
+TEST_F(FindItem, HeaderOfTheSameSectionIsCountedWhenItComesAgain) {
+  Write("VYROBCE+ Alfa\nVYROBCE+ Alfa\na1; 78\n");
+  EXPECT_EQ(Find("a1"), 1);
+}
+
 TEST_F(FindItem, MissingLibraryGivesMinusOne) {
   EXPECT_EQ(Find("a1"), -1);
 }

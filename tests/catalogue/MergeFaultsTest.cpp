@@ -7,6 +7,8 @@
 
 #include "MergeFixture.h"
 #include "ScriptedStdio.h"
+#include "arx/catalogue/FindCatalogueItem.h"
+#include "platform/ModuleState.h"
 
 namespace brevanta {
 namespace {
@@ -43,6 +45,26 @@ TEST_F(MergeFaults, OperationsComeInAFixedOrder) {
                           "rename BREVANTA.LIB BREVANTA.OLD", "open r BREVANTA.OLD", "open w BREVANTA.LIB",
                           "read BREVANTA.OLD", "close BREVANTA.OLD", "write BREVANTA.LIB",
                           "close BREVANTA.LIB", "remove BREVANTA.OLD"));
+}
+
+TEST_F(MergeFaults, ModulesOwnStateIsCurrentFromTheFirstFileToTheLast) {
+  int seen = 0;
+  const auto look = [&seen] { seen += AfxGetModuleState() == AfxGetStaticModuleState() ? 1 : 0; };
+  AFX_MODULE_STATE* const before = AfxGetModuleState();
+  stdio.Before("open rb update.LIB", look);
+  Merge();
+  Write(TARGET, SOURCE);
+  stdio.Before("remove BREVANTA.OLD", look);
+  Merge();
+  EXPECT_EQ(seen, 2);
+  EXPECT_EQ(AfxGetModuleState(), before);
+}
+
+TEST_F(MergeFaults, LookUpRunsInTheModulesOwnState) {
+  bool isOwn = false;
+  stdio.Before("read BREVANTA.LIB", [&isOwn] { isOwn = AfxGetModuleState() == AfxGetStaticModuleState(); });
+  EXPECT_EQ(FindCatalogueItem("VYROBCE", Target().c_str(), "A", "a1"), -1);
+  EXPECT_TRUE(isOwn);
 }
 
 TEST_F(MergeFaults, SourceThatCannotBeOpenedGivesMinusOne) {

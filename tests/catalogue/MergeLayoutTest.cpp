@@ -1,4 +1,5 @@
 // MergeLayoutTest.cpp - what stands where in a merged catalogue.
+#include <filesystem>
 #include <string>
 
 #include "MergeFixture.h"
@@ -131,6 +132,14 @@ TEST_F(MergeLayout, LineEndsOnDiskAreThoseOfTheSystem) {
   const std::string newline = ReadBytes(folder / "one");
   Merged("VYROBCE A\n", "VYROBCE A\na1; 1\n");
   EXPECT_EQ(ReadBytes(Target()), "VYROBCE A" + newline + "a1; 1" + newline);
+}
+
+TEST_F(MergeLayout, CarriageReturnBelongsToTheLineWhereTheSystemWritesNone) {
+  const bool systemKnowsIt = std::filesystem::path::preferred_separator == '\\';
+  EXPECT_EQ(Merged("VYROBCE A\r\na1; 1\r\na9\r\n", "VYROBCE A\na1; 2\n"),
+            systemKnowsIt ? "VYROBCE A\na1; 1\na9\n" : "VYROBCE A\r\na1; 1\r\na9\r\nVYROBCE A\na1; 2\n");
+  EXPECT_EQ(Merged("VYROBCE A\na9\n", "VYROBCE A\na9\r\n"),
+            systemKnowsIt ? "VYROBCE A\na9\n" : "VYROBCE A\na9\na9\r\n");
 }
 
 TEST_F(MergeLayout, EmptyCataloguesStayEmpty) {

@@ -219,6 +219,13 @@ def test_full_disk_leaves_the_drawing_as_it_was(teskarlt, house, tmp_path):
         os.system(f"umount {folder}")
 
 
+@pytest.mark.parametrize("option", ["-o", "--window", "--catalogue"])
+def test_empty_name_is_wrong_usage(teskarlt, house, option):
+    before = house.read_bytes()
+    assert teskarlt("insert", house, *INSERT, option, "").status == 2
+    assert house.read_bytes() == before
+
+
 def test_file_named_without_a_folder_is_replaced(teskarlt, house):
     before = house.read_bytes()
     teskarlt.done("insert", "house.dxf", *INSERT, cwd=house.parent)

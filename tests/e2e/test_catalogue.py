@@ -1,4 +1,5 @@
 # test_catalogue.py - catalogues shown, merged and chosen from, through the real programs.
+import os
 import shutil
 import subprocess
 import threading
@@ -210,16 +211,126 @@ def test_damaged_size_of_the_catalogue_is_refused(teskarlt, catalogues, house, b
     assert house.read_bytes() == before
 
 
-@pytest.mark.parametrize("number", range(0, 60, 3))
-def test_merge_killed_at_any_time_leaves_a_complete_catalogue(teskarlt, catalogues, number):
-    """Stops the program at its n-th system call on a file; what it leaves is recovered by the program itself."""
+# The system calls of a merge, each by its number among those of its name; the first ones only load the program.
+KILLS = [("rename", 1), ("unlink", 1), ("write", 1)] + [(call, n) for call in ("openat", "close") for n in range(8, 19)]
+
+
+def traced(teskarlt, fault, *arguments):
+    """Runs the program with a fault at one of its system calls."""
     if teskarlt.windows or shutil.which("strace") is None:
         pytest.skip("needs strace")
+    call = fault.split(":")[0]
+    return subprocess.run(["strace", "-f", "-o", "/dev/null", "-e", f"trace={call}", "-e", f"inject={fault}",
+                           teskarlt.path, *arguments], capture_output=True, text=True)
+
+
+@pytest.mark.parametrize("call, number", KILLS)
+def test_merge_killed_at_any_time_leaves_a_complete_catalogue(teskarlt, catalogues, call, number):
+    """Stops the program at a system call on a file; what it leaves is recovered by the program itself."""
     target, source = catalogues
-    subprocess.run(["strace", "-f", "-o", "/dev/null", "-e", "trace=openat,rename,unlink,write,close",
-                    "-e", f"inject=openat,rename,unlink,write,close:signal=KILL:when={number + 1}",
-                    teskarlt.path, "merge", source, target], capture_output=True)
+    run = traced(teskarlt, f"{call}:signal=KILL:when={number}", "merge", source, target)
+    assert run.returncode != 0 or call in ("openat", "close")
     backup = target.with_suffix(".OLD")
     if backup.exists():
         teskarlt.done("merge", "--recover", target)
     assert read(target) in (TARGET, MERGED)
+
+
+@pytest.mark.parametrize("number", range(8, 19))
+def test_file_that_cannot_be_opened_costs_nothing(teskarlt, catalogues, number):
+    """Also the backup, which the module would delete unread."""
+    target, source = catalogues
+    run = traced(teskarlt, f"openat:error=EMFILE:when={number}", "merge", source, target)
+    if target.with_suffix(".OLD").exists():
+        assert "BREVANTA.OLD" in run.stderr and f'--recover "{target}"' in run.stderr
+        teskarlt.done("merge", "--recover", target)
+    assert read(target) == (TARGET if run.returncode else MERGED), run.stderr
+    assert {path.name for path in target.parent.iterdir()} <= {"BREVANTA.LIB", "BREVANTA.LIB.interrupted"}
+
+
+@pytest.mark.parametrize("fault, merged", [("rename:error=EIO", False), ("unlink:error=EIO:when=1", True)])
+def test_failing_file_operation_leaves_one_catalogue_and_no_backup(teskarlt, catalogues, fault, merged):
+    target, source = catalogues
+    run = traced(teskarlt, fault, "merge", source, target)
+    assert read(target) == (MERGED if merged else TARGET) and run.returncode == (0 if merged else 1)
+    assert sorted(path.name for path in target.parent.iterdir()) == ["BREVANTA.LIB"]
+
+
+def test_link_stays_a_link_to_the_merged_catalogue(teskarlt, catalogues, tmp_path):
+    if teskarlt.windows:
+        pytest.skip("links need rights there")
+    target, source = catalogues
+    link = tmp_path / "link.LIB"
+    link.symlink_to(target)
+    teskarlt.done("merge", source, link)
+    assert link.is_symlink() and read(target) == MERGED
+
+
+def test_merged_catalogue_keeps_its_access_rights(teskarlt, catalogues):
+    if teskarlt.windows:
+        pytest.skip("rights are others there")
+    target, source = catalogues
+    target.chmod(0o660)
+    teskarlt.done("merge", source, target)
+    assert target.stat().st_mode & 0o777 == 0o660
+
+
+def test_pipe_is_refused_at_once(teskarlt, catalogues, tmp_path):
+    if teskarlt.windows:
+        pytest.skip("no such files there")
+    os.mkfifo(tmp_path / "pipe")
+    refused(teskarlt("merge", tmp_path / "pipe", catalogues[0]), "pipe", "no ordinary file")
+    refused(teskarlt("catalogue", tmp_path / "pipe"), "pipe", "no ordinary file")
+
+
+def test_name_of_a_backup_is_no_target(teskarlt, catalogues):
+    target, source = catalogues
+    for name in ("BREVANTA.OLD", "shop.old"):
+        other = target.rename(target.parent / name)
+        refused(teskarlt("merge", source, other), name, "the name of a backup")
+        target = other
+
+
+def test_missing_folder_of_the_target_is_named(teskarlt, catalogues, tmp_path):
+    refused(teskarlt("merge", catalogues[1], tmp_path / "none" / "x.LIB"), "x.LIB", "no such folder")
+
+
+def test_recovering_takes_one_catalogue(teskarlt, catalogues):
+    target, source = catalogues
+    shutil.copy(target, source.with_suffix(".OLD"))
+    answer = teskarlt("merge", "--recover", source, target)
+    assert answer.status == 2 and "one catalogue" in answer.stderr
+    assert read(source) == SOURCE
+
+
+def test_advice_to_recover_names_the_catalogue(teskarlt, catalogues):
+    target, source = catalogues
+    shutil.copy(target, target.with_suffix(".OLD"))
+    refused(teskarlt("merge", source, target), f'--recover "{target}"')
+
+
+def test_explicit_and_data_folder_targets_exclude_each_other(teskarlt, catalogues):
+    target = teskarlt.data_folder / "BREVANTA.LIB"
+    shutil.copy(catalogues[0], target)
+    answers = []
+    threads = [threading.Thread(target=lambda more=more: answers.append(teskarlt("merge", catalogues[1], *more)))
+               for more in ([], [target], [], [target])]
+    for thread in threads:
+        thread.start()
+    for thread in threads:
+        thread.join()
+    assert read(target) == MERGED
+    for answer in answers:
+        assert answer.status == 0 or "another merge is at work" in answer.stderr, answer
+
+
+@pytest.mark.parametrize("damage, part", [(b"\x1aA9; 1\r\n", "1A in line 2"), (b"\xef\xbb\xbf", "byte order mark")])
+def test_bytes_that_would_hide_windows_are_refused(teskarlt, catalogues, damage, part):
+    target, source = catalogues
+    content = damage + b"VYROBCE A\nA1; 1\n" if damage[0] == 0xEF else b"VYROBCE A\n" + damage
+    for damaged in (target, source):
+        whole = damaged.read_bytes()
+        damaged.write_bytes(content)
+        refused(teskarlt("merge", source, target), damaged.name, part)
+        assert damaged.read_bytes() == content
+        damaged.write_bytes(whole)

@@ -135,6 +135,10 @@ TEST_P(ArcProperties, LineHitsLieOnBothCurves) {
     const double bound =
         64 * U * (120.0 * 120.0 / arc.radius * (1 + 40 / std::hypot(p1.x - p0.x, p1.y - p0.y)) + GetParam()) +
         2 * CentreBound(arc, GetParam());
+    for (int k = 0; k < 2; ++k) {
+      EXPECT_EQ(hits.fraction[k],
+                ArcFractionAt(arc.p[0], arc.p[2], hits.centre, arc.sweep > 0 ? 1 : 0, hits.hit[k]));
+    }
     for (const Vec3& hit : hits.hit) {
       const Long3 d = Long(p1) - Long(p0);
       const Long3 w = Long(hit) - Long(p0);
@@ -206,6 +210,12 @@ TEST_P(ArcProperties, ArcHitsLieOnBothCirclesAndSwapWithTheArcs) {
     for (const Vec3& hit : hits.hit) {
       EXPECT_NEAR(std::hypot(hit.x - hits.centre[0].x, hit.y - hits.centre[0].y), a.radius, bound);
       EXPECT_NEAR(std::hypot(hit.x - hits.centre[1].x, hit.y - hits.centre[1].y), b.radius, bound);
+    }
+    for (int k = 0; k < 2; ++k) {
+      EXPECT_EQ(hits.fractionA[k],
+                ArcFractionAt(a.p[0], a.p[2], hits.centre[0], a.sweep > 0 ? 1 : 0, hits.hit[k]));
+      EXPECT_EQ(hits.fractionB[k],
+                ArcFractionAt(b.p[0], b.p[2], hits.centre[1], b.sweep > 0 ? 1 : 0, hits.hit[k]));
     }
     // Across the line of the centres the half chord is a root: near touching it loses half of the digits.
     const double across = std::sqrt(bound * size) + bound;

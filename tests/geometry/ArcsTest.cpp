@@ -101,6 +101,17 @@ TEST(ArcFractionAt, ArcAcrossTheCutOfTheAngles) {
   EXPECT_NEAR(ArcFractionAt({-1, 1, 0}, {-1, -1, 0}, O, 1, WEST), 0.5, 4 * U);
 }
 
+TEST(ArcFractionAt, ShortSweepAcrossTheCutIsNoFullCircle) {
+  // The atan2 of the ends differ by almost a full turn, so the sweep of 2e-6 is not refused.
+  EXPECT_NEAR(ArcFractionAt({-1, 1e-6, 0}, {-1, -1e-6, 0}, O, 1, WEST), 0.5, 1e-9);
+}
+
+TEST(ArcFractionAt, ArmsAreMeasuredInThePlan) {
+  EXPECT_EQ(ArcFractionAt({0, 0, 50}, WEST, O, 1, NORTH), 0.0);
+  EXPECT_EQ(ArcFractionAt(EAST, {0, 0, 50}, O, 1, NORTH), 0.0);
+  EXPECT_EQ(ArcFractionAt(SOUTH, WEST, O, 1, {0, 0, 50}), 0.0);
+}
+
 TEST(ArcFractionAt, FullCircleHasNoFractions) {
   EXPECT_EQ(ArcFractionAt(EAST, EAST, O, 1, WEST), 0.0);
 }
@@ -137,6 +148,11 @@ TEST(ArcPointAt, DegenerateArcGivesTheCentre) {
 
 TEST(ArcPointAt, FullCircleStaysAtTheStart) {
   EXPECT_THAT(PointAt(NORTH, NORTH, O, 0.5, 1), IsNear(NORTH, U));
+}
+
+TEST(ArcPointAt, NotANumberComesOut) {
+  EXPECT_TRUE(std::isnan(PointAt(EAST, WEST, O, NOT_A_NUMBER, 1).x));
+  EXPECT_TRUE(std::isnan(PointAt(EAST, WEST, O, INF, 1).x));
 }
 
 TEST(ArcPointAt, OutputMayBeAnInput) {
@@ -182,6 +198,13 @@ TEST(LineArcIntersect, PassingLineHitsNothingButTheCircleIsKnown) {
 TEST(LineArcIntersect, HitsAreNotClippedToTheArc) {
   const LineHits hits({0, -5, 0}, {0, -4, 0}, EAST, WEST, NORTH);
   EXPECT_EQ(hits.count, ARC_TWO_HITS);
+  EXPECT_EQ(hits.fraction[0], 1.5);
+  EXPECT_EQ(hits.fraction[1], 0.5);
+}
+
+TEST(LineArcIntersect, FractionsFollowAClockwiseArc) {
+  const LineHits hits({0, -5, 0}, {0, -4, 0}, WEST, EAST, NORTH);
+  EXPECT_EQ(hits.counterClockwise, 0);
   EXPECT_EQ(hits.fraction[0], 1.5);
   EXPECT_EQ(hits.fraction[1], 0.5);
 }
@@ -244,6 +267,32 @@ TEST(ArcArcIntersect, CrossingCirclesGiveTheRightHitFirst) {
   EXPECT_EQ(hits.centre[1], (Vec3{6, 0, 0}));
   EXPECT_EQ(hits.counterClockwise[0], 1);
   EXPECT_EQ(hits.counterClockwise[1], 1);
+}
+
+TEST(ArcArcIntersect, FractionsFollowEachArcsOwnDirection) {
+  // The crossing circles above, one arc after the other turned round.
+  const UpperHalf a(0, 0, 5);
+  const UpperHalf b(6, 0, 5);
+  const double share = std::atan2(4, 3) / PI;
+  const ArcHits turnedB(a.points, {b.points[2], b.points[1], b.points[0]});
+  EXPECT_EQ(turnedB.counterClockwise[0], 1);
+  EXPECT_EQ(turnedB.counterClockwise[1], 0);
+  EXPECT_NEAR(turnedB.fractionA[0], share, 4 * U);
+  EXPECT_NEAR(turnedB.fractionB[0], share, 4 * U);
+  EXPECT_NEAR(turnedB.fractionB[1], 2 - share, 4 * U);
+  const ArcHits turnedA({a.points[2], a.points[1], a.points[0]}, b.points);
+  EXPECT_EQ(turnedA.counterClockwise[0], 0);
+  EXPECT_NEAR(turnedA.fractionA[0], 1 - share, 4 * U);
+  EXPECT_NEAR(turnedA.fractionA[1], 1 + share, 4 * U);
+  EXPECT_NEAR(turnedA.fractionB[1], 1 + share, 4 * U);
+}
+
+TEST(ArcArcIntersect, NotANumberAndInfinityGiveHitsThatAreNone) {
+  for (const double place : {NOT_A_NUMBER, INF}) {
+    const ArcHits hits = Circles(0, 1, place, 1);
+    EXPECT_EQ(hits.count, ARC_TWO_HITS);
+    EXPECT_TRUE(std::isnan(hits.hit[0].x));
+  }
 }
 
 TEST(ArcArcIntersect, TouchingCirclesGiveTheFoot) {
@@ -335,6 +384,17 @@ int Tangency(double disc) {
 int Gap(double d) {
   return Circles(0, 1, 2 + d, 1).count;
 }
+int Apart(double distance) {
+  return Circles(0, 1, distance, 1).count;
+}
+// Circles as small as the tolerance, whose centres and radii come out to the last bit. The small one of the
+// next lies inside the large one by 4 d - (2 d + d).
+int WithinBy(double d) {
+  return Circles(0, 4 * d, 2 * d, d).count;
+}
+int RadiiApart(double d) {
+  return Circles(0, d, 0, 2 * d).count;
+}
 int Inside(double d) {
   return Circles(0, 3, 2 - d, 1).count;
 }
@@ -387,6 +447,15 @@ INSTANTIATE_TEST_SUITE_P(
                     ArcEdge{"ApartOutside", Gap, 0.000101, ARC_NO_HIT},
                     ArcEdge{"OverlapInside", Gap, -0.00019, ARC_ONE_HIT},
                     ArcEdge{"OverlapOutside", Gap, -0.00021, ARC_TWO_HITS},
+                    ArcEdge{"ApartJustInside", Apart, std::nextafter(2.0001, 0.0), ARC_ONE_HIT},
+                    ArcEdge{"ApartOn", Apart, 2.0001, ARC_ONE_HIT},
+                    ArcEdge{"ApartJustOutside", Apart, std::nextafter(2.0001, 3.0), ARC_NO_HIT},
+                    ArcEdge{"WithinJustInside", WithinBy, INSIDE, ARC_TWO_HITS},
+                    ArcEdge{"WithinOn", WithinBy, ON, ARC_TWO_HITS},
+                    ArcEdge{"WithinJustOutside", WithinBy, OUTSIDE, ARC_NO_HIT},
+                    ArcEdge{"RadiiJustInside", RadiiApart, INSIDE, ARC_SAME_CIRCLE},
+                    ArcEdge{"RadiiOn", RadiiApart, ON, ARC_TWO_HITS},
+                    ArcEdge{"RadiiJustOutside", RadiiApart, OUTSIDE, ARC_NO_HIT},
                     ArcEdge{"WithinInside", Inside, 0.00006, ARC_ONE_HIT},
                     ArcEdge{"WithinOutside", Inside, 0.000101, ARC_NO_HIT},
                     ArcEdge{"SameCentreInside", CentreDistance, 0.000099, ARC_SAME_CIRCLE},

@@ -45,6 +45,12 @@ TEST(LineLineXY, ParallelLinesDoNotMeet) {
   EXPECT_EQ(hit.point, UNTOUCHED);
 }
 
+TEST(LineLineXY, ParallelLinesCoincideOnlyWhenBothOffsetsAreBelowTheTolerance) {
+  // The same gap of 1e-6, measured against vectors of the lengths 1 and 1000.
+  EXPECT_EQ(LineLine({0, 0, 0}, {1000, 0, 0}, {0, 1e-6, 0}, {1, 1e-6, 0}).result, INTERSECT_PARALLEL);
+  EXPECT_EQ(LineLine({0, 0, 0}, {1, 0, 0}, {0, 1e-6, 0}, {1000, 1e-6, 0}).result, INTERSECT_PARALLEL);
+}
+
 TEST(LineLineXY, PointMayBeAnInput) {
   Vec3 p0{0, 0, 0};
   double t = 0;
@@ -154,6 +160,36 @@ TEST(PlanePlane, OutputsMayBeInputs) {
   EXPECT_EQ(p0, (Vec3{0, 5, 5}));
 }
 
+TEST(Intersections, NotANumberIsNotRefused) {
+  double distance = 0;
+  Vec3 point{};
+  Vec3 direction{};
+  EXPECT_EQ(PointOnPlane3({0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {NOT_A_NUMBER, 0, 0}), 0);
+  EXPECT_EQ(PointOnSegment({0, 0, 0}, {10, 0, 0}, {NOT_A_NUMBER, 0, 0}), 2);
+  EXPECT_EQ(PointLineDistance({NOT_A_NUMBER, 0, 0}, {1, 0, 0}, {0, 1, 0}, distance), STATUS_NORMAL);
+  EXPECT_TRUE(std::isnan(distance));
+  EXPECT_EQ(PlanePlane({0, 0, 0}, {NOT_A_NUMBER, 0, 1}, {0, 0, 5}, {0, 1, 1}, point, direction), 0);
+  EXPECT_TRUE(std::isnan(point.x));
+}
+
+TEST(Intersections, FarFromTheOriginWholeNumbersStayExact) {
+  // 500 km in millimetres.
+  constexpr double reach = 5e8;
+  const LineLine hit({reach, reach, 0}, {reach + 10, reach, 0}, {reach + 4, reach - 1, 0},
+                     {reach + 4, reach + 3, 0});
+  EXPECT_EQ(hit.point, (Vec3{reach + 4, reach, 0}));
+  double distance = 0;
+  EXPECT_EQ(PointLineDistance({reach, reach, 0}, {reach + 1, reach, 0}, {reach + 50, reach + 3, 4}, distance),
+            STATUS_NORMAL);
+  EXPECT_EQ(distance, 5.0);
+  EXPECT_EQ(PointOnSegment({reach, reach, 0}, {reach + 10, reach, 0}, {reach + 5, reach, 0}), 1);
+  Vec3 point{};
+  Vec3 direction{};
+  EXPECT_EQ(PlanePlane({reach, reach, 0}, {0, -1, 1}, {reach, reach + 10, 0}, {0, 1, 1}, point, direction),
+            0);
+  EXPECT_EQ(point, (Vec3{reach, reach + 5, 5}));
+}
+
 // One table for every tolerance of this file: the size that the test compares, and what comes out.
 struct EdgeCase {
   const char* name;
@@ -166,9 +202,9 @@ void PrintTo(const EdgeCase& c, std::ostream* out) {
   *out << c.name << " at " << c.size;
 }
 
-// The lines' cross product is d.
+// The lines' cross product is d; they have their starts in common, so parallel ones coincide.
 int Denominator(double d) {
-  return LineLine({0, 0, 0}, {1, 0, 0}, {0, 5, 0}, {1, 5 + d, 0}).result;
+  return LineLine({0, 0, 0}, {1, 0, 0}, {0, 0, 0}, {1, d, 0}).result;
 }
 // Parallel lines whose offset's cross product is d.
 int Offset(double d) {
@@ -182,6 +218,10 @@ int SegmentLength(double d) {
 }
 int DistanceFromStart(double d) {
   return PointOnSegment({0, 0, 0}, {1, 0, 0}, {d, 0, 0});
+}
+// Seen from the start, c lies off the direction of the segment by the angle d.
+int Sine(double d) {
+  return PointOnSegment({0, 0, 0}, {1, 0, 0}, {0.5, 0.5 * std::tan(d), 0});
 }
 int BeyondEnd(double d) {
   return PointOnSegment({0, 0, 0}, {1, 0, 0}, {1 + d, 0, 0});
@@ -198,11 +238,12 @@ int Gap(double d) {
   double t = 0;
   return LinePlane({0, 0, d}, {1, 0, 0}, {0, 0, 0}, {0, 0, 1}, t);
 }
+// The normals' cross product is d long. The first plane's direction across the line then meets the second
+// normal with d squared, and it is this that falls below the tolerance first.
 int Dihedral(double d) {
   Vec3 point{};
   Vec3 direction{};
-  // The second normal stands steep enough on the first one's cross direction in every case.
-  return PlanePlane({0, 0, 0}, {0, 0, 100}, {0, 0, 5}, {d / 100, 0, 1e9}, point, direction);
+  return PlanePlane({0, 0, 0}, {0, 0, 1}, {0, 0, 5}, {d, 0, 1}, point, direction);
 }
 
 class IntersectionTolerance : public testing::TestWithParam<EdgeCase> {};
@@ -215,8 +256,9 @@ const double ROOT_INSIDE = std::nextafter(0.01, 0.0);
 
 INSTANTIATE_TEST_SUITE_P(
     LineLine, IntersectionTolerance,
-    testing::Values(EdgeCase{"DenominatorWellInside", Denominator, 0.00009, INTERSECT_PARALLEL},
-                    EdgeCase{"DenominatorWellOutside", Denominator, 0.00011, INTERSECT_POINT},
+    testing::Values(EdgeCase{"DenominatorInside", Denominator, INSIDE, INTERSECT_CONTAINED},
+                    EdgeCase{"DenominatorOn", Denominator, ON, INTERSECT_POINT},
+                    EdgeCase{"DenominatorOutside", Denominator, OUTSIDE, INTERSECT_POINT},
                     EdgeCase{"OffsetInside", Offset, INSIDE, INTERSECT_CONTAINED},
                     EdgeCase{"OffsetOn", Offset, ON, INTERSECT_PARALLEL},
                     EdgeCase{"OffsetOutside", Offset, OUTSIDE, INTERSECT_PARALLEL}),
@@ -231,6 +273,8 @@ INSTANTIATE_TEST_SUITE_P(Incidence, IntersectionTolerance,
                                          EdgeCase{"SegmentLongEnough", SegmentLength, ON, 0},
                                          EdgeCase{"StartInside", DistanceFromStart, INSIDE, 2},
                                          EdgeCase{"StartOn", DistanceFromStart, ON, 1},
+                                         EdgeCase{"SineInside", Sine, 0.0000999999, 1},
+                                         EdgeCase{"SineOutside", Sine, 0.0001000001, 0},
                                          EdgeCase{"EndInside", BeyondEnd, 0.000049, 1},
                                          EdgeCase{"EndOutside", BeyondEnd, 0.000051, 2}),
                          CaseName<EdgeCase>);
@@ -243,8 +287,9 @@ INSTANTIATE_TEST_SUITE_P(Planes, IntersectionTolerance,
                                          EdgeCase{"DescentOutside", Descent, OUTSIDE, INTERSECT_POINT},
                                          EdgeCase{"GapInside", Gap, INSIDE, INTERSECT_CONTAINED},
                                          EdgeCase{"GapOn", Gap, ON, INTERSECT_PARALLEL},
-                                         EdgeCase{"DihedralInside", Dihedral, 0.00009, -1},
-                                         EdgeCase{"DihedralOutside", Dihedral, 0.02, 0}),
+                                         EdgeCase{"DihedralInside", Dihedral, ROOT_INSIDE, -1},
+                                         EdgeCase{"DihedralOn", Dihedral, 0.01, 0},
+                                         EdgeCase{"DihedralOutside", Dihedral, 0.0101, 0}),
                          CaseName<EdgeCase>);
 
 // The second derivation: the lines as homogeneous triples, whose cross product is the common point.

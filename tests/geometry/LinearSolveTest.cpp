@@ -61,6 +61,13 @@ TEST(LuDecompose, LaterRowWinsATie) {
   EXPECT_EQ(f.index[0], 3);
 }
 
+TEST(LuDecompose, MultipliersAreQuotients) {
+  // 49 (1 / 49) rounds to one unit below 1.
+  const Factored f({{{49, 0, 0, 0}, {49, 98, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}}});
+  EXPECT_EQ(f.index[0], 0);
+  EXPECT_EQ(f.lu.m[1][0], 1.0);
+}
+
 TEST(LuDecompose, ScaleMovesWithItsRow) {
   // After the exchange of rows 0 and 1, row 1 stands for the first row with its scale of 1 / 1000.
   const Factored f({{{1, 3, 1000, 0}, {1, 0, 0, 0}, {0.5, 1, 1, 0}, {0, 0, 0, 1}}});

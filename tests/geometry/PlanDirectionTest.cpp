@@ -124,10 +124,25 @@ INSTANTIATE_TEST_SUITE_P(
                     ClassCase{"StartInside", O, E, {0, INSIDE, 0}, 0},
                     ClassCase{"StartOn", O, E, {0, ON, 0}, 1},
                     ClassCase{"LeftWithinBothBuckets", O, E, {5, 0.0029, 0}, 0},
+                    // From the start the direction is 6.28300, in the bucket that ends with the full turn.
+                    ClassCase{"RightWithinTheLastBucket", O, E, {5, -0.0009, 0}, 0},
                     ClassCase{"LeftWithinTheStartsBucketOnly", O, E, {5, 0.0049, 0}, 2},
                     ClassCase{"RightWithinTheEndsBucketOnly", O, E, {5, -0.0015, 0}, 1},
                     ClassCase{"RightOfBothBuckets", O, {10000, 0, 0}, {5000, -4.9, 0}, -1},
                     ClassCase{"FarAlongTheRay", O, E, {1e6, 900, 0}, 2}),
+    CaseName<ClassCase>);
+
+// 500 km in millimetres.
+constexpr Vec3 FAR_START{5e8, 5e8, 0};
+constexpr Vec3 FAR_END{5e8 + 1000, 5e8, 0};
+
+INSTANTIATE_TEST_SUITE_P(
+    FarFromTheOrigin, Classify,
+    testing::Values(ClassCase{"Middle", FAR_START, FAR_END, {5e8 + 500, 5e8, 0}, 0},
+                    ClassCase{"BeforeStart", FAR_START, FAR_END, {5e8 - 100, 5e8, 0}, 1},
+                    ClassCase{"BeyondEnd", FAR_START, FAR_END, {5e8 + 1100, 5e8, 0}, 2},
+                    ClassCase{"Beside", FAR_START, FAR_END, {5e8 + 500, 5e8 + 100, 0}, -1},
+                    ClassCase{"NearEnd", FAR_START, FAR_END, {5e8 + 1000, 5e8 + 0.00006, 0}, 0}),
     CaseName<ClassCase>);
 
 INSTANTIATE_TEST_SUITE_P(Vertical, Classify,
@@ -135,6 +150,8 @@ INSTANTIATE_TEST_SUITE_P(Vertical, Classify,
                                          ClassCase{"BetweenFarAside", O, {0, 0, 5}, {100, 100, 2}, 0},
                                          ClassCase{"Below", O, {0, 0, 5}, {0, 0, -1}, 1},
                                          ClassCase{"Above", O, {0, 0, 5}, {0, 0, 9}, 2},
+                                         ClassCase{
+                                             "AlmostVerticalGoesByThePlan", O, {1e-9, 0, 5}, {0, 0, 9}, 0},
                                          ClassCase{"LevelWithStartAside", O, {0, 0, 5}, {1, 0, 0}, 1},
                                          ClassCase{"LevelWithEndAside", O, {0, 0, 5}, {1, 0, 5}, 2},
                                          ClassCase{"DownwardsNearStart", {0, 0, 5}, O, {0, 0, 3}, 1},

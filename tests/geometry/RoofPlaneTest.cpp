@@ -152,6 +152,13 @@ TEST_F(RoofFit, VerticalRoofIsFitted) {
   EXPECT_THAT(roofPlane.localNormal, IsNear((Vec3{0, -1, 0}), 2 * U));
 }
 
+TEST_F(RoofFit, VerticalRoofKeepsTheNormalOfItsPicks) {
+  FitRoofPlane({0, 0, 0}, {10, 0, 0}, {5, 0, 4}, 1);
+  EXPECT_EQ(roofPlane.normal, (Vec3{0, -1, 0}));
+  FitRoofPlane({10, 0, 0}, {0, 0, 0}, {5, 0, 4}, 1);
+  EXPECT_EQ(roofPlane.normal, (Vec3{0, 1, 0}));
+}
+
 struct FitEdge {
   const char* name;
   double size;
@@ -192,9 +199,23 @@ TEST_P(HorizontalTolerance, SlopeAcrossThePlan) {
   EXPECT_EQ(roofPlane.worldToLocal.m[0][0], GetParam().expected);
 }
 
+TEST_P(HorizontalTolerance, SlopeAlongX) {
+  // The same along +x: a quarter turn.
+  FitRoofPlane({0, 0, 0}, {0, 1, 0}, {1, 0, -GetParam().size}, 1);
+  EXPECT_EQ(roofPlane.worldToLocal.m[0][1], GetParam().expected == 1 ? 0.0 : 1.0);
+}
+
+// The slope whose unit normal has a horizontal part of exactly 0.0001.
+constexpr double SLOPE_ON = 0.0001000000005;
+
+TEST_F(RoofFit, SlopeOnTheToleranceIsThat) {
+  FitRoofPlane({0, 0, 0}, {1, 0, 0}, {0, 1, -SLOPE_ON}, 1);
+  EXPECT_EQ(roofPlane.normal.y, ON);
+}
+
 INSTANTIATE_TEST_SUITE_P(Edge, HorizontalTolerance,
                          testing::Values(FitEdge{"Flat", 0.0, 1}, FitEdge{"Inside", 0.0000999, 1},
-                                         FitEdge{"Outside", 0.0001001, -1}),
+                                         FitEdge{"On", SLOPE_ON, -1}, FitEdge{"Outside", 0.0001001, -1}),
                          CaseName<FitEdge>);
 
 TEST_F(RoofFrame, PointsGoToTheWorldAndBack) {
@@ -242,6 +263,30 @@ TEST_F(HitRoof, TellsAheadFromBehindAndMissing) {
   EXPECT_THAT(out, IsNear((Vec3{0, -4, 0}), 1e-14));
   EXPECT_EQ(HitRoofPlane({0, -4, 5}, {0, 0, 1}, out), HIT_BEHIND);
   EXPECT_THAT(out, IsNear((Vec3{0, -4, 0}), 1e-14));
+}
+
+TEST_F(HitRoof, LineInTheRoofMissesIt) {
+  FitRisingAlongY();
+  Vec3 out = UNTOUCHED;
+  EXPECT_EQ(HitRoofPlane({0, -4, 0}, {1, 0, 0}, out), HIT_NONE);
+  EXPECT_EQ(out, UNTOUCHED);
+}
+
+TEST_F(HitRoof, NotANumberCountsAsAhead) {
+  FitRisingAlongY();
+  Vec3 out{};
+  EXPECT_EQ(HitRoofPlane({0, 0, NOT_A_NUMBER}, {0, 0, 1}, out), HIT_AHEAD);
+  EXPECT_TRUE(std::isnan(out.z));
+}
+
+TEST_F(HitRoof, OutputMayBeThePointOrTheDirection) {
+  FitRoofPlane({0, 0, 0}, {1, 0, 0}, {0, 1, 0}, 1);
+  Vec3 p{1, 2, 8};
+  EXPECT_EQ(HitRoofPlane(p, {1, 2, -4}, p), HIT_AHEAD);
+  EXPECT_EQ(p, (Vec3{3, 6, 0}));
+  Vec3 direction{1, 2, -4};
+  EXPECT_EQ(HitRoofPlane({1, 2, 8}, direction, direction), HIT_AHEAD);
+  EXPECT_EQ(direction, (Vec3{3, 6, 0}));
 }
 
 class HitTolerance : public testing::TestWithParam<FitEdge> {};
@@ -310,7 +355,7 @@ TEST_P(IntersectTwo, ChoosesTheAuxiliaryPlane) {
   const Vec3 common{2, 3, 4};
   EXPECT_EQ(IntersectTwoPlanes(common, GetParam().nA, common, GetParam().nB, point, direction),
             GetParam().expected);
-  EXPECT_THAT(point, IsNear(GetParam().point, 1e-14));
+  EXPECT_THAT(point, IsNear(GetParam().point, 1e-14 + 4 * U * VecLength(GetParam().point)));
   Vec3 expectedDirection{};
   VecCross(GetParam().nA, GetParam().nB, expectedDirection);
   EXPECT_EQ(direction, expectedDirection);
@@ -322,13 +367,50 @@ INSTANTIATE_TEST_SUITE_P(
                     TwoPlanes{"AcrossYWhenOneLiesAlongX", {1, 0, 0}, {0, 1, 1}, 1, {2, 0, 7}},
                     TwoPlanes{"AcrossYWhenTheOtherLiesAlongX", {0, 1, 1}, {-1, 0, 0}, 1, {2, 0, 7}},
                     TwoPlanes{"AcrossZWhenBothAreTaken", {1, 0, 0}, {0, 1, 0}, 1, {2, 3, 0}},
+                    TwoPlanes{"AcrossXThoughLevelAlongIt", {1, 0, 1}, {0, 1, 0}, 1, {0, 3, 6}},
                     TwoPlanes{"NearlyAlongXCounts", {1, 0.0001, 0}, {0, 1, 1}, 1, {2.0003, 0, 7}},
+                    TwoPlanes{"NearlyAlongXByZCounts", {1, 0, 0.0001}, {0, 1, 0}, 1, {2.0004, 3, 0}},
+                    TwoPlanes{"NearlyAlongYCounts", {1, 0, 0}, {0.0001, 1, 0}, 1, {2, 3, 0}},
+                    TwoPlanes{"NearlyAlongYByZCounts", {1, 0, 0}, {0, 1, 0.0001}, 1, {2, 3.0004, 0}},
+                    TwoPlanes{"ShortNormalLiesAlongEveryAxis", {1, 0, 0}, {0, 0.0001, 0}, 0, UNTOUCHED},
+                    TwoPlanes{"ShortNormalJustLongEnough", {1, 0, 0}, {0, OUTSIDE, 0}, 1, {2, 3, 0}},
+                    // Beyond the tolerance the line runs off almost along the auxiliary plane, or misses it.
+                    TwoPlanes{
+                        "OffXByY", {1, 0.00011, 0}, {0, 1, 1}, 1, {0, 3 + 2 / 0.00011, 4 - 2 / 0.00011}},
+                    TwoPlanes{"OffXByZ", {1, 0, 0.00011}, {0, 1, 0}, 1, {0, 3, 4 + 2 / 0.00011}},
+                    TwoPlanes{"OffYByX", {1, 0, 0}, {0.00011, 1, 0}, 0, UNTOUCHED},
+                    TwoPlanes{"OffYByZ", {1, 0, 0}, {0, 1, 0.00011}, 1, {2, 0, 4 + 3 / 0.00011}},
                     TwoPlanes{"Parallel", {0, 1, 1}, {0, 2, 2}, 0, UNTOUCHED},
                     // Upright planes: their line is parallel to the plane across x.
                     TwoPlanes{"UprightPlanesMissTheOneAcrossX", {0, 1, 0}, {1, 1, 0}, 0, UNTOUCHED},
                     // Short normals that lie along each axis at once leave no auxiliary plane.
                     TwoPlanes{"AlongEveryAxis", {2, 0, 0.0001}, {0.0001, 0.0001, 0.0001}, 0, UNTOUCHED}),
     CaseName<TwoPlanes>);
+
+class TwoPlanesTolerance : public testing::TestWithParam<FitEdge> {};
+
+TEST_P(TwoPlanesTolerance, LengthOfTheDirection) {
+  Vec3 point{};
+  Vec3 direction{};
+  const Vec3 common{2, 3, 4};
+  EXPECT_EQ(IntersectTwoPlanes(common, {0, 1, 0}, common, {0, 1, GetParam().size}, point, direction),
+            GetParam().expected);
+  EXPECT_EQ(direction, (Vec3{GetParam().size, 0, 0}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Edge, TwoPlanesTolerance,
+                         testing::Values(FitEdge{"Inside", INSIDE, 0}, FitEdge{"On", ON, 1},
+                                         FitEdge{"Outside", OUTSIDE, 1}),
+                         CaseName<FitEdge>);
+
+TEST(IntersectTwoPlanes, ShortNormalsCountAsParallel) {
+  // At right angles to each other, but their cross product is 2e-6 long.
+  Vec3 point = UNTOUCHED;
+  Vec3 direction{};
+  EXPECT_EQ(IntersectTwoPlanes({2, 3, 4}, {0, 0.001, 0.001}, {2, 3, 4}, {0, -0.001, 0.001}, point, direction),
+            0);
+  EXPECT_EQ(point, UNTOUCHED);
+}
 
 TEST(IntersectTwoPlanes, OutputsMayBeInputs) {
   Vec3 nA{0, -1, 1};

@@ -62,6 +62,13 @@ TEST_F(CatalogueTest, LongLineComesInPiecesOf254Characters) {
   EXPECT_EQ(catalogue.cutLines, 1U);
 }
 
+TEST_F(CatalogueTest, CarriageReturnAtACutIsTakenOffToo) {
+  const Catalogue catalogue = Read("VYROBCE A\n" + std::string(253, 'x') + "\ryy\n");
+  ASSERT_EQ(catalogue.items.size(), 2U);
+  EXPECT_EQ(catalogue.items[0].line, std::string(253, 'x'));
+  EXPECT_EQ(catalogue.items[1].line, "yy");
+}
+
 TEST_F(CatalogueTest, LastLineNeedsNoLineEnd) {
   EXPECT_EQ(Read("VYROBCE A\nx; 1").items.size(), 1U);
 }

@@ -151,6 +151,21 @@ TEST(ArrayCreate, EmptyArrayStillHasABlock) {
   EXPECT_EQ(numbers.Append(1), 0);
 }
 
+TEST(ArrayCreate, NegativeRoomIsTheSmallestBlock) {
+  Numbers numbers;
+  std::int32_t growth = 0;
+  EXPECT_EQ(ArrayCreate(numbers.storage, numbers.count, numbers.capacity, growth, sizeof(std::int32_t),
+                        nullptr, 0, -3, 10),
+            0);
+  EXPECT_NE(numbers.storage, nullptr);
+  EXPECT_EQ(numbers.capacity, -3);
+}
+
+TEST(ArrayRemoveAt, EmptyArrayCountsBelowZero) {
+  Numbers numbers;
+  EXPECT_EQ(numbers.RemoveAt(0), -1);
+}
+
 TEST(ArrayResize, GivesTheNewRoomAndKeepsCountAndElements) {
   Numbers numbers;
   numbers.Append(1);

@@ -1,6 +1,7 @@
 // LowMemoryTest.cpp - each allocation of the support library fails in turn; on the good path every block is
 // released.
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -61,10 +62,21 @@ void DupWithFailure() {
   DupSubstring("abc", 3);
 }
 
-void SplitWithFailure(int allocation) {
+void SplitWithFailure(int allocation, const char* text = "a;b") {
   TextList fields;
   FailAllocation(allocation);
-  SplitFields("a;b", ";", fields);
+  SplitFields(text, ";", fields);
+}
+
+// Variables far enough apart to be groups of their own.
+void PushWithFailure(int allocation, int pushes) {
+  struct alignas(16) Resource {
+    void* pointer = nullptr;
+  };
+  static Resource resources[32];
+  FailAllocation(allocation);
+  for (int i = 0; i < pushes; ++i)
+    ResPush(&resources[i].pointer, RES_HEAP_BLOCK);
 }
 
 TEST(LowMemoryDeathTest, AppendReportsTheLineOfTheElementCopy) {
@@ -100,6 +112,19 @@ TEST(LowMemoryDeathTest, SplittingIsFatalAtEachOfItsAllocations) {
   EXPECT_EXIT(SplitWithFailure(2), testing::ExitedWithCode(1), LowMemoryReport("resrel", 159));
   EXPECT_EXIT(SplitWithFailure(3), testing::ExitedWithCode(1), LowMemoryReport("resrel", 172));
   EXPECT_EXIT(SplitWithFailure(4), testing::ExitedWithCode(1), LowMemoryReport("SUPP", 98));
+}
+
+// Ten copies and the two blocks of the first growth; then the eleventh copy and the second growth.
+TEST(LowMemoryDeathTest, ListOfFieldsGrowsByTen) {
+  EXPECT_EXIT(SplitWithFailure(13, ";;;;;;;;;;"), testing::ExitedWithCode(1), LowMemoryReport("SUPP", 98));
+  EXPECT_EXIT(SplitWithFailure(14, ";;;;;;;;;;"), testing::ExitedWithCode(1), LowMemoryReport("resrel", 159));
+}
+
+TEST(LowMemoryDeathTest, ResourceStackGrowsByTwenty) {
+  EXPECT_EXIT(PushWithFailure(1, 1), testing::ExitedWithCode(1), LowMemoryReport("resrel", 159));
+  EXPECT_EXIT(PushWithFailure(2, 1), testing::ExitedWithCode(1), LowMemoryReport("resrel", 172));
+  EXPECT_EXIT((PushWithFailure(3, 20), std::exit(7)), testing::ExitedWithCode(7), "");
+  EXPECT_EXIT(PushWithFailure(3, 21), testing::ExitedWithCode(1), LowMemoryReport("resrel", 159));
 }
 
 TEST(Heap, EveryBlockOfASplitIsReleased) {

@@ -20,12 +20,6 @@ TEST_F(XsortLoadTest, AnyRunOfSeparatorsSplits) {
   EXPECT_EQ(Key("abcde"), "\1\2\3\4\5");
 }
 
-TEST_F(XsortLoadTest, LinesOfEitherSystemAreRead) {
-  // Opened as text, so the carriage return belongs to an element where lines end by a line feed alone.
-  EXPECT_EQ(LoadText("a\nb\n"), 0);
-  EXPECT_EQ(Key("ab"), "\1\2");
-}
-
 TEST_F(XsortLoadTest, SecondLoadIsRefusedAndKeepsTheFirstTable) {
   ASSERT_EQ(LoadText("a b"), 0);
   EXPECT_EQ(LoadText("b a"), -1);

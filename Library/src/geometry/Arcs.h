@@ -25,13 +25,15 @@ int ArcThroughPoints(const Vec3& p0, const Vec3& p1, const Vec3& p2, Vec3& outCe
 
 // The fraction of the arc from start to end at which the direction from the centre towards q lies; q need not
 // be on the circle. Gives 0.0 when start, end or q is nearer to the centre than the tolerance, or when the
-// start's and the end's angles differ by less than the tolerance, a full circle included. A q that rounding
-// puts just before the start lies almost a full turn behind it and has the fraction of that place.
+// start's and the end's angles, as atan2 gives them, differ by less than the tolerance, a full circle
+// included. A q that rounding puts just before the start lies almost a full turn behind it and has the
+// fraction of that place.
 double ArcFractionAt(const Vec3& start, const Vec3& end, const Vec3& centre, int counterClockwise,
                      const Vec3& q);
 
 // The point of the arc at the fraction, at the distance of the start from the centre and with the centre's z.
-// It is the centre itself when start or end is nearer to the centre than the tolerance.
+// A fraction outside 0..1 goes on round the circle. A full circle (start and end in one direction) stays at
+// the start. It is the centre itself when start or end is nearer to the centre than the tolerance.
 void ArcPointAt(const Vec3& start, const Vec3& end, const Vec3& centre, double fraction, int counterClockwise,
                 Vec3& out);
 

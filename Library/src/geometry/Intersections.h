@@ -34,8 +34,8 @@ int LinePlane(const Vec3& p, const Vec3& direction, const Vec3& planePoint, cons
               double& t);
 
 // The line common to two planes, each given by a point and a normal: 0 with a point and the direction n0 x
-// n1, which is not normalised; -1, with the point untouched, when the planes are parallel or no point is
-// found. The direction is written in every case.
+// n1, which is not normalised; -1, with the point untouched, when that is shorter than 0.01 (the tolerance's
+// root: for unit normals, planes within 0.57 degrees of parallel). The direction is written in every case.
 int PlanePlane(const Vec3& p0, const Vec3& n0, const Vec3& p1, const Vec3& n1, Vec3& point, Vec3& direction);
 
 }  // namespace geometry

@@ -34,8 +34,8 @@ constexpr std::int8_t BEYOND_END = 2;
 // segment is on it, and the farther away, the wider "on the line" is. Directions on either side of a bucket's
 // boundary differ, so a point within rounding of the line can be off it. Over a segment that is vertical
 // (both ends with exactly the same x and y) q is on it only when p0.z < q.z < p1.z, hence never when the
-// segment runs downwards, and else before p0 or beyond p1 by which of them is nearer, wherever q lies in the
-// plan.
+// segment runs downwards, and else before p0 or beyond p1 by which of them is nearer (beyond p1 when neither
+// is), wherever q lies in the plan.
 std::int8_t ClassifyOnSegment(const Vec3& p0, const Vec3& p1, const Vec3& q);
 
 }  // namespace geometry

@@ -59,8 +59,9 @@ int IntersectThreePlanes(const Vec3& nA, const Vec3& pA, const Vec3& nB, const V
 
 // The line common to two planes: 1 with a point and the direction nA x nB, which is not normalised. The point
 // is where the line meets an auxiliary plane through the world origin: that across x, unless a normal lies
-// along x; then that across y, unless a normal lies along y; else that across z. Gives 0 when the planes are
-// parallel and when the line does not meet the auxiliary plane. The direction is written in every case.
+// along x; then that across y, unless a normal lies along y; else that across z. Gives 0 when nA x nB is
+// shorter than the tolerance, as short normals make it too, and when the line does not meet the auxiliary
+// plane. The direction is written in every case.
 int IntersectTwoPlanes(const Vec3& pA, const Vec3& nA, const Vec3& pB, const Vec3& nB, Vec3& outPoint,
                        Vec3& outDirection);
 

@@ -11,7 +11,10 @@ constexpr std::int32_t ERR_FATAL = 1;    // ends the process with exit status 1
 constexpr std::int32_t ERR_BUG = 2;      // prints and returns
 constexpr std::int32_t ERR_NORMAL = 10;  // prints and returns; the first kind that cannot be caught
 
-// The site of the report. Every site stores both, then calls Err; the text must outlive the report.
+// One state without a lock, for one thread.
+
+// The site of the report. Every site stores both, then calls Err; the text must outlive the report. Without a
+// site the report names '(null)' and line 0.
 extern const char* ErrFile;
 extern std::int32_t ErrLine;
 
@@ -22,7 +25,8 @@ extern char ErrMessage[128];
 
 // A catcher fills ErrJump with setjmp in a frame that is still live when a report arrives, sets ErrJumpArmed
 // non-zero and clears it before the frame ends. Reports of a kind below ERR_NORMAL then print nothing and
-// jump there with the kind as the value.
+// jump there with the kind as the value (1 for a kind of 0). No frame in between may own an object with a
+// destructor.
 extern std::int32_t ErrJumpArmed;
 extern std::jmp_buf ErrJump;
 

@@ -124,7 +124,7 @@ std::int32_t ArrayRemoveAt(std::int32_t& count, void* storage, std::size_t eleme
 std::int32_t ArrayCreate(void*& storage, std::int32_t& count, std::int32_t& capacity, std::int32_t& growth,
                          std::size_t elementSize, const void* initialElements, std::int32_t initialCount,
                          std::int32_t initialCapacity, std::int32_t growthValue) {
-  storage = AllocateOrAbort(ByteCount(initialCapacity, elementSize), LINE_CREATE);
+  storage = AllocateOrAbort(ByteCount(std::max(initialCapacity, 0), elementSize), LINE_CREATE);
   if (initialCount > 0) std::memcpy(storage, initialElements, ByteCount(initialCount, elementSize));
   count = initialCount;
   capacity = initialCapacity;

@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include "inc/LibraryMerge.h"
 #include "platform/CodePage.h"
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
@@ -16,7 +17,9 @@ namespace teskarlt {
 
 namespace {
 
-constexpr std::string_view HEADER_KEYWORD = "VYROBCE";
+// The pattern of a header without its star.
+constexpr std::string_view HEADER_PATTERN = brevanta::SECTION_PATTERN;
+constexpr std::string_view HEADER_KEYWORD = HEADER_PATTERN.substr(0, HEADER_PATTERN.size() - 1);
 constexpr std::size_t LONGEST_LINE = 254;  // characters that the module reads as one line
 constexpr int CZECH_CODE_PAGE = 1250;
 
@@ -39,11 +42,9 @@ class CatalogueBuilder {
 
   // A line of the file; one that is too long comes in pieces, as the module reads it.
   void TakePhysicalLine(std::string_view line) {
-    if (line.ends_with('\r')) {
-      catalogue_.hasWindowsLineEnds = true;
-      line.remove_suffix(1);
-    }
-    if (line.size() > LONGEST_LINE) ++catalogue_.cutLines;
+    const bool hasReturn = line.ends_with('\r');
+    if (hasReturn) catalogue_.hasWindowsLineEnds = true;
+    if (line.size() - (hasReturn ? 1 : 0) > LONGEST_LINE) ++catalogue_.cutLines;
     for (; line.size() > LONGEST_LINE; line.remove_prefix(LONGEST_LINE))
       TakeLine(line.substr(0, LONGEST_LINE));
     TakeLine(line);
@@ -51,6 +52,7 @@ class CatalogueBuilder {
 
  private:
   void TakeLine(std::string_view line) {
+    if (line.ends_with('\r')) line.remove_suffix(1);
     if (line.empty()) return;
     if (line.starts_with(HEADER_KEYWORD)) {
       const auto [found, isNew] = sectionOf_.try_emplace(line, catalogue_.sections.size());
@@ -72,21 +74,37 @@ class CatalogueBuilder {
 }  // namespace
 
 std::string CatalogueIn(const std::string& path) {
-  if (path.ends_with('/') || path.ends_with('\\')) return path + std::string(CATALOGUE_FILE);
+  if (path.ends_with('/') || path.ends_with('\\')) return path + brevanta::CATALOGUE_FILE;
   std::error_code error;
   const std::filesystem::path place(std::u8string(path.begin(), path.end()));
-  if (std::filesystem::is_directory(place, error)) return path + "/" + std::string(CATALOGUE_FILE);
+  if (std::filesystem::is_directory(place, error)) return path + "/" + brevanta::CATALOGUE_FILE;
   return path;
 }
 
 Catalogue ReadCatalogue(const std::string& path) {
   Catalogue catalogue;
   catalogue.path = CatalogueIn(path);
+  const platform::FileState state = platform::StateOfFile(catalogue.path);
+  if (state.exists && !state.isOrdinary)
+    throw Error(fmt::format("{}: this is no ordinary file", catalogue.path));
   catalogue.file = platform::ReadWholeFile(catalogue.path);
   std::string_view rest = catalogue.file.View();
   if (rest.empty()) throw Error(fmt::format("{}: the catalogue is empty", catalogue.path));
   if (rest.find('\0') != std::string_view::npos) {
     throw Error(fmt::format("{}: this is no catalogue; it holds NUL bytes", catalogue.path));
+  }
+  constexpr char endOfText = '\x1A';  // where some systems end a text file, whatever follows
+  const auto end = rest.find(endOfText);
+  if (end != std::string_view::npos && end + 1 != rest.size()) {
+    throw Error(fmt::format("{}: this is no catalogue; it holds the control character 1A in line {}",
+                            catalogue.path, std::count(rest.begin(), rest.begin() + end, '\n') + 1));
+  }
+  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+  if (rest.starts_with(byteOrderMark)) {
+    throw Error(
+        fmt::format("{}: the file begins with a byte order mark, which hides its first line; save it "
+                    "without one",
+                    catalogue.path));
   }
   CatalogueBuilder builder(catalogue);
   while (!rest.empty()) {

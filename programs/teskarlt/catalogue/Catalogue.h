@@ -10,8 +10,6 @@
 
 namespace teskarlt {
 
-constexpr std::string_view CATALOGUE_FILE = "BREVANTA.LIB";
-
 // Views on the bytes of the file; a carriage return at the end of a line is taken off.
 struct CatalogueItem {
   std::size_t section;    // index into the catalogue's sections

@@ -8,10 +8,12 @@
 
 #include <fmt/format.h>
 
+#include "inc/LibraryMerge.h"
 #include "platform/FileOperations.h"
 #include "platform/FolderLock.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
+#include "teskarlt/dxf/TagValue.h"
 #include "teskarlt/host/DataFolder.h"
 #include "teskarlt/host/WindowModule.h"
 
@@ -21,19 +23,19 @@ namespace {
 
 constexpr std::size_t LONGEST_PATH = 511;  // bytes that the module's buffer for the backup's name holds
 
-// Results of the module's merge.
-constexpr std::int32_t MERGE_DONE = 0;
-constexpr std::int32_t MERGE_NOT_WRITTEN = 1;
-constexpr std::int32_t MERGE_NO_SOURCE = -1;
-constexpr std::int32_t MERGE_NO_FOLDER = -2;
-
 std::filesystem::path ToPath(const std::string& utf8) {
   return {std::u8string(utf8.begin(), utf8.end())};
 }
 
 std::string FolderOf(const std::string& path) {
-  const auto separator = path.find_last_of("/\\");
-  return separator == std::string::npos ? "." : path.substr(0, separator + 1);
+  const std::u8string folder = ToPath(path).parent_path().u8string();
+  return folder.empty() ? "." : std::string(folder.begin(), folder.end());
+}
+
+// Where the catalogue really lies: the module renames what it is given, which would take a link for the file.
+std::string BehindLinks(const std::string& path) {
+  std::string target;
+  return platform::CurrentFileOperations().linkTarget(path, target) == 0 ? target : path;
 }
 
 bool Exists(const std::string& path) {
@@ -45,10 +47,14 @@ void CheckTarget(const std::string& source, const std::string& target) {
     throw Error(fmt::format("{}: the path of a catalogue to merge into must have 3 to {} characters", target,
                             LONGEST_PATH));
   }
+  if (dxf::SameName(BackupOf(target), target))
+    throw Error(
+        fmt::format("{}: this is the name of a backup; no catalogue to merge into may bear it", target));
   if (Exists(BackupOf(target))) {
-    throw Error(fmt::format(
-        "{} lies there from an interrupted merge; teskarlt merge --recover brings that catalogue back",
-        BackupOf(target)));
+    throw Error(
+        fmt::format("{} lies there from an interrupted merge; teskarlt merge --recover \"{}\" brings that "
+                    "catalogue back",
+                    BackupOf(target), target));
   }
   if (!Exists(target)) {
     throw Error(
@@ -69,7 +75,7 @@ struct Digest {
   std::size_t items;
   bool hasWindowsLineEnds;
   std::size_t cutLines;
-  std::vector<std::size_t> names;  // hashes of section and key, in order
+  std::vector<std::size_t> names;  // hashes of section and key
 };
 
 Digest DigestOf(const std::string& path) {
@@ -86,7 +92,6 @@ Digest DigestOf(const std::string& path) {
     constexpr std::size_t spread = 31;
     digest.names.push_back(hash(catalogue.sections[item.section]) * spread + hash(item.key));
   }
-  std::sort(digest.names.begin(), digest.names.end());
   return digest;
 }
 
@@ -108,7 +113,8 @@ std::vector<std::string> WarningsOf(const Digest& source, const Digest& target) 
 }
 
 // Throws when an item of either catalogue is not in the merged one.
-void CheckNothingLost(const Digest& source, const Digest& before, const Digest& after) {
+void CheckNothingLost(const Digest& source, const Digest& before, Digest& after) {
+  std::sort(after.names.begin(), after.names.end());
   for (const Digest* catalogue : {&before, &source}) {
     const bool isKept = std::all_of(catalogue->names.begin(), catalogue->names.end(), [&](std::size_t name) {
       return std::binary_search(after.names.begin(), after.names.end(), name);
@@ -120,14 +126,16 @@ void CheckNothingLost(const Digest& source, const Digest& before, const Digest& 
 
 [[noreturn]] void FailMerge(std::int32_t result, const std::string& source, const std::string& target) {
   switch (result) {
-    case MERGE_NOT_WRITTEN:
-      throw Error(fmt::format(
-          "{} could not be written; the catalogue as it was lies in {}, and teskarlt merge --recover "
-          "brings it back",
-          target, Exists(BackupOf(target)) ? BackupOf(target) : target));
-    case MERGE_NO_SOURCE:
+    case brevanta::MERGE_NOT_POSSIBLE:
+      if (!Exists(BackupOf(target)))
+        throw Error(fmt::format("{} could not be rewritten; it is what it was", target));
+      throw Error(
+          fmt::format("{} could not be written; the catalogue as it was lies in {}, and teskarlt merge "
+                      "--recover \"{}\" brings it back",
+                      target, BackupOf(target), target));
+    case brevanta::MERGE_NO_SOURCE:
       throw Error(fmt::format("{} cannot be opened", source));
-    case MERGE_NO_FOLDER:
+    case brevanta::MERGE_NO_DATA_FOLDER:
       throw Error(
           fmt::format("the data folder {} cannot be used, or another merge is at work in it", DataFolder()));
     default:
@@ -137,35 +145,94 @@ void CheckNothingLost(const Digest& source, const Digest& before, const Digest& 
 
 // The module itself guards the data folder alone.
 void LockFolderOf(const std::string& target, platform::FolderLock& lock) {
-  if (lock.Take(FolderOf(target)) == platform::LockResult::Taken) return;
-  throw Error(
-      fmt::format("another merge is at work in the folder of {}, or the folder must not be written", target));
+  const std::string folder = FolderOf(target);
+  const platform::LockResult result = lock.Take(folder);
+  if (result == platform::LockResult::Taken) return;
+  if (result == platform::LockResult::Busy)
+    throw Error(fmt::format("another merge is at work in the folder of {}", target));
+  std::error_code error;
+  throw Error(fmt::format("{}: {}", target,
+                          std::filesystem::is_directory(ToPath(folder), error)
+                              ? "the folder of the catalogue must not be written"
+                              : "there is no such folder"));
 }
 
 // Holds the data folder, which the module asks for once more, to the end of the merge.
 class DataFolderClaim {
  public:
   DataFolderClaim() {
-    const std::int32_t answer = AccessDataFolder(CATALOGUE_FOLDER, ACCESS_REQUEST);
-    if (answer == ACCESS_GRANTED) return;
-    throw Error(answer == ACCESS_UNUSABLE
+    const std::int32_t answer = AccessDataFolder(brevanta::CATALOGUE_FOLDER_KIND, brevanta::FOLDER_REQUEST);
+    if (answer == brevanta::FOLDER_GRANTED) return;
+    throw Error(answer == brevanta::FOLDER_UNUSABLE
                     ? fmt::format("the data folder {} does not exist or must not be written", DataFolder())
                     : fmt::format("another merge is at work in the data folder {}", DataFolder()));
   }
-  ~DataFolderClaim() { AccessDataFolder(CATALOGUE_FOLDER, ACCESS_RELEASE); }
+  ~DataFolderClaim() { AccessDataFolder(brevanta::CATALOGUE_FOLDER_KIND, brevanta::FOLDER_RELEASE); }
   DataFolderClaim(const DataFolderClaim&) = delete;
   DataFolderClaim& operator=(const DataFolderClaim&) = delete;
 };
 
+// Holds the catalogue open while the module rewrites it, so that its bytes can be had even when the module
+// has removed it and its backup.
+class HeldCatalogue {
+ public:
+  explicit HeldCatalogue(const std::string& path) : path_(path) {
+    if (const int error = operations_.openToRead(path, file_); error != 0)
+      throw Error(fmt::format("{}: cannot be opened: {}", path, platform::SystemReason(error)));
+  }
+  ~HeldCatalogue() { operations_.close(file_); }
+  HeldCatalogue(const HeldCatalogue&) = delete;
+  HeldCatalogue& operator=(const HeldCatalogue&) = delete;
+
+  // Makes the catalogue what it was.
+  void PutBack() const {
+    platform::FileReplacement replacement(path_);
+    std::vector<char> block(std::size_t{1} << 16);
+    for (std::size_t count = 1; count > 0;) {
+      if (const int error = operations_.read(file_, block.data(), block.size(), count); error != 0)
+        throw Error(fmt::format("{}: cannot be brought back: {}", path_, platform::SystemReason(error)));
+      replacement.Write({block.data(), count});
+    }
+    replacement.Commit();
+  }
+
+ private:
+  const platform::FileOperations& operations_ = platform::CurrentFileOperations();
+  std::string path_;
+  platform::FileHandle file_ = 0;
+};
+
+// The merged catalogue, looked at; when it lacks anything the old one is put back.
+Digest LookAtMerged(const Digest& source, const Digest& before, const HeldCatalogue& old) {
+  try {
+    Digest after = DigestOf(before.path);
+    CheckNothingLost(source, before, after);
+    return after;
+  } catch (const std::exception& error) {
+    old.PutBack();
+    throw Error(fmt::format("{}; {} is again what it was", error.what(), before.path));
+  }
+}
+
+// The module does not look whether its backup could be removed; left behind, it would stop the next merge.
+void RemoveBackup(const std::string& target, std::vector<std::string>& warnings) {
+  const std::string backup = BackupOf(target);
+  if (!Exists(backup)) return;
+  const int error = platform::CurrentFileOperations().remove(backup);
+  if (error == 0) return;
+  warnings.push_back(fmt::format("{} is done, but its backup {} cannot be removed: {}", target, backup,
+                                 platform::SystemReason(error)));
+}
+
 }  // namespace
 
 std::string MergeTarget(const std::optional<std::string>& target) {
-  return CatalogueIn(target ? *target : DataFolder());
+  return target ? BehindLinks(CatalogueIn(*target)) : CatalogueIn(DataFolder());
 }
 
 std::string BackupOf(const std::string& target) {
-  constexpr std::size_t ending = 3;
-  return target.substr(0, target.size() < ending ? 0 : target.size() - ending) + "OLD";
+  constexpr std::size_t ending = std::string_view(brevanta::BACKUP_ENDING).size();
+  return target.substr(0, target.size() < ending ? 0 : target.size() - ending) + brevanta::BACKUP_ENDING;
 }
 
 MergeReport MergeCatalogues(const WindowModule& module, const std::string& source,
@@ -181,14 +248,21 @@ MergeReport MergeCatalogues(const WindowModule& module, const std::string& sourc
     claim.emplace();
   }
   CheckTarget(sourcePath, report.target);
+  if (BehindLinks(report.target) != report.target)
+    throw Error(fmt::format("{} is a link; say as TARGET which catalogue it leads to", report.target));
   const Digest from = DigestOf(sourcePath);
   const Digest before = DigestOf(report.target);
   report.warnings = WarningsOf(from, before);
 
+  std::optional<HeldCatalogue> old(report.target);
+  const auto rights = std::filesystem::status(ToPath(report.target)).permissions();
   const std::int32_t result = module.Merge(sourcePath, target ? std::optional(report.target) : std::nullopt);
-  if (result != MERGE_DONE) FailMerge(result, sourcePath, report.target);
-  const Digest after = DigestOf(report.target);
-  CheckNothingLost(from, before, after);
+  if (result != brevanta::MERGE_DONE) FailMerge(result, sourcePath, report.target);
+  const Digest after = LookAtMerged(from, before, *old);
+  old.reset();  // where an open file keeps its name after its removal, that ends here
+  RemoveBackup(report.target, report.warnings);
+  std::error_code ignored;  // another owner's rights cannot always be given
+  std::filesystem::permissions(ToPath(report.target), rights, ignored);
   report.newSections = after.sections - before.sections;
   report.taken = after.items - before.items;
   report.alreadyThere = from.items - report.taken;

@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <new>
 #include <system_error>
 
 #include <CLI/CLI.hpp>
@@ -69,6 +70,9 @@ int RunCommandLine(const std::vector<std::string>& arguments) {
     return EXIT_DONE;
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? EXIT_DONE : EXIT_USAGE;
+  } catch (const std::bad_alloc&) {
+    fmt::print(stderr, "teskarlt: not enough memory for files of this size\n");
+    return EXIT_REFUSED;
   } catch (const std::exception& error) {
     fmt::print(stderr, "teskarlt: {}\n", error.what());
     return EXIT_REFUSED;

@@ -190,6 +190,11 @@ void RunInsert(const InsertOptions& options) {
   }
 }
 
+// An empty name comes of a shell variable that is not set; it must not count as no name.
+std::string NotEmpty(const std::string& name) {
+  return name.empty() ? "the name is empty" : "";
+}
+
 void PrintFields() {
   Table table({"field", "meaning"});
   for (const brevanta::RecordField& field : brevanta::RECORD_FIELDS) {
@@ -218,11 +223,13 @@ void AddInsertCommand(CLI::App& app) {
   CLI::Option* window =
       command
           ->add_option("--window", options->window, "a catalogue's window, whose sizes and texts are taken")
-          ->type_name("MAKER/KEY");
+          ->type_name("MAKER/KEY")
+          ->check(NotEmpty);
   command
       ->add_option("--catalogue", options->catalogue,
                    "the catalogue, or its folder; without it the one in the data folder")
       ->type_name("FILE")
+      ->check(NotEmpty)
       ->needs(window);
   command->add_option("--set", options->settings, "a value of the window, as often as needed")
       ->type_name("FIELD=VALUE")
@@ -230,7 +237,7 @@ void AddInsertCommand(CLI::App& app) {
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
   command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
       ->type_name("FILE")
-      ->check([](const std::string& name) { return std::string(name.empty() ? "the name is empty" : ""); });
+      ->check(NotEmpty);
   command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--dry-run", options->dryRun, "say what would be done and write nothing");
   command->add_flag("--json", options->asJson, JSON_HELP);

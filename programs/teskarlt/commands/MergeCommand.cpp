@@ -19,6 +19,7 @@ namespace {
 struct MergeOptions {
   std::string source;
   std::string target;
+  bool hasTarget = false;  // an empty name is no way to ask for the data folder
   bool recover = false;
   bool asJson = false;
 };
@@ -46,10 +47,12 @@ void PrintRecovery(const Recovery& recovery) {
 
 void RunMerge(const MergeOptions& options) {
   if (options.recover) {
+    if (!options.target.empty()) throw CLI::ValidationError("--recover takes one catalogue");
     PrintRecovery(RecoverCatalogue(Given(options.source)));
     return;
   }
   if (options.source.empty()) throw CLI::RequiredError("SOURCE");
+  if (options.hasTarget && options.target.empty()) throw CLI::ValidationError("the name of TARGET is empty");
   const WindowModule module;
   const MergeReport report = MergeCatalogues(module, options.source, Given(options.target));
   for (const std::string& warning : report.warnings)
@@ -68,8 +71,9 @@ void AddMergeCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("merge", "Merge a window catalogue into another");
   const auto options = std::make_shared<MergeOptions>();
   command->add_option("SOURCE", options->source, "the catalogue whose windows are added, or its folder");
-  command->add_option("TARGET", options->target,
-                      "the catalogue that takes them, or its folder; without it the one in the data folder");
+  CLI::Option* target = command->add_option(
+      "TARGET", options->target,
+      "the catalogue that takes them, or its folder; without it the one in the data folder");
   command->add_flag(
       "--recover", options->recover,
       "bring back the catalogue SOURCE (or that of the data folder) that an interrupted merge left");
@@ -81,7 +85,10 @@ void AddMergeCommand(CLI::App& app) {
       "  teskarlt merge update.LIB\n"
       "  teskarlt merge update.LIB catalogues/BREVANTA.LIB\n"
       "  teskarlt merge --recover catalogues/BREVANTA.LIB");
-  command->callback([options] { RunMerge(*options); });
+  command->callback([options, target] {
+    options->hasTarget = target->count() > 0;
+    RunMerge(*options);
+  });
 }
 
 }  // namespace teskarlt

@@ -1,6 +1,7 @@
 // DataFolder.cpp - the folder in which the module keeps its catalogue.
 #include "teskarlt/host/DataFolder.h"
 
+#include "inc/LibraryMerge.h"
 #include "platform/FolderLock.h"
 #include "platform/SystemFolders.h"
 #include "teskarlt/Error.h"
@@ -14,14 +15,22 @@ platform::FolderLock& Lock() {
   return lock;
 }
 
+// The host holds the folder around the module's own request, so only the last release gives it back.
+int requests = 0;
+
+void ReleaseFolder() {
+  if (requests > 0 && --requests == 0) Lock().Release();
+}
+
 std::int32_t RequestFolder() {
   switch (Lock().Take(DataFolder())) {
     case platform::LockResult::Taken:
-      return ACCESS_GRANTED;
+      ++requests;
+      return brevanta::FOLDER_GRANTED;
     case platform::LockResult::Unusable:
-      return ACCESS_UNUSABLE;
+      return brevanta::FOLDER_UNUSABLE;
     default:
-      return ACCESS_REFUSED;
+      return FOLDER_REFUSED;
   }
 }
 
@@ -37,11 +46,12 @@ std::string DataFolder() {
 }
 
 std::int32_t AccessDataFolder(std::int32_t kind, std::int32_t operation) {
-  if (kind != CATALOGUE_FOLDER) return ACCESS_REFUSED;
-  if (operation == ACCESS_REQUEST) return RequestFolder();
-  if (operation != ACCESS_RELEASE && operation != ACCESS_GIVE_BACK) return ACCESS_REFUSED;
-  Lock().Release();
-  return ACCESS_GRANTED;
+  if (kind != brevanta::CATALOGUE_FOLDER_KIND) return FOLDER_REFUSED;
+  if (operation == brevanta::FOLDER_REQUEST) return RequestFolder();
+  if (operation != brevanta::FOLDER_RELEASE && operation != brevanta::FOLDER_GIVE_BACK) return FOLDER_REFUSED;
+  if (operation == brevanta::FOLDER_RELEASE)
+    ReleaseFolder();  // nothing is held after brevanta::FOLDER_UNUSABLE
+  return brevanta::FOLDER_GRANTED;
 }
 
 }  // namespace teskarlt

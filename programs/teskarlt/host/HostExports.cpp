@@ -5,6 +5,7 @@
 
 #include "inc/DialogServices.h"
 #include "inc/HostFunctionTable.h"
+#include "inc/LibraryMerge.h"
 #include "platform/Export.h"
 #include "platform/SystemFolders.h"
 #include "teskarlt/host/DataFolder.h"
@@ -29,7 +30,7 @@ void EndEntityBatch(std::int32_t keep) {
 }
 
 bool GetDataFolder(std::int32_t kind, char* buffer, std::int32_t size) {
-  if (kind != CATALOGUE_FOLDER) return false;
+  if (kind != brevanta::CATALOGUE_FOLDER_KIND) return false;
   try {
     const std::optional<std::string> folder = platform::ToSystemPath(DataFolder());
     if (!folder || size <= 0 || folder->size() >= static_cast<std::size_t>(size)) return false;
@@ -44,7 +45,7 @@ std::int32_t DataFolderAccess(std::int32_t kind, std::int32_t operation) {
   try {
     return AccessDataFolder(kind, operation);
   } catch (const std::exception&) {
-    return ACCESS_REFUSED;
+    return FOLDER_REFUSED;
   }
 }
 

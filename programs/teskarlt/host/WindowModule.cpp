@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "inc/DialogModule.h"
+#include "inc/LibraryMerge.h"
 #include "platform/SystemFolders.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/host/DataFolder.h"
@@ -19,7 +20,6 @@ constexpr const char* PROGRAM = "TESKARLT.EXE";
 constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
 constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
 constexpr const char* INSERT_EXPORT = "Brevanta";
-constexpr const char* MERGE_EXPORT = "mergeLibraryFiles";
 
 std::string ProgramPath() {
   char path[4096];
@@ -102,10 +102,12 @@ WindowModule::WindowModule() {
   CheckCompanion(RESOURCE_MODULE, "the string module", {});
   module_ = LoadFromFolder(WINDOW_MODULE);
   insert_ = ExportedFunction<InsertFunction>(module_, INSERT_EXPORT);
-  merge_ = ExportedFunction<MergeFunction>(module_, MERGE_EXPORT);
+  merge_ =
+      ExportedFunction<brevanta::MergeLibraryFilesFunction>(module_, brevanta::MERGE_LIBRARY_FILES_EXPORT);
   if (insert_ != nullptr && merge_ != nullptr) return;
   FreeLibrary(module_);
-  ThrowForeign(WINDOW_MODULE, "the roof window module", insert_ == nullptr ? INSERT_EXPORT : MERGE_EXPORT);
+  ThrowForeign(WINDOW_MODULE, "the roof window module",
+               insert_ == nullptr ? INSERT_EXPORT : brevanta::MERGE_LIBRARY_FILES_EXPORT);
 }
 
 WindowModule::~WindowModule() {
@@ -128,7 +130,8 @@ CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest&
 std::int32_t WindowModule::Merge(const std::string& source, const std::optional<std::string>& target) const {
   const std::string sourcePath = SystemPath(source);
   const std::string targetPath = target ? SystemPath(*target) : std::string();
-  return merge_(nullptr, sourcePath.c_str(), target ? targetPath.c_str() : nullptr, CATALOGUE_FOLDER);
+  return merge_(nullptr, sourcePath.c_str(), target ? targetPath.c_str() : nullptr,
+                brevanta::CATALOGUE_FOLDER_KIND);
 }
 
 }  // namespace teskarlt

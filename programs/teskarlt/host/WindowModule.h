@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "inc/LibraryMerge.h"
 #include "platform/ModuleServices.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/host/HostSession.h"
@@ -32,14 +33,12 @@ class WindowModule {
   std::int32_t Merge(const std::string& source, const std::optional<std::string>& target) const;
 
  private:
-  using MergeFunction = std::int32_t (*)(void* unused, const char* source, const char* target,
-                                         std::int32_t dataFolderKind);
   using InsertFunction = std::int32_t (*)(void* hostContext, std::int32_t unitFactor, void* reserved,
                                           std::int32_t dialogArg);
 
   HMODULE module_ = nullptr;
   InsertFunction insert_ = nullptr;
-  MergeFunction merge_ = nullptr;
+  brevanta::MergeLibraryFilesFunction merge_ = nullptr;
 };
 
 }  // namespace teskarlt

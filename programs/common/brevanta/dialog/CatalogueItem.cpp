@@ -2,6 +2,7 @@
 #include "dialog/CatalogueItem.h"
 
 #include "dialog/FieldText.h"
+#include "dialog/Refusal.h"
 
 namespace brevanta {
 
@@ -18,9 +19,7 @@ void TakeText(std::string_view name, std::string_view text, char (&field)[SIZE])
   if (!text.empty()) StoreText(name, text, SIZE, field);
 }
 
-}  // namespace
-
-void TakeCatalogueItem(std::string_view line, WindowParams& record) {
+void TakeFields(std::string_view line, WindowParams& record) {
   const auto next = [&line] { return Trimmed(CutField(line, ';')); };
   TakeText("text2", next(), record.text2);
   TakeSize("width", next(), record.width);
@@ -29,6 +28,17 @@ void TakeCatalogueItem(std::string_view line, WindowParams& record) {
   TakeSize("frameDepth", next(), record.frameDepth);
   TakeText("openingCode", next(), record.openingCode);
   TakeText("text3", next(), record.text3);
+}
+
+}  // namespace
+
+void TakeCatalogueItem(std::string_view line, WindowParams& record) {
+  try {
+    TakeFields(line, record);
+  } catch (const Refusal& refusal) {
+    throw Refusal("the catalogue's window " + Quoted(Trimmed(line.substr(0, line.find(';')))) +
+                  " cannot be used: " + refusal.what());
+  }
 }
 
 }  // namespace brevanta
