@@ -20,14 +20,15 @@ PARTS = {
     "host drawing": (HOST + "drawing/", {"host dxf", "host errors", "inc", "geometry", "platform"}),
     "host modules": (HOST + "host/", {"host drawing", "host dxf", "host errors", "inc", "geometry", "platform"}),
     "host catalogue": (HOST + "catalogue/", {"host modules", "host dxf", "host errors", "inc", "platform"}),
-    "host commands": (HOST + "commands/", {"host catalogue", "host modules", "host drawing", "host dxf", "host errors",
+    "host preview": (HOST + "preview/", {"host drawing", "host dxf", "host errors", "geometry"}),
+    "host commands": (HOST + "commands/", {"host catalogue", "host preview", "host modules", "host drawing", "host dxf", "host errors",
                                            "inc", "geometry", "platform"}),
     "host errors": (HOST + "Error", set()),
     "host main": (HOST + "main", {"host commands", "platform"}),
 }
 # Folders that an include may start from, and the libraries that only the host, tests and benchmarks use.
 INCLUDE_ROOTS = ("", LIBRARY, BREVANTA, "programs/", HOST, "Library16/")
-HOST_LIBRARIES = ("CLI/", "fmt/", "nlohmann/", "gtest/", "gmock/", "benchmark/")
+HOST_LIBRARIES = ("zlib.h", "CLI/", "fmt/", "nlohmann/", "gtest/", "gmock/", "benchmark/")
 SYSTEM_HEADERS = re.compile(r"<\w+\.h>|<sys/")
 INCLUDE = re.compile(r'^\s*#\s*include\s+(["<])([^">]+)[">]', re.M)
 

@@ -14,6 +14,7 @@
 #include "teskarlt/commands/ListCommand.h"
 #include "teskarlt/commands/MergeCommand.h"
 #include "teskarlt/commands/NewCommand.h"
+#include "teskarlt/commands/PreviewCommand.h"
 #include "teskarlt/commands/RoofsCommand.h"
 
 namespace teskarlt {
@@ -31,6 +32,7 @@ constexpr const char* EXAMPLES =
     "  teskarlt roofs house.dxf\n"
     "  teskarlt insert house.dxf --at 3000,2000 -o house-with-window.dxf\n"
     "  teskarlt list house-with-window.dxf\n"
+    "  teskarlt preview house-with-window.dxf -o house.html\n"
     "\n"
     "Exit status: 0 done, 1 refused or failed with nothing changed, 2 wrong usage.";
 
@@ -45,6 +47,7 @@ void AddCommands(CLI::App& app) {
   AddRoofsCommand(app);
   AddInsertCommand(app);
   AddListCommand(app);
+  AddPreviewCommand(app);
   AddNewCommand(app);
   AddCatalogueCommand(app);
   AddMergeCommand(app);

@@ -160,6 +160,12 @@ std::span<const Entity> Document::Entities() const {
   return state_->index.entities;
 }
 
+std::string_view Document::SectionText(std::string_view name) const {
+  const Section* const section = state_->index.FindSection(name);
+  if (section == nullptr) return {};
+  return {section->begin, static_cast<std::size_t>(section->end - section->begin)};
+}
+
 const Entity* Document::FindEntity(std::uint64_t handle) const {
   const auto& entities = state_->index.entities;
   const auto found = std::find_if(entities.begin(), entities.end(), [&](const Entity& entity) {

@@ -48,6 +48,10 @@ class Document {
   // First tag of a header variable ("$INSUNITS").
   std::optional<Tag> HeaderVariable(std::string_view name) const;
 
+  // The tags of a section ("BLOCKS"), from the line of its SECTION on and without its ENDSEC; empty when it
+  // is missing.
+  std::string_view SectionText(std::string_view name) const;
+
   // The entities of the model space in the order of the file; those of paper space and of blocks are left
   // out.
   std::span<const Entity> Entities() const;

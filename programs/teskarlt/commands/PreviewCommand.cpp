@@ -1,0 +1,137 @@
+// PreviewCommand.cpp - the subcommand "preview": makes a picture or a model of a drawing.
+#include "teskarlt/commands/PreviewCommand.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "platform/FileOperations.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/commands/Report.h"
+#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/preview/Glb.h"
+#include "teskarlt/preview/Page.h"
+#include "teskarlt/preview/Png.h"
+#include "teskarlt/preview/Raster.h"
+#include "teskarlt/preview/SceneReader.h"
+#include "teskarlt/preview/Svg.h"
+
+namespace teskarlt {
+
+namespace {
+
+constexpr int SVG_WIDTH = 1000;
+constexpr int PNG_WIDTH = 1600;
+constexpr int LEAST_WIDTH = 100;
+constexpr int GREATEST_WIDTH = 10000;
+constexpr const char* FORMATS[] = {"svg", "png", "html", "glb"};
+
+struct PreviewOptions {
+  std::string file;
+  std::string output;
+  std::string format;
+  std::string view;
+  std::string units;
+  std::vector<std::string> layers;
+  std::optional<std::int32_t> window;
+  std::optional<int> width;
+};
+
+std::string FormatOf(const PreviewOptions& options) {
+  if (!options.format.empty()) return options.format;
+  const auto dot = options.output.find_last_of('.');
+  const std::string ending = dot == std::string::npos ? "" : options.output.substr(dot + 1);
+  for (const char* format : FORMATS) {
+    if (dxf::SameName(ending, format)) return format;
+  }
+  throw CLI::ValidationError(
+      "-o",
+      fmt::format("the ending of {} names no format; end it in .svg, .png, .html or .glb, or give --format",
+                  options.output));
+}
+
+// What a format has no use for is wrong usage.
+void RefuseUnusable(const PreviewOptions& options, const std::string& format) {
+  const bool isFlat = format == "svg" || format == "png";
+  const auto refuse = [&](const char* option) {
+    throw CLI::ValidationError(option, fmt::format("has no meaning for a .{} file", format));
+  };
+  if (!isFlat && !options.view.empty()) refuse("--view");
+  if (!isFlat && options.width) refuse("--width");
+  if (format == "glb" && options.window) refuse("--window");
+}
+
+std::optional<std::size_t> WindowIndex(const PreviewOptions& options, const preview::Scene& scene) {
+  if (!options.window) return std::nullopt;
+  const auto found = std::find_if(scene.windows.begin(), scene.windows.end(), [&](const auto& window) {
+    return window.number == *options.window && !window.box.IsEmpty();
+  });
+  if (found == scene.windows.end())
+    throw Error(fmt::format("{}: no window with the number {} is to be seen", options.file, *options.window));
+  return static_cast<std::size_t>(found - scene.windows.begin());
+}
+
+std::string Made(const PreviewOptions& options, const std::string& format, const preview::Scene& scene) {
+  const std::optional<std::size_t> window = WindowIndex(options, scene);
+  if (format == "glb") return preview::Glb(scene);
+  if (format == "html") return preview::Page(scene, options.window);
+  const bool isSvg = format == "svg";
+  preview::PictureOptions picture;
+  picture.view = preview::FindView(!options.view.empty() ? options.view : isSvg ? "plan" : "iso");
+  picture.width = options.width.value_or(isSvg ? SVG_WIDTH : PNG_WIDTH);
+  picture.window = window;
+  return isSvg ? preview::Svg(scene, picture) : preview::Png(preview::Render(scene, picture));
+}
+
+void ReportLeftOut(const preview::Scene& scene) {
+  std::string list;
+  for (const auto& [type, count] : scene.leftOut)
+    list += fmt::format("{}{} {}", list.empty() ? "" : ", ", count, type);
+  if (!list.empty()) fmt::print(stderr, "teskarlt: not shown: {}\n", list);
+}
+
+void RunPreview(const PreviewOptions& options) {
+  const std::string format = FormatOf(options);
+  RefuseUnusable(options, format);
+  const dxf::Document drawing = dxf::Document::Load(options.file);
+  const preview::Scene scene = preview::ReadScene(drawing, {options.units, options.layers});
+  platform::WriteWholeFile(options.output, Made(options, format, scene));
+  ReportLeftOut(scene);
+  fmt::print("{} written.\n", options.output);
+}
+
+}  // namespace
+
+void AddPreviewCommand(CLI::App& app) {
+  CLI::App* command = app.add_subcommand("preview", "Make a picture, a page or a 3D model of a drawing");
+  const auto options = std::make_shared<PreviewOptions>();
+  command->add_option("FILE", options->file, "the drawing")->required();
+  command->add_option("-o,--output", options->output, "the file to write: .svg, .png, .html or .glb")
+      ->required();
+  command->add_option("--format", options->format, "svg, png, html or glb, whatever the file's ending is")
+      ->check(CLI::IsMember({FORMATS[0], FORMATS[1], FORMATS[2], FORMATS[3]}));
+  command
+      ->add_option("--view", options->view,
+                   "plan, iso, south, north, east or west; plan for .svg, iso for .png")
+      ->check(CLI::IsMember({"plan", "iso", "south", "north", "east", "west"}));
+  command->add_option("--window", options->window, "zoom to the window with this number");
+  command->add_option("--layer", options->layers, "show this layer only; several may be given")->take_all();
+  command->add_option("--width", options->width, "width of the picture in pixels")
+      ->check(CLI::Range(LEAST_WIDTH, GREATEST_WIDTH));
+  command->add_option("--units", options->units, UNITS_HELP);
+  command->footer(
+      "A .svg is a drawing with title, scale bar and a group for each layer; a .png is seen from the "
+      "south-east;\n"
+      "a .html is a page of its own in which the drawing can be turned; a .glb is a model for other "
+      "programs.\n"
+      "Examples:\n"
+      "  teskarlt preview house.dxf -o plan.svg\n"
+      "  teskarlt preview house.dxf -o south.svg --view south\n"
+      "  teskarlt preview house.dxf -o window.png --window 3");
+  command->callback([options] { RunPreview(*options); });
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,26 @@
+// Blocks.h - the blocks of a drawing: named groups of entities that others insert.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "geometry/Matrix4.h"
+#include "teskarlt/dxf/Document.h"
+#include "teskarlt/preview/Record.h"
+
+namespace teskarlt::preview {
+
+struct Block {
+  geometry::Vec3 base{};  // the point that comes to lie at the insertion point
+  std::vector<dxf::Entity> entities;
+};
+
+// Blocks by their folded names (dxf::FoldedName). The drawing must outlive the result.
+using Blocks = std::unordered_map<std::string, Block>;
+Blocks ReadBlocks(const dxf::Document& drawing);
+
+// From the block's coordinates to those around the INSERT: one matrix for each row and column of its array.
+std::vector<geometry::Matrix4> InsertMatrices(const Record& insert, const geometry::Vec3& base);
+
+}  // namespace teskarlt::preview

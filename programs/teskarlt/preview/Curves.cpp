@@ -1,0 +1,217 @@
+// Curves.cpp - divides curves into straight pieces.
+#include "teskarlt/preview/Curves.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "geometry/Trigonometry.h"
+#include "teskarlt/dxf/TagValue.h"
+
+namespace teskarlt::preview {
+
+namespace {
+
+using geometry::Matrix4;
+using geometry::Vec3;
+
+constexpr double ARC_STEP = 5 * geometry::PI / 180;
+constexpr double MOST_STEPS = 10000;
+constexpr std::int64_t CLOSED = 1;
+constexpr std::int64_t POLYLINE_3D = 8;
+constexpr std::int64_t POLYLINE_MESHES = 16 | 64;
+constexpr std::int64_t VERTEX_SPLINE_FRAME = 16;
+constexpr int CODE_EXTRUSION = 210;
+constexpr Vec3 UP = {0, 0, 1};
+
+std::size_t StepsOf(double angle) {
+  return static_cast<std::size_t>(std::clamp(std::ceil(std::abs(angle) / ARC_STEP), 1.0, MOST_STEPS));
+}
+
+CurvePoints Placed(const Record& record, CurvePoints points) {
+  const Matrix4 matrix = ObjectToDrawing(record.Point(CODE_EXTRUSION, UP));
+  for (Vec3& point : points)
+    geometry::MatTransformPoint(matrix, point, point);
+  return points;
+}
+
+// centre + cos t * a + sin t * b for t from `start` on.
+CurvePoints Sweep(const Vec3& centre, const Vec3& a, const Vec3& b, double start, double angle) {
+  const std::size_t steps = StepsOf(angle);
+  CurvePoints points;
+  for (std::size_t i = 0; i <= steps; ++i) {
+    const double t = start + angle * static_cast<double>(i) / static_cast<double>(steps);
+    const double c = geometry::Cosine(t);
+    const double s = geometry::Sine(t);
+    points.push_back(
+        {centre.x + c * a.x + s * b.x, centre.y + c * a.y + s * b.y, centre.z + c * a.z + s * b.z});
+  }
+  return points;
+}
+
+CurvePoints Circle(const Record& record, bool isArc) {
+  const Vec3 centre = record.Point(10);
+  const double radius = record.Real(40);
+  const double start = isArc ? geometry::DegToRad(record.Real(50)) : 0.0;
+  double angle = isArc ? geometry::DegToRad(record.Real(51)) - start : geometry::TWO_PI;
+  if (isArc) angle = std::fmod(angle, geometry::TWO_PI);
+  if (angle <= 0) angle += geometry::TWO_PI;
+  return Placed(record, Sweep(centre, {radius, 0, 0}, {0, radius, 0}, start, angle));
+}
+
+CurvePoints Ellipse(const Record& record) {
+  const Vec3 major = record.Point(11);
+  Vec3 minor{};
+  geometry::VecCross(record.Point(CODE_EXTRUSION, UP), major, minor);
+  geometry::VecScale(minor, record.Real(40, 1.0), minor);
+  const double start = record.Real(41);
+  double angle = record.Real(42, geometry::TWO_PI) - start;
+  if (angle <= 0) angle += geometry::TWO_PI;
+  return Sweep(record.Point(10), major, minor, start, angle);
+}
+
+// A vertex of a polyline in a plane; `bulge` is the tangent of a quarter of the angle of the arc to the next
+// one.
+struct BulgeVertex {
+  Vec3 point;
+  double bulge = 0;
+};
+
+CurvePoints WithBulges(const std::vector<BulgeVertex>& vertices, bool isClosed) {
+  CurvePoints points;
+  const std::size_t pieces = isClosed ? vertices.size() : vertices.size() - 1;
+  for (std::size_t i = 0; i < pieces; ++i) {
+    const Vec3& a = vertices[i].point;
+    const Vec3& b = vertices[(i + 1) % vertices.size()].point;
+    const double bulge = vertices[i].bulge;
+    points.push_back(a);
+    if (bulge == 0) continue;
+    const double lift = (1 - bulge * bulge) / (4 * bulge);
+    const Vec3 centre = {(a.x + b.x) / 2 - lift * (b.y - a.y), (a.y + b.y) / 2 + lift * (b.x - a.x), a.z};
+    const Vec3 radius = {a.x - centre.x, a.y - centre.y, 0};
+    CurvePoints arc = Sweep(centre, radius, {-radius.y, radius.x, 0}, 0, 4 * geometry::ArcTangent(bulge));
+    points.insert(points.end(), arc.begin() + 1, arc.end() - 1);
+  }
+  points.push_back(isClosed ? vertices.front().point : vertices.back().point);
+  return points;
+}
+
+CurvePoints LightPolyline(const Record& record) {
+  std::vector<BulgeVertex> vertices;
+  const double elevation = record.Real(38);
+  for (const dxf::Tag& tag : record.Tags()) {
+    if (tag.code == 10) {
+      vertices.push_back({{record.RealOf(tag), 0, elevation}, 0});
+    } else if (!vertices.empty() && tag.code == 20) {
+      vertices.back().point.y = record.RealOf(tag);
+    } else if (!vertices.empty() && tag.code == 42) {
+      vertices.back().bulge = record.RealOf(tag);
+    }
+  }
+  if (vertices.empty()) return {};
+  return Placed(record, WithBulges(vertices, (record.Integer(70) & CLOSED) != 0));
+}
+
+CurvePoints Polyline(const std::vector<Record>& records) {
+  const Record& own = records[0];
+  const std::int64_t flags = own.Integer(70);
+  const bool is3d = (flags & POLYLINE_3D) != 0;
+  const double elevation = own.Real(30);
+  std::vector<BulgeVertex> vertices;
+  for (std::size_t i = 1; i < records.size(); ++i) {
+    const Record& vertex = records[i];
+    if (!dxf::SameName(vertex.Type(), "VERTEX") || (vertex.Integer(70) & VERTEX_SPLINE_FRAME) != 0) continue;
+    vertices.push_back({vertex.Point(10), is3d ? 0 : vertex.Real(42)});
+    if (!is3d) vertices.back().point.z = elevation;
+  }
+  if (vertices.empty()) return {};
+  CurvePoints points = WithBulges(vertices, (flags & CLOSED) != 0);
+  return is3d ? points : Placed(own, std::move(points));
+}
+
+struct Weighted {
+  double x, y, z, w;
+};
+
+Weighted Blend(const Weighted& a, const Weighted& b, double share) {
+  return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share, a.z + (b.z - a.z) * share,
+          a.w + (b.w - a.w) * share};
+}
+
+// De Boor's algorithm (C. de Boor, 1972) within the knots `span` and `span` + 1.
+Vec3 SplinePoint(const std::vector<Weighted>& controls, const std::vector<double>& knots, std::size_t degree,
+                 std::size_t span, double t) {
+  std::vector<Weighted> d(controls.begin() + static_cast<std::ptrdiff_t>(span - degree),
+                          controls.begin() + static_cast<std::ptrdiff_t>(span + 1));
+  for (std::size_t round = 1; round <= degree; ++round) {
+    for (std::size_t j = degree; j >= round; --j) {
+      const double low = knots[j + span - degree];
+      const double high = knots[j + 1 + span - round];
+      d[j] = Blend(d[j - 1], d[j], high > low ? (t - low) / (high - low) : 0.0);
+    }
+  }
+  const Weighted& p = d[degree];
+  return {p.x / p.w, p.y / p.w, p.z / p.w};
+}
+
+CurvePoints Spline(const Record& record) {
+  constexpr std::size_t stepsASpan = 12;
+  const auto degree = static_cast<std::size_t>(std::clamp<std::int64_t>(record.Integer(71, 3), 1, 25));
+  const CurvePoints points = record.Points(10);
+  const std::vector<double> knots = record.Reals(40);
+  const std::vector<double> weights = record.Reals(41);
+  if (points.size() <= degree || knots.size() != points.size() + degree + 1) return record.Points(11);
+  std::vector<Weighted> controls;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    const double w = weights.size() == points.size() && weights[i] > 0 ? weights[i] : 1.0;
+    controls.push_back({points[i].x * w, points[i].y * w, points[i].z * w, w});
+  }
+  CurvePoints curve;
+  for (std::size_t span = degree; span < points.size(); ++span) {
+    const double length = knots[span + 1] - knots[span];
+    if (!(length > 0)) continue;
+    for (std::size_t i = curve.empty() ? 0 : 1; i <= stepsASpan; ++i) {
+      const double t = knots[span] + length * static_cast<double>(i) / static_cast<double>(stepsASpan);
+      curve.push_back(SplinePoint(controls, knots, degree, span, t));
+    }
+  }
+  return curve;
+}
+
+}  // namespace
+
+Matrix4 ObjectToDrawing(const Vec3& extrusion) {
+  Matrix4 matrix{};
+  geometry::MatIdentity(matrix);
+  const double length = std::sqrt(geometry::VecDot(extrusion, extrusion));
+  if (!(length > 0)) return matrix;
+  const Vec3 z = {extrusion.x / length, extrusion.y / length, extrusion.z / length};
+  constexpr double closeToZ = 1.0 / 64;
+  const bool isCloseToZ = std::abs(z.x) < closeToZ && std::abs(z.y) < closeToZ;
+  Vec3 x{};
+  Vec3 y{};
+  geometry::VecCross(isCloseToZ ? Vec3{0, 1, 0} : UP, z, x);
+  geometry::VecScale(x, 1 / std::sqrt(geometry::VecDot(x, x)), x);
+  geometry::VecCross(z, x, y);
+  const Vec3* const axes[3] = {&x, &y, &z};
+  for (int column = 0; column < 3; ++column) {
+    matrix.m[0][column] = axes[column]->x;
+    matrix.m[1][column] = axes[column]->y;
+    matrix.m[2][column] = axes[column]->z;
+  }
+  return matrix;
+}
+
+std::optional<CurvePoints> PointsOf(const std::vector<Record>& records) {
+  const Record& own = records[0];
+  const auto is = [&](std::string_view type) { return dxf::SameName(own.Type(), type); };
+  if (is("LINE")) return CurvePoints{own.Point(10), own.Point(11)};
+  if (is("LWPOLYLINE")) return LightPolyline(own);
+  if (is("POLYLINE") && (own.Integer(70) & POLYLINE_MESHES) == 0) return Polyline(records);
+  if (is("CIRCLE")) return Circle(own, false);
+  if (is("ARC")) return Circle(own, true);
+  if (is("ELLIPSE")) return Ellipse(own);
+  if (is("SPLINE")) return Spline(own);
+  return std::nullopt;
+}
+
+}  // namespace teskarlt::preview

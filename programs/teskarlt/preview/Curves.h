@@ -1,0 +1,24 @@
+// Curves.h - the points along lines, polylines, arcs, ellipses and splines.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "geometry/Matrix4.h"
+#include "geometry/Vec3.h"
+#include "teskarlt/preview/Record.h"
+
+namespace teskarlt::preview {
+
+using CurvePoints = std::vector<geometry::Vec3>;
+
+// The points of an entity that is a curve, in drawing coordinates: arcs in steps of at most 5 degrees, closed
+// curves ending where they begin. `records` are the entity's own and those of its vertices. Nothing for
+// entities that are no curves, an empty list for one without extent.
+std::optional<CurvePoints> PointsOf(const std::vector<Record>& records);
+
+// From the coordinates that an entity with this extrusion direction (group 210) has, to those of the drawing:
+// the arbitrary axis rule of the format.
+geometry::Matrix4 ObjectToDrawing(const geometry::Vec3& extrusion);
+
+}  // namespace teskarlt::preview

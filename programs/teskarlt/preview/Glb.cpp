@@ -1,0 +1,219 @@
+// Glb.cpp - writes the 3D model.
+#include "teskarlt/preview/Glb.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <map>
+#include <tuple>
+#include <utility>
+
+#include <nlohmann/json.hpp>
+
+namespace teskarlt::preview {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr std::uint32_t MAGIC = 0x46546C67;  // "glTF"
+constexpr std::uint32_t VERSION = 2;
+constexpr std::uint32_t CHUNK_JSON = 0x4E4F534A;
+constexpr std::uint32_t CHUNK_BINARY = 0x004E4942;
+constexpr int FLOATS = 5126;  // component type of an accessor
+constexpr int VERTICES = 34962;
+constexpr int LINES = 1;
+constexpr int TRIANGLES = 4;
+
+void PutNumber(std::string& to, std::uint32_t value) {
+  for (int shift = 0; shift < 32; shift += 8)
+    to += static_cast<char>(value >> shift & 255U);
+}
+
+void PutChunk(std::string& to, std::uint32_t type, std::string content, char filling) {
+  content.resize((content.size() + 3) / 4 * 4, filling);
+  PutNumber(to, static_cast<std::uint32_t>(content.size()));
+  PutNumber(to, type);
+  to += content;
+}
+
+// A channel of a screen's colour as an amount of light: the square is close to the exact curve of sRGB and
+// the same on every system.
+double Light(std::uint8_t channel) {
+  const double value = channel / 255.0;
+  return std::round(value * value * 1000) / 1000;
+}
+
+enum class Kind { Surface, Glass, Edge };
+
+// The primitives of a layer are told apart by these.
+struct Material {
+  Kind kind;
+  std::uint8_t red, green, blue;
+
+  bool operator<(const Material& other) const {
+    return std::tie(kind, red, green, blue) < std::tie(other.kind, other.red, other.green, other.blue);
+  }
+};
+
+class Writer {
+ public:
+  explicit Writer(const Scene& scene) : scene_(scene) {
+    scale_ = scene.perMetre > 0 ? 1 / scene.perMetre : 1;
+    const Vec3 centre = scene.box.Centre();
+    origin_ = {centre.x, centre.y, scene.box.low.z};
+  }
+
+  std::string Run() {
+    std::vector<std::map<Material, std::vector<Vec3>>> layers(scene_.layers.size());
+    for (const Surface& surface : scene_.surfaces)
+      AddSurface(surface, layers[surface.layer]);
+    for (const Curve& curve : scene_.curves) {
+      std::vector<Vec3>& lines = layers[curve.layer][MaterialOf(Kind::Edge, Ink(curve.colour))];
+      for (const std::vector<Vec3>& dash : Dashes(curve.points, scene_.patterns[curve.pattern])) {
+        for (std::size_t i = 1; i < dash.size(); ++i)
+          AddLine(dash[i - 1], dash[i], lines);
+      }
+    }
+    Begin();
+    for (std::size_t i = 0; i < layers.size(); ++i)
+      PutLayer(scene_.layers[i], layers[i]);
+    return File();
+  }
+
+ private:
+  static Material MaterialOf(Kind kind, const Colour& colour) {
+    return {kind, colour.red, colour.green, colour.blue};
+  }
+
+  static void AddLine(const Vec3& a, const Vec3& b, std::vector<Vec3>& lines) {
+    lines.push_back(a);
+    lines.push_back(b);
+  }
+
+  static void AddSurface(const Surface& surface, std::map<Material, std::vector<Vec3>>& layer) {
+    const Kind kind = surface.isGlass ? Kind::Glass : Kind::Surface;
+    std::vector<Vec3>& triangles = layer[MaterialOf(kind, PaintOf(surface))];
+    for (const std::size_t index : Triangles(surface.corners))
+      triangles.push_back(surface.corners[index]);
+    std::vector<Vec3>& edges = layer[MaterialOf(Kind::Edge, EdgeInk(surface.colour))];
+    for (std::size_t k = 0; k < surface.corners.size(); ++k) {
+      if (k >= HIDDEN_EDGE_BITS || (surface.hiddenEdges >> k & 1U) == 0)
+        AddLine(surface.corners[k], surface.corners[(k + 1) % surface.corners.size()], edges);
+    }
+  }
+
+  // Drawing to model: metres from the origin, y up.
+  Vec3 Placed(const Vec3& p) const {
+    return {(p.x - origin_.x) * scale_, (p.z - origin_.z) * scale_, (origin_.y - p.y) * scale_};
+  }
+
+  void Begin() {
+    Json windows = Json::array();
+    for (const SceneWindow& window : scene_.windows) {
+      if (window.box.IsEmpty()) continue;
+      const Vec3 middle = Placed(window.box.Centre());
+      const Vec3 diagonal = {window.box.high.x - window.box.low.x, window.box.high.y - window.box.low.y,
+                             window.box.high.z - window.box.low.z};
+      windows.push_back({{"number", window.number},
+                         {"label", window.label},
+                         {"middle", {middle.x, middle.y, middle.z}},
+                         {"size", std::sqrt(geometry::VecDot(diagonal, diagonal)) * scale_},
+                         {"facing", {window.facing.x, window.facing.z, -window.facing.y}}});
+    }
+    json_["asset"] = {{"version", "2.0"},
+                      {"generator", "teskarlt"},
+                      {"extras",
+                       {{"name", scene_.name},
+                        {"unit", scene_.unit},
+                        {"origin", {origin_.x, origin_.y, origin_.z}},
+                        {"windows", windows}}}};
+    json_["scene"] = 0;
+    json_["scenes"] = {{{"name", scene_.name}, {"nodes", Json::array()}}};
+    for (const char* list : {"nodes", "meshes", "materials", "accessors", "bufferViews"})
+      json_[list] = Json::array();
+  }
+
+  std::size_t MaterialIndex(const Material& material) {
+    const auto [found, isNew] = materials_.try_emplace(material, materials_.size());
+    if (!isNew) return found->second;
+    const bool isGlass = material.kind == Kind::Glass;
+    json_["materials"].push_back(
+        {{"name", material.kind == Kind::Edge ? "line"
+                  : isGlass                   ? "glass"
+                                              : "surface"},
+         {"pbrMetallicRoughness",
+          {{"baseColorFactor", {Light(material.red), Light(material.green), Light(material.blue), 1.0}},
+           {"metallicFactor", 0.0},
+           {"roughnessFactor", isGlass ? 0.1 : 0.9}}},
+         {"doubleSided", true}});
+    return found->second;
+  }
+
+  void PutLayer(const SceneLayer& layer, const std::map<Material, std::vector<Vec3>>& content) {
+    Json primitives = Json::array();
+    for (const auto& [material, points] : content) {
+      if (points.empty()) continue;
+      primitives.push_back({{"attributes", {{"POSITION", PutPoints(points)}}},
+                            {"material", MaterialIndex(material)},
+                            {"mode", material.kind == Kind::Edge ? LINES : TRIANGLES}});
+    }
+    if (primitives.empty()) return;
+    json_["scenes"][0]["nodes"].push_back(json_["nodes"].size());
+    json_["nodes"].push_back({{"name", layer.name},
+                              {"mesh", json_["meshes"].size()},
+                              {"extras", {{"colour", Hex(layer.colour)}}}});
+    json_["meshes"].push_back({{"name", layer.name}, {"primitives", primitives}});
+  }
+
+  // Adds an accessor with these points and gives its index.
+  std::size_t PutPoints(const std::vector<Vec3>& points) {
+    const std::size_t begin = binary_.size();
+    Box box;
+    for (const Vec3& point : points) {
+      const Vec3 p = Placed(point);
+      const float coordinates[3] = {static_cast<float>(p.x), static_cast<float>(p.y),
+                                    static_cast<float>(p.z)};
+      for (const float coordinate : coordinates)
+        PutNumber(binary_, std::bit_cast<std::uint32_t>(coordinate));
+      box.Add({coordinates[0], coordinates[1], coordinates[2]});
+    }
+    json_["bufferViews"].push_back(
+        {{"buffer", 0}, {"byteOffset", begin}, {"byteLength", binary_.size() - begin}, {"target", VERTICES}});
+    json_["accessors"].push_back({{"bufferView", json_["bufferViews"].size() - 1},
+                                  {"componentType", FLOATS},
+                                  {"count", points.size()},
+                                  {"type", "VEC3"},
+                                  {"min", {box.low.x, box.low.y, box.low.z}},
+                                  {"max", {box.high.x, box.high.y, box.high.z}}});
+    return json_["accessors"].size() - 1;
+  }
+
+  std::string File() {
+    json_["buffers"] = {{{"byteLength", binary_.size()}}};
+    std::string chunks;
+    PutChunk(chunks, CHUNK_JSON, json_.dump(), ' ');
+    PutChunk(chunks, CHUNK_BINARY, std::move(binary_), '\0');
+    std::string file;
+    PutNumber(file, MAGIC);
+    PutNumber(file, VERSION);
+    PutNumber(file, static_cast<std::uint32_t>(chunks.size() + 12));
+    return file + chunks;
+  }
+
+  const Scene& scene_;
+  double scale_ = 1;
+  Vec3 origin_{};
+  Json json_;
+  std::map<Material, std::size_t> materials_;
+  std::string binary_;
+};
+
+}  // namespace
+
+std::string Glb(const Scene& scene) {
+  return Writer(scene).Run();
+}
+
+}  // namespace teskarlt::preview

@@ -1,0 +1,16 @@
+// Glb.h - a drawing as a 3D model that other programs read.
+#pragma once
+
+#include <string>
+
+#include "teskarlt/preview/Scene.h"
+
+namespace teskarlt::preview {
+
+// A binary glTF 2.0 file: metres, y up, the middle of the drawing's plan at the origin and its lowest point
+// at height 0. One node a layer, named after it; surfaces are triangles, edges and lines are line segments
+// with dashes cut out. The asset's extras hold the drawing's name, where the origin lies in the drawing, and
+// the windows with number, label, middle, size and facing direction.
+std::string Glb(const Scene& scene);
+
+}  // namespace teskarlt::preview

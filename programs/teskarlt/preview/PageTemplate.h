@@ -1,0 +1,11 @@
+// PageTemplate.h - the page as the build bundled it from the sources in page/.
+#pragma once
+
+#include <string_view>
+
+namespace teskarlt::preview {
+
+// HTML with the marks PAGE_TITLE, PAGE_MODEL and PAGE_WINDOW; empty in a program that was built without it.
+std::string_view PageTemplate();
+
+}  // namespace teskarlt::preview

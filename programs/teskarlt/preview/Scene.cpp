@@ -1,0 +1,156 @@
+// Scene.cpp - boxes, triangles and dashes of what is to be seen.
+#include "teskarlt/preview/Scene.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace teskarlt::preview {
+
+namespace {
+
+Vec3 Minus(const Vec3& a, const Vec3& b) {
+  return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+
+Vec3 Between(const Vec3& a, const Vec3& b, double share) {
+  return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share, a.z + (b.z - a.z) * share};
+}
+
+// Twice the area of the triangle, seen against the normal: positive for a corner that bulges out.
+double Turn(const Vec3& a, const Vec3& b, const Vec3& c, const Vec3& normal) {
+  Vec3 cross{};
+  geometry::VecCross(Minus(b, a), Minus(c, a), cross);
+  return geometry::VecDot(cross, normal);
+}
+
+// Cuts one ear after the other off a polygon (G. Meisters, 1975).
+class EarCutter {
+ public:
+  EarCutter(const std::vector<Vec3>& corners, const Vec3& normal) : corners_(corners), normal_(normal) {
+    for (std::size_t i = 0; i < corners.size(); ++i)
+      left_.push_back(i);
+  }
+
+  std::vector<std::size_t> Run() {
+    while (left_.size() > 3) {
+      std::size_t ear = 0;
+      while (ear < left_.size() && !IsEar(ear))
+        ++ear;
+      Cut(ear == left_.size() ? 0 : ear);  // an outline that crosses itself has no ears at times
+    }
+    Cut(0);
+    return std::move(triangles_);
+  }
+
+ private:
+  std::size_t At(std::size_t place) const { return left_[place % left_.size()]; }
+
+  bool IsEar(std::size_t place) const {
+    const Vec3& a = corners_[At(place + left_.size() - 1)];
+    const Vec3& b = corners_[At(place)];
+    const Vec3& c = corners_[At(place + 1)];
+    if (Turn(a, b, c, normal_) <= 0) return false;
+    for (std::size_t i = 2; i + 1 < left_.size(); ++i) {
+      const Vec3& p = corners_[At(place + i)];
+      const bool isInside =
+          Turn(a, b, p, normal_) >= 0 && Turn(b, c, p, normal_) >= 0 && Turn(c, a, p, normal_) >= 0;
+      if (isInside) return false;
+    }
+    return true;
+  }
+
+  void Cut(std::size_t place) {
+    const std::size_t before = At(place + left_.size() - 1);
+    const std::size_t after = At(place + 1);
+    if (Turn(corners_[before], corners_[At(place)], corners_[after], normal_) != 0)
+      triangles_.insert(triangles_.end(), {before, At(place), after});
+    left_.erase(left_.begin() + static_cast<std::ptrdiff_t>(place));
+  }
+
+  const std::vector<Vec3>& corners_;
+  Vec3 normal_;
+  std::vector<std::size_t> left_;
+  std::vector<std::size_t> triangles_;
+};
+
+}  // namespace
+
+void Box::Add(const Vec3& point) {
+  low = {std::min(low.x, point.x), std::min(low.y, point.y), std::min(low.z, point.z)};
+  high = {std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z)};
+}
+
+Vec3 Box::Centre() const {
+  return Between(low, high, 0.5);
+}
+
+Vec3 NormalOf(const std::vector<Vec3>& corners) {
+  Vec3 sum{};
+  for (std::size_t i = 1; i + 1 < corners.size(); ++i) {
+    Vec3 part{};
+    geometry::VecCross(Minus(corners[i], corners[0]), Minus(corners[i + 1], corners[0]), part);
+    geometry::VecAdd(sum, part, sum);
+  }
+  const double length = std::sqrt(geometry::VecDot(sum, sum));
+  if (!(length > 0)) return {0, 0, 0};
+  return {sum.x / length, sum.y / length, sum.z / length};
+}
+
+std::vector<std::size_t> Triangles(const std::vector<Vec3>& corners) {
+  const Vec3 normal = NormalOf(corners);
+  if (corners.size() < 3 || geometry::VecDot(normal, normal) == 0) return {};
+  return EarCutter(corners, normal).Run();
+}
+
+Colour PaintOf(const Surface& surface) {
+  constexpr Colour glass = {150, 190, 215};
+  return surface.isGlass ? glass : Paint(surface.colour);
+}
+
+std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern,
+                                      double offset) {
+  constexpr double mostRepeats = 500;
+  double period = 0;
+  for (const double length : pattern)
+    period += length;
+  double total = 0;
+  for (std::size_t i = 1; i < points.size(); ++i) {
+    const Vec3 piece = Minus(points[i], points[i - 1]);
+    total += std::sqrt(geometry::VecDot(piece, piece));
+  }
+  if (!(period > 0) || total > period * mostRepeats) return {points};
+
+  std::vector<std::vector<Vec3>> dashes;
+  std::size_t element = 0;  // even ones are dashes
+  double left = pattern[0];
+  std::vector<Vec3> dash{points[0]};
+  for (double used = std::fmod(offset, period); used > 0;) {
+    const double step = std::min(used, left);
+    used -= step;
+    left -= step;
+    if (used > 0) left = pattern[element = (element + 1) % pattern.size()];
+  }
+  const auto nextElement = [&](const Vec3& at) {
+    if (element % 2 == 0) dashes.push_back(std::move(dash));
+    element = (element + 1) % pattern.size();
+    left = pattern[element];
+    dash.assign(1, at);
+  };
+  for (std::size_t i = 1; i < points.size(); ++i) {
+    const Vec3 piece = Minus(points[i], points[i - 1]);
+    const double length = std::sqrt(geometry::VecDot(piece, piece));
+    double done = 0;
+    while (length - done > left) {
+      done += left;
+      const Vec3 at = Between(points[i - 1], points[i], done / length);
+      dash.push_back(at);
+      nextElement(at);
+    }
+    left -= length - done;
+    dash.push_back(points[i]);
+  }
+  if (element % 2 == 0) dashes.push_back(std::move(dash));
+  return dashes;
+}
+
+}  // namespace teskarlt::preview

@@ -1,0 +1,98 @@
+// Scene.h - what is to be seen of a drawing: surfaces, curves, layers and roof windows, ready for any
+// picture.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "geometry/Vec3.h"
+#include "teskarlt/preview/Colours.h"
+
+namespace teskarlt::preview {
+
+using geometry::Vec3;
+
+// The smallest box along the axes around the points that were added.
+struct Box {
+  Vec3 low{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity(),
+           std::numeric_limits<double>::infinity()};
+  Vec3 high{-std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+            -std::numeric_limits<double>::infinity()};
+
+  bool IsEmpty() const { return low.x > high.x; }
+  void Add(const Vec3& point);
+  Vec3 Centre() const;
+};
+
+constexpr int NO_WINDOW = -1;
+
+constexpr std::size_t HIDDEN_EDGE_BITS = 32;
+
+// A flat piece of an entity. Coordinates are those of the drawing.
+struct Surface {
+  std::vector<Vec3> corners;      // 3 or more, in order around it
+  std::uint32_t hiddenEdges = 0;  // bit k: the edge from corner k to the next one is not drawn
+  std::size_t layer = 0;          // index in Scene::layers
+  Colour colour;
+  bool isGlass = false;    // the pane of a roof window
+  int window = NO_WINDOW;  // index in Scene::windows
+};
+
+// A line of an entity, in one or more straight pieces; arcs are already divided. A closed one ends where it
+// begins.
+struct Curve {
+  std::vector<Vec3> points;
+  std::size_t layer = 0;
+  Colour colour;
+  std::size_t pattern = 0;  // index in Scene::patterns
+  int window = NO_WINDOW;
+};
+
+struct SceneLayer {
+  std::string name;  // UTF-8
+  Colour colour;
+};
+
+struct SceneWindow {
+  std::int32_t number = 0;
+  std::string label;     // "0.94 x 1.40 m"; empty where the drawing does not say it
+  Vec3 facing{0, 0, 1};  // unit normal of its pane, z positive
+  Box box;
+};
+
+// Lengths of dash, gap, dash, gap ... in drawing units, a dash of 0 being a dot. Empty: an unbroken line.
+using DashPattern = std::vector<double>;
+
+struct Scene {
+  std::string name;                // of the drawing, for titles
+  std::string unit;                // "mm"; empty when the drawing does not say it
+  double perMetre = 0;             // drawing units in a metre; 0 when not known
+  std::vector<SceneLayer> layers;  // those that hold something to be seen, in the order of their first entity
+  std::vector<DashPattern> patterns{DashPattern()};
+  std::vector<Surface> surfaces;
+  std::vector<Curve> curves;
+  std::vector<SceneWindow> windows;
+  std::map<std::string, std::size_t> leftOut;  // entities that no picture shows, by type
+  Box box;
+};
+
+// The surface as triangles: three indices of its corners each. A polygon with hollows is divided without
+// leaving its outline; corners that make no area give no triangle.
+std::vector<std::size_t> Triangles(const std::vector<Vec3>& corners);
+
+// Unit normal of the corners' polygon; (0, 0, 0) when it has no area.
+Vec3 NormalOf(const std::vector<Vec3>& corners);
+
+// The colour of a surface in pictures and models.
+Colour PaintOf(const Surface& surface);
+
+// The dashes of a line whose pattern is used up to the length `offset` at its first point: the line itself
+// when it is unbroken, or when so many dashes would not be told apart.
+std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern,
+                                      double offset = 0);
+
+}  // namespace teskarlt::preview

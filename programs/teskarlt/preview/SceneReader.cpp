@@ -1,0 +1,313 @@
+// SceneReader.cpp - turns entities into surfaces and curves.
+#include "teskarlt/preview/SceneReader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/EntityFaces.h"
+#include "teskarlt/drawing/Units.h"
+#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/TextCodec.h"
+#include "teskarlt/preview/Blocks.h"
+#include "teskarlt/preview/Curves.h"
+#include "teskarlt/preview/Record.h"
+#include "teskarlt/preview/Styles.h"
+
+namespace teskarlt::preview {
+
+namespace {
+
+using geometry::Matrix4;
+
+constexpr std::size_t MOST_NESTED = 32;            // blocks in blocks
+constexpr std::size_t MOST_ENTITIES = 20'000'000;  // with those of every inserted block
+constexpr double FARTHEST = 1e12;                  // coordinate, in drawing units
+constexpr int CODE_INVISIBLE = 60;
+constexpr int CODE_NUMBER = 62;
+constexpr int CODE_TRUE_COLOUR = 420;
+constexpr int CODE_LINETYPE_SCALE = 48;
+constexpr std::int64_t GLASS_NUMBER = 4;  // the module's colour for a pane
+
+// How an entity looks, after ByLayer and ByBlock.
+struct Look {
+  std::string layer = "0";
+  Colour colour = ColourOfNumber(COLOUR_WHITE);
+  std::string linetype = "CONTINUOUS";
+};
+
+// Where the entities of a block come to lie.
+struct Placement {
+  Matrix4 matrix{};
+  Look look;  // of the INSERT
+  bool isBlock = false;
+  std::size_t depth = 0;
+  int window = NO_WINDOW;
+};
+
+std::string FileStem(const std::string& path) {
+  const std::string name = path.substr(path.find_last_of("/\\") + 1);
+  const auto dot = name.find_last_of('.');
+  return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
+}
+
+// The unit where it is known: a picture needs none, and it may be one that windows cannot have.
+const DrawingUnit* KnownUnit(const dxf::Document& drawing, const std::string& asked) {
+  if (!asked.empty()) return &UnitByName(asked);
+  try {
+    return &UnitOf(drawing, asked);
+  } catch (const Error&) {
+    return nullptr;
+  }
+}
+
+// Faces of a mesh (its coarsest level): group 92 counts the vertices that follow, 93 the numbers of the face
+// list, where each face's count comes before its vertices.
+std::vector<FaceCorners> MeshFaces(const Record& record) {
+  const std::vector<Vec3> vertices = record.Points(10);
+  std::vector<std::size_t> numbers;
+  bool isInList = false;
+  for (const dxf::Tag& tag : record.Tags()) {
+    if (tag.code == 93) isInList = true;
+    if (tag.code == 94) isInList = false;
+    if (isInList && tag.code == 90) numbers.push_back(static_cast<std::size_t>(record.IntegerOf(tag)));
+  }
+  std::vector<FaceCorners> faces;
+  for (std::size_t i = 0; i < numbers.size();) {
+    const std::size_t count = numbers[i++];
+    if (count > numbers.size() - i) break;
+    FaceCorners face;
+    for (std::size_t k = 0; k < count; ++k, ++i) {
+      if (numbers[i] < vertices.size()) face.corners.push_back(vertices[numbers[i]]);
+    }
+    faces.push_back(std::move(face));
+  }
+  return faces;
+}
+
+// A SOLID or TRACE: its third and fourth corner stand crosswise.
+std::vector<FaceCorners> SolidFaces(const Record& record) {
+  FaceCorners face;
+  face.corners = {record.Point(10), record.Point(11)};
+  if (record.Has(13)) face.corners.push_back(record.Point(13));
+  face.corners.push_back(record.Point(12));
+  const Matrix4 matrix = ObjectToDrawing(record.Point(210, {0, 0, 1}));
+  for (Vec3& corner : face.corners)
+    geometry::MatTransformPoint(matrix, corner, corner);
+  return {face};
+}
+
+class Reader {
+ public:
+  Reader(const dxf::Document& drawing, const SceneOptions& options)
+      : drawing_(drawing), styles_(drawing), blocks_(ReadBlocks(drawing)) {
+    for (const std::string& layer : options.layers)
+      wanted_.insert(dxf::FoldedName(layer));
+    const DrawingUnit* const unit = KnownUnit(drawing, options.units);
+    scene_.name = FileStem(drawing.FileName());
+    if (unit != nullptr) {
+      scene_.unit = unit->name;
+      scene_.perMetre = unit->perMetre;
+    }
+  }
+
+  Scene Run(const SceneOptions& options);
+
+ private:
+  void ReadWindows();
+  void ReadEntity(const dxf::Entity& entity, const Placement& placement);
+  void ReadInsert(const Record& insert, const Look& look, const Placement& placement);
+  Look LookOf(const Record& record, const Placement& placement) const;
+  bool IsVisible(const Look& look) const;
+  std::size_t LayerIndex(const std::string& name);
+  std::size_t PatternIndex(const std::string& linetype, double scale);
+  void AddSurfaces(const std::vector<FaceCorners>& faces, const Record& record, const Look& look,
+                   const Placement& placement);
+  void AddCurve(CurvePoints points, const Record& record, const Look& look, const Placement& placement);
+  void Show(std::vector<Vec3>& points, const Placement& placement);
+
+  const dxf::Document& drawing_;
+  Styles styles_;
+  Blocks blocks_;
+  std::set<std::string> wanted_;
+  std::unordered_map<const dxf::Entity*, int> windowOf_;
+  std::unordered_map<std::string, std::size_t> layerIndices_;
+  std::map<DashPattern, std::size_t> patternIndices_;
+  std::size_t entities_ = 0;
+  Scene scene_;
+};
+
+void Reader::ReadWindows() {
+  const double perMetre = scene_.perMetre > 0 ? scene_.perMetre : 1;
+  for (const DrawnWindow& window : FindWindows(drawing_, static_cast<std::int32_t>(perMetre))) {
+    for (const dxf::Entity* entity : window.entities)
+      windowOf_[entity] = static_cast<int>(scene_.windows.size());
+    SceneWindow shown;
+    shown.number = window.number;
+    if (window.isComplete && scene_.perMetre > 0)
+      shown.label = fmt::format("{:.2f} \u00d7 {:.2f} m", window.params.width, window.params.length);
+    scene_.windows.push_back(std::move(shown));
+  }
+}
+
+Look Reader::LookOf(const Record& record, const Placement& placement) const {
+  Look look;
+  look.layer = record.Text(dxf::CODE_LAYER, "0");
+  if (placement.isBlock && look.layer == "0") look.layer = placement.look.layer;
+  const LayerStyle& layer = styles_.Layer(look.layer);
+  const std::int64_t number = record.Integer(CODE_NUMBER, COLOUR_BY_LAYER);
+  if (record.Has(CODE_TRUE_COLOUR)) {
+    look.colour = ColourOfValue(record.Integer(CODE_TRUE_COLOUR));
+  } else if (number == COLOUR_BY_LAYER) {
+    look.colour = layer.colour;
+  } else {
+    look.colour = number == COLOUR_BY_BLOCK ? placement.look.colour : ColourOfNumber(number);
+  }
+  look.linetype = record.Text(dxf::CODE_LINETYPE, "BYLAYER");
+  if (dxf::SameName(look.linetype, "BYLAYER")) look.linetype = layer.linetype;
+  if (dxf::SameName(look.linetype, "BYBLOCK")) look.linetype = placement.look.linetype;
+  return look;
+}
+
+bool Reader::IsVisible(const Look& look) const {
+  return styles_.Layer(look.layer).isVisible &&
+         (wanted_.empty() || wanted_.contains(dxf::FoldedName(look.layer)));
+}
+
+std::size_t Reader::LayerIndex(const std::string& name) {
+  const auto [found, isNew] = layerIndices_.try_emplace(dxf::FoldedName(name), scene_.layers.size());
+  if (isNew) scene_.layers.push_back({name, styles_.Layer(name).colour});
+  return found->second;
+}
+
+std::size_t Reader::PatternIndex(const std::string& linetype, double scale) {
+  DashPattern pattern = styles_.Linetype(linetype);
+  if (pattern.empty()) return 0;
+  for (double& length : pattern)
+    length *= scale;
+  const auto [found, isNew] = patternIndices_.try_emplace(pattern, scene_.patterns.size());
+  if (isNew) scene_.patterns.push_back(pattern);
+  return found->second;
+}
+
+// Takes points to their place in the drawing and the picture's box around them.
+void Reader::Show(std::vector<Vec3>& points, const Placement& placement) {
+  for (Vec3& point : points) {
+    if (placement.isBlock) geometry::MatTransformPoint(placement.matrix, point, point);
+    scene_.box.Add(point);
+    if (placement.window != NO_WINDOW)
+      scene_.windows[static_cast<std::size_t>(placement.window)].box.Add(point);
+  }
+}
+
+void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const Record& record, const Look& look,
+                         const Placement& placement) {
+  for (const FaceCorners& face : faces) {
+    if (face.corners.size() < 3) continue;
+    Surface surface{face.corners, face.hiddenEdges, LayerIndex(look.layer), look.colour,
+                    false,        placement.window};
+    Show(surface.corners, placement);
+    if (placement.window != NO_WINDOW && record.Integer(CODE_NUMBER, COLOUR_BY_LAYER) == GLASS_NUMBER) {
+      surface.isGlass = true;
+      const Vec3 normal = NormalOf(surface.corners);
+      const double sign = normal.z < 0 ? -1 : 1;
+      scene_.windows[static_cast<std::size_t>(placement.window)].facing = {sign * normal.x, sign * normal.y,
+                                                                           sign * normal.z};
+    }
+    scene_.surfaces.push_back(std::move(surface));
+  }
+}
+
+void Reader::AddCurve(CurvePoints points, const Record& record, const Look& look,
+                      const Placement& placement) {
+  if (points.size() < 2) return;
+  const double scale = std::abs(record.Real(CODE_LINETYPE_SCALE, 1.0));
+  Curve curve{std::move(points), LayerIndex(look.layer), look.colour, PatternIndex(look.linetype, scale),
+              placement.window};
+  Show(curve.points, placement);
+  scene_.curves.push_back(std::move(curve));
+}
+
+// An INSERT, or a DIMENSION, whose block is drawn where it stands.
+void Reader::ReadInsert(const Record& insert, const Look& look, const Placement& placement) {
+  const auto found = blocks_.find(dxf::FoldedName(insert.Text(dxf::CODE_NAME)));
+  if (found == blocks_.end()) {
+    ++scene_.leftOut[fmt::format("{} of a missing block", insert.Type())];
+    return;
+  }
+  if (placement.depth == MOST_NESTED) drawing_.Source().Fail("holds blocks in blocks without an end");
+  Matrix4 where{};
+  geometry::MatIdentity(where);
+  const bool isInsert = dxf::SameName(insert.Type(), "INSERT");
+  for (const Matrix4& matrix : isInsert ? InsertMatrices(insert, found->second.base) : std::vector{where}) {
+    Placement inside = placement;
+    inside.matrix = matrix;
+    if (placement.isBlock) geometry::MatMultiply(placement.matrix, matrix, inside.matrix);
+    inside.look = look;
+    inside.isBlock = true;
+    ++inside.depth;
+    for (const dxf::Entity& entity : found->second.entities)
+      ReadEntity(entity, inside);
+  }
+}
+
+void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
+  if (++entities_ > MOST_ENTITIES) drawing_.Source().Fail("holds too many entities for a picture");
+  const std::vector<Record> records = ReadRecords(drawing_, entity.text);
+  const Record& own = records.front();
+  const Look look = LookOf(own, placement);
+  const auto is = [&](std::string_view type) { return dxf::SameName(entity.type, type); };
+  if (own.Integer(CODE_INVISIBLE) != 0 || !styles_.Layer(look.layer).isVisible) return;
+  if (is("INSERT") || is("DIMENSION")) {
+    ReadInsert(own, look, placement);
+    return;
+  }
+  if (!IsVisible(look)) return;
+  if (is("SOLID") || is("TRACE")) {
+    AddSurfaces(SolidFaces(own), own, look, placement);
+  } else if (is("MESH")) {
+    AddSurfaces(MeshFaces(own), own, look, placement);
+  } else {
+    EntityFaces faces = FacesOf(drawing_, entity);
+    std::optional<CurvePoints> points = PointsOf(records);
+    if (faces.faces.empty() && !points) ++scene_.leftOut[std::string(entity.type)];
+    if (points) {  // a closed polyline draws its edges itself
+      for (FaceCorners& face : faces.faces)
+        face.hiddenEdges = ~0U;
+    }
+    AddSurfaces(faces.faces, own, look, placement);
+    if (points) AddCurve(*std::move(points), own, look, placement);
+  }
+}
+
+Scene Reader::Run(const SceneOptions& options) {
+  ReadWindows();
+  for (const dxf::Entity& entity : drawing_.Entities()) {
+    Placement placement;
+    const auto window = windowOf_.find(&entity);
+    if (window != windowOf_.end()) placement.window = window->second;
+    ReadEntity(entity, placement);
+  }
+  for (const std::string& layer : options.layers) {
+    if (!layerIndices_.contains(dxf::FoldedName(layer)))
+      drawing_.Source().Fail(fmt::format("nothing is to be seen on layer \"{}\"", layer));
+  }
+  if (scene_.box.IsEmpty()) drawing_.Source().Fail("nothing is to be seen in this drawing");
+  const Box& box = scene_.box;
+  for (const double reach : {box.low.x, box.low.y, box.low.z, box.high.x, box.high.y, box.high.z}) {
+    if (!(std::abs(reach) <= FARTHEST)) drawing_.Source().Fail("reaches too far for a picture");
+  }
+  return std::move(scene_);
+}
+
+}  // namespace
+
+Scene ReadScene(const dxf::Document& drawing, const SceneOptions& options) {
+  return Reader(drawing, options).Run(options);
+}
+
+}  // namespace teskarlt::preview

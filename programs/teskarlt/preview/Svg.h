@@ -1,0 +1,23 @@
+// Svg.h - a drawing as a vector picture.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "teskarlt/preview/Scene.h"
+#include "teskarlt/preview/View.h"
+
+namespace teskarlt::preview {
+
+struct PictureOptions {
+  const View* view = nullptr;         // never null
+  int width = 0;                      // pixels
+  std::optional<std::size_t> window;  // shows only its surroundings; index in Scene::windows
+};
+
+// An SVG document: surfaces with a light wash of their colours, above them one group a layer with its lines,
+// then the numbers of the windows (in plan), title and scale bar. Edges of surfaces are drawn as far as
+// nothing hides them, and so are lines, but in plan, where every line is drawn.
+std::string Svg(const Scene& scene, const PictureOptions& options);
+
+}  // namespace teskarlt::preview

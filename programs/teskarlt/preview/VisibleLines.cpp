@@ -1,0 +1,124 @@
+// VisibleLines.cpp - gathers the lines of a picture.
+#include "teskarlt/preview/VisibleLines.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <set>
+#include <tuple>
+
+#include "teskarlt/preview/HiddenLines.h"
+
+namespace teskarlt::preview {
+
+namespace {
+
+// How far an edge is moved into its surface before it is asked for, relative to the size of the scene.
+constexpr double INSET = 1e-5;
+// Shorter parts, likewise relative, are left over by that movement.
+constexpr double SHORTEST = 1e-4;
+
+double Length(const Vec3& a, const Vec3& b) {
+  return std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y));
+}
+
+Vec3 Between(const Vec3& a, const Vec3& b, double t) {
+  return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t, a.z + (b.z - a.z) * t};
+}
+
+class Gatherer {
+ public:
+  Gatherer(const Scene& scene, const View& view, const Frame& frame)
+      : scene_(scene), view_(view), frame_(frame), hidden_(scene, view) {
+    const Box& box = scene.box;
+    size_ = std::max({box.high.x - box.low.x, box.high.y - box.low.y, box.high.z - box.low.z});
+  }
+
+  std::vector<VisibleLine> Run() {
+    for (const Surface& surface : scene_.surfaces)
+      AddEdges(surface);
+    for (const Curve& curve : scene_.curves)
+      AddCurve(curve);
+    return std::move(lines_);
+  }
+
+ private:
+  bool IsOutside(const Vec3& a, const Vec3& b) const {
+    return std::max(a.x, b.x) < frame_.left || std::min(a.x, b.x) > frame_.right ||
+           std::max(a.y, b.y) < frame_.bottom || std::min(a.y, b.y) > frame_.top;
+  }
+
+  void AddEdges(const Surface& surface) {
+    const std::vector<Vec3>& corners = surface.corners;
+    const Vec3 normal = NormalOf(corners);
+    for (std::size_t k = 0; k < corners.size(); ++k) {
+      if (k < HIDDEN_EDGE_BITS && (surface.hiddenEdges >> k & 1U) != 0) continue;
+      const Vec3& from = corners[k];
+      const Vec3& to = corners[(k + 1) % corners.size()];
+      Vec3 inwards{};
+      geometry::VecCross(normal, {to.x - from.x, to.y - from.y, to.z - from.z}, inwards);
+      const double length = std::sqrt(geometry::VecDot(inwards, inwards));
+      geometry::VecScale(inwards, length > 0 ? INSET * size_ / length : 0, inwards);
+      const VisibleLine line = {
+          view_.Project(from), view_.Project(to), surface.colour, surface.layer, 0, 0, true};
+      const Vec3 shift = view_.Project(inwards);
+      if (!IsOutside(line.a, line.b)) AddParts(line, hidden_.Visible(Sum(line.a, shift), Sum(line.b, shift)));
+    }
+  }
+
+  void AddCurve(const Curve& curve) {
+    double offset = 0;
+    for (std::size_t i = 1; i < curve.points.size(); ++i) {
+      const VisibleLine line = {view_.Project(curve.points[i - 1]),
+                                view_.Project(curve.points[i]),
+                                curve.colour,
+                                curve.layer,
+                                curve.pattern,
+                                offset,
+                                false};
+      offset += Length(line.a, line.b);
+      if (IsOutside(line.a, line.b)) continue;
+      AddParts(line, view_.IsPlan() ? Parts{{0, 1}} : hidden_.Visible(line.a, line.b));
+    }
+  }
+
+  static Vec3 Sum(const Vec3& a, const Vec3& b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
+
+  using Parts = std::vector<std::pair<double, double>>;
+  void AddParts(const VisibleLine& line, const Parts& parts) {
+    const double shortest = SHORTEST * size_;
+    for (const auto& [from, to] : parts) {
+      const bool isWhole = from == 0 && to == 1;
+      if (!isWhole && (to - from) * Length(line.a, line.b) < shortest) continue;
+      VisibleLine part = line;
+      part.a = Between(line.a, line.b, from);
+      part.b = Between(line.a, line.b, to);
+      part.offset += from * Length(line.a, line.b);
+      if (!part.isEdge || IsNew(part)) lines_.push_back(part);
+    }
+  }
+
+  // Neighbouring surfaces share their edges.
+  bool IsNew(const VisibleLine& line) {
+    std::array<double, 2> a = {line.a.x, line.a.y};
+    std::array<double, 2> b = {line.b.x, line.b.y};
+    if (b < a) std::swap(a, b);
+    return edges_.emplace(line.layer, Hex(line.colour), a, b).second;
+  }
+
+  const Scene& scene_;
+  const View& view_;
+  const Frame& frame_;
+  HiddenLines hidden_;
+  double size_ = 0;
+  std::set<std::tuple<std::size_t, std::string, std::array<double, 2>, std::array<double, 2>>> edges_;
+  std::vector<VisibleLine> lines_;
+};
+
+}  // namespace
+
+std::vector<VisibleLine> VisibleLines(const Scene& scene, const View& view, const Frame& frame) {
+  return Gatherer(scene, view, frame).Run();
+}
+
+}  // namespace teskarlt::preview

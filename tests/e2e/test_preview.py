@@ -1,0 +1,175 @@
+# test_preview.py - pictures, pages and models of drawings, read by programs that nobody here wrote.
+import base64
+import re
+import shutil
+import subprocess
+import xml.etree.ElementTree as ElementTree
+
+import pictures
+import pytest
+import readers
+from conftest import ROOT
+from plain_dxf import Drawing
+from test_bad_input import refused
+
+SVG = "{http://www.w3.org/2000/svg}"
+INKSCAPE = "{http://www.inkscape.org/namespaces/inkscape}"
+VIEWS = ["plan", "iso", "south", "north", "east", "west"]
+GOLDEN = ROOT / "tests" / "golden"
+# Small pictures of each stored drawing: what is stored as expected-NAME, and how it is made.
+GOLDEN_PICTURES = {"plan.svg": ["--width", "400"], "south.svg": ["--view", "south", "--width", "400"],
+                   "iso.png": ["--width", "200"]}
+
+
+@pytest.fixture
+def windowed(teskarlt, house):
+    """The example house with a window on its south side."""
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    return house
+
+
+def compare(stored, made):
+    """Compares a file with the stored one; one that differs is left beside it for review."""
+    beside = stored.with_name(stored.name.replace("expected", "actual"))
+    if stored.exists() and stored.read_bytes() == made.read_bytes():
+        beside.unlink(missing_ok=True)
+        return
+    shutil.copy(made, beside)
+    pytest.fail(f"the picture is not the stored one; the new one is {beside}")
+
+
+@pytest.mark.parametrize("name", GOLDEN_PICTURES)
+@pytest.mark.parametrize("case", sorted(path.parent for path in GOLDEN.glob("*/expected.dxf")), ids=lambda case: case.name)
+def test_picture_of_a_stored_drawing_is_the_stored_one(teskarlt, tmp_path, case, name):
+    teskarlt.done("preview", case / "expected.dxf", "-o", tmp_path / name, *GOLDEN_PICTURES[name])
+    compare(case / f"expected-{name}", tmp_path / name)
+
+
+@pytest.mark.parametrize("view", VIEWS)
+def test_vector_picture_is_well_formed_and_shows_the_roof(teskarlt, windowed, tmp_path, view):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "out.svg", "--view", view)
+    tree = ElementTree.parse(tmp_path / "out.svg").getroot()
+    layers = {group.get(f"{INKSCAPE}label") for group in tree.iter(f"{SVG}g")} - {None}
+    assert {"ROOF_SOUTH", "WALLS", "ROOF_WINDOW_BODY"} <= layers
+    drawn = pictures.of_svg(tmp_path / "out.svg")
+    assert drawn.width == 1000
+    assert len(set(drawn.all())) > 20
+
+
+def test_plan_has_title_and_scale_bar(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "out.svg")
+    text = (tmp_path / "out.svg").read_text()
+    for part in (">house</text>", ">Plan, 1 roof window</text>", ">2 m</text>"):
+        assert part in text
+
+
+def test_dashed_lines_of_a_window_are_dashed(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "out.svg", "--window", "1")
+    text = (tmp_path / "out.svg").read_text()
+    assert ">house, window 1</text>" in text
+    assert len(re.findall(r'stroke-dasharray="[\d.]+,[\d.]+"', text)) == 2
+
+
+def test_scale_bar_is_true(teskarlt, tmp_path):
+    drawing = Drawing(units="cm")
+    drawing.line("A", (0, 0, 0), (1000, 0, 0))
+    drawing.line("A", (0, 0, 0), (0, 500, 0))
+    teskarlt.done("preview", drawing.save(tmp_path / "in.dxf"), "-o", tmp_path / "out.svg", "--width", "1064")
+    bar = ElementTree.parse(tmp_path / "out.svg").getroot().find(f"{SVG}g[@id='scale-bar']")
+    assert [text.text for text in bar.iter(f"{SVG}text")] == ["0", "1", "2 m"]
+    assert float(bar.find(f"{SVG}rect").get("width")) == 200  # 10 m are 1000 pixels
+
+
+def test_isometric_picture_hides_what_lies_behind(teskarlt, tmp_path):
+    """A red board before a blue one, whichever comes first in the file."""
+    made = []
+    for order in (("RED", "BLUE"), ("BLUE", "RED")):
+        drawing = Drawing(units="m")
+        boards = {"RED": (-4, 2), "BLUE": (0, 3)}  # y and half of the size: south of it is before it
+        for name in order:
+            drawing.layer(name, {"RED": 1, "BLUE": 5}[name])
+            y, half = boards[name]
+            drawing.face(name, (-half, y, -half), (half, y, -half), (half, y, half), (-half, y, half))
+        path = drawing.save(tmp_path / "in.dxf")
+        teskarlt.done("preview", path, "-o", tmp_path / "out.png", "--view", "south", "--width", "200")
+        made.append(pictures.pixels((tmp_path / "out.png").read_bytes()))
+    for picture in made:
+        assert pictures.is_red(*picture.at(100, picture.height / 2))
+        assert not pictures.is_red(*picture.at(20, picture.height / 2))
+
+
+def test_picture_zooms_to_a_window(teskarlt, windowed, tmp_path):
+    shares = []
+    for options in ([], ["--window", "1"]):
+        teskarlt.done("preview", windowed, "-o", tmp_path / "out.png", "--width", "300", *options)
+        picture = pictures.pixels((tmp_path / "out.png").read_bytes())
+        shares.append(picture.share(lambda red, green, blue: blue > red + 25 and green > red + 5))  # the pane
+    assert shares[1] > 10 * shares[0] > 0
+
+
+def test_only_the_asked_layers_are_shown(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "out.svg", "--layer", "walls", "--layer", "CHIMNEY")
+    tree = ElementTree.parse(tmp_path / "out.svg").getroot()
+    layers = {group.get(f"{INKSCAPE}label") for group in tree.iter(f"{SVG}g")} - {None}
+    assert layers == {"WALLS", "CHIMNEY"}
+
+
+def test_model_is_read_by_another_program(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "house.glb")
+    done = subprocess.run(["assimp", "info", str(tmp_path / "house.glb")], capture_output=True, text=True, check=True)
+    low, high = (tuple(map(float, re.findall(r"-?[\d.]+", line))) for line in
+                 re.findall(r"(?:Minimum|Maximum) point\s+(.*)", done.stdout))
+    # The roof from verge to the annex's eaves, the ground to the chimney, in metres with y up.
+    assert [round(b - a, 3) for a, b in zip(low, high)] == [15.7, 7.2, 9]
+    assert re.search(r"Meshes:\s+[1-9]", done.stdout)
+    for layer in ("ROOF_SOUTH", "ROOF_WINDOW_BODY"):
+        assert layer in done.stdout
+
+
+def test_page_holds_the_model(teskarlt, windowed, tmp_path):
+    for name in ("house.glb", "house.html"):
+        teskarlt.done("preview", windowed, "-o", tmp_path / name)
+    model = re.search(r'id="model" data-window="">([^<]*)<', (tmp_path / "house.html").read_text()).group(1)
+    assert base64.b64decode(model) == (tmp_path / "house.glb").read_bytes()
+
+
+def test_format_overrides_the_ending(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "picture", "--format", "png", "--width", "100")
+    assert (tmp_path / "picture").read_bytes().startswith(b"\x89PNG")
+
+
+def test_what_is_not_shown_is_said(teskarlt, tmp_path):
+    drawing = Drawing()
+    drawing.line("A", (0, 0, 0), (1000, 500, 0))
+    path = drawing.save(tmp_path / "in.dxf")
+    text = path.read_text().replace("  0\nLINE", "  0\nTEXT\n  8\nA\n  1\nHello\n  0\nLINE")
+    path.write_text(text)
+    answer = teskarlt.done("preview", path, "-o", tmp_path / "out.svg")
+    assert answer.stderr == "teskarlt: not shown: 1 TEXT\n"
+
+
+WRONG_USAGE = {"no format": ["-o", "out.jpg"], "view of a page": ["-o", "out.html", "--view", "iso"],
+               "width of a model": ["-o", "out.glb", "--width", "500"], "unknown view": ["-o", "out.svg", "--view", "up"],
+               "no output": []}
+
+
+@pytest.mark.parametrize("case", WRONG_USAGE)
+def test_wrong_usage(teskarlt, house, tmp_path, case):
+    answer = teskarlt("preview", house, *WRONG_USAGE[case], cwd=tmp_path)
+    assert (answer.status, answer.stdout) == (2, ""), answer
+    assert not list(tmp_path.glob("out.*"))
+
+
+def test_missing_window_and_layer_are_refused(teskarlt, windowed, tmp_path):
+    output = tmp_path / "out.svg"
+    refused(teskarlt("preview", windowed, "-o", output, "--window", "9"), "number 9")
+    refused(teskarlt("preview", windowed, "-o", output, "--layer", "CELLAR"), '"CELLAR"')
+    refused(teskarlt("preview", tmp_path / "none.dxf", "-o", output), "none.dxf")
+    refused(teskarlt("preview", windowed, "-o", tmp_path / "no folder" / "out.svg"), "no folder")
+    assert not output.exists()
+
+
+def test_drawing_is_not_changed(teskarlt, windowed, tmp_path):
+    before = windowed.read_bytes()
+    teskarlt.done("preview", windowed, "-o", tmp_path / "out.png", "--width", "100")
+    assert readers.first_difference(before, windowed.read_bytes()) is None
