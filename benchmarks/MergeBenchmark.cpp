@@ -1,5 +1,5 @@
-// MergeBenchmark.cpp - the library merge in process, beside a floor that moves the same bytes in the same
-// run.
+// MergeBenchmark.cpp - the library merge in process, beside
+// a floor that moves the same bytes in the same run.
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
@@ -46,8 +46,8 @@ std::string Catalogue(const std::string& name, int items) {
   return text;
 }
 
-// Reads both files, keeps every line once in a hash set and writes the lines of both: what no merge can
-// avoid.
+// Reads both files, keeps every line once in a hash set
+// and writes the lines of both: what no merge can avoid.
 void Floor(const std::string& target, const std::string& source) {
   const std::string texts[] = {ReadFile(target), ReadFile(source)};
   std::unordered_set<std::string_view> lines;
@@ -82,8 +82,8 @@ class Files {
   std::string Target() const { return (folder_ / "BREVANTA.LIB").string(); }
   std::string Source() const { return (folder_ / "update.LIB").string(); }
 
-  // Processor seconds of one run on a fresh target; the clock on the wall depends on what else the machine
-  // does.
+  // Processor seconds of one run on a fresh target; the
+  // clock on the wall depends on what else the machine does.
   template <typename Run>
   double Seconds(Run run) const {
     fs::remove(Target());

@@ -1,5 +1,5 @@
-// MergeHost.cpp - the smallest host of a merge: loads the module and calls its export, to time the whole
-// process.
+// MergeHost.cpp - the smallest host of a merge: loads the
+// module and calls its export, to time the whole process.
 #include <cstdio>
 
 #include "inc/LibraryMerge.h"

@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <string_view>
 
-// A text never changes once it is made, so copies share their characters until the last one goes. The share
-// count is plain: the module's texts stay on one thread. Making a text raises std::bad_alloc when memory is
-// short.
+// A text never changes once it is made, so copies share their characters
+// until the last one goes. The share count is plain: the module's texts stay
+// on one thread. Making a text raises std::bad_alloc when memory is short.
 class CString {
  public:
   CString() noexcept = default;

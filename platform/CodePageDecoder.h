@@ -1,5 +1,5 @@
-// CodePageDecoder.h - what the system knows about the bytes of a code page; CodePage.h makes its tables from
-// it.
+// CodePageDecoder.h - what the system knows about the bytes
+// of a code page; CodePage.h makes its tables from it.
 #pragma once
 
 #include <optional>
@@ -16,8 +16,8 @@ class CodePageDecoder {
 
   bool IsKnown() const;
 
-  // The character of one byte, or of two that belong together; nothing for bytes without a meaning of their
-  // own.
+  // The character of one byte, or of two that belong together;
+  // nothing for bytes without a meaning of their own.
   std::optional<char32_t> Decode(std::string_view bytes) const;
   std::optional<char32_t> DecodePair(std::string_view bytes) const;
 

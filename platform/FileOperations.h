@@ -52,8 +52,8 @@ void SetFileOperations(const FileOperations* operations);
 // The system's words for an error number, UTF-8, without a full stop.
 std::string SystemReason(int error);
 
-// A file operation that failed. `what()` is a sentence that names the file, what was tried and the system's
-// reason.
+// A file operation that failed. `what()` is a sentence that
+// names the file, what was tried and the system's reason.
 class FileError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -17,8 +17,8 @@ class FolderLock {
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
 
-  // Tries once. `folder` is UTF-8. Busy: another process holds it; Unusable: there is no such folder to work
-  // in.
+  // Tries once. `folder` is UTF-8. Busy: another process
+  // holds it; Unusable: there is no such folder to work in.
   LockResult Take(const std::string& folder);
   void Release();
 

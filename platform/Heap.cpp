@@ -1,5 +1,5 @@
-// Heap.cpp - the real process heap. A test program that defines these two itself replaces this file at link
-// time.
+// Heap.cpp - the real process heap. A test program that
+// defines these two itself replaces this file at link time.
 #include "platform/Heap.h"
 
 #include <cstdlib>

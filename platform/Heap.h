@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-// As std::malloc and std::free. What one module allocates here another may release here: both are the process
-// heap.
+// As std::malloc and std::free. What one module allocates
+// here another may release here: both are the process heap.
 void* HeapAllocate(std::size_t size);
 void HeapRelease(void* block);

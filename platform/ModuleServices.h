@@ -34,16 +34,16 @@ FARPROC GetProcAddress(HMODULE module, LPCSTR name);
 // Lowers the module's load count by one; 0 on failure.
 BOOL FreeLibrary(HMODULE module);
 
-// Puts string `id` of the module's string table into `buffer` of `size` characters, terminated, cut to fit;
-// returns the number of characters without the terminator. 0, and `buffer` empty, when there is no such
-// string.
+// Puts string `id` of the module's string table into `buffer` of `size`
+// characters, terminated, cut to fit; returns the number of characters without
+// the terminator. 0, and `buffer` empty, when there is no such string.
 int LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
 
 #endif
 
-// Loads a module: the named file when `name` holds a path, else by the loader's ordinary search. Raises the
-// load count of a module that is loaded already. Null on failure; the caller releases the result with
-// FreeLibrary.
+// Loads a module: the named file when `name` holds a path, else by the
+// loader's ordinary search. Raises the load count of a module that is loaded
+// already. Null on failure; the caller releases the result with FreeLibrary.
 HMODULE AfxLoadLibrary(LPCSTR name);
 
 // Why the last AfxLoadLibrary failed, in the system's words, UTF-8.

@@ -11,8 +11,8 @@ struct StdioOperations {
   // on no system.
   std::FILE* (*open)(const char* path, const char* mode);
 
-  // Reads up to `size` bytes and returns how many; fewer only at the end of the file, READ_FAILED on an
-  // error.
+  // Reads up to `size` bytes and returns how many; fewer
+  // only at the end of the file, READ_FAILED on an error.
   std::ptrdiff_t (*read)(void* buffer, std::size_t size, std::FILE* stream);
 
   // True when all bytes are written.

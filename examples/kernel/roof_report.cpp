@@ -56,8 +56,8 @@ bool ReportValley() {
   return true;
 }
 
-// An arched window head from (0, 2) over (0.5, 2.25) to (1, 2): its circle, and where a bar at x = 0.75 meets
-// it.
+// An arched window head from (0, 2) over (0.5, 2.25) to (1,
+// 2): its circle, and where a bar at x = 0.75 meets it.
 bool ReportArch() {
   Vec3 centre{};
   Vec3 hit[2] = {};

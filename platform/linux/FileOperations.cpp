@@ -80,8 +80,8 @@ void FlushFolderOf(const std::string& path) {
 int Replace(const std::string& from, const std::string& to) {
   struct stat old {};
   if (stat(to.c_str(), &old) == 0) {
-    // Another owner can only be given by the superuser; rights matter more and come last, as chown clears
-    // some.
+    // Another owner can only be given by the superuser;
+    // rights matter more and come last, as chown clears some.
     if (chown(from.c_str(), old.st_uid, old.st_gid) != 0 && errno != EPERM) return errno;
     if (chmod(from.c_str(), old.st_mode & ALL_RIGHTS) != 0) return errno;
   }

@@ -1,5 +1,5 @@
-// FolderLock.cpp - a folder is locked by a file in it that nobody else can open and that goes with its
-// handle.
+// FolderLock.cpp - a folder is locked by a file in it that
+// nobody else can open and that goes with its handle.
 #include "platform/FolderLock.h"
 
 #include <windows.h>

@@ -1,5 +1,5 @@
-// MergeFaultsTest.cpp - each file operation of a merge fails: no catalogue is lost, but for the one kept
-// case.
+// MergeFaultsTest.cpp - each file operation of a merge
+// fails: no catalogue is lost, but for the one kept case.
 #include <filesystem>
 #include <string>
 

@@ -1,5 +1,5 @@
-// MergeStoppedTest.cpp - the process is killed at each file operation of a merge: one whole catalogue is
-// left.
+// MergeStoppedTest.cpp - the process is killed at each
+// file operation of a merge: one whole catalogue is left.
 #include <csignal>
 #include <filesystem>
 #include <string>

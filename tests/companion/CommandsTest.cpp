@@ -1,5 +1,5 @@
-// CommandsTest.cpp - the commands against played services and a played dialog: order of the calls, results,
-// state.
+// CommandsTest.cpp - the commands against played services
+// and a played dialog: order of the calls, results, state.
 #include <algorithm>
 #include <optional>
 #include <stdexcept>

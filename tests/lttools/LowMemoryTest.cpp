@@ -1,5 +1,5 @@
-// LowMemoryTest.cpp - each allocation of the support library fails in turn; on the good path every block is
-// released.
+// LowMemoryTest.cpp - each allocation of the support library
+// fails in turn; on the good path every block is released.
 #include <cstdint>
 #include <cstdlib>
 #include <string>

@@ -1,7 +1,7 @@
 // OpeningSymbolTest.cpp - the lines of the opening symbol.
 //
-// The frame is 100 x 200, the sash inset by 10: its side middles are (10, 100), (50, 190), (90, 100) and (50,
-// 10).
+// The frame is 100 x 200, the sash inset by 10: its side
+// middles are (10, 100), (50, 190), (90, 100) and (50, 10).
 #include <cstring>
 
 #include <gmock/gmock.h>

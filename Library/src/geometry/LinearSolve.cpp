@@ -1,5 +1,5 @@
-// LinearSolve.cpp - the LU factorisation of a 4 x 4 matrix, and the solver, determinant and inverse built on
-// it.
+// LinearSolve.cpp - the LU factorisation of a 4 x 4 matrix,
+// and the solver, determinant and inverse built on it.
 #include <algorithm>
 #include <cmath>
 #include <utility>

@@ -8,9 +8,9 @@
 
 namespace geometry {
 
-// The fitted roof plane. In its local frame the fall line runs in the y-z plane, the roof rises along +y, z
-// is up and the origin is the third picked point's place in the plan at height 0. World means drawing
-// coordinates.
+// The fitted roof plane. In its local frame the fall line runs in the y-z
+// plane, the roof rises along +y, z is up and the origin is the third picked
+// point's place in the plan at height 0. World means drawing coordinates.
 struct RoofPlane {
   Vec3 corners[4];  // the picked points, world; the fourth repeats the third
   // The picked points, local, ordered along x by two exchanges: the first with the second, the third with the

@@ -23,10 +23,10 @@ extern std::int32_t ErrKind;
 extern char ErrKindName[28];
 extern char ErrMessage[128];
 
-// A catcher fills ErrJump with setjmp in a frame that is still live when a report arrives, sets ErrJumpArmed
-// non-zero and clears it before the frame ends. Reports of a kind below ERR_NORMAL then print nothing and
-// jump there with the kind as the value (1 for a kind of 0). No frame in between may own an object with a
-// destructor.
+// A catcher fills ErrJump with setjmp in a frame that is still live when a report
+// arrives, sets ErrJumpArmed non-zero and clears it before the frame ends. Reports of
+// a kind below ERR_NORMAL then print nothing and jump there with the kind as the
+// value (1 for a kind of 0). No frame in between may own an object with a destructor.
 extern std::int32_t ErrJumpArmed;
 extern std::jmp_buf ErrJump;
 

@@ -49,11 +49,11 @@ int SplitFields(const char* text, const char* delimiters, TextList& fields);
 // below 1.
 int ConcatStrings(char* destination, int size, bool append, std::initializer_list<const char*> pieces);
 
-// Returns 1 when the text matches the pattern, else 0; both are cut to the working buffer. Pattern
-// characters: '#' a digit, '@' a letter, '.' neither of them, '?' any character, '*' any run; every other
-// stands for itself. Letters and digits are those of ASCII. A pattern that equals the text always matches. A
-// star never tries the empty rest of the text against what follows it, so 'a*' matches 'a' but 'a**' does
-// not.
+// Returns 1 when the text matches the pattern, else 0; both are cut to the working
+// buffer. Pattern characters: '#' a digit, '@' a letter, '.' neither of them, '?' any
+// character, '*' any run; every other stands for itself. Letters and digits are those
+// of ASCII. A pattern that equals the text always matches. A star never tries the empty
+// rest of the text against what follows it, so 'a*' matches 'a' but 'a**' does not.
 int MatchWildcard(std::string_view text, std::string_view pattern);
 
 // What MatchPatternList gives for a match.

@@ -1,5 +1,5 @@
-// resrel.h - growable arrays kept as loose variables, and the resource stack that releases groups of heap
-// memory.
+// resrel.h - growable arrays kept as loose variables, and
+// the resource stack that releases groups of heap memory.
 #pragma once
 
 #include <cstddef>

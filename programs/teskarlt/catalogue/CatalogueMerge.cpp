@@ -1,5 +1,5 @@
-// CatalogueMerge.cpp - merges catalogues: checks before, the module's command, and a look at what became of
-// it.
+// CatalogueMerge.cpp - merges catalogues: checks before,
+// the module's command, and a look at what became of it.
 #include "teskarlt/catalogue/CatalogueMerge.h"
 
 #include <algorithm>

@@ -40,8 +40,8 @@ Matches MatchesOf(const Catalogue& catalogue, std::string_view name, const Compa
   return matches;
 }
 
-// How many letters have to be changed, put in or taken out (V. Levenshtein, 1965), capital and small being
-// equal.
+// How many letters have to be changed, put in or taken out
+// (V. Levenshtein, 1965), capital and small being equal.
 std::size_t EditDistance(std::string_view a, std::string_view b) {
   std::vector<std::size_t> row(b.size() + 1);
   std::iota(row.begin(), row.end(), std::size_t{0});

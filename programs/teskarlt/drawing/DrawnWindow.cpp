@@ -139,8 +139,8 @@ bool IsComplete(const Description& d) {
          !d.distances.empty() && !d.scales.empty() && d.points.size() >= 8;
 }
 
-// The window that a complete description tells of; the items come in the order in which the module writes
-// them.
+// The window that a complete description tells of; the
+// items come in the order in which the module writes them.
 void TakeComplete(const Description& d, double unitFactor, DrawnWindow& window) {
   WindowParams& params = window.params;
   params.length = d.reals[0] / unitFactor;

@@ -23,9 +23,9 @@ constexpr double RoofTolerance(const DrawingUnit& unit) {
 // The unit of that name, "mm", "cm", "dm" or "m". Throws Error for another name.
 const DrawingUnit& UnitByName(std::string_view name);
 
-// The unit in which the drawing is drawn: `asked` when it is not empty, else what the drawing's header says.
-// Throws Error when neither says it, or the module cannot scale to it: it takes a whole number of units a
-// metre.
+// The unit in which the drawing is drawn: `asked` when it is not empty, else
+// what the drawing's header says. Throws Error when neither says it, or the
+// module cannot scale to it: it takes a whole number of units a metre.
 const DrawingUnit& UnitOf(const dxf::Document& drawing, const std::string& asked);
 
 }  // namespace teskarlt

@@ -52,8 +52,8 @@ class Document {
   // is missing.
   std::string_view SectionText(std::string_view name) const;
 
-  // The entities of the model space in the order of the file; those of paper space and of blocks are left
-  // out.
+  // The entities of the model space in the order of the
+  // file; those of paper space and of blocks are left out.
   std::span<const Entity> Entities() const;
   // The first entity of the model space with this handle; null when there is none.
   const Entity* FindEntity(std::uint64_t handle) const;

@@ -22,8 +22,8 @@ std::size_t ExtendedDataBegin(std::span<const Group> groups);
 // The text of a group that holds one.
 std::string_view TextOf(const Group& group);
 
-// Writes a group that passed the check; throws Error for an extended text that is too long once it is
-// encoded.
+// Writes a group that passed the check; throws Error for
+// an extended text that is too long once it is encoded.
 void WriteGroup(TagWriter& writer, const TextCodec& codec, const Group& group);
 
 }  // namespace teskarlt::dxf

@@ -14,8 +14,8 @@ enum class TableKind { Linetype, Layer, Application };
 // "LTYPE", "LAYER", "APPID".
 std::string_view TableName(TableKind kind);
 
-// Place of a table among those of a drawing: tables of a lower rank stand before it. Unknown tables come
-// last.
+// Place of a table among those of a drawing: tables of a
+// lower rank stand before it. Unknown tables come last.
 int TableRank(std::string_view name);
 
 // What the head of a table or record holds by version. A handle or owner of 0 is left out.

@@ -23,8 +23,8 @@ std::optional<double> ParseReal(std::string_view text);
 // Nothing for anything else.
 std::optional<std::int64_t> ParseInteger(std::string_view text);
 
-// A handle: 1 to 16 hexadecimal digits, blanks around. Nothing for anything else. 0 is no handle but the null
-// reference.
+// A handle: 1 to 16 hexadecimal digits, blanks around. Nothing
+// for anything else. 0 is no handle but the null reference.
 std::optional<std::uint64_t> ParseHandle(std::string_view text);
 
 // The text in quotation marks for a message: control characters and bytes beyond ASCII become "?", long texts

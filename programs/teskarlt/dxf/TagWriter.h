@@ -17,8 +17,8 @@ class TagWriter {
 
   void Text(int code, std::string_view raw);
   void Integer(int code, std::int64_t value);
-  // The shortest digits that are read back as the same number, always with a decimal point. The value is
-  // finite.
+  // The shortest digits that are read back as the same
+  // number, always with a decimal point. The value is finite.
   void Real(int code, double value);
   // x at `code`, y at `code` + 10, z at `code` + 20.
   void Coordinates(int code, const Point& point);

@@ -1,5 +1,5 @@
-// HostSession.h - one command of the module as the host sees it: what the dialog asks for, and what comes
-// back.
+// HostSession.h - one command of the module as the host
+// sees it: what the dialog asks for, and what comes back.
 #pragma once
 
 #include <array>

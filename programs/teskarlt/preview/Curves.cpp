@@ -69,8 +69,8 @@ CurvePoints Ellipse(const Record& record) {
   return Sweep(record.Point(10), major, minor, start, angle);
 }
 
-// A vertex of a polyline in a plane; `bulge` is the tangent of a quarter of the angle of the arc to the next
-// one.
+// A vertex of a polyline in a plane; `bulge` is the tangent
+// of a quarter of the angle of the arc to the next one.
 struct BulgeVertex {
   Vec3 point;
   double bulge = 0;

@@ -1,5 +1,5 @@
-// Scene.h - what is to be seen of a drawing: surfaces, curves, layers and roof windows, ready for any
-// picture.
+// Scene.h - what is to be seen of a drawing: surfaces,
+// curves, layers and roof windows, ready for any picture.
 #pragma once
 
 #include <cstddef>
@@ -42,8 +42,8 @@ struct Surface {
   int window = NO_WINDOW;  // index in Scene::windows
 };
 
-// A line of an entity, in one or more straight pieces; arcs are already divided. A closed one ends where it
-// begins.
+// A line of an entity, in one or more straight pieces; arcs
+// are already divided. A closed one ends where it begins.
 struct Curve {
   std::vector<Vec3> points;
   std::size_t layer = 0;

@@ -12,8 +12,8 @@ namespace {
 
 using geometry::Vec3;
 
-// Positive when the corners run counter-clockwise. Coordinates are taken from the first corner, for
-// precision.
+// Positive when the corners run counter-clockwise.
+// Coordinates are taken from the first corner, for precision.
 double SignedArea(const PlanPolygon& polygon) {
   double twice = 0.0;
   for (std::size_t i = 1; i + 1 < polygon.size(); ++i) {
@@ -30,9 +30,9 @@ double SideOf(const Vec3& a, const Vec3& b, const Vec3& p) {
   return (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
 }
 
-// What of the polygon lies on the left of the directed line a to b (I. Sutherland, G. Hodgman, Reentrant
-// polygon clipping, 1974). A concave polygon may come back with edges that run over each other, which cancel
-// out.
+// What of the polygon lies on the left of the directed line a to b (I.
+// Sutherland, G. Hodgman, Reentrant polygon clipping, 1974). A concave polygon
+// may come back with edges that run over each other, which cancel out.
 PlanPolygon ClipLeftOf(const Vec3& a, const Vec3& b, const PlanPolygon& polygon) {
   PlanPolygon clipped;
   for (std::size_t i = 0; i < polygon.size(); ++i) {

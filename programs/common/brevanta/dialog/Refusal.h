@@ -14,8 +14,8 @@ class Refusal : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// The text in double quotes; bytes outside ASCII, whose code page the dialog does not know, become question
-// marks.
+// The text in double quotes; bytes outside ASCII, whose code
+// page the dialog does not know, become question marks.
 inline std::string Quoted(std::string_view text) {
   std::string quoted = "\"";
   for (const char c : text)

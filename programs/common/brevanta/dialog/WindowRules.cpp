@@ -80,8 +80,8 @@ bool TakeOneOf(std::string_view letters, std::string_view& code) {
   return true;
 }
 
-// Takes one mark with its suffixes off the front: B, C (then I or O), D, or E (then I or O and L or R, either
-// first).
+// Takes one mark with its suffixes off the front: B, C (then
+// I or O), D, or E (then I or O and L or R, either first).
 bool TakeMark(std::string_view& code) {
   if (TakeOneOf("D", code)) return true;
   if (TakeOneOf("BC", code)) {

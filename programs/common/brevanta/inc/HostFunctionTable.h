@@ -17,8 +17,8 @@ constexpr int ENTRY_END_ENTITY_BATCH = 19;
 constexpr int ENTRY_DATA_FOLDER_ACCESS = 44;
 constexpr int HOST_FUNCTION_COUNT = 45;
 
-// Entry 1. Puts the path of the data folder of `kind` into `buffer` of `size` characters; true when it is
-// there.
+// Entry 1. Puts the path of the data folder of `kind` into
+// `buffer` of `size` characters; true when it is there.
 using GetDataFolderFunction = bool (*)(std::int32_t kind, char* buffer, std::int32_t size);
 
 // Entry 15. Makes an entity of the list, which stays the caller's; `reserved` is always 0. Negative: failed.

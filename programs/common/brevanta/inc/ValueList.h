@@ -7,8 +7,8 @@
 
 namespace brevanta {
 
-// Kind words: bits 8 to 15 number the kind, bits 0 to 7 are the width of one element in bytes, bits 16 to 19
-// flags.
+// Kind words: bits 8 to 15 number the kind, bits 0 to 7 are
+// the width of one element in bytes, bits 16 to 19 flags.
 constexpr std::uint32_t KIND_NONE = 0;  // a code outside the table; matches no kind
 constexpr std::uint32_t KIND_TEXT = 0x100;
 constexpr std::uint32_t KIND_LONG = 0x204;

@@ -1,5 +1,5 @@
-// WindowParams.h - the 944-byte record that describes one roof window, shared by the module and its dialog
-// module.
+// WindowParams.h - the 944-byte record that describes one
+// roof window, shared by the module and its dialog module.
 #pragma once
 
 #include <cstddef>
@@ -47,8 +47,7 @@ struct WindowParams {
   std::int32_t roofBuildUp;      // 72   1   0 second plane fitted, 1 plain, 2 with `slopeOffset`
   std::int32_t bodyAsFaces;      // 76   1   1: the body is written as 3D faces
   double slopeOffset;            // 80   0.1 m along the slope, used when `roofBuildUp` is 2
-  double upperEdgeHeight;        // 88   0      drawing units, upper edge above the base level; written by the
-                                 // insertion
+  double upperEdgeHeight;        // 88   0      drawing units, upper edge above the base level; an output
   double layerThickness;         // 96   0.1    m, roof layer that the window sits in
   double pitch;                  // 104  30     degrees, pitch of the roof from the horizontal
   std::int32_t drawOpeningSymbol;       // 112  -1  non-zero: the opening symbol is drawn

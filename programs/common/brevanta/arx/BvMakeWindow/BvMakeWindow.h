@@ -1,5 +1,5 @@
-// BvMakeWindow.h - the insertion object: what one insertion needs, and the flow that turns a record into
-// entities.
+// BvMakeWindow.h - the insertion object: what one insertion
+// needs, and the flow that turns a record into entities.
 #pragma once
 
 #include <cstdint>

@@ -10,8 +10,8 @@ namespace brevanta {
 // The growth step with which every array of the module is made.
 constexpr std::int32_t POINT_GROW_STEP = 8;
 
-// Owns its storage. An allocation that fails leaves the array empty and reports nothing; indices are not
-// checked.
+// Owns its storage. An allocation that fails leaves the
+// array empty and reports nothing; indices are not checked.
 class Point3dArray {
  public:
   explicit Point3dArray(std::int32_t initialCapacity = 0, std::int32_t growStep = POINT_GROW_STEP);
@@ -30,8 +30,8 @@ class Point3dArray {
   // Adds the point at the end and gives its index. The point may be one of this array.
   std::int32_t Append(const GcGePoint3d& point);
 
-  // Puts the point in front of the element at `index`, from 0 to Length(). The point may be one of this
-  // array.
+  // Puts the point in front of the element at `index`, from
+  // 0 to Length(). The point may be one of this array.
   Point3dArray& InsertAt(std::int32_t index, const GcGePoint3d& point);
 
   // Makes the length n, 0 when n is negative; grows the storage where needed, never shrinks it.

@@ -70,8 +70,8 @@ struct Normal {
   }
 };
 
-// The frame's six points are those of the foot, but for entries 1 and 2, the input's corners, which nothing
-// reads.
+// The frame's six points are those of the foot, but for
+// entries 1 and 2, the input's corners, which nothing reads.
 void RecordOutlines(CbvMakeWindow& maker, const Outline& innerFoot, const Outline& outerFoot,
                     const Point3dArray& outer) {
   maker.innerOutline.SetLength(0);

@@ -31,9 +31,9 @@ class CBrevantaSet : public CPtrArray {
   // Takes the item over and returns its position.
   std::int64_t Add(CBrevantaItem* item);
 
-  // Adds the item with its position in `index`, unless the set holds one of the same section and key: then
-  // the item stays the caller's. True when it was added. Walks the whole set; a merge asks an ItemIndex
-  // instead.
+  // Adds the item with its position in `index`, unless the set holds one of
+  // the same section and key: then the item stays the caller's. True when
+  // it was added. Walks the whole set; a merge asks an ItemIndex instead.
   bool AddUnique(CBrevantaItem* item);
 };
 

@@ -1,5 +1,5 @@
-// Commands.cpp - the exported commands: load the dialog module, run it over a record, insert what it
-// confirms.
+// Commands.cpp - the exported commands: load the dialog
+// module, run it over a record, insert what it confirms.
 #include "arx/commands/Commands.h"
 
 #include "arx/BvMakeWindow/BvMakeWindow.h"

@@ -8,10 +8,10 @@
 
 namespace brevanta {
 
-// Inserts a new roof window: runs the dialog and, when the user confirms, builds the window in the drawing.
-// `hostContext` and `dialogArg` go to the dialog as they are, `unitFactor` is in drawing units per metre,
-// `reserved` is not read. Gives 0 when the dialog module cannot be loaded, else 1, whatever the dialog
-// answered.
+// Inserts a new roof window: runs the dialog and, when the user confirms, builds
+// the window in the drawing. `hostContext` and `dialogArg` go to the dialog as they
+// are, `unitFactor` is in drawing units per metre, `reserved` is not read. Gives 0
+// when the dialog module cannot be loaded, else 1, whatever the dialog answered.
 PLATFORM_EXPORT std::int32_t Brevanta(void* hostContext, std::int32_t unitFactor, void* reserved,
                                       std::int32_t dialogArg);
 
