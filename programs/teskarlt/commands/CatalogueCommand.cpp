@@ -108,9 +108,11 @@ void RunCatalogue(const CatalogueOptions& options) {
 void AddCatalogueCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("catalogue", "Show a window catalogue");
   const auto options = std::make_shared<CatalogueOptions>();
-  command->add_option("FILE", options->file,
-                      "the catalogue, or its folder; without it the one in the data folder");
-  command->add_option("--section", options->section, "show this maker's windows only");
+  command
+      ->add_option("FILE", options->file,
+                   "the catalogue, or its folder; without it the one in the data folder")
+      ->type_name("");
+  command->add_option("--section", options->section, "show this maker's windows only")->type_name("MAKER");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
       "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder.\n"

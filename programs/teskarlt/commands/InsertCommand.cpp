@@ -254,7 +254,7 @@ void AddInsertCommand(CLI::App& app) {
       "Examples:\n"
       "  teskarlt insert house.dxf --at 3000,2000 -o out.dxf\n"
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
-      "  teskarlt insert house.dxf --at 3000,2000 --window \"Alfa/A 94\" --catalogue examples/BREVANTA.LIB\n"
+      "  teskarlt insert house.dxf --at 3000,2000 --window \"OL 94x140\" --catalogue examples/BREVANTA.LIB\n"
       "  teskarlt insert house.dxf --at 3000,2000 --roof-face 100 --set lowerEdgeHeight=4.2");
   command->callback([options] { RunInsert(*options); });
 }

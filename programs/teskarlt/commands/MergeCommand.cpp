@@ -70,13 +70,15 @@ void RunMerge(const MergeOptions& options) {
 void AddMergeCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("merge", "Merge a window catalogue into another");
   const auto options = std::make_shared<MergeOptions>();
-  command->add_option("SOURCE", options->source, "the catalogue whose windows are added, or its folder");
+  command->add_option("SOURCE", options->source, "the catalogue whose windows are added, or its folder")
+      ->type_name("");
   CLI::Option* target = command->add_option(
       "TARGET", options->target,
       "the catalogue that takes them, or its folder; without it the one in the data folder");
+  target->type_name("");
   command->add_flag(
       "--recover", options->recover,
-      "bring back the catalogue SOURCE (or that of the data folder) that an interrupted merge left");
+      "bring back what an interrupted merge left of the catalogue SOURCE, or of the data folder's");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
       "A window that the target has already stays as the target has it.\n"

@@ -108,20 +108,27 @@ void RunPreview(const PreviewOptions& options) {
 void AddPreviewCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("preview", "Make a picture, a page or a 3D model of a drawing");
   const auto options = std::make_shared<PreviewOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required();
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
   command->add_option("-o,--output", options->output, "the file to write: .svg, .png, .html or .glb")
-      ->required();
+      ->required()
+      ->type_name("FILE");
   command->add_option("--format", options->format, "svg, png, html or glb, whatever the file's ending is")
-      ->check(CLI::IsMember({FORMATS[0], FORMATS[1], FORMATS[2], FORMATS[3]}));
+      ->type_name("FORMAT")
+      ->check(CLI::IsMember({FORMATS[0], FORMATS[1], FORMATS[2], FORMATS[3]}).description(""));
   command
       ->add_option("--view", options->view,
                    "plan, iso, south, north, east or west; plan for .svg, iso for .png")
-      ->check(CLI::IsMember({"plan", "iso", "south", "north", "east", "west"}));
-  command->add_option("--window", options->window, "zoom to the window with this number");
-  command->add_option("--layer", options->layers, "show this layer only; several may be given")->take_all();
-  command->add_option("--width", options->width, "width of the picture in pixels")
-      ->check(CLI::Range(LEAST_WIDTH, GREATEST_WIDTH));
-  command->add_option("--units", options->units, UNITS_HELP);
+      ->type_name("VIEW")
+      ->check(CLI::IsMember({"plan", "iso", "south", "north", "east", "west"}).description(""));
+  command->add_option("--window", options->window, "zoom to the window with this number")
+      ->type_name("NUMBER");
+  command->add_option("--layer", options->layers, "show this layer only; several may be given")
+      ->type_name("LAYER")
+      ->take_all();
+  command->add_option("--width", options->width, "width of the picture, from 100 to 10000")
+      ->type_name("PIXELS")
+      ->check(CLI::Range(LEAST_WIDTH, GREATEST_WIDTH).description(""));
+  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->footer(
       "A .svg is a drawing with title, scale bar and a group for each layer; a .png is seen from the "
       "south-east;\n"
