@@ -10,6 +10,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/commands/CatalogueCommand.h"
+#include "teskarlt/commands/EditCommand.h"
+#include "teskarlt/commands/EraseCommand.h"
 #include "teskarlt/commands/InsertCommand.h"
 #include "teskarlt/commands/ListCommand.h"
 #include "teskarlt/commands/MergeCommand.h"
@@ -46,6 +48,8 @@ void AddCommands(CLI::App& app) {
   });
   AddRoofsCommand(app);
   AddInsertCommand(app);
+  AddEditCommand(app);
+  AddEraseCommand(app);
   AddListCommand(app);
   AddPreviewCommand(app);
   AddNewCommand(app);

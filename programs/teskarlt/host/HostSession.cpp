@@ -66,9 +66,20 @@ struct ServiceCalls {
     return number;
   }
 
-  // A command that inserts has no window to read or to erase.
-  static std::int32_t ReadWindow(void* /*context*/, brevanta::WindowParams* /*record*/) { return 0; }
-  static std::int32_t EraseWindow(void* /*context*/) { return 0; }
+  static std::int32_t ReadWindow(void* context, brevanta::WindowParams* record) {
+    const std::optional<brevanta::WindowParams>& edited = Session(context).request_.edited;
+    if (!edited) return 0;
+    *record = *edited;
+    return 1;
+  }
+
+  static std::int32_t EraseWindow(void* context) {
+    HostSession& session = Session(context);
+    for (const dxf::Entity* entity : session.request_.replaced)
+      session.drawing_.RemoveEntity(*entity);
+    session.outcome_.erased = session.request_.replaced.size();
+    return static_cast<std::int32_t>(session.outcome_.erased);
+  }
 
   static void Confirm(void* context, const brevanta::WindowParams* record) {
     Session(context).outcome_.confirmed = *record;

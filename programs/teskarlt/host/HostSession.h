@@ -27,6 +27,8 @@ struct WindowRequest {
   std::vector<std::vector<geometry::Vec3>> faces;           // the roof; the chosen face first
   bool isBounded = false;                                   // the window must stay inside the faces
   std::set<std::int32_t> numbersInUse;                      // windows of the drawing
+  std::optional<brevanta::WindowParams> edited;             // the window that is changed
+  std::vector<const dxf::Entity*> replaced;                 // its entities, or those of one to erase
 };
 
 struct DialogReport {
@@ -39,6 +41,7 @@ struct CommandOutcome {
   std::optional<brevanta::WindowParams> confirmed;  // the record that the dialog confirmed
   std::size_t faces = 0;                            // entities of finished batches
   std::size_t lines = 0;
+  std::size_t erased = 0;  // entities of the window that was changed or erased
   std::vector<DialogReport> reports;
   std::string failure;  // why an entity was refused; empty when none was
 };

@@ -20,6 +20,8 @@ constexpr const char* PROGRAM = "TESKARLT.EXE";
 constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
 constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
 constexpr const char* INSERT_EXPORT = "Brevanta";
+constexpr const char* EDIT_EXPORT = "EditBrevanta";
+constexpr std::int32_t EDIT_MODE_DIALOG = 0;
 
 std::string ProgramPath() {
   char path[4096];
@@ -80,7 +82,7 @@ std::string FirstRefusal(const CommandOutcome& outcome) {
 }
 
 // The module reports nothing, so what it left behind has to show whether it did what was asked.
-void CheckOutcome(const CommandOutcome& outcome) {
+void CheckWindow(const CommandOutcome& outcome) {
   if (!outcome.confirmed) {
     const std::string reason = FirstRefusal(outcome);
     throw Error(reason.empty()
@@ -93,6 +95,20 @@ void CheckOutcome(const CommandOutcome& outcome) {
   }
 }
 
+// Runs a command in a session of its own; when it fails the drawing is what it was.
+template <typename Command>
+CommandOutcome Run(dxf::Document& drawing, const WindowRequest& request, Command command) {
+  const dxf::EditMark before = drawing.Mark();
+  try {
+    HostSession session(drawing, request);
+    command(session);
+    return session.Outcome();
+  } catch (...) {
+    drawing.Rollback(before);
+    throw;
+  }
+}
+
 }  // namespace
 
 WindowModule::WindowModule() {
@@ -100,14 +116,13 @@ WindowModule::WindowModule() {
   CheckCompanion(brevanta::DIALOG_MODULE, "the dialog module",
                  {brevanta::DIALOG_EXPORT, brevanta::ERASE_WINDOW_EXPORT});
   CheckCompanion(RESOURCE_MODULE, "the string module", {});
+  CheckCompanion(WINDOW_MODULE, "the roof window module",
+                 {INSERT_EXPORT, EDIT_EXPORT, brevanta::MERGE_LIBRARY_FILES_EXPORT});
   module_ = LoadFromFolder(WINDOW_MODULE);
   insert_ = ExportedFunction<InsertFunction>(module_, INSERT_EXPORT);
+  edit_ = ExportedFunction<EditFunction>(module_, EDIT_EXPORT);
   merge_ =
       ExportedFunction<brevanta::MergeLibraryFilesFunction>(module_, brevanta::MERGE_LIBRARY_FILES_EXPORT);
-  if (insert_ != nullptr && merge_ != nullptr) return;
-  FreeLibrary(module_);
-  ThrowForeign(WINDOW_MODULE, "the roof window module",
-               insert_ == nullptr ? INSERT_EXPORT : brevanta::MERGE_LIBRARY_FILES_EXPORT);
 }
 
 WindowModule::~WindowModule() {
@@ -115,16 +130,24 @@ WindowModule::~WindowModule() {
 }
 
 CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest& request) const {
-  const dxf::EditMark before = drawing.Mark();
-  try {
-    HostSession session(drawing, request);
+  return Run(drawing, request, [&](HostSession& session) {
     insert_(session.Services(), request.unitFactor, nullptr, 0);
-    CheckOutcome(session.Outcome());
-    return session.Outcome();
-  } catch (...) {
-    drawing.Rollback(before);
-    throw;
-  }
+    CheckWindow(session.Outcome());
+  });
+}
+
+CommandOutcome WindowModule::Edit(dxf::Document& drawing, const WindowRequest& request) const {
+  return Run(drawing, request, [&](HostSession& session) {
+    edit_(session.Services(), request.unitFactor, EDIT_MODE_DIALOG);
+    CheckWindow(session.Outcome());
+  });
+}
+
+CommandOutcome WindowModule::Erase(dxf::Document& drawing, const WindowRequest& request) const {
+  return Run(drawing, request, [&](HostSession& session) {
+    edit_(session.Services(), request.unitFactor, brevanta::EDIT_MODE_ERASE);
+    if (session.Outcome().erased == 0) throw Error("the dialog module erased nothing and gave no reason");
+  });
 }
 
 std::int32_t WindowModule::Merge(const std::string& source, const std::optional<std::string>& target) const {

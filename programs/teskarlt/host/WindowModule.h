@@ -27,6 +27,14 @@ class WindowModule {
   // out of it.
   CommandOutcome Insert(dxf::Document& drawing, const WindowRequest& request) const;
 
+  // Runs the command `EditBrevanta`: the window of the request is taken out of the drawing and inserted again
+  // as the request asks. Throws as Insert does.
+  CommandOutcome Edit(dxf::Document& drawing, const WindowRequest& request) const;
+
+  // Runs the command `EditBrevanta` to take the window of the request out of the drawing. Throws as Insert
+  // does.
+  CommandOutcome Erase(dxf::Document& drawing, const WindowRequest& request) const;
+
   // Runs the command `mergeLibraryFiles` over two catalogues and gives its
   // result; without a target it is the one in the data folder. Paths are UTF-8.
   // Throws Error for a path that the system's 8-bit code page cannot hold.
@@ -36,8 +44,11 @@ class WindowModule {
   using InsertFunction = std::int32_t (*)(void* hostContext, std::int32_t unitFactor, void* reserved,
                                           std::int32_t dialogArg);
 
+  using EditFunction = std::int32_t (*)(void* hostContext, std::int32_t unitFactor, std::int32_t editMode);
+
   HMODULE module_ = nullptr;
   InsertFunction insert_ = nullptr;
+  EditFunction edit_ = nullptr;
   brevanta::MergeLibraryFilesFunction merge_ = nullptr;
 };
 

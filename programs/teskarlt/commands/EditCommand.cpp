@@ -1,0 +1,121 @@
+// EditCommand.cpp - the subcommand "edit": changes a roof window.
+#include "teskarlt/commands/EditCommand.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "teskarlt/commands/WindowChoice.h"
+#include "teskarlt/commands/WindowOptions.h"
+#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/host/WindowModule.h"
+
+namespace teskarlt {
+
+namespace {
+
+using brevanta::RecordPoint;
+using brevanta::WindowParams;
+using geometry::Vec3;
+
+struct EditOptions {
+  WindowOptions window;
+  int number = 0;
+};
+
+Vec3 ToVec3(const RecordPoint& p) {
+  return {p.x, p.y, p.z};
+}
+
+// True when the face lies in the plane of the window's roof points.
+bool LiesInPlane(const RoofFace& face, const RecordPoint (&plane)[3], double tolerance) {
+  return std::all_of(std::begin(plane), std::end(plane), [&](const RecordPoint& point) {
+    Vec3 offset{};
+    geometry::VecSub(ToVec3(point), face.corners[0], offset);
+    return std::abs(geometry::VecDot(face.normal, offset)) <= tolerance;
+  });
+}
+
+// The face on which the window stands; null when the roof is not there any more.
+const RoofFace* FaceUnder(const WindowParams& window, const std::vector<RoofFace>& faces, double tolerance) {
+  const auto found = std::find_if(faces.begin(), faces.end(), [&](const RoofFace& face) {
+    return LiesInPlane(face, window.roofPlanePoints, tolerance) &&
+           HeightOver(face, window.storedPoint.x, window.storedPoint.y).has_value();
+  });
+  return found == faces.end() ? nullptr : &*found;
+}
+
+// The window stays where it is, on the face there, or on its own plane where that face is gone.
+const RoofFace* KeepPlace(const WindowParams& window, const std::vector<RoofFace>& faces, double tolerance,
+                          WindowRequest& request) {
+  const RoofFace* face = FaceUnder(window, faces, tolerance);
+  if (face != nullptr) {
+    BoundByFace(*face, faces, tolerance, request);
+    return face;
+  }
+  fmt::print(
+      stderr,
+      "teskarlt: warning: window {} stands on no roof face any more; the plane that it keeps is used\n",
+      window.markerValue);
+  request.faces = {{}};
+  for (const RecordPoint& point : window.roofPlanePoints)
+    request.faces[0].push_back(ToVec3(point));
+  return nullptr;
+}
+
+// A second plane of the user's own stays; the dialog would put the roof's underside in its place.
+void KeepSecondPlane(const WindowParams& window, double tolerance, WindowRequest& request) {
+  if (window.roofBuildUp != brevanta::BUILD_UP_SECOND_PLANE || IsUnderside(window, tolerance)) return;
+  std::string points;
+  for (const RecordPoint& p : window.secondPlanePoints)
+    points += fmt::format("{}{},{},{}", points.empty() ? "" : ";", p.x, p.y, p.z);
+  request.answers.emplace("secondPlanePoints", points);
+}
+
+void RunEdit(const EditOptions& options) {
+  const WindowModule module;
+  dxf::Document drawing = dxf::Document::Load(options.window.file);
+  const DrawingUnit& unit = TakeUnit(options.window, drawing);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  const DrawnWindow& window = ChooseWindow(windows, options.window.file, options.number);
+  const std::vector<RoofFace> faces = FindRoofFaces(drawing, RoofTolerance(unit));
+
+  WindowRequest request;
+  request.unitFactor = unit.perMetre;
+  request.edited = RecordOf(drawing, window);
+  request.replaced = window.entities;
+  request.numbersInUse = NumbersOf(windows);
+  TakeAnswers(options.window, drawing, request);
+  const bool moves = request.point || !options.window.roof.empty() || !options.window.roofFace.empty() ||
+                     request.answers.count("roofPlanePoints") != 0;
+  if (!request.point) request.point = {request.edited->storedPoint.x, request.edited->storedPoint.y};
+  if (!moves) KeepSecondPlane(*request.edited, RoofTolerance(unit), request);
+  const RoofFace* face = moves ? TakeRoof(options.window, faces, RoofTolerance(unit), request)
+                               : KeepPlace(*request.edited, faces, RoofTolerance(unit), request);
+  SaveAndReport(options.window, drawing, module.Edit(drawing, request), face);
+}
+
+}  // namespace
+
+void AddEditCommand(CLI::App& app) {
+  CLI::App* command = app.add_subcommand("edit", "Change a roof window");
+  const auto options = std::make_shared<EditOptions>();
+  command->add_option("FILE", options->window.file, "the drawing")->required()->type_name("");
+  command->add_option("NUMBER", options->number, "the window's number, as teskarlt list shows it")
+      ->required()
+      ->type_name("");
+  AddWindowOptions(*command, options->window);
+  command->footer(
+      "What is not given stays as it is; the window keeps its number and, without --at, its place.\n"
+      "teskarlt insert --fields lists the fields for --set.\n"
+      "Examples:\n"
+      "  teskarlt edit house-with-window.dxf 1 --set width=1.14\n"
+      "  teskarlt edit house-with-window.dxf 1 --at 4800,1200");
+  command->callback([options] { RunEdit(*options); });
+}
+
+}  // namespace teskarlt

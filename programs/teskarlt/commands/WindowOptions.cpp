@@ -1,0 +1,216 @@
+// WindowOptions.cpp - what the command lines that insert and change a window have in common.
+#include "teskarlt/commands/WindowOptions.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "inc/RecordFields.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/catalogue/Catalogue.h"
+#include "teskarlt/commands/Numbers.h"
+#include "teskarlt/commands/Report.h"
+#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/dxf/NewDrawing.h"
+#include "teskarlt/host/DataFolder.h"
+
+namespace teskarlt {
+
+namespace {
+
+// A text in the drawing's code page, which extended data can hold in the drawing's version.
+std::string StoredText(const std::string& utf8, const dxf::Document& drawing) {
+  std::string bytes = drawing.ToCodePage(utf8);
+  const std::size_t size = drawing.EncodedSize(bytes);
+  if (size <= dxf::LONGEST_EXTENDED_TEXT) return bytes;
+  throw Error(fmt::format("the text takes {} bytes in this drawing, and {} is the most that it can hold",
+                          size, dxf::LONGEST_EXTENDED_TEXT));
+}
+
+// "field=value" into the answers; a text goes from the terminal's UTF-8 to the drawing's code page.
+void TakeSetting(const std::string& setting, const dxf::Document& drawing, WindowRequest& request) {
+  const auto equals = setting.find('=');
+  if (equals == std::string::npos)
+    throw Error(fmt::format("--set {}: a setting is FIELD=VALUE, as in --set width=0.94", setting));
+  const std::string name = setting.substr(0, equals);
+  const brevanta::RecordField* field = brevanta::FindRecordField(name);
+  if (field == nullptr) {
+    throw Error(
+        fmt::format("--set {}: there is no such field; teskarlt insert --fields lists them", setting));
+  }
+  const std::string value = setting.substr(equals + 1);
+  try {
+    const bool isText = field->kind == brevanta::FieldKind::Text;
+    request.answers[name] = isText ? StoredText(value, drawing) : value;
+  } catch (const std::exception& error) {
+    throw Error(fmt::format("--set {}: {}", name, error.what()));
+  }
+}
+
+// The catalogue's item that the user named, in the drawing's code page.
+void TakeWindow(const WindowOptions& options, const dxf::Document& drawing, WindowRequest& request) {
+  const Catalogue catalogue = ReadCatalogue(options.catalogue.empty() ? DataFolder() : options.catalogue);
+  const CatalogueItem& item = ChooseItem(catalogue, options.window);
+  try {
+    request.answers[brevanta::ANSWER_CATALOGUE_ITEM] = drawing.ToCodePage(CatalogueText(item.line));
+    request.answers[brevanta::ANSWER_CATALOGUE_MAKER] =
+        drawing.ToCodePage(CatalogueText(MakerOf(catalogue.sections[item.section])));
+  } catch (const std::exception& error) {
+    throw Error(fmt::format("--window {}: {}", options.window, error.what()));
+  }
+}
+
+// The face that the user named, or the uppermost over the point.
+const RoofFace& ChooseFace(const WindowOptions& options, const WindowRequest& request,
+                           const std::vector<RoofFace>& faces) {
+  if (!options.roofFace.empty()) {
+    const std::vector<const RoofFace*> named = FacesNamed(faces, options.roofFace);
+    if (named.size() == 1) return *named.front();
+    if (named.size() > 1) {
+      throw Error(
+          fmt::format("--roof-face {}: {} faces of {} have that handle; leave it out, and --at chooses",
+                      options.roofFace, named.size(), options.file));
+    }
+    throw Error(fmt::format("--roof-face {}: {} has no roof face of that name; teskarlt roofs lists them",
+                            options.roofFace, options.file));
+  }
+  if (!request.point) throw Error("say where the window goes with --at X,Y");
+  const auto [x, y] = *request.point;
+  const RoofFace* over = UppermostOver(faces, x, y);
+  if (over != nullptr) return *over;
+  if (faces.empty())
+    throw Error(fmt::format("{} holds no planar face that can take a roof window", options.file));
+  throw Error(fmt::format("--at {}: no roof face lies over that point; the roofs lie within {}", options.at,
+                          PlanExtents(faces)));
+}
+
+nlohmann::ordered_json ToJson(const WindowOptions& options, const CommandOutcome& outcome,
+                              const RoofFace* face, const std::string& target) {
+  const brevanta::WindowParams& window = *outcome.confirmed;
+  nlohmann::ordered_json json;
+  json["version"] = JSON_VERSION;
+  json["number"] = window.markerValue;
+  json["face"] = face == nullptr ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(face->name);
+  json["pitch"] = window.pitch;
+  json["place"] = {window.storedPoint.x, window.storedPoint.y, window.storedPoint.z};
+  json["lowerEdgeHeight"] = window.lowerEdgeHeight;
+  json["unitFactor"] = window.unitFactor;
+  json["faces"] = outcome.faces;
+  json["lines"] = outcome.lines;
+  json["file"] = options.dryRun ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(target);
+  json["dryRun"] = options.dryRun;
+  return json;
+}
+
+void PrintText(const WindowOptions& options, const CommandOutcome& outcome, const RoofFace* face,
+               const std::string& target) {
+  const brevanta::WindowParams& window = *outcome.confirmed;
+  const std::string where =
+      face == nullptr ? "the given plane" : fmt::format("face {} of layer {}", face->name, face->layer);
+  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees, lower edge at {:.3f} m.\n",
+             window.markerValue, window.width, window.length, where, window.pitch, window.lowerEdgeHeight);
+  fmt::print(
+      "{} faces and {} lines {}.\n", outcome.faces, outcome.lines,
+      options.dryRun ? "would be added; nothing was written (dry run)" : "added; written to " + target);
+}
+
+// The user's word goes before the header's, but a slip would make a window a thousand times too small.
+void WarnOfOtherUnit(const WindowOptions& options, const dxf::Document& drawing, const DrawingUnit& unit) {
+  if (options.units.empty() || drawing.Units() == dxf::UNITS_NONE || drawing.Units() == unit.insUnits) return;
+  fmt::print(stderr,
+             "teskarlt: warning: {} says that its unit is another one ($INSUNITS {}) than --units {}\n",
+             options.file, drawing.Units(), options.units);
+}
+
+}  // namespace
+
+void AddWindowOptions(CLI::App& command, WindowOptions& options) {
+  command
+      .add_option("--at", options.at, "the place in the drawing; the uppermost roof face over it is taken")
+      ->type_name("X,Y");
+  CLI::Option* roofFace =
+      command
+          .add_option("--roof-face", options.roofFace, "name of the roof face, as teskarlt roofs lists it")
+          ->type_name("FACE");
+  command.add_option("--roof", options.roof, "three points of the roof's plane")
+      ->type_name("X,Y,Z")
+      ->expected(3)
+      ->excludes(roofFace);
+  CLI::Option* window =
+      command.add_option("--window", options.window, "a catalogue's window, whose sizes and texts are taken")
+          ->type_name("MAKER/KEY")
+          ->check(NotEmpty);
+  command
+      .add_option("--catalogue", options.catalogue,
+                  "the catalogue, or its folder; without it the one in the data folder")
+      ->type_name("FILE")
+      ->check(NotEmpty)
+      ->needs(window);
+  command.add_option("--set", options.settings, "a value of the window, as often as needed")
+      ->type_name("FIELD=VALUE")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  command.add_option("-o,--output", options.output, "the drawing to write; without it FILE is replaced")
+      ->type_name("FILE")
+      ->check(NotEmpty);
+  command.add_option("--units", options.units, UNITS_HELP)->type_name("UNIT");
+  command.add_flag("--dry-run", options.dryRun, "say what would be done and write nothing");
+  command.add_flag("--json", options.asJson, JSON_HELP);
+}
+
+const DrawingUnit& TakeUnit(const WindowOptions& options, dxf::Document& drawing) {
+  const DrawingUnit& unit = UnitOf(drawing, options.units);
+  WarnOfOtherUnit(options, drawing, unit);
+  drawing.AssumeUnits(unit.insUnits);
+  return unit;
+}
+
+void TakeAnswers(const WindowOptions& options, const dxf::Document& drawing, WindowRequest& request) {
+  if (!options.window.empty()) TakeWindow(options, drawing, request);
+  for (const std::string& setting : options.settings)
+    TakeSetting(setting, drawing, request);
+  if (!options.at.empty()) request.point = ParsePlanPoint("--at", options.at);
+}
+
+const RoofFace* TakeRoof(const WindowOptions& options, const std::vector<RoofFace>& faces, double tolerance,
+                         WindowRequest& request) {
+  const bool hasPlaneField = request.answers.count("roofPlanePoints") != 0;
+  if (hasPlaneField && (!options.roof.empty() || !options.roofFace.empty()))
+    throw Error("--set roofPlanePoints gives the roof already; leave --roof and --roof-face out");
+  if (!options.roof.empty()) {
+    std::vector<geometry::Vec3> points;
+    for (const std::string& point : options.roof)
+      points.push_back(ParsePoint("--roof", point));
+    request.faces = {points};
+    return nullptr;
+  }
+  if (hasPlaneField) return nullptr;
+  const RoofFace& face = ChooseFace(options, request, faces);
+  BoundByFace(face, faces, tolerance, request);
+  return &face;
+}
+
+void BoundByFace(const RoofFace& face, const std::vector<RoofFace>& faces, double tolerance,
+                 WindowRequest& request) {
+  request.faces = {face.corners};
+  for (const RoofFace* other : CoplanarWith(face, faces, tolerance))
+    request.faces.push_back(other->corners);
+  request.isBounded = true;
+}
+
+void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
+                   const RoofFace* face) {
+  const std::string target = options.output.empty() ? options.file : options.output;
+  if (!options.dryRun) drawing.Save(target);
+  if (options.asJson) {
+    PrintJson(ToJson(options, outcome, face, target));
+  } else {
+    PrintText(options, outcome, face, target);
+  }
+}
+
+std::string NotEmpty(const std::string& name) {
+  return name.empty() ? "the name is empty" : "";
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,58 @@
+// WindowOptions.h - what the command lines that insert and change a window have in common.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "teskarlt/drawing/RoofFace.h"
+#include "teskarlt/drawing/Units.h"
+#include "teskarlt/dxf/Document.h"
+#include "teskarlt/host/HostSession.h"
+
+namespace CLI {
+class App;
+}
+
+namespace teskarlt {
+
+struct WindowOptions {
+  std::string file;
+  std::string at;
+  std::string roofFace;
+  std::vector<std::string> roof;
+  std::string window;
+  std::string catalogue;
+  std::vector<std::string> settings;
+  std::string output;
+  std::string units;
+  bool dryRun = false;
+  bool asJson = false;
+};
+
+// Adds --at and all options behind it to the command. The options must outlive the parsing.
+void AddWindowOptions(CLI::App& command, WindowOptions& options);
+
+// The drawing's unit, with a warning where the user's word contradicts the header; the drawing counts with
+// it.
+const DrawingUnit& TakeUnit(const WindowOptions& options, dxf::Document& drawing);
+
+// The values of the window and the picked point into the request. Throws Error, naming the option.
+void TakeAnswers(const WindowOptions& options, const dxf::Document& drawing, WindowRequest& request);
+
+// The roof of the request from the options and its point; the face that was chosen, null when the user gave
+// points. `tolerance` is in drawing units; the result is one of `faces`.
+const RoofFace* TakeRoof(const WindowOptions& options, const std::vector<RoofFace>& faces, double tolerance,
+                         WindowRequest& request);
+
+// Puts the face and those that continue its plane into the request.
+void BoundByFace(const RoofFace& face, const std::vector<RoofFace>& faces, double tolerance,
+                 WindowRequest& request);
+
+// Saves the drawing, unless it is a dry run, and tells what became of the window.
+void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
+                   const RoofFace* face);
+
+// For options that name something: an empty name comes of a shell variable that is not set.
+std::string NotEmpty(const std::string& name);
+
+}  // namespace teskarlt
