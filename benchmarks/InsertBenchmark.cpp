@@ -51,7 +51,7 @@ void MakeOne(brevanta::CbvMakeWindow& window, brevanta::MakeEntityFunction makeE
 
 void InsertWindow(benchmark::State& state) {
   brevanta::CbvMakeWindow window;
-  for (auto _ : state)
+  while (state.KeepRunning())
     MakeOne(window, NullHost);
 }
 
@@ -62,7 +62,7 @@ void AllocationFloor(benchmark::State& state) {
   nodes = texts = 0;
   MakeOne(window, CountingHost);
   std::vector<void*> blocks(nodes + texts);
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     for (std::size_t i = 0; i < blocks.size(); ++i)
       blocks[i] = HeapAllocate(i < nodes ? sizeof(ValueNode) : textSize);
     benchmark::DoNotOptimize(blocks.data());

@@ -10,7 +10,7 @@ namespace platform {
 class CodePageDecoder {
  public:
   explicit CodePageDecoder(int number);
-  ~CodePageDecoder();
+  ~CodePageDecoder();  // NOLINT(performance-trivially-destructible): some systems have a converter to close
   CodePageDecoder(const CodePageDecoder&) = delete;
   CodePageDecoder& operator=(const CodePageDecoder&) = delete;
 

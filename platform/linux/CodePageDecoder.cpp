@@ -1,7 +1,6 @@
 // CodePageDecoder.cpp - code pages by the C library's iconv.
 #include "platform/CodePageDecoder.h"
 
-#include <bit>
 #include <cstdint>
 #include <string>
 
@@ -32,7 +31,7 @@ CodePageDecoder::~CodePageDecoder() {
 
 bool CodePageDecoder::IsKnown() const {
   // The C library's mark for a page that it does not have is -1.
-  return number_ > 0 && std::bit_cast<std::intptr_t>(converter_) != -1;
+  return number_ > 0 && reinterpret_cast<std::intptr_t>(converter_) != -1;
 }
 
 std::optional<char32_t> CodePageDecoder::Decode(std::string_view bytes) const {

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <bit>
 
 #include "platform/windows/WideText.h"
 
@@ -14,7 +15,7 @@ constexpr DWORD LARGEST_TRANSFER = DWORD{1} << 30;
 constexpr DWORD LONGEST_PATH = 32768;
 
 HANDLE Handle(FileHandle file) {
-  return reinterpret_cast<HANDLE>(file);
+  return std::bit_cast<HANDLE>(file);
 }
 
 int Result(BOOL outcome) {
@@ -26,7 +27,7 @@ bool IsMissing(DWORD error) {
 }
 
 int Open(const std::string& path, DWORD access, DWORD share, DWORD disposition, FileHandle& file) {
-  const HANDLE handle =
+  HANDLE handle =
       CreateFileW(ToWide(path).c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
   file = reinterpret_cast<FileHandle>(handle);
   return Result(handle != INVALID_HANDLE_VALUE);
@@ -104,8 +105,8 @@ int LinkTarget(const std::string& path, std::string& target) {
   const std::wstring wide = ToWide(path);
   const DWORD attributes = GetFileAttributesW(wide.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return 0;
-  const HANDLE file = CreateFileW(wide.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                  nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  HANDLE file = CreateFileW(wide.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                            OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (file == INVALID_HANDLE_VALUE) return static_cast<int>(GetLastError());
   std::wstring found(LONGEST_PATH, L'\0');
   const DWORD length = GetFinalPathNameByHandleW(file, found.data(), LONGEST_PATH, FILE_NAME_NORMALIZED);

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <bit>
+
 #include "platform/windows/WideText.h"
 
 namespace platform {
@@ -21,7 +23,7 @@ LockResult FolderLock::Take(const std::string& folder) {
 }
 
 void FolderLock::Release() {
-  if (handle_) CloseHandle(reinterpret_cast<HANDLE>(*handle_));
+  if (handle_) CloseHandle(std::bit_cast<HANDLE>(*handle_));
   handle_.reset();
 }
 

@@ -55,7 +55,7 @@ class FileOperationsTest : public testing::Test {
   std::string ErrorOfReplacing() {
     WriteWholeFile(In("a.dxf"), "old");
     SetFileOperations(&failing_);
-    const std::string message = ErrorOf([&] { WriteWholeFile(In("a.dxf"), "new"); });
+    std::string message = ErrorOf([&] { WriteWholeFile(In("a.dxf"), "new"); });
     SetFileOperations(nullptr);
     EXPECT_EQ(Text(In("a.dxf")), "old");
     EXPECT_EQ(Files(), std::set<std::string>{"a.dxf"});

@@ -288,10 +288,11 @@ TEST(EveryWindow, FarFromTheOriginItIsTheSameWindowMoved) {
     const RecordPoint origin = c.record.roofPlanePoints[0];
     MoveRoof(c, -OnGrid(origin.x), -OnGrid(origin.y));
     Insert(c);
-    const std::vector<GroupList> beside = recording_host::Entities();
+    const std::vector<GroupList>& entities = recording_host::Entities();
+    const std::vector<GroupList> beside(entities.begin(), entities.end());  // the next insertion empties them
     MoveRoof(c, dx, dy);
     Insert(c);
-    const std::vector<GroupList> moved = recording_host::Entities();
+    const std::vector<GroupList>& moved = recording_host::Entities();
     ASSERT_EQ(beside.size(), moved.size());
     for (std::size_t k = 0; k < beside.size(); ++k) {
       const auto expected = group_list::PointsOf(beside[k]);

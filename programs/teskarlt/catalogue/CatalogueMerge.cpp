@@ -47,9 +47,10 @@ void CheckTarget(const std::string& source, const std::string& target) {
     throw Error(fmt::format("{}: the path of a catalogue to merge into must have 3 to {} characters", target,
                             LONGEST_PATH));
   }
-  if (dxf::SameName(BackupOf(target), target))
+  if (dxf::SameName(BackupOf(target), target)) {
     throw Error(
         fmt::format("{}: this is the name of a backup; no catalogue to merge into may bear it", target));
+  }
   if (Exists(BackupOf(target))) {
     throw Error(
         fmt::format("{} lies there from an interrupted merge; teskarlt merge --recover \"{}\" brings that "

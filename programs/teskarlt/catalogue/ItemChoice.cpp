@@ -33,7 +33,8 @@ Matches MatchesOf(const Catalogue& catalogue, std::string_view name, const Compa
   for (const CatalogueItem& item : catalogue.items) {
     const std::string key = CatalogueText(item.key);
     const std::string header = CatalogueText(catalogue.sections[item.section]);
-    if (same(key, name) || same(FullName(catalogue, item), name) || same(header + "/" + key, name)) {
+    if (same(key, name) || same(FullName(catalogue, item), name) ||
+        same(fmt::format("{}/{}", header, key), name)) {
       matches.push_back(&item);
     }
   }

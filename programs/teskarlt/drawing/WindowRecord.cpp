@@ -90,9 +90,10 @@ void TakeBody(const dxf::Document& drawing, const DrawnWindow& window, WindowPar
 void CheckSize(const DrawnWindow& window, const std::vector<Vec3>& topEdge, double reach,
                WindowParams& params) {
   const double width = Distance(topEdge[0], topEdge[1]) / params.unitFactor;
-  if (std::abs(width - params.width) > SAME_LENGTH)
+  if (std::abs(width - params.width) > SAME_LENGTH) {
     Fail(window, fmt::format("it is {:.3f} m wide in the drawing and {:.3f} m by its description", width,
                              params.width));
+  }
   if (params.roofBuildUp == brevanta::BUILD_UP_SLOPE_OFFSET) {
     params.slopeOffset = reach - params.length;
   } else if (params.roofBuildUp == brevanta::BUILD_UP_PLAIN &&

@@ -128,8 +128,7 @@ Vec3 TakeHeights(const Answers& answers, WindowParams& record) {
   if (lower && upper)
     throw Refusal("lowerEdgeHeight and upperEdgeHeight cannot both be given; one follows from the other");
   if ((lower || upper) && answers.Has("placeByHeight") && record.placeByHeight == 0)
-    throw Refusal(
-        "placeByHeight 0 leaves the window at its point; leave it out for the edge height to count");
+    throw Refusal("placeByHeight 0 leaves the window at its point; leave it out with an edge height");
   if (answers.Has("placeByHeight") && record.placeByHeight == 1 && !lower && !upper)
     throw Refusal("placeByHeight 1 needs a lowerEdgeHeight or an upperEdgeHeight");
   const Vec3 anchor = MovedAnchor(record);
