@@ -308,7 +308,7 @@ def test_recovering_takes_one_catalogue(teskarlt, catalogues):
 def test_advice_to_recover_names_the_catalogue(teskarlt, catalogues):
     target, source = catalogues
     shutil.copy(target, target.with_suffix(".OLD"))
-    refused(teskarlt("merge", source, target), f'--recover "{target}"')
+    refused(teskarlt("merge", source, target), f'--recover "{teskarlt.spelled(target)}"')
 
 
 def test_explicit_and_data_folder_targets_exclude_each_other(teskarlt, catalogues):
