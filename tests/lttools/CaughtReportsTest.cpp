@@ -115,6 +115,15 @@ TEST_P(CaughtReport, LandsAtTheCatcherWithItsSiteAndMessage) {
   if (GetParam().raise == LeaveOne) ResRelease();
 }
 
+TEST_P(CaughtReport, LeavesNoBlockBehind) {
+  ResPush(static_cast<void*>(&owner), RES_HEAP_BLOCK);  // the stack's own storage stays once it is there
+  ResRelease();
+  const std::size_t before = counting_heap::LiveBlocks();
+  CaughtKind(GetParam().raise);
+  if (GetParam().raise == LeaveOne) ResRelease();
+  EXPECT_EQ(counting_heap::LiveBlocks(), before);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Fatal, CaughtReport,
     testing::Values(FatalCase{"AppendCopy", AppendCopy, "resrel", 159, "Low memory"},

@@ -34,13 +34,27 @@ void SetSite(std::int32_t line) {
   ErrLine = line;
 }
 
+void AbortForMemory(std::int32_t line) {
+  SetSite(line);
+  Err(ERR_FATAL, "Low memory");
+}
+
+void* Allocate(std::size_t size) {
+  return HeapAllocate(std::max<std::size_t>(size, 1));
+}
+
 void* AllocateOrAbort(std::size_t size, std::int32_t line) {
-  void* block = HeapAllocate(std::max<std::size_t>(size, 1));
-  if (block == nullptr) {
-    SetSite(line);
-    Err(ERR_FATAL, "Low memory");
-  }
+  void* block = Allocate(size);
+  if (block == nullptr) AbortForMemory(line);
   return block;
+}
+
+// A copy of an element that may lie in the storage about to move; released by the caller. A fatal report
+// jumps past destructors, so nothing that is alive across one may own memory.
+void* CopyElement(const void* element, std::size_t size, std::int32_t line) {
+  void* copy = AllocateOrAbort(size, line);
+  std::memcpy(copy, element, size);
+  return copy;
 }
 
 // Bytes of n elements. A negative n is more than any heap gives.
@@ -48,31 +62,25 @@ std::size_t ByteCount(std::int32_t n, std::size_t elementSize) {
   return n < 0 ? SIZE_MAX : static_cast<std::size_t>(n) * elementSize;
 }
 
-// Gives the storage `newCapacity` elements of room. On failure the array stays as it was.
-void Reallocate(std::int32_t newCapacity, std::size_t elementSize, std::int32_t& capacity, void*& storage,
-                std::int32_t line) {
-  void* moved = AllocateOrAbort(ByteCount(newCapacity, elementSize), line);
+// Gives the storage `newCapacity` elements of room. False: out of memory, and the array stays as it was.
+bool Reallocate(std::int32_t newCapacity, std::size_t elementSize, std::int32_t& capacity, void*& storage) {
+  void* moved = Allocate(ByteCount(newCapacity, elementSize));
+  if (moved == nullptr) return false;
   const std::int32_t kept = std::min(capacity, newCapacity);
   if (storage != nullptr && kept > 0) std::memcpy(moved, storage, ByteCount(kept, elementSize));
   HeapRelease(storage);
   storage = moved;
   capacity = newCapacity;
+  return true;
 }
 
-// A copy of an element that may lie in the storage about to move.
-class ElementCopy {
- public:
-  ElementCopy(const void* element, std::size_t size, std::int32_t line) : copy_(AllocateOrAbort(size, line)) {
-    std::memcpy(copy_, element, size);
-  }
-  ~ElementCopy() { HeapRelease(copy_); }
-  ElementCopy(const ElementCopy&) = delete;
-  ElementCopy& operator=(const ElementCopy&) = delete;
-  const void* Get() const { return copy_; }
-
- private:
-  void* copy_;
-};
+// Grows the storage while `copy` is held, which is released before the fatal report.
+void GrowOrAbort(std::int32_t newCapacity, std::size_t elementSize, std::int32_t& capacity, void*& storage,
+                 void* copy, std::int32_t line) {
+  if (Reallocate(newCapacity, elementSize, capacity, storage)) return;
+  HeapRelease(copy);
+  AbortForMemory(line);
+}
 
 unsigned char* ElementAt(void* storage, std::size_t elementSize, std::int32_t index) {
   return static_cast<unsigned char*>(storage) + static_cast<std::size_t>(index) * elementSize;
@@ -83,9 +91,10 @@ unsigned char* ElementAt(void* storage, std::size_t elementSize, std::int32_t in
 std::int32_t ArrayAppend(std::int32_t& count, std::int32_t& capacity, std::int32_t growth, void*& storage,
                          std::size_t elementSize, const void* element) {
   if (count >= capacity) {
-    const ElementCopy copy(element, elementSize, LINE_APPEND_COPY);
-    Reallocate(capacity + growth, elementSize, capacity, storage, LINE_APPEND_STORAGE);
-    std::memcpy(ElementAt(storage, elementSize, count), copy.Get(), elementSize);
+    void* copy = CopyElement(element, elementSize, LINE_APPEND_COPY);
+    GrowOrAbort(capacity + growth, elementSize, capacity, storage, copy, LINE_APPEND_STORAGE);
+    std::memcpy(ElementAt(storage, elementSize, count), copy, elementSize);
+    HeapRelease(copy);
   } else {
     std::memmove(ElementAt(storage, elementSize, count), element, elementSize);
   }
@@ -98,13 +107,14 @@ std::int32_t ArrayInsertAt(std::int32_t& count, std::int32_t& capacity, std::int
     SetSite(LINE_INSERT_INDEX);
     Err(ERR_FATAL, "Index outside range");
   }
-  const ElementCopy copy(element, elementSize, LINE_INSERT_COPY);
+  void* copy = CopyElement(element, elementSize, LINE_INSERT_COPY);
   if (count >= capacity) {
-    Reallocate(capacity + growth, elementSize, capacity, storage, LINE_INSERT_STORAGE);
+    GrowOrAbort(capacity + growth, elementSize, capacity, storage, copy, LINE_INSERT_STORAGE);
   }
   unsigned char* place = ElementAt(storage, elementSize, index);
   std::memmove(place + elementSize, place, ByteCount(count - index, elementSize));
-  std::memcpy(place, copy.Get(), elementSize);
+  std::memcpy(place, copy, elementSize);
+  HeapRelease(copy);
   return count++;
 }
 
@@ -134,7 +144,7 @@ std::int32_t ArrayCreate(void*& storage, std::int32_t& count, std::int32_t& capa
 
 std::int32_t ArrayResize(std::int32_t newCapacity, std::size_t elementSize, std::int32_t& capacity,
                          void*& storage) {
-  Reallocate(newCapacity, elementSize, capacity, storage, LINE_RESIZE);
+  if (!Reallocate(newCapacity, elementSize, capacity, storage)) AbortForMemory(LINE_RESIZE);
   return capacity;
 }
 
