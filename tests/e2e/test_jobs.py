@@ -90,6 +90,11 @@ def test_file_without_jobs_is_refused(teskarlt, house, tmp_path, content, compla
     assert house.read_bytes() == before
 
 
+def test_example_jobs_fit_the_example_house(teskarlt, house):
+    answer = teskarlt.done("insert", house, "--jobs", ROOT / "examples" / "windows.jsonl")
+    assert answer.stdout.startswith("3 windows: ")
+
+
 def test_ten_thousand_windows_are_ordinary(teskarlt, tmp_path):
     roof = Roof(width=300, depth=200)
     drawing = tmp_path / "town.dxf"
