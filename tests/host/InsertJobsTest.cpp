@@ -72,16 +72,16 @@ TEST(ParseJob, RoofOfTheJobReplacesThatOfTheCommandLine) {
 }
 
 TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
-  EXPECT_EQ(Refusal("{\"at\": [1,"), "this is no JSON: an error at column 11");
+  EXPECT_EQ(Refusal(R"({"at": [1,)"), "this is no JSON: an error at column 11");
   EXPECT_EQ(Refusal("[1,2]"), "[1,2] is no JSON object");
   EXPECT_EQ(Refusal(R"({"at": null})"), "at: null is neither a text nor a number");
   EXPECT_EQ(Refusal(R"({"at": [[1, {}]]})"), "at: {} is neither a text nor a number");
   EXPECT_EQ(Refusal(R"({"roof": [1, 2]})"), "roof: [1,2] is no list of three points");
   EXPECT_EQ(Refusal(R"({"window": ""})"), "window: the name is empty");
-  EXPECT_EQ(Refusal(R"({"set": 3})"), "set: 3 is no object, as {\"width\": 0.78} is one");
+  EXPECT_EQ(Refusal(R"({"set": 3})"), R"(set: 3 is no object, as {"width": 0.78} is one)");
   EXPECT_EQ(Refusal(R"({"at": [1e999, 0]})"), "a number is too large");
   EXPECT_EQ(Refusal(R"({"place": 1})"),
-            "a job has no member \"place\"; it can have at, roof-face, roof, window, catalogue and set");
+            R"(a job has no member "place"; it can have at, roof-face, roof, window, catalogue and set)");
 }
 
 TEST(ParseJob, LongValueIsShownByItsBeginning) {
