@@ -85,12 +85,12 @@ TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
 }
 
 TEST(ParseJob, LongValueIsShownByItsBeginning) {
-  const std::string refusal = Refusal("{\"set\": \"" + std::string(1000000, 'x') + "\"}");
+  const std::string refusal = Refusal(R"({"set": ")" + std::string(1000000, 'x') + R"("})");
   EXPECT_LT(refusal.size(), 150U);
 }
 
 TEST(ParseJob, DeeplyNestedListIsRefused) {
-  EXPECT_NE(Refusal("{\"at\": " + std::string(100000, '[') + std::string(100000, ']') + "}"), "");
+  EXPECT_NE(Refusal(R"({"at": )" + std::string(100000, '[') + std::string(100000, ']') + "}"), "");
 }
 
 }  // namespace
