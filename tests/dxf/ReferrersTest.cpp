@@ -1,4 +1,4 @@
-// ReferrersTest.cpp - groups and drawing orders forget entities that are removed.
+// ReferrersTest.cpp - drawing orders forget entities that are removed.
 #include "teskarlt/dxf/Referrers.h"
 #include "tests/dxf/SmallDrawings.h"
 
@@ -16,11 +16,6 @@ std::string WithoutLineA(std::string_view objects) {
   Document drawing = Parsed(WithObjects("0|LINE|5|A|0|LINE|5|B|", objects));
   drawing.RemoveEntity(*drawing.FindEntity(0xA));
   return drawing.Serialize();
-}
-
-TEST(Referrers, GroupLosesTheMember) {
-  EXPECT_EQ(WithoutLineA("0|GROUP|5|20|300|roof|340|A|340|B|"),
-            WithObjects("0|LINE|5|B|", "0|GROUP|5|20|300|roof|340|B|"));
 }
 
 TEST(Referrers, DrawingOrderLosesTheEntityWithItsSortHandle) {

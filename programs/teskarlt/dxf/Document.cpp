@@ -216,6 +216,14 @@ bool Document::IsRemoved(const Entity& entity) const {
   return state_->edits.IsRemoved(entity);
 }
 
+void Document::BeginGroup(std::span<const Entity* const> replaced) {
+  state_->edits.BeginGroup(replaced);
+}
+
+void Document::EndGroup(std::string_view name, std::string_view description) {
+  state_->edits.EndGroup(name, description);
+}
+
 std::string Document::RequireLayer(std::string_view name) {
   return state_->edits.Records().RequireLayer(name);
 }

@@ -83,9 +83,16 @@ class Document {
   // numbers that are not finite, extended texts of more than 255 bytes, unknown linetypes.
   std::uint64_t AddEntity(std::span<const Group> groups);
 
-  // Takes an entity of Entities() out; a second time does nothing.
+  // Takes an entity of Entities() out, and out of the groups and drawing orders that list it; a group that
+  // loses its last member goes too. A second time does nothing.
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
+
+  // From here on to EndGroup, new entities come into those groups of the drawing that list all `replaced`
+  // entities, or else into a group of their own. A drawing before R13 has no groups: there both do nothing.
+  void BeginGroup(std::span<const Entity* const> replaced);
+  // `name` is that of a new group; when it is taken, a number is put behind it. Both are ASCII.
+  void EndGroup(std::string_view name, std::string_view description);
 
   // Adds the record when the drawing has none of that name; an existing one stays as it is. Names are bytes
   // of the drawing's code page. RequireLayer gives the name that the drawing uses: characters that the

@@ -54,6 +54,7 @@ Edits::Edits(const SourceText& source, const Index& index, const TextCodec& code
       rules_(rules),
       handles_(SeedOf(index, rules)),
       records_(source, index, codec, rules, handles_),
+      groups_(source, index, codec, rules, handles_),
       isRemoved_(index.entities.size()) {}
 
 std::uint64_t Edits::AddEntity(std::span<const Group> groups) {
@@ -75,6 +76,10 @@ std::uint64_t Edits::AddCheckedEntity(std::span<const Group> groups) {
   TagWriter writer(scratch_, rules_.lineEnd);
   writer.Text(CODE_TYPE, TextOf(groups[0]));
   if (handle != 0) writer.Handle(CODE_HANDLE, handle);
+  if (grouping_) {
+    grouping_->members.push_back(handle);
+    if (HasOwners(rules_.version)) WriteReactors(writer, grouping_->reactors);
+  }
   if (const std::uint64_t owner = ModelSpaceHandle(); owner != 0) writer.Handle(CODE_OWNER, owner);
   for (const Group& group : groups.subspan(1, extended - 1)) {
     if (group.code == CODE_SUBCLASS && !HasSubclassMarkers(rules_.version)) continue;
@@ -142,12 +147,39 @@ bool Edits::IsRemoved(const Entity& entity) const {
   return isRemoved_[NumberOf(entity)];
 }
 
+// Entities that replace others come into the groups that had all of those.
+void Edits::BeginGroup(std::span<const Entity* const> replaced) {
+  if (!HasSubclassMarkers(rules_.version)) return;
+  std::vector<std::uint64_t> old;
+  for (const Entity* const entity : replaced)
+    old.push_back(entity->handle);
+  Grouping grouping;
+  grouping.fileGroups = groups_.GroupsOf(old);
+  for (const GroupObject* const group : grouping.fileGroups)
+    grouping.reactors.push_back(group->handle);
+  if (grouping.fileGroups.empty()) {
+    grouping.newGroup = groups_.TakeHandle();
+    grouping.reactors.push_back(grouping.newGroup);
+  }
+  grouping_ = std::move(grouping);
+}
+
+void Edits::EndGroup(std::string_view name, std::string_view description) {
+  if (!grouping_) return;
+  const Grouping grouping = std::move(*grouping_);
+  grouping_.reset();
+  for (const GroupObject* const group : grouping.fileGroups)
+    groups_.Extend(*group, grouping.members);
+  groups_.Add(grouping.newGroup, name, description, grouping.members);
+}
+
 bool Edits::IsChanged() const {
-  return !added_.empty() || !removed_.empty() || records_.Count() > 0;
+  return !added_.empty() || !removed_.empty() || records_.Count() > 0 || groups_.Count() > 0;
 }
 
 EditMark Edits::Mark() const {
-  return {added_.size(), removed_.size(), records_.Count(), handles_.Next()};
+  return {added_.size(),   removed_.size(),       records_.Count(),
+          groups_.Count(), grouping_.has_value(), handles_.Next()};
 }
 
 void Edits::Rollback(const EditMark& mark) {
@@ -157,6 +189,10 @@ void Edits::Rollback(const EditMark& mark) {
     removed_.pop_back();
   }
   if (records_.Count() > mark.addedRecords) records_.GoBack(mark.addedRecords);
+  groups_.GoBack(mark.addedGroups);
+  if (!mark.isGrouping) grouping_.reset();
+  if (grouping_)
+    std::erase_if(grouping_->members, [&](std::uint64_t handle) { return handle >= mark.nextHandle; });
   handles_.GoBack(mark.nextHandle);
 }
 
@@ -186,10 +222,12 @@ std::vector<Splice> Edits::Splices() const {
     if (entity.handle != 0) removedHandles.insert(entity.handle);
   }
   AddReferrerSplices(source_, index_, removedHandles, splices);
+  groups_.AddSplices(removedHandles, splices);
   const char* const end = index_.FindSection("ENTITIES")->end;
   if (!added_.empty()) splices.push_back({end, end, {}, &added_});
-  std::stable_sort(splices.begin(), splices.end(),
-                   [](const Splice& a, const Splice& b) { return a.begin < b.begin; });
+  std::stable_sort(splices.begin(), splices.end(), [](const Splice& a, const Splice& b) {
+    return a.begin != b.begin ? a.begin < b.begin : a.end < b.end;  // additions first
+  });
   return splices;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +13,7 @@
 #include "teskarlt/dxf/Group.h"
 #include "teskarlt/dxf/HandleSeed.h"
 #include "teskarlt/dxf/Index.h"
+#include "teskarlt/dxf/NewGroups.h"
 #include "teskarlt/dxf/NewRecords.h"
 #include "teskarlt/dxf/Rules.h"
 #include "teskarlt/dxf/TextCodec.h"
@@ -24,6 +26,8 @@ struct EditMark {
   std::size_t addedTexts;
   std::size_t removedEntities;
   std::size_t addedRecords;
+  std::size_t addedGroups;
+  bool isGrouping;
   std::uint64_t nextHandle;
 };
 
@@ -35,6 +39,8 @@ class Edits {
   std::uint64_t AddEntity(std::span<const Group> groups);
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
+  void BeginGroup(std::span<const Entity* const> replaced);
+  void EndGroup(std::string_view name, std::string_view description);
   NewRecords& Records() { return records_; }
   const NewRecords& Records() const { return records_; }
 
@@ -46,6 +52,14 @@ class Edits {
   void Write(const std::function<void(std::string_view)>& sink) const;
 
  private:
+  // The groups that new entities come into.
+  struct Grouping {
+    std::uint64_t newGroup = 0;                  // handle of a group to be made, or 0
+    std::vector<const GroupObject*> fileGroups;  // groups of the file
+    std::vector<std::uint64_t> reactors;         // handles of both
+    std::vector<std::uint64_t> members;          // in ascending order
+  };
+
   std::uint64_t AddCheckedEntity(std::span<const Group> groups);
   void RequireNames(std::span<const Group> groups);
   std::uint64_t ModelSpaceHandle() const;
@@ -60,6 +74,8 @@ class Edits {
   const Rules& rules_;
   HandleSeed handles_;
   NewRecords records_;
+  NewGroups groups_;
+  std::optional<Grouping> grouping_;
 
   TextStore store_;
   std::vector<std::string_view> added_;  // texts of new entities, one behind the other

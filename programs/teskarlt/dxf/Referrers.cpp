@@ -1,16 +1,11 @@
-// Referrers.cpp - GROUP and SORTENTSTABLE objects.
+// Referrers.cpp - SORTENTSTABLE objects.
 #include "teskarlt/dxf/Referrers.h"
 
+#include "teskarlt/dxf/ObjectCodes.h"
 #include "teskarlt/dxf/TagReader.h"
 #include "teskarlt/dxf/TagValue.h"
 
 namespace teskarlt::dxf {
-namespace {
-
-constexpr int CODE_MEMBER = 340;         // of a GROUP
-constexpr int CODE_SORTED_ENTITY = 331;  // of a SORTENTSTABLE; the handle to sort it by follows
-
-}  // namespace
 
 void AddReferrerSplices(const SourceText& source, const Index& index,
                         const std::unordered_set<std::uint64_t>& removedHandles,
@@ -22,12 +17,11 @@ void AddReferrerSplices(const SourceText& source, const Index& index,
   bool takesNext = false;  // the sort handle of a removed entity
   for (Tag tag; reader.Next(tag);) {
     if (tag.code == CODE_TYPE) type = tag.value;
-    const bool isListed = (type == "GROUP" && tag.code == CODE_MEMBER) ||
-                          (type == "SORTENTSTABLE" && tag.code == CODE_SORTED_ENTITY);
+    const bool isListed = type == "SORTENTSTABLE" && tag.code == CODE_SORTED_ENTITY;
     const bool isRemoved = isListed && removedHandles.contains(ParseHandle(tag.value).value_or(0));
     if (isRemoved || (takesNext && tag.code == CODE_HANDLE))
       splices.push_back({reader.TagBegin(), reader.TagEnd()});
-    takesNext = isRemoved && tag.code == CODE_SORTED_ENTITY;
+    takesNext = isRemoved;
   }
 }
 

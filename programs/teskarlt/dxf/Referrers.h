@@ -1,4 +1,4 @@
-// Referrers.h - lists of entities that lose some of their members.
+// Referrers.h - drawing orders that lose some of their entities.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace teskarlt::dxf {
 
-// Takes removed entities out of the groups and drawing orders that list them: a handle that leads nowhere
+// Takes removed entities out of the drawing orders that list them: a handle that leads nowhere
 // makes strict programs repair the drawing.
 void AddReferrerSplices(const SourceText& source, const Index& index,
                         const std::unordered_set<std::uint64_t>& removedHandles,

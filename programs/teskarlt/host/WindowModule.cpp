@@ -95,6 +95,12 @@ void CheckWindow(const CommandOutcome& outcome) {
   }
 }
 
+// A window is one thing to select.
+void EndGroup(dxf::Document& drawing, const CommandOutcome& outcome) {
+  const std::int32_t number = outcome.confirmed->markerValue;
+  drawing.EndGroup(fmt::format("BREVANTA_{}", number), fmt::format("Roof window {}", number));
+}
+
 // Runs a command in a session of its own; when it fails the drawing is what it was.
 template <typename Command>
 CommandOutcome Run(dxf::Document& drawing, const WindowRequest& request, Command command) {
@@ -131,15 +137,19 @@ WindowModule::~WindowModule() {
 
 CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest& request) const {
   return Run(drawing, request, [&](HostSession& session) {
+    drawing.BeginGroup({});
     insert_(session.Services(), request.unitFactor, nullptr, 0);
     CheckWindow(session.Outcome());
+    EndGroup(drawing, session.Outcome());
   });
 }
 
 CommandOutcome WindowModule::Edit(dxf::Document& drawing, const WindowRequest& request) const {
   return Run(drawing, request, [&](HostSession& session) {
+    drawing.BeginGroup(request.replaced);
     edit_(session.Services(), request.unitFactor, EDIT_MODE_DIALOG);
     CheckWindow(session.Outcome());
+    EndGroup(drawing, session.Outcome());
   });
 }
 
