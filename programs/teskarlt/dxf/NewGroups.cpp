@@ -190,9 +190,10 @@ void NewGroups::AddDictionarySplices(const std::string& entries, std::string& ob
   std::string text;
   TagWriter writer(text, rules_.lineEnd);
   if (const auto& root = Objects().root; root) {
-    for (const DictionaryEntry& entry : root->entries)
-      if (SameName(Trimmed(entry.name), GROUP_DICTIONARY))
-        splices.push_back(Removal(entry.text));  // leads nowhere
+    for (const DictionaryEntry& entry : root->entries) {
+      const bool leadsNowhere = SameName(Trimmed(entry.name), GROUP_DICTIONARY);
+      if (leadsNowhere) splices.push_back(Removal(entry.text));
+    }
     std::string entry;
     TagWriter entryWriter(entry, rules_.lineEnd);
     WriteEntry(entryWriter, GROUP_DICTIONARY, opener.names, root->ownsHard);
