@@ -72,7 +72,7 @@ constexpr Expected OBJECTS[] = {
 
 constexpr std::string_view ENTITY_MARKER = "AcDbEntity";
 constexpr std::string_view RECORD_MARKER = "AcDbSymbolTableRecord";
-constexpr std::string_view TABLE_MARKER = "AcDbSymbolTable";
+constexpr Expected TABLE = {"TABLE", {"AcDbSymbolTable"}};
 
 template <std::size_t SIZE>
 const Expected* Find(const Expected (&list)[SIZE], std::string_view type) {
@@ -89,33 +89,32 @@ bool Has(const Object& object, std::string_view marker) {
   });
 }
 
-void Require(const Object& object, std::string_view marker, Findings& findings) {
-  if (marker.empty() || Has(object, marker)) return;
-  findings.Error(Kind::MarkerMissing, object.Begin(),
-                 fmt::format("the {} lacks the class marker {} (group 100)", object.type, marker),
-                 object.number);
+void AddTo(std::string& list, std::string_view name) {
+  if (!list.empty()) list += ", ";
+  list += name;
 }
 
-void RequireOne(const Object& object, const Names& names, Findings& findings) {
-  if (names[0].empty() || std::any_of(names.begin(), names.end(), [&](std::string_view name) {
-        return !name.empty() && Has(object, name);
-      })) {
-    return;
-  }
+// The marker that is missing; empty when one of these is there.
+std::string MissingOne(const Object& object, const Names& names) {
   std::string list;
-  for (const std::string_view name : names)
-    if (!name.empty()) list += (list.empty() ? "" : ", ") + std::string(name);
-  findings.Error(Kind::MarkerMissing, object.Begin(),
-                 fmt::format("the {} lacks its class marker (group 100), one of {}", object.type, list),
-                 object.number);
+  for (const std::string_view name : names) {
+    if (name.empty()) continue;
+    if (Has(object, name)) return {};
+    AddTo(list, name);
+  }
+  return list.empty() ? list : "one of " + list;
 }
 
-void RequireAll(const Object& object, std::string_view common, const Expected* expected, Findings& findings) {
-  if (expected == nullptr) return;
-  Require(object, common, findings);
-  for (const std::string_view marker : expected->all)
-    Require(object, marker, findings);
-  RequireOne(object, expected->oneOf, findings);
+void RequireAll(const Object& object, std::string_view common, const Expected& expected, Findings& findings) {
+  std::string missing;
+  if (!common.empty() && !Has(object, common)) AddTo(missing, common);
+  for (const std::string_view marker : expected.all)
+    if (!marker.empty() && !Has(object, marker)) AddTo(missing, marker);
+  if (const std::string one = MissingOne(object, expected.oneOf); !one.empty()) AddTo(missing, one);
+  if (missing.empty()) return;
+  findings.Error(Kind::MarkerMissing, object.Begin(),
+                 fmt::format("the {} lacks class markers (group 100): {}", object.type, missing),
+                 object.number);
 }
 
 void RefuseMarker(const Object& object, Findings& findings) {
@@ -135,15 +134,20 @@ void CheckMarkers(const Object& object, const Header& header, Findings& findings
     if (header.saysVersion) RefuseMarker(object, findings);
     return;
   }
+  const Expected* expected = nullptr;
+  std::string_view common;
   if (object.IsEntity()) {
-    RequireAll(object, ENTITY_MARKER, Find(ENTITIES, object.type), findings);
+    expected = Find(ENTITIES, object.type);
+    common = ENTITY_MARKER;
   } else if (object.place == Place::Record) {
-    RequireAll(object, RECORD_MARKER, Find(RECORDS, object.type), findings);
+    expected = Find(RECORDS, object.type);
+    common = RECORD_MARKER;
   } else if (object.place == Place::Table) {
-    Require(object, TABLE_MARKER, findings);
+    expected = &TABLE;
   } else if (object.place == Place::Object) {
-    RequireAll(object, {}, Find(OBJECTS, object.type), findings);
+    expected = Find(OBJECTS, object.type);
   }
+  if (expected != nullptr) RequireAll(object, common, *expected, findings);
 }
 
 }  // namespace teskarlt::check

@@ -84,6 +84,13 @@ std::string Folded(const dxf::TextCodec& codec, std::string_view raw) {
   }
 }
 
+// Records that the big programs do not count in the head of their table.
+bool IsUncounted(std::string_view name) {
+  constexpr std::string_view PAPER_SPACES = "*Paper_Space";  // some have a number behind it
+  return SameName(name, "ByLayer") || SameName(name, "ByBlock") || SameName(name, "*Model_Space") ||
+         SameName(name.substr(0, PAPER_SPACES.size()), PAPER_SPACES);
+}
+
 bool HasTextStyle(std::string_view type) {
   return type == "TEXT" || type == "MTEXT" || type == "ATTRIB" || type == "ATTDEF";
 }
@@ -138,8 +145,8 @@ void Names::CheckCount(const Table& table) {
 
 void Names::TakeRecord(const Object& object) {
   Table& table = tables_.back();
-  ++table.records;
   const Tag* const name = FindTag(object, dxf::CODE_NAME);
+  if (name == nullptr || !IsUncounted(name->value)) ++table.records;
   if (name == nullptr) return;
   for (int i = 0; i < SpaceCount; ++i)
     if (SameName(SPACES[i].table, table.name)) defined_[static_cast<std::size_t>(i)].push_back(name->value);
