@@ -1,4 +1,7 @@
 // CheckTest.cpp - sound drawings, sections that a version needs, and files that are none.
+#include <algorithm>
+#include <random>
+
 #include "teskarlt/dxf/NewDrawing.h"
 #include "tests/check/Drawings.h"
 
@@ -43,6 +46,47 @@ TEST(CheckDrawing, SectionThatTheVersionNeedsIsMissed) {
     messages.push_back(finding.message);
   EXPECT_THAT(messages, testing::Contains("the section BLOCKS is missing; this is the last one"));
   EXPECT_THAT(messages, testing::Contains("the section OBJECTS is missing; this is the last one"));
+}
+
+// Damage of the kinds that happen to files: bytes that change, lines that are lost, ends that are lost.
+std::string RandomlyDamaged(std::string text, std::mt19937& random) {
+  const auto place = [&] { return std::uniform_int_distribution<std::size_t>(0, text.size() - 1)(random); };
+  switch (random() % 4) {
+    case 0:
+      text[place()] = static_cast<char>(random());
+      break;
+    case 1: {
+      const std::size_t begin = text.rfind('\n', place()) + 1;  // 0 behind npos
+      text.erase(begin, text.find('\n', begin) + 1 - begin);
+      break;
+    }
+    case 2:
+      text.resize(place() + 1);
+      break;
+    default:
+      text.insert(place(), 1, static_cast<char>("0\n A{"[random() % 5]));
+      break;
+  }
+  return text;
+}
+
+TEST(CheckDrawing, WhateverTheHostRefusesHasAnErrorOnALineOfTheFile) {
+  const std::string sound =
+      Sound(Line("100", "1001|FOREIGN|1002|{|1000|x|1011|1|1021|2|1031|3|1002|}|") + Line("101"));
+  std::mt19937 random(20);
+  for (int i = 0; i < 3000; ++i) {
+    const std::string text = RandomlyDamaged(sound, random);
+    const bool isRefused = !dxf::ErrorOf([&] { dxf::Parsed(text); }).empty();
+    const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+    try {
+      const Verdict verdict = Checked(text);
+      ASSERT_TRUE(!isRefused || verdict.errors > 0) << text;
+      for (const Finding& finding : verdict.findings)
+        ASSERT_TRUE(finding.line >= 1 && finding.line <= lines) << finding.message;
+    } catch (const Error&) {
+      ASSERT_TRUE(isRefused) << text;
+    }
+  }
 }
 
 TEST(CheckDrawing, FileThatIsNoDrawingIsRefused) {

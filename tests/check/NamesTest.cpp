@@ -73,7 +73,7 @@ TEST(Names, TableThatTheVersionNeedsIsMissedOnce) {
 }
 
 TEST(Names, RecordThatTheVersionNeedsIsMissedAtTheEndOfItsTable) {
-  EXPECT_THAT(Found(Damaged(Sound(), "2|ByBlock|70|0", "2|DOTS|70|0")),
+  EXPECT_THAT(Found(Damaged(Sound(), "2|Continuous|70|0", "2|DOTS|70|0")),
               ElementsAre("error record-missing ENDTAB"));
   EXPECT_THAT(Found(Damaged(Sound(), "2|ACAD|70|0", "2|OTHER|70|0")),
               ElementsAre("error record-missing ENDTAB"));
