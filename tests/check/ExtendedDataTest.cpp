@@ -29,6 +29,13 @@ TEST(CheckExtendedData, BracesAreBalancedWithinAnApplication) {
   EXPECT_THAT(FoundIn("1001|FOREIGN|1002|x|"), ElementsAre("error xdata-braces x"));
 }
 
+TEST(CheckExtendedData, PointHasAllOfItsCoordinates) {
+  EXPECT_THAT(FoundIn("1001|FOREIGN|1011|1|1021|2|1031|3|1011|4|1021|5|1031|6|"), IsEmpty());
+  EXPECT_THAT(FoundIn("1001|FOREIGN|1011|1|1021|2|1040|3|"), ElementsAre("error xdata-point 1"));
+  EXPECT_THAT(FoundIn("1001|FOREIGN|1010|1|1011|2|1021|3|1031|4|"), ElementsAre("error xdata-point 1"));
+  EXPECT_THAT(FoundIn("1001|FOREIGN|1011|1|"), ElementsAre("error xdata-point 1"));
+}
+
 TEST(CheckExtendedData, TextHasAtMost255BytesAsItStandsInTheFile) {
   EXPECT_THAT(FoundIn("1001|FOREIGN|1000|" + std::string(255, 'x') + "|"), IsEmpty());
   const std::string text = std::string(249, 'x') + "\\U+0159";

@@ -98,6 +98,12 @@ TEST(Names, NameWithAForbiddenCharacterIsDoubtful) {
               ElementsAre("warning record-name RO/OF"));
 }
 
+TEST(Names, NameOfAnOldDrawingHasNoBlank) {
+  EXPECT_THAT(Found(Damaged(Sound(), "2|ROOF|70|0", "2|ROOF TOP|70|0")), IsEmpty());
+  EXPECT_THAT(Found(Damaged(SoundOld(""), "2|ROOF|70|0", "2|ROOF TOP|70|0")),
+              ElementsAre("warning record-name ROOF TOP"));
+}
+
 TEST(Names, NameOfAnOldDrawingHasAtMost31Characters) {
   const std::string name(32, 'A');
   EXPECT_THAT(Found(Damaged(SoundOld(""), "2|ROOF|70|0", "2|" + name + "|70|0")),

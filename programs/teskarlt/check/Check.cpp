@@ -12,6 +12,7 @@
 #include "teskarlt/check/Entities.h"
 #include "teskarlt/check/ExtendedData.h"
 #include "teskarlt/check/Handles.h"
+#include "teskarlt/check/Linetypes.h"
 #include "teskarlt/check/Markers.h"
 #include "teskarlt/check/Names.h"
 #include "teskarlt/check/Texts.h"
@@ -86,6 +87,7 @@ class Checks {
     CheckValues(object, findings_);
     texts_.Take(object);
     entities_.Take(object);
+    CheckLinetype(object, header_, findings_);
     CheckMarkers(object, header_, findings_);
     CheckExtendedData(object, findings_);
     CheckWindowMarks(object, findings_);

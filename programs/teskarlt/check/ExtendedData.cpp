@@ -45,6 +45,7 @@ class ExtendedData {
   void Check() {
     for (const Tag& tag : object_.Extended())
       Take(tag);
+    EndPoint();
     CloseBraces();
     if (size_ > MOST_BYTES) {
       findings_.Error(Kind::ExtendedSize, object_.Extended().front().value.data(),
@@ -67,13 +68,15 @@ class ExtendedData {
       }
       isOutOfOrder_ = true;
     } else if (application_ == nullptr) {
-      if (!isNameless_)
+      if (!isNameless_) {
         Error(Kind::ExtendedWithoutApplication, tag,
               fmt::format("the extended data begin with the group {}, without an application (group 1001)",
                           tag.code));
+      }
       isNameless_ = true;
     }
     if (tag.code == CODE_BRACE) TakeBrace(tag);
+    TakePoint(tag);
     if (tag.code == dxf::CODE_XDATA_TEXT && tag.value.size() > dxf::LONGEST_EXTENDED_TEXT) {
       Error(Kind::ExtendedTextLength, tag,
             fmt::format("the text {} has {} bytes, and one of extended data at most {}", Quoted(tag.value),
@@ -92,6 +95,29 @@ class ExtendedData {
                         object_.type));
     }
     application_ = &tag;
+  }
+
+  // x, y and z of a point follow one another.
+  void TakePoint(const Tag& tag) {
+    constexpr int NEXT_COORDINATE = 10;
+    const bool isPoint = KindOfCode(tag.code) == ValueKind::Point;
+    if (wanted_ != 0 && tag.code != wanted_) {
+      Error(Kind::ExtendedPoint, *point_,
+            fmt::format("the group {} of this point should follow, not {}", wanted_, tag.code));
+    }
+    if (isPoint && tag.code >= dxf::CODE_XDATA_TEXT) {
+      point_ = &tag;
+      wanted_ = tag.code + NEXT_COORDINATE;
+    } else {
+      const bool wantsMore =
+          wanted_ != 0 && tag.code == wanted_ && tag.code == point_->code + NEXT_COORDINATE;
+      wanted_ = wantsMore ? tag.code + NEXT_COORDINATE : 0;
+    }
+  }
+
+  void EndPoint() {
+    if (wanted_ != 0)
+      Error(Kind::ExtendedPoint, *point_, fmt::format("the group {} of this point is missing", wanted_));
   }
 
   void TakeBrace(const Tag& tag) {
@@ -120,6 +146,8 @@ class ExtendedData {
   Findings& findings_;
   const Tag* application_ = nullptr;
   const Tag* brace_ = nullptr;  // the outermost one that is open
+  const Tag* point_ = nullptr;  // the x of the latest point
+  int wanted_ = 0;              // code of its next coordinate; 0: it is complete
   int depth_ = 0;
   std::size_t size_ = 0;
   bool isOutOfOrder_ = false;

@@ -39,6 +39,7 @@ constexpr std::string_view KIND_NAMES[] = {
     "record-missing",
     "record-twice",
     "record-name",
+    "linetype-pattern",
 
     "handle-missing",
     "handle-twice",
@@ -66,6 +67,7 @@ constexpr std::string_view KIND_NAMES[] = {
     "xdata-application-twice",
     "xdata-order",
     "xdata-braces",
+    "xdata-point",
     "xdata-text-length",
     "xdata-size",
 

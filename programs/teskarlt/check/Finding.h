@@ -47,6 +47,7 @@ enum class Kind {
   RecordMissing,
   RecordTwice,
   RecordName,
+  LinetypePattern,
   // Handles
   HandleMissing,
   HandleTwice,
@@ -74,6 +75,7 @@ enum class Kind {
   ExtendedApplicationTwice,
   ExtendedOrder,
   ExtendedBraces,
+  ExtendedPoint,
   ExtendedTextLength,
   ExtendedSize,
   // Roof windows

@@ -10,7 +10,6 @@
 namespace teskarlt::check {
 namespace {
 
-using dxf::Quoted;
 using dxf::Tag;
 
 constexpr int CODE_CONTROL = 102;

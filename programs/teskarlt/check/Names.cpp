@@ -91,6 +91,16 @@ bool IsUncounted(std::string_view name) {
          SameName(name.substr(0, PAPER_SPACES.size()), PAPER_SPACES);
 }
 
+bool IsAllowedInOldName(char byte) {
+  return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') ||
+         byte == '$' || byte == '_' || byte == '-' || byte == '|';
+}
+
+bool IsAllowedName(std::string_view name, int version) {
+  if (version < dxf::VERSION_R2000) return std::all_of(name.begin(), name.end(), IsAllowedInOldName);
+  return name.find_first_of(FORBIDDEN_IN_NAMES) == std::string_view::npos;
+}
+
 bool HasTextStyle(std::string_view type) {
   return type == "TEXT" || type == "MTEXT" || type == "ATTRIB" || type == "ATTDEF";
 }
@@ -161,7 +171,7 @@ void Names::TakeRecord(const Object& object) {
 void Names::CheckRecordName(const Object& object, const Tag& name) {
   if (!SameName(object.table, "LAYER") && !SameName(object.table, "LTYPE")) return;
   const std::size_t longest = header_.version < dxf::VERSION_R2000 ? LONGEST_OLD_NAME : LONGEST_NAME;
-  const bool isForbidden = name.value.find_first_of(FORBIDDEN_IN_NAMES) != std::string_view::npos;
+  const bool isForbidden = !IsAllowedName(name.value, header_.version);
   if (!isForbidden && !name.value.empty() && name.value.size() <= longest) return;
   findings_.Warning(
       Kind::RecordName, name.value.data(),
@@ -252,9 +262,10 @@ void Names::CheckRequired() {
     };
     if (table == tables_.end()) {
       // Once, by the first record that it would have.
-      if (&required == REQUIRED || (&required)[-1].table != required.table)
+      if (&required == REQUIRED || (&required)[-1].table != required.table) {
         findings_.Error(Kind::TableMissing, tablesEnd_,
                         fmt::format("the table {} is missing", required.table));
+      }
     } else if (!required.record.empty() && std::any_of(std::begin(SPACES), std::end(SPACES), missesRecord)) {
       findings_.Error(
           Kind::RecordMissing, table->end,

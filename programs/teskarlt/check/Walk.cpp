@@ -102,14 +102,11 @@ void Walk::ReportBadTag() {
   const std::string_view line = dxf::Trimmed({begin, static_cast<std::size_t>(stop - begin)});
   const bool isCode = !line.empty() && std::all_of(line.begin(), line.end(),
                                                    [](char byte) { return byte >= '0' && byte <= '9'; });
-  if (isCode && stop == end) {
+  if (isCode && (stop == end || stop + 1 == end)) {
     findings_.Error(Kind::FileCutShort, begin,
                     fmt::format("the file is cut short behind the group code {}", line));
   } else if (line.empty() && std::all_of(begin, end, IsBlank)) {
     findings_.Error(Kind::EndMissing, begin, "the file is cut short: EOF is missing at its end");
-  } else if (isCode && stop + 1 == end) {
-    findings_.Error(Kind::FileCutShort, begin,
-                    fmt::format("the file is cut short behind the group code {}", line));
   } else {
     findings_.Error(
         Kind::GroupCode, begin,
@@ -193,9 +190,10 @@ Place Walk::EnterSection() {
 }
 
 Place Walk::LeaveSection() {
-  if (sectionBegin_ == nullptr)
+  if (sectionBegin_ == nullptr) {
     findings_.Error(Kind::OutsideSection, tags_.front().value.data(),
                     "no section is open that could end here");
+  }
   CloseTable();
   CloseBlock();
   sectionBegin_ = nullptr;
