@@ -25,6 +25,16 @@ TEST(Names, EachIsToldOnceWithTheNumberOfItsUses) {
             "the layer \"ATTIC\" is not in the table LAYER; it is used 2 times, here first");
 }
 
+TEST(Names, AreToldInTheirOwnCharacters) {
+  const Verdict verdict = Checked(Damaged(Sound(Line("100")), "8|ROOF|100|AcDbLine",
+                                          "8|st\xF8"
+                                          "echa|100|AcDbLine"));
+  ASSERT_EQ(verdict.findings.size(), 1U);
+  EXPECT_EQ(verdict.findings[0].message,
+            "the layer \"st\xC5\x99"
+            "echa\" is not in the table LAYER; it is used here");
+}
+
 TEST(Names, LinetypeThatIsNotInTheTableIsAnError) {
   EXPECT_THAT(Found(Sound(Line("100", "6|DASHED|"))), ElementsAre("error linetype-undefined DASHED"));
   EXPECT_THAT(Found(SoundOld(OldLine("6|DASHED|"))), ElementsAre("error linetype-undefined DASHED"));

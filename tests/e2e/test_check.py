@@ -87,8 +87,8 @@ def test_findings_are_printed_with_their_lines_and_counted(teskarlt, tmp_path):
     answer = teskarlt("check", path)
     assert (answer.status, answer.stderr) == (1, "")
     assert answer.stdout == (
-        '1. line 10: warning: the layer "ATTIC" is not in the table LAYER; it is used here [layer-undefined]\n'
-        '2. line 12: error: "1,5" is not a finite number (group 10) [real-value]\n'
+        '1. line 10: warning: the layer "ATTIC" is not in the table LAYER; it is used here [layer-undefined, handle 2F]\n'
+        '2. line 12: error: "1,5" is not a finite number (group 10) [real-value, handle 2F]\n'
         f"{teskarlt.spelled(path)}: 1 error, 1 warning\n")
 
 

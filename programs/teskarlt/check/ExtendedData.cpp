@@ -20,7 +20,7 @@ constexpr int CODE_BINARY = 1004;
 // Bytes of one entity, over all applications.
 constexpr std::size_t MOST_BYTES = 16383;
 
-// Bytes that a programs keeps for a value: its code and what it stands for.
+// Bytes that a program keeps for a value: its code and what it stands for.
 std::size_t SizeOf(const Tag& tag) {
   constexpr std::size_t CODE_SIZE = 2;
   switch (KindOfCode(tag.code)) {
@@ -86,9 +86,11 @@ class ExtendedData {
 
   void TakeApplication(const Tag& tag) {
     const auto extended = object_.Extended();
-    const bool isKnown = std::any_of(extended.data(), &tag, [&](const Tag& before) {
-      return before.code == dxf::CODE_XDATA_APPLICATION && dxf::SameName(before.value, tag.value);
-    });
+    // Data without end are an error of their own, and not worth the time.
+    const bool isKnown =
+        size_ <= MOST_BYTES && std::any_of(extended.data(), &tag, [&](const Tag& before) {
+          return before.code == dxf::CODE_XDATA_APPLICATION && dxf::SameName(before.value, tag.value);
+        });
     if (isKnown) {
       Error(Kind::ExtendedApplicationTwice, tag,
             fmt::format("the application {} has its data in two places of the {}", Quoted(tag.value),

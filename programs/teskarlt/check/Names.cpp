@@ -91,6 +91,19 @@ bool IsUncounted(std::string_view name) {
          SameName(name.substr(0, PAPER_SPACES.size()), PAPER_SPACES);
 }
 
+// A name for a message, in the characters that people know it by.
+std::string Shown(const dxf::TextCodec& codec, std::string_view raw) {
+  if (raw.size() > LONGEST_NAME) return Quoted(raw);
+  try {
+    std::string shown = codec.Decode(raw);
+    std::replace_if(
+        shown.begin(), shown.end(), [](char byte) { return byte >= 0 && byte < ' '; }, '?');
+    return fmt::format("\"{}\"", shown);
+  } catch (const Error&) {
+    return Quoted(raw);
+  }
+}
+
 bool IsAllowedInOldName(char byte) {
   return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') ||
          byte == '$' || byte == '_' || byte == '-' || byte == '|';
@@ -232,8 +245,9 @@ void Names::FoldDefined(Space space, const dxf::TextCodec& codec) {
     const bool isNew = folded_[space].insert(Folded(codec, name)).second;
     // An empty name is that of a shape file, of which there can be many.
     if (isNew || name.empty()) continue;
-    findings_.Error(Kind::RecordTwice, name.data(),
-                    fmt::format("there is another {} {} before this one", SPACES[space].what, Quoted(name)));
+    findings_.Error(
+        Kind::RecordTwice, name.data(),
+        fmt::format("there is another {} {} before this one", SPACES[space].what, Shown(codec, name)));
   }
 }
 
@@ -244,7 +258,7 @@ void Names::CheckUses(Space space, const dxf::TextCodec& codec) {
     if (folded_[space].contains(folded) || IsImplied(SPACES[space].table, folded)) continue;
     findings_.Add(
         isTolerated ? Severity::Warning : Severity::Error, SPACES[space].undefined, use.place,
-        fmt::format("the {} {} is not in the {}; it is used {}", SPACES[space].what, Quoted(name),
+        fmt::format("the {} {} is not in the {}; it is used {}", SPACES[space].what, Shown(codec, name),
                     space == Block ? "section BLOCKS" : fmt::format("table {}", SPACES[space].table),
                     use.count == 1 ? "here" : fmt::format("{} times, here first", use.count)),
         use.handle);

@@ -59,11 +59,17 @@ std::string Counted(std::size_t count, const char* what) {
   return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
 }
 
+// Handles are how people find an entity in their CAD program.
+std::string KindAndHandle(const Finding& finding) {
+  const std::string_view kind = check::KindName(finding.kind);
+  return finding.handle == 0 ? std::string(kind) : fmt::format("{}, handle {:X}", kind, finding.handle);
+}
+
 void PrintVerdict(const Verdict& verdict, const std::string& file) {
   std::size_t number = 0;
   for (const Finding& finding : verdict.findings) {
     fmt::print("{}. line {}: {}: {} [{}]\n", ++number, finding.line, SeverityName(finding.severity),
-               finding.message, check::KindName(finding.kind));
+               finding.message, KindAndHandle(finding));
   }
   for (std::size_t kind = 0; kind < verdict.unlisted.size(); ++kind) {
     if (verdict.unlisted[kind] == 0) continue;
@@ -92,11 +98,10 @@ void AddCheckCommand(CLI::App& app, int& status) {
   command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
-      "Each finding comes with its line in the file and a name of its kind. An error is what makes a strict\n"
-      "program refuse or repair the drawing, or a roof window in it impossible to change; a warning is\n"
-      "doubtful, though programs are known to take it. Of one kind the first 1000 findings are listed and "
-      "all\n"
-      "are counted. A damaged drawing is checked as far as it can be read.\n"
+      "Each finding comes with its line in the file, a name of its kind and the handle of its object. An\n"
+      "error is what makes a strict program refuse or repair the drawing, or a roof window in it impossible\n"
+      "to change; a warning is doubtful, though programs are known to take it. Of one kind the first 1000\n"
+      "findings are listed and all are counted. A damaged drawing is checked as far as it can be read.\n"
       "Exit status: 0 no errors, perhaps warnings; 1 errors; 2 wrong usage.\n"
       "Examples:\n"
       "  teskarlt check house.dxf\n"
