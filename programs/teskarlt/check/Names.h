@@ -38,7 +38,7 @@ class Names {
 
   struct Table {
     std::string_view name;
-    const char* end;           // of its last record, so far
+    const char* end;           // its ENDTAB; while that is not known, its TABLE
     dxf::Tag count;            // of records, by its head; code 0 when the head does not say
     std::int64_t records = 0;  // that it has
   };

@@ -13,6 +13,7 @@
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/TagValue.h"
 
@@ -20,15 +21,6 @@ namespace teskarlt::check {
 namespace {
 
 constexpr std::string_view OUR_PREFIX = "TK_LT_";
-constexpr std::string_view ELEMENT_APPLICATION = "TK_LT_ELEM";
-constexpr std::string_view DESCRIPTION_APPLICATION = "TK_LT_DESC";
-constexpr std::string_view WINDOW_ELEMENT = "TKBRVA";
-
-// Entities of a window.
-constexpr std::size_t FACES_WITHOUT_SKIRT = 17;
-constexpr std::size_t FACES_WITH_SKIRT = 21;
-constexpr std::size_t LINES_WITHOUT_SYMBOL = 7;  // opening, upper edge of the frame and what joins them
-constexpr std::size_t LINES_WITH_SYMBOL = 12;    // frame and sash of the symbol, outline of the frame
 
 // Lines that each letter of the opening code adds to the symbol.
 struct Mark {
@@ -41,7 +33,7 @@ constexpr Mark MARKS[] = {{'B', 2}, {'C', 2}, {'D', 4}, {'E', 2}};
 struct Scene {
   const dxf::Document& drawing;
   const std::vector<DrawnWindow>& windows;
-  bool hasUnit;  // lengths of the windows' descriptions are metres
+  const DrawingUnit* unit;  // null when the header does not name it: lengths cannot be compared then
   Findings& findings;
 };
 
@@ -51,8 +43,8 @@ void Report(const Scene& scene, Kind kind, const DrawnWindow& window, std::strin
 }
 
 std::size_t LinesOf(const DrawnWindow& window) {
-  if (window.params.drawOpeningSymbol == 0) return LINES_WITHOUT_SYMBOL;
-  std::size_t lines = LINES_WITH_SYMBOL;
+  if (window.params.drawOpeningSymbol == 0) return LINES_OF_OPENING;
+  std::size_t lines = LINES_OF_SYMBOL + LINES_OF_OUTLINE;
   for (const Mark& mark : MARKS)
     if (window.openingCode.find(mark.letter) != std::string::npos) lines += mark.lines;
   return lines;
@@ -97,7 +89,7 @@ void CheckEntities(const Scene& scene) {
 }
 
 void CheckSizes(const Scene& scene) {
-  if (!scene.hasUnit) return;
+  if (scene.unit == nullptr) return;
   for (const DrawnWindow& window : scene.windows) {
     if (!window.isComplete || !HasAllEntities(window)) continue;
     try {
@@ -110,6 +102,14 @@ void CheckSizes(const Scene& scene) {
 
 // Whatever else can be wrong with windows and their roofs is one more function of this list.
 constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, CheckEntities, CheckSizes};
+
+const DrawingUnit* UnitOfHeader(const dxf::Document& drawing) {
+  try {
+    return &UnitOf(drawing, "");
+  } catch (const Error&) {
+    return nullptr;
+  }
+}
 
 bool IsWindowElement(std::span<const dxf::Tag> section) {
   for (const dxf::Tag& tag : section)
@@ -154,17 +154,11 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
 }
 
 void CheckWindows(const dxf::Document& drawing, Findings& findings) {
-  constexpr std::int32_t NO_UNIT = 1;
-  std::int32_t unitFactor = NO_UNIT;
-  bool hasUnit = true;
-  try {
-    unitFactor = UnitOf(drawing, "").perMetre;
-  } catch (const Error&) {
-    hasUnit = false;  // the header does not say it
-  }
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, unitFactor);
+  constexpr std::int32_t ANY_UNIT = 1;
+  const DrawingUnit* const unit = UnitOfHeader(drawing);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, unit == nullptr ? ANY_UNIT : unit->perMetre);
   for (const auto check : CHECKS)
-    check({drawing, windows, hasUnit, findings});
+    check({drawing, windows, unit, findings});
 }
 
 }  // namespace teskarlt::check
