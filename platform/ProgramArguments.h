@@ -7,6 +7,3 @@
 // The arguments behind the program's name, in UTF-8. On Windows they are taken from the system, since those
 // handed to main are in the system's code page.
 std::vector<std::string> ProgramArguments(int argc, char** argv);
-
-// Makes the terminal show UTF-8, where that has to be asked for.
-void UseUtf8Terminal();

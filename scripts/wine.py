@@ -12,7 +12,10 @@ def environment(build):
     if build not in _started:
         _started[build] = env
         quiet = {"env": env, "stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
-        subprocess.run(["wineserver", "-p"], **quiet)
+        # The server stays only where the folder is there before it. Without it every program starts and ends one of
+        # its own, which takes seconds and now and then meets the next program half way.
+        (build / "wine").mkdir(parents=True, exist_ok=True)
+        subprocess.run(["wineserver", "-p"], **quiet, check=True)
         # Makes the prefix when there is none, and keeps the server's first start out of the tests' time.
         subprocess.run(["wine", "wineboot", "--init"], **quiet, timeout=300)
     return env

@@ -4,5 +4,3 @@
 std::vector<std::string> ProgramArguments(int argc, char** argv) {
   return {argv + 1, argv + argc};
 }
-
-void UseUtf8Terminal() {}

@@ -19,7 +19,3 @@ std::vector<std::string> ProgramArguments(int /*argc*/, char** /*argv*/) {
   LocalFree(wide);
   return arguments;
 }
-
-void UseUtf8Terminal() {
-  SetConsoleOutputCP(CP_UTF8);
-}

@@ -1,8 +1,9 @@
 // main.cpp - the stand-alone host of the roof window module.
 #include "platform/ProgramArguments.h"
+#include "platform/Terminal.h"
 #include "teskarlt/commands/CommandLine.h"
 
 int main(int argc, char** argv) {
-  UseUtf8Terminal();
+  platform::UseUtf8Terminal();
   return teskarlt::RunCommandLine(ProgramArguments(argc, argv));
 }

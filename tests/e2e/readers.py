@@ -1,7 +1,10 @@
 # readers.py - what independent programs read from a drawing.
 import difflib
 import json
+import os
+import re
 import subprocess
+import zlib
 
 import ezdxf
 
@@ -32,6 +35,26 @@ def gdal_extended_data(path):
         if items:
             found[entity["EntityHandle"]] = items
     return found
+
+
+def librecad_plot(path, folder):
+    """The strokes of a drawing's plan as LibreCAD prints it, fitted to a page: a list of ((x, y), (x, y)) in dots of
+    the page, y upwards."""
+    page = folder / f"{path.stem}.pdf"
+    subprocess.run(["librecad", "dxf2pdf", "-a", "-m", "-o", str(page), str(path)], capture_output=True, check=True,
+                   timeout=60, env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+    strokes, start = [], None
+    for stream in re.findall(rb"stream\r?\n(.*?)endstream", page.read_bytes(), re.DOTALL):
+        try:
+            content = zlib.decompress(stream).decode("ascii").partition("W* n")[2]  # behind the page's own frame
+        except (zlib.error, UnicodeDecodeError):
+            continue  # a font or a picture
+        for x, y, operator in re.findall(r"(-?[\d.]+) (-?[\d.]+) ([ml])\n", content):
+            point = (float(x), -float(y))
+            if operator == "l":
+                strokes.append((start, point))
+            start = point
+    return strokes
 
 
 def handles(path):

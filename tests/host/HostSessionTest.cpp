@@ -56,7 +56,8 @@ TEST_F(HostSessionTest, AnswersAreCutToTheBufferButTheirLengthIsToldWhole) {
 }
 
 TEST_F(HostSessionTest, LowestFreeNumberIsGiven) {
-  request.numbersInUse = {1, 2, 5};
+  const WindowNumbers numbers{1, 2, 5};
+  request.numbersInUse = &numbers;
   HostSession session(drawing, request);
   DialogServices& services = *session.Services();
   EXPECT_EQ(services.freeNumber(services.context), 3);

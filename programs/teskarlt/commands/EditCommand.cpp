@@ -88,8 +88,10 @@ void RunEdit(const EditOptions& options) {
   request.unitFactor = unit.perMetre;
   request.edited = RecordOf(drawing, window);
   request.replaced = window.entities;
-  request.numbersInUse = NumbersOf(windows);
-  TakeAnswers(options.window, drawing, request);
+  const WindowNumbers numbers = NumbersOf(windows);
+  request.numbersInUse = &numbers;
+  Catalogues catalogues;
+  TakeAnswers(options.window, drawing, catalogues, request);
   const bool moves = request.point || !options.window.roof.empty() || !options.window.roofFace.empty() ||
                      request.answers.count("roofPlanePoints") != 0;
   if (!request.point) request.point = {request.edited->storedPoint.x, request.edited->storedPoint.y};

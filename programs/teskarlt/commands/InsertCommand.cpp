@@ -7,28 +7,19 @@
 #include <fmt/format.h>
 
 #include "inc/RecordFields.h"
+#include "teskarlt/commands/InsertJobs.h"
 #include "teskarlt/commands/Report.h"
+#include "teskarlt/commands/WindowInserter.h"
 #include "teskarlt/commands/WindowOptions.h"
-#include "teskarlt/drawing/DrawnWindow.h"
-#include "teskarlt/drawing/RoofSearch.h"
-#include "teskarlt/host/WindowModule.h"
 
 namespace teskarlt {
 
 namespace {
 
 void RunInsert(const WindowOptions& options) {
-  const WindowModule module;
-  dxf::Document drawing = dxf::Document::Load(options.file);
-  const DrawingUnit& unit = TakeUnit(options, drawing);
-  const std::vector<RoofFace> faces = FindRoofFaces(drawing, RoofTolerance(unit));
-
-  WindowRequest request;
-  request.unitFactor = unit.perMetre;
-  TakeAnswers(options, drawing, request);
-  const RoofFace* face = TakeRoof(options, faces, RoofTolerance(unit), request);
-  request.numbersInUse = NumbersOf(FindWindows(drawing, unit.perMetre));
-  SaveAndReport(options, drawing, module.Insert(drawing, request), face);
+  WindowInserter inserter(options);
+  const InsertedWindow window = inserter.Insert(options);
+  SaveAndReport(options, inserter.Drawing(), window.outcome, window.face);
 }
 
 void PrintFields() {
@@ -44,8 +35,19 @@ void PrintFields() {
 void AddInsertCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("insert", "Insert a roof window");
   const auto options = std::make_shared<WindowOptions>();
+  const auto jobs = std::make_shared<JobsOptions>();
   command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
   AddWindowOptions(*command, *options);
+  CLI::Option* jobsFile =
+      command
+          ->add_option("--jobs", jobs->file,
+                       "many windows: a JSON object a line with \"at\", \"roof-face\", \"roof\", \"window\", "
+                       "\"catalogue\", \"set\"; - reads standard input")
+          ->type_name("FILE")
+          ->check(NotEmpty)
+          ->excludes(command->get_option("--at"));
+  command->add_flag("--keep-going", jobs->keepGoing, "write the other windows when some jobs are refused")
+      ->needs(jobsFile);
   command->add_flag_callback(
       "--fields",
       [] {
@@ -60,8 +62,17 @@ void AddInsertCommand(CLI::App& app) {
       "  teskarlt insert house.dxf --at 3000,2000 -o out.dxf\n"
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
       "  teskarlt insert house.dxf --at 3000,2000 --window \"OL 94x140\" --catalogue examples/BREVANTA.LIB\n"
-      "  teskarlt insert house.dxf --at 3000,2000 --roof-face 100 --set lowerEdgeHeight=4.2");
-  command->callback([options] { RunInsert(*options); });
+      "  teskarlt insert house.dxf --at 3000,2000 --roof-face 100 --set lowerEdgeHeight=4.2\n"
+      "  teskarlt insert house.dxf --jobs windows.jsonl --set frameWidth=0.1\n"
+      "A line of windows.jsonl; options beside --jobs hold where a line does not say otherwise:\n"
+      "  {\"at\": [3000, 2000], \"set\": {\"width\": 0.78, \"openingCode\": \"D\"}}");
+  command->callback([options, jobs] {
+    if (jobs->file.empty()) {
+      RunInsert(*options);
+    } else {
+      RunInsertJobs(*options, *jobs);
+    }
+  });
 }
 
 }  // namespace teskarlt

@@ -48,8 +48,12 @@ void TakeSetting(const std::string& setting, const dxf::Document& drawing, Windo
 }
 
 // The catalogue's item that the user named, in the drawing's code page.
-void TakeWindow(const WindowOptions& options, const dxf::Document& drawing, WindowRequest& request) {
-  const Catalogue catalogue = ReadCatalogue(options.catalogue.empty() ? DataFolder() : options.catalogue);
+void TakeWindow(const WindowOptions& options, const dxf::Document& drawing, Catalogues& catalogues,
+                WindowRequest& request) {
+  const auto [known, isNew] = catalogues.try_emplace(options.catalogue);
+  Catalogue& catalogue = known->second;
+  if (isNew || catalogue.sections.empty())
+    catalogue = ReadCatalogue(options.catalogue.empty() ? DataFolder() : options.catalogue);
   const CatalogueItem& item = ChooseItem(catalogue, options.window);
   try {
     request.answers[brevanta::ANSWER_CATALOGUE_ITEM] = drawing.ToCodePage(CatalogueText(item.line));
@@ -86,17 +90,9 @@ const RoofFace& ChooseFace(const WindowOptions& options, const WindowRequest& re
 
 nlohmann::ordered_json ToJson(const WindowOptions& options, const CommandOutcome& outcome,
                               const RoofFace* face, const std::string& target) {
-  const brevanta::WindowParams& window = *outcome.confirmed;
   nlohmann::ordered_json json;
   json["version"] = JSON_VERSION;
-  json["number"] = window.markerValue;
-  json["face"] = face == nullptr ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(face->name);
-  json["pitch"] = window.pitch;
-  json["place"] = {window.storedPoint.x, window.storedPoint.y, window.storedPoint.z};
-  json["lowerEdgeHeight"] = window.lowerEdgeHeight;
-  json["unitFactor"] = window.unitFactor;
-  json["faces"] = outcome.faces;
-  json["lines"] = outcome.lines;
+  json.update(WindowJson(outcome, face));
   json["file"] = options.dryRun ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(target);
   json["dryRun"] = options.dryRun;
   return json;
@@ -165,8 +161,9 @@ const DrawingUnit& TakeUnit(const WindowOptions& options, dxf::Document& drawing
   return unit;
 }
 
-void TakeAnswers(const WindowOptions& options, const dxf::Document& drawing, WindowRequest& request) {
-  if (!options.window.empty()) TakeWindow(options, drawing, request);
+void TakeAnswers(const WindowOptions& options, const dxf::Document& drawing, Catalogues& catalogues,
+                 WindowRequest& request) {
+  if (!options.window.empty()) TakeWindow(options, drawing, catalogues, request);
   for (const std::string& setting : options.settings)
     TakeSetting(setting, drawing, request);
   if (!options.at.empty()) request.point = ParsePlanPoint("--at", options.at);
@@ -198,9 +195,27 @@ void BoundByFace(const RoofFace& face, const std::vector<RoofFace>& faces, doubl
   request.isBounded = true;
 }
 
+nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace* face) {
+  const brevanta::WindowParams& window = *outcome.confirmed;
+  nlohmann::ordered_json json;
+  json["number"] = window.markerValue;
+  json["face"] = face == nullptr ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(face->name);
+  json["pitch"] = window.pitch;
+  json["place"] = {window.storedPoint.x, window.storedPoint.y, window.storedPoint.z};
+  json["lowerEdgeHeight"] = window.lowerEdgeHeight;
+  json["unitFactor"] = window.unitFactor;
+  json["faces"] = outcome.faces;
+  json["lines"] = outcome.lines;
+  return json;
+}
+
+const std::string& TargetOf(const WindowOptions& options) {
+  return options.output.empty() ? options.file : options.output;
+}
+
 void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
                    const RoofFace* face) {
-  const std::string target = options.output.empty() ? options.file : options.output;
+  const std::string& target = TargetOf(options);
   if (!options.dryRun) drawing.Save(target);
   if (options.asJson) {
     PrintJson(ToJson(options, outcome, face, target));

@@ -1,9 +1,13 @@
 // WindowOptions.h - what the command lines that insert and change a window have in common.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
+#include <nlohmann/json_fwd.hpp>
+
+#include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/Document.h"
@@ -36,8 +40,13 @@ void AddWindowOptions(CLI::App& command, WindowOptions& options);
 // it.
 const DrawingUnit& TakeUnit(const WindowOptions& options, dxf::Document& drawing);
 
-// The values of the window and the picked point into the request. Throws Error, naming the option.
-void TakeAnswers(const WindowOptions& options, const dxf::Document& drawing, WindowRequest& request);
+// Catalogues that were read, by the names that the user gave.
+using Catalogues = std::map<std::string, Catalogue>;
+
+// The values of the window and the picked point into the request. A catalogue that the options need is taken
+// from `catalogues`, and read into them the first time. Throws Error, naming the option.
+void TakeAnswers(const WindowOptions& options, const dxf::Document& drawing, Catalogues& catalogues,
+                 WindowRequest& request);
 
 // The roof of the request from the options and its point; the face that was chosen, null when the user gave
 // points. `tolerance` is in drawing units; the result is one of `faces`.
@@ -47,6 +56,12 @@ const RoofFace* TakeRoof(const WindowOptions& options, const std::vector<RoofFac
 // Puts the face and those that continue its plane into the request.
 void BoundByFace(const RoofFace& face, const std::vector<RoofFace>& faces, double tolerance,
                  WindowRequest& request);
+
+// The window that came into the drawing, for programs; `face` is null where the user gave the plane.
+nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace* face);
+
+// The file that is written.
+const std::string& TargetOf(const WindowOptions& options);
 
 // Saves the drawing, unless it is a dry run, and tells what became of the window.
 void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,

@@ -204,10 +204,10 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
   return windows;
 }
 
-std::set<std::int32_t> NumbersOf(const std::vector<DrawnWindow>& windows) {
-  std::set<std::int32_t> numbers;
+WindowNumbers NumbersOf(const std::vector<DrawnWindow>& windows) {
+  WindowNumbers numbers;
   for (const DrawnWindow& window : windows)
-    numbers.insert(window.number);
+    numbers.Take(window.number);
   return numbers;
 }
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "inc/WindowParams.h"
+#include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
@@ -33,6 +33,6 @@ bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity);
 std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor);
 
 // The numbers of the windows.
-std::set<std::int32_t> NumbersOf(const std::vector<DrawnWindow>& windows);
+WindowNumbers NumbersOf(const std::vector<DrawnWindow>& windows);
 
 }  // namespace teskarlt

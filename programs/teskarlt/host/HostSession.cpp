@@ -55,16 +55,17 @@ struct ServiceCalls {
     return static_cast<std::int32_t>(face.size());
   }
 
-  static std::int32_t NumberInUse(void* context, std::int32_t number) {
-    return Session(context).request_.numbersInUse.count(number) != 0 ? 1 : 0;
+  static const WindowNumbers& Numbers(void* context) {
+    static const WindowNumbers none;
+    const WindowNumbers* numbers = Session(context).request_.numbersInUse;
+    return numbers == nullptr ? none : *numbers;
   }
 
-  static std::int32_t FreeNumber(void* context) {
-    std::int32_t number = 1;
-    while (NumberInUse(context, number) != 0)
-      ++number;
-    return number;
+  static std::int32_t NumberInUse(void* context, std::int32_t number) {
+    return Numbers(context).IsTaken(number) ? 1 : 0;
   }
+
+  static std::int32_t FreeNumber(void* context) { return Numbers(context).Free(); }
 
   static std::int32_t ReadWindow(void* context, brevanta::WindowParams* record) {
     const std::optional<brevanta::WindowParams>& edited = Session(context).request_.edited;

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -14,6 +13,7 @@
 #include "inc/DialogServices.h"
 #include "inc/HostFunctionTable.h"
 #include "inc/WindowParams.h"
+#include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
@@ -26,7 +26,7 @@ struct WindowRequest {
   std::optional<std::array<double, 2>> point;               // x and y in the plan
   std::vector<std::vector<geometry::Vec3>> faces;           // the roof; the chosen face first
   bool isBounded = false;                                   // the window must stay inside the faces
-  std::set<std::int32_t> numbersInUse;                      // windows of the drawing
+  const WindowNumbers* numbersInUse = nullptr;              // of the windows in the drawing; null: none
   std::optional<brevanta::WindowParams> edited;             // the window that is changed
   std::vector<const dxf::Entity*> replaced;                 // its entities, or those of one to erase
 };

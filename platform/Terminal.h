@@ -1,0 +1,14 @@
+// Terminal.h - the terminal that the program was started in.
+#pragma once
+
+#include <cstdio>
+
+namespace platform {
+
+// True when the stream goes to a terminal that a person looks at.
+bool IsTerminal(std::FILE* stream);
+
+// Makes the terminal show UTF-8, where that has to be asked for.
+void UseUtf8Terminal();
+
+}  // namespace platform

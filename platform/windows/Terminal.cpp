@@ -1,0 +1,18 @@
+// Terminal.cpp - the console on Windows.
+#include "platform/Terminal.h"
+
+#include <windows.h>
+
+#include <io.h>
+
+namespace platform {
+
+bool IsTerminal(std::FILE* stream) {
+  return _isatty(_fileno(stream)) != 0;
+}
+
+void UseUtf8Terminal() {
+  SetConsoleOutputCP(CP_UTF8);
+}
+
+}  // namespace platform
