@@ -6,6 +6,7 @@ import pathlib
 import subprocess
 
 TIME_LIMIT = 120  # seconds
+WRITING = ("new", "insert", "edit", "erase")  # the commands that write drawings
 
 
 @dataclasses.dataclass
@@ -45,7 +46,12 @@ class Program:
         return Answer(done.returncode, *texts)
 
     def done(self, *arguments, **options):
-        """Runs the program and expects that it did what was asked."""
+        """Runs the program and expects that it did what was asked, and that nothing is wrong with what it wrote."""
         answer = self(*arguments, **options)
         assert answer.status == 0, f"status {answer.status}\n{answer.stdout}{answer.stderr}"
+        if arguments[0] in WRITING and not self.windows:  # the bytes are the same there, and Wine is slow
+            for path in arguments[1:]:
+                if isinstance(path, pathlib.Path) and path.suffix == ".dxf" and path.is_file():
+                    verdict = self("check", path)
+                    assert verdict.status == 0, verdict.stdout + verdict.stderr
         return answer

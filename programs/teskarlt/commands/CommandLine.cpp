@@ -10,6 +10,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/commands/CatalogueCommand.h"
+#include "teskarlt/commands/CheckCommand.h"
 #include "teskarlt/commands/EditCommand.h"
 #include "teskarlt/commands/EraseCommand.h"
 #include "teskarlt/commands/InsertCommand.h"
@@ -35,10 +36,12 @@ constexpr const char* EXAMPLES =
     "  teskarlt insert house.dxf --at 3000,2000 -o house-with-window.dxf\n"
     "  teskarlt list house-with-window.dxf\n"
     "  teskarlt preview house-with-window.dxf -o house.html\n"
+    "  teskarlt check house-with-window.dxf\n"
     "\n"
     "Exit status: 0 done, 1 refused or failed with nothing changed, 2 wrong usage.";
 
-void AddCommands(CLI::App& app) {
+// A command that has done its work and still has to say no sets `status`.
+void AddCommands(CLI::App& app, int& status) {
   app.require_subcommand(1);
   app.set_version_flag("-V,--version", VERSION);
   app.footer(EXAMPLES);
@@ -51,6 +54,7 @@ void AddCommands(CLI::App& app) {
   AddEditCommand(app);
   AddEraseCommand(app);
   AddListCommand(app);
+  AddCheckCommand(app, status);
   AddPreviewCommand(app);
   AddNewCommand(app);
   AddCatalogueCommand(app);
@@ -67,11 +71,12 @@ void FinishOutput() {
 
 int RunCommandLine(const std::vector<std::string>& arguments) {
   CLI::App app(ABOUT, "teskarlt");
-  AddCommands(app);
+  int status = EXIT_DONE;
+  AddCommands(app, status);
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     FinishOutput();
-    return EXIT_DONE;
+    return status;
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? EXIT_DONE : EXIT_USAGE;
   } catch (const std::bad_alloc&) {

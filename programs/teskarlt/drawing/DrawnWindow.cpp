@@ -7,6 +7,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/TagValue.h"
 
 namespace teskarlt {
@@ -15,10 +16,6 @@ namespace {
 
 using brevanta::RecordPoint;
 using brevanta::WindowParams;
-
-constexpr std::string_view ELEMENT_APPLICATION = "TK_LT_ELEM";
-constexpr std::string_view DESCRIPTION_APPLICATION = "TK_LT_DESC";
-constexpr std::string_view WINDOW_ELEMENT = "TKBRVA";
 
 constexpr int XDATA_POINT = 1011;
 constexpr int XDATA_REAL = 1040;

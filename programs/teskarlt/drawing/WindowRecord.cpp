@@ -10,6 +10,7 @@
 
 #include "geometry/Intersections.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/TagValue.h"
 
 namespace teskarlt {
@@ -19,10 +20,6 @@ namespace {
 using brevanta::WindowParams;
 using geometry::Vec3;
 
-constexpr std::size_t FACES_WITHOUT_SKIRT = 17;
-constexpr std::size_t FACES_WITH_SKIRT = 21;
-constexpr std::size_t LINES_OF_OUTLINE = 4;     // behind the symbol: the frame's outline
-constexpr std::size_t LINES_OF_OPENING = 7;     // without a symbol: opening, top edge of the frame, cross
 constexpr std::size_t TOP_EDGE_OF_OUTLINE = 1;  // which of those lines the frame's upper edge is
 constexpr std::size_t TOP_EDGE_OF_OPENING = 4;
 constexpr double SAME_LENGTH = 0.001;  // metres

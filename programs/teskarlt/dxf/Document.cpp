@@ -122,7 +122,11 @@ Document Document::FromText(const std::string& name, std::string_view text) {
   platform::FileBytes bytes;
   bytes.bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
   bytes.size = text.copy(bytes.bytes.get(), text.size());
-  return Document(std::make_unique<State>(SourceText(name, std::move(bytes)), platform::FileState()));
+  return FromSource(SourceText(name, std::move(bytes)));
+}
+
+Document Document::FromSource(SourceText source) {
+  return Document(std::make_unique<State>(std::move(source), platform::FileState()));
 }
 
 const std::string& Document::FileName() const {

@@ -27,6 +27,7 @@ class Document {
   static Document Load(const std::string& path);
   // `name` stands for the file in messages.
   static Document FromText(const std::string& name, std::string_view text);
+  static Document FromSource(SourceText source);
 
   Document(Document&&) noexcept;
   Document& operator=(Document&&) noexcept;

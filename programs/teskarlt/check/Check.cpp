@@ -1,0 +1,142 @@
+// Check.cpp - takes a drawing through all checks, in one pass over its tags.
+#include "teskarlt/check/Check.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/check/Entities.h"
+#include "teskarlt/check/ExtendedData.h"
+#include "teskarlt/check/Handles.h"
+#include "teskarlt/check/Linetypes.h"
+#include "teskarlt/check/Markers.h"
+#include "teskarlt/check/Names.h"
+#include "teskarlt/check/Texts.h"
+#include "teskarlt/check/Values.h"
+#include "teskarlt/check/Walk.h"
+#include "teskarlt/check/Windows.h"
+#include "teskarlt/dxf/Document.h"
+#include "teskarlt/dxf/FileKind.h"
+#include "teskarlt/dxf/TagValue.h"
+
+namespace teskarlt::check {
+namespace {
+
+constexpr std::string_view VERSION_PREFIX = "AC";
+
+// From R2000 on. Programs do without CLASSES when the drawing holds nothing that needs it.
+constexpr std::string_view REQUIRED_SECTIONS[] = {"HEADER", "TABLES", "BLOCKS", "OBJECTS"};
+
+void TakeVariable(std::string_view name, const dxf::Tag& value, Header& header) {
+  if (name == "$ACADVER" && value.value.starts_with(VERSION_PREFIX)) {
+    const auto number = dxf::ParseInteger(value.value.substr(VERSION_PREFIX.size()));
+    header.version = std::max(static_cast<int>(number.value_or(dxf::VERSION_R12)), dxf::VERSION_R12);
+    header.saysVersion = true;
+  } else if (name == "$DWGCODEPAGE") {
+    header.codePage = dxf::Trimmed(value.value);
+  } else if (name == "$HANDSEED") {
+    header.handleSeed = value;
+  }
+}
+
+Header ReadHeader(const Object& section) {
+  Header header;
+  std::string_view variable;
+  for (const dxf::Tag& tag : section.tags) {
+    if (tag.code == dxf::CODE_VARIABLE) {
+      variable = dxf::Trimmed(tag.value);
+    } else if (!variable.empty()) {
+      TakeVariable(variable, tag, header);
+      variable = {};
+    }
+  }
+  return header;
+}
+
+class Checks {
+ public:
+  Checks(const dxf::SourceText& source, Findings& findings)
+      : walk_(source, findings),
+        findings_(findings),
+        texts_(header_, findings),
+        handles_(header_, findings),
+        names_(header_, findings),
+        entities_(findings) {}
+
+  void Run() {
+    for (Object object; walk_.Next(object);)
+      Take(object);
+    if (walk_.IsDamaged()) return;  // what is missing may only be out of sight
+    entities_.Finish();
+    handles_.Finish();
+    names_.Finish();
+    CheckSections();
+  }
+
+ private:
+  void Take(const Object& object) {
+    if (object.place == Place::Section) {
+      sections_.push_back(object.section);
+      sectionsEnd_ = object.Begin();
+      if (dxf::SameName(object.section, "HEADER")) header_ = ReadHeader(object);
+    }
+    CheckValues(object, findings_);
+    texts_.Take(object);
+    entities_.Take(object);
+    CheckLinetype(object, header_, findings_);
+    CheckMarkers(object, header_, findings_);
+    CheckExtendedData(object, findings_);
+    CheckWindowMarks(object, findings_);
+    handles_.Take(object);
+    names_.Take(object);
+  }
+
+  void CheckSections() {
+    if (header_.version < dxf::VERSION_R2000) return;
+    for (const std::string_view required : REQUIRED_SECTIONS) {
+      const bool isThere = std::any_of(sections_.begin(), sections_.end(),
+                                       [&](std::string_view name) { return dxf::SameName(name, required); });
+      if (!isThere) {
+        findings_.Error(Kind::SectionMissing, sectionsEnd_,
+                        fmt::format("the section {} is missing; this is the last one", required));
+      }
+    }
+  }
+
+  Walk walk_;
+  Findings& findings_;
+  Header header_;
+  Texts texts_;
+  Handles handles_;
+  Names names_;
+  Entities entities_;
+  std::vector<std::string_view> sections_;
+  const char* sectionsEnd_ = nullptr;
+};
+
+}  // namespace
+
+Verdict CheckDrawing(dxf::SourceText source) {
+  dxf::RefuseOtherFiles(source);
+  Findings findings;
+  Checks(source, findings).Run();
+  Verdict verdict = findings.Finish(source.Text());
+  try {
+    const dxf::Document drawing = dxf::Document::FromSource(std::move(source));
+    Findings ofWindows;
+    CheckWindows(drawing, ofWindows);
+    Merge(ofWindows.Finish(drawing.Source().Text()), verdict);
+  } catch (const Error& error) {
+    // Most often for damage that has been found already.
+    if (verdict.errors > 0) return verdict;
+    verdict.findings.push_back({1, Severity::Error, Kind::DrawingRefused, 0, error.what()});
+    ++verdict.errors;
+  }
+  return verdict;
+}
+
+}  // namespace teskarlt::check

@@ -1,0 +1,16 @@
+// Check.h - tells what strict programs find wrong with a drawing.
+#pragma once
+
+#include <string>
+
+#include "teskarlt/check/Findings.h"
+#include "teskarlt/dxf/SourceText.h"
+
+namespace teskarlt::check {
+
+// Everything that is wrong with a drawing, roof windows included. A drawing that teskarlt otherwise refuses
+// to read is checked as far as it can be read; throws Error only for a file that is no text drawing at all.
+// The time is linear in the size of the file.
+Verdict CheckDrawing(dxf::SourceText source);
+
+}  // namespace teskarlt::check

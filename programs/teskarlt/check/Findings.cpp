@@ -1,0 +1,45 @@
+// Findings.cpp - sorts findings by place and counts their lines.
+#include "teskarlt/check/Findings.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace teskarlt::check {
+
+void Findings::Add(Severity severity, Kind kind, const char* place, std::string message,
+                   std::uint64_t handle) {
+  ++(severity == Severity::Error ? errors_ : warnings_);
+  if (++counts_[static_cast<std::size_t>(kind)] > MOST_OF_A_KIND) return;
+  placed_.push_back({place, {0, severity, kind, handle, std::move(message)}});
+}
+
+Verdict Findings::Finish(std::string_view text) {
+  std::stable_sort(placed_.begin(), placed_.end(),
+                   [](const Placed& a, const Placed& b) { return a.place < b.place; });
+  Verdict verdict;
+  verdict.errors = errors_;
+  verdict.warnings = warnings_;
+  for (std::size_t i = 0; i < counts_.size(); ++i)
+    verdict.unlisted[i] = counts_[i] - std::min(counts_[i], MOST_OF_A_KIND);
+  const char* counted = text.data();
+  std::size_t line = 1;
+  for (Placed& placed : placed_) {
+    line += static_cast<std::size_t>(std::count(counted, placed.place, '\n'));
+    counted = placed.place;
+    placed.finding.line = line;
+    verdict.findings.push_back(std::move(placed.finding));
+  }
+  return verdict;
+}
+
+void Merge(Verdict later, Verdict& verdict) {
+  std::move(later.findings.begin(), later.findings.end(), std::back_inserter(verdict.findings));
+  std::stable_sort(verdict.findings.begin(), verdict.findings.end(),
+                   [](const Finding& a, const Finding& b) { return a.line < b.line; });
+  verdict.errors += later.errors;
+  verdict.warnings += later.warnings;
+  for (std::size_t i = 0; i < verdict.unlisted.size(); ++i)
+    verdict.unlisted[i] += later.unlisted[i];
+}
+
+}  // namespace teskarlt::check

@@ -1,0 +1,77 @@
+// Handles.h - checks that handles are there, unique and below the seed, and that references lead somewhere.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "teskarlt/check/Findings.h"
+#include "teskarlt/check/Object.h"
+
+namespace teskarlt::check {
+
+class Handles {
+ public:
+  // `header` must outlive this and be filled before the first object.
+  Handles(const Header& header, Findings& findings) : header_(header), findings_(findings) {}
+
+  void Take(const Object& object);
+
+  // What can be told only when all objects are known.
+  void Finish();
+
+ private:
+  // What an object can be the owner of, or stand for in a reference.
+  enum class Role : std::uint8_t { Plain, BlockRecord, Sequence, Table };
+
+  // What a reference is, and so what it has to lead to.
+  enum class Use : std::uint8_t {
+    EntityOwner,
+    PartOwner,  // of vertices, attributes and what ends them
+    RecordOwner,
+    ObjectOwner,
+    GroupMember,
+    DictionaryEntry,
+    Reactor,
+    ExtensionDictionary,
+    DrawOrder,
+    PlotStyle,
+  };
+
+  struct Known {
+    std::uint64_t handle;
+    const char* place;
+    std::string_view type;
+    Role role;
+  };
+
+  struct Reference {
+    std::uint64_t handle;
+    std::uint64_t from;  // handle of the object that refers
+    const char* place;
+    Use use;
+  };
+
+  void TakeHandle(const Object& object);
+  void TakeReferences(const Object& object);
+  void TakeReference(const Object& object, const dxf::Tag& tag, std::string_view control);
+  void TakeOwner(const Object& object, const dxf::Tag& owner);
+  void Refer(const Object& object, const dxf::Tag& tag, Use use);
+  static Role RoleOf(const Object& object);
+  static Use OwnerUse(const Object& object);
+
+  void CheckUnique();
+  void CheckSeed();
+  void CheckReference(const Reference& reference);
+  void CheckOwner(const Reference& reference, const Known& owner);
+  static Kind KindOfUse(Use use);
+  static std::string_view NameOfUse(Use use);
+
+  const Header& header_;
+  Findings& findings_;
+  std::vector<Known> known_;
+  std::vector<Reference> references_;
+  bool hasRoot_ = false;  // the first object, which nothing owns
+};
+
+}  // namespace teskarlt::check

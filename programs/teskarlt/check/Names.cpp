@@ -1,0 +1,291 @@
+// Names.cpp - names in use against names in tables.
+#include "teskarlt/check/Names.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/dxf/TagValue.h"
+
+namespace teskarlt::check {
+namespace {
+
+using dxf::Quoted;
+using dxf::SameName;
+using dxf::Tag;
+
+constexpr int CODE_DIMENSION_STYLE = 3;
+constexpr int CODE_TEXT_STYLE = 7;
+
+// Of each space, in the order of the enumeration.
+struct SpaceInfo {
+  std::string_view table;
+  std::string_view what;
+  Kind undefined;
+};
+
+constexpr SpaceInfo SPACES[] = {
+    {"LAYER", "layer", Kind::LayerUndefined},
+    {"LTYPE", "linetype", Kind::LinetypeUndefined},
+    {"STYLE", "text style", Kind::TextStyleUndefined},
+    {"DIMSTYLE", "dimension style", Kind::DimensionStyleUndefined},
+    {"", "block", Kind::BlockUndefined},
+    {"BLOCK_RECORD", "block", Kind::BlockUndefined},
+    {"APPID", "application", Kind::ApplicationUndefined},
+};
+
+struct Required {
+  std::string_view table;
+  std::string_view record;  // empty: the table may be empty
+};
+
+// From R2000 on.
+constexpr Required REQUIRED[] = {
+    {"VPORT", ""},
+    {"LTYPE", "ByBlock"},
+    {"LTYPE", "ByLayer"},
+    {"LTYPE", "Continuous"},
+    {"LAYER", "0"},
+    {"STYLE", "Standard"},
+    {"VIEW", ""},
+    {"UCS", ""},
+    {"APPID", "ACAD"},
+    {"DIMSTYLE", "Standard"},
+    {"BLOCK_RECORD", "*Model_Space"},
+    {"BLOCK_RECORD", "*Paper_Space"},
+};
+
+constexpr std::size_t LONGEST_OLD_NAME = 31;  // bytes; before R2000
+constexpr std::size_t LONGEST_NAME = 255;
+// "|" stands in names that come from another drawing.
+constexpr std::string_view FORBIDDEN_IN_NAMES = "<>/\\\":;?*,=`";
+
+// Names that a drawing has whether or not its tables say so. What a version wants in them is told once, as a
+// missing record, and not with every use.
+constexpr Required IMPLIED[] = {
+    {"LAYER", "0"},        {"LTYPE", "BYLAYER"},     {"LTYPE", "BYBLOCK"}, {"LTYPE", "CONTINUOUS"},
+    {"STYLE", "STANDARD"}, {"DIMSTYLE", "STANDARD"}, {"APPID", "ACAD"},
+};
+
+bool IsImplied(std::string_view table, std::string_view folded) {
+  return std::any_of(std::begin(IMPLIED), std::end(IMPLIED), [&](const Required& implied) {
+    return implied.table == table && implied.record == folded;
+  });
+}
+
+// A name of a code page that nobody knows is compared by its bytes.
+std::string Folded(const dxf::TextCodec& codec, std::string_view raw) {
+  try {
+    return dxf::FoldedName(codec.Decode(raw));
+  } catch (const Error&) {
+    return std::string(raw);
+  }
+}
+
+// Records that the big programs do not count in the head of their table.
+bool IsUncounted(std::string_view name) {
+  constexpr std::string_view PAPER_SPACES = "*Paper_Space";  // some have a number behind it
+  return SameName(name, "ByLayer") || SameName(name, "ByBlock") || SameName(name, "*Model_Space") ||
+         SameName(name.substr(0, PAPER_SPACES.size()), PAPER_SPACES);
+}
+
+// A name for a message, in the characters that people know it by.
+std::string Shown(const dxf::TextCodec& codec, std::string_view raw) {
+  if (raw.size() > LONGEST_NAME) return Quoted(raw);
+  try {
+    std::string shown = codec.Decode(raw);
+    std::replace_if(
+        shown.begin(), shown.end(), [](char byte) { return byte >= 0 && byte < ' '; }, '?');
+    return fmt::format("\"{}\"", shown);
+  } catch (const Error&) {
+    return Quoted(raw);
+  }
+}
+
+bool IsAllowedInOldName(char byte) {
+  return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') ||
+         byte == '$' || byte == '_' || byte == '-' || byte == '|';
+}
+
+bool IsAllowedName(std::string_view name, int version) {
+  if (version < dxf::VERSION_R2000) return std::all_of(name.begin(), name.end(), IsAllowedInOldName);
+  return name.find_first_of(FORBIDDEN_IN_NAMES) == std::string_view::npos;
+}
+
+bool HasTextStyle(std::string_view type) {
+  return type == "TEXT" || type == "MTEXT" || type == "ATTRIB" || type == "ATTDEF";
+}
+
+bool HasDimensionStyle(std::string_view type) {
+  return type == "DIMENSION" || type == "LEADER" || type == "TOLERANCE";
+}
+
+}  // namespace
+
+void Names::Take(const Object& object) {
+  switch (object.place) {
+    case Place::SectionEnd:
+      if (SameName(object.section, "TABLES")) tablesEnd_ = object.Begin();
+      break;
+    case Place::Table:
+      TakeTable(object);
+      break;
+    case Place::TableEnd:
+      if (!tables_.empty()) CheckCount(tables_.back());
+      if (!tables_.empty()) tables_.back().end = object.Begin();
+      break;
+    case Place::Record:
+      TakeRecord(object);
+      break;
+    case Place::BlockEntity:
+      TakeBlockNames(object);
+      TakeEntityNames(object);
+      break;
+    case Place::Entity:
+      TakeEntityNames(object);
+      break;
+    default:
+      break;
+  }
+  TakeApplications(object);
+}
+
+void Names::TakeTable(const Object& object) {
+  const Tag* const count = FindTag(object, dxf::CODE_COUNT);
+  tables_.push_back({object.table, object.Begin(), count == nullptr ? Tag() : *count});
+}
+
+// The number is the most records there were; only one that is too small can mislead a reader.
+void Names::CheckCount(const Table& table) {
+  if (table.count.code == 0) return;
+  if (dxf::ParseInteger(table.count.value).value_or(table.records) >= table.records) return;
+  findings_.Warning(Kind::TableCount, table.count.value.data(),
+                    fmt::format("the table {} announces {} records and has {}", Quoted(table.name),
+                                dxf::Trimmed(table.count.value), table.records));
+}
+
+void Names::TakeRecord(const Object& object) {
+  Table& table = tables_.back();
+  const Tag* const name = FindTag(object, dxf::CODE_NAME);
+  if (name == nullptr || !IsUncounted(name->value)) ++table.records;
+  if (name == nullptr) return;
+  for (int i = 0; i < SpaceCount; ++i)
+    if (SameName(SPACES[i].table, table.name)) defined_[static_cast<std::size_t>(i)].push_back(name->value);
+  CheckRecordName(object, *name);
+  if (SameName(table.name, "LAYER")) {
+    if (const Tag* const linetype = FindTag(object, dxf::CODE_LINETYPE)) Use(Linetype, object, *linetype);
+  } else if (SameName(table.name, "BLOCK_RECORD")) {
+    Use(Block, object, *name);
+  }
+}
+
+void Names::CheckRecordName(const Object& object, const Tag& name) {
+  if (!SameName(object.table, "LAYER") && !SameName(object.table, "LTYPE")) return;
+  const std::size_t longest = header_.version < dxf::VERSION_R2000 ? LONGEST_OLD_NAME : LONGEST_NAME;
+  const bool isForbidden = !IsAllowedName(name.value, header_.version);
+  if (!isForbidden && !name.value.empty() && name.value.size() <= longest) return;
+  findings_.Warning(
+      Kind::RecordName, name.value.data(),
+      fmt::format("{} {} a name of a {} (group 2)", Quoted(name.value),
+                  name.value.size() > longest ? "is too long for" : "is not allowed as", object.type),
+      object.number);
+}
+
+void Names::TakeBlockNames(const Object& object) {
+  if (object.type != "BLOCK") return;
+  const Tag* const name = FindTag(object, dxf::CODE_NAME);
+  if (name == nullptr) return;
+  defined_[Block].push_back(name->value);
+  if (dxf::NeedsHandles(header_.version)) Use(BlockRecord, object, *name);
+}
+
+void Names::TakeEntityNames(const Object& object) {
+  const bool hasStyle = HasTextStyle(object.type);
+  const bool hasDimensionStyle = HasDimensionStyle(object.type);
+  const bool hasBlock = object.type == "INSERT" || object.type == "DIMENSION";
+  for (const Tag& tag : object.Own()) {
+    if (tag.code == dxf::CODE_LAYER) {
+      Use(Layer, object, tag);
+    } else if (tag.code == dxf::CODE_LINETYPE) {
+      Use(Linetype, object, tag);
+    } else if (hasStyle && tag.code == CODE_TEXT_STYLE) {
+      Use(TextStyle, object, tag);
+    } else if (hasDimensionStyle && tag.code == CODE_DIMENSION_STYLE) {
+      Use(DimensionStyle, object, tag);
+    } else if (hasBlock && tag.code == dxf::CODE_NAME) {
+      Use(Block, object, tag);
+    }
+  }
+}
+
+void Names::TakeApplications(const Object& object) {
+  if (object.type == "XRECORD") return;
+  for (const Tag& tag : object.Extended())
+    if (tag.code == dxf::CODE_XDATA_APPLICATION) Use(Application, object, tag);
+}
+
+void Names::Use(Space space, const Object& object, const Tag& tag) {
+  if (tag.value.empty()) return;
+  ++uses_[space].try_emplace(tag.value, FirstUse{tag.value.data(), object.number, 0}).first->second.count;
+}
+
+void Names::Finish() {
+  const dxf::TextCodec codec("", std::string(header_.codePage), dxf::IsUtf8(header_.version));
+  for (int i = 0; i < SpaceCount; ++i) {
+    FoldDefined(static_cast<Space>(i), codec);
+    CheckUses(static_cast<Space>(i), codec);
+  }
+  if (header_.version >= dxf::VERSION_R2000 && tablesEnd_ != nullptr) CheckRequired();
+}
+
+void Names::FoldDefined(Space space, const dxf::TextCodec& codec) {
+  for (const std::string_view name : defined_[space]) {
+    const bool isNew = folded_[space].insert(Folded(codec, name)).second;
+    // An empty name is that of a shape file, of which there can be many.
+    if (isNew || name.empty()) continue;
+    findings_.Error(
+        Kind::RecordTwice, name.data(),
+        fmt::format("there is another {} {} before this one", SPACES[space].what, Shown(codec, name)));
+  }
+}
+
+void Names::CheckUses(Space space, const dxf::TextCodec& codec) {
+  const bool isTolerated = space == Layer && header_.version < dxf::VERSION_R13;
+  for (const auto& [name, use] : uses_[space]) {
+    const std::string folded = Folded(codec, name);
+    if (folded_[space].contains(folded) || IsImplied(SPACES[space].table, folded)) continue;
+    findings_.Add(
+        isTolerated ? Severity::Warning : Severity::Error, SPACES[space].undefined, use.place,
+        fmt::format("the {} {} is not in the {}; it is used {}", SPACES[space].what, Shown(codec, name),
+                    space == Block ? "section BLOCKS" : fmt::format("table {}", SPACES[space].table),
+                    use.count == 1 ? "here" : fmt::format("{} times, here first", use.count)),
+        use.handle);
+  }
+}
+
+void Names::CheckRequired() {
+  for (const Required& required : REQUIRED) {
+    const auto table = std::find_if(tables_.begin(), tables_.end(), [&](const Table& candidate) {
+      return SameName(candidate.name, required.table);
+    });
+    const auto missesRecord = [&](const SpaceInfo& space) {
+      return space.table == required.table &&
+             !folded_[static_cast<std::size_t>(&space - SPACES)].contains(dxf::FoldedName(required.record));
+    };
+    if (table == tables_.end()) {
+      // Once, by the first record that it would have.
+      if (&required == REQUIRED || (&required)[-1].table != required.table) {
+        findings_.Error(Kind::TableMissing, tablesEnd_,
+                        fmt::format("the table {} is missing", required.table));
+      }
+    } else if (!required.record.empty() && std::any_of(std::begin(SPACES), std::end(SPACES), missesRecord)) {
+      findings_.Error(
+          Kind::RecordMissing, table->end,
+          fmt::format("the record {} is missing in the table {}", Quoted(required.record), required.table));
+    }
+  }
+}
+
+}  // namespace teskarlt::check

@@ -1,0 +1,164 @@
+// Windows.cpp - half windows, windows with one number, and foreign data under our names.
+#include "teskarlt/check/Windows.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowParts.h"
+#include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/dxf/TagValue.h"
+
+namespace teskarlt::check {
+namespace {
+
+constexpr std::string_view OUR_PREFIX = "TK_LT_";
+
+// Lines that each letter of the opening code adds to the symbol.
+struct Mark {
+  char letter;
+  std::size_t lines;
+};
+constexpr Mark MARKS[] = {{'B', 2}, {'C', 2}, {'D', 4}, {'E', 2}};
+
+// What the checks look at.
+struct Scene {
+  const dxf::Document& drawing;
+  const std::vector<DrawnWindow>& windows;
+  const DrawingUnit* unit;  // null when the header does not name it: lengths cannot be compared then
+  Findings& findings;
+};
+
+void Report(const Scene& scene, Kind kind, const DrawnWindow& window, std::string message) {
+  const dxf::Entity& first = *window.entities.front();
+  scene.findings.Error(kind, first.type.data(), std::move(message), first.handle);
+}
+
+std::size_t LinesOf(const DrawnWindow& window) {
+  if (window.params.drawOpeningSymbol == 0) return LINES_OF_OPENING;
+  std::size_t lines = LINES_OF_SYMBOL + LINES_OF_OUTLINE;
+  for (const Mark& mark : MARKS)
+    if (window.openingCode.find(mark.letter) != std::string::npos) lines += mark.lines;
+  return lines;
+}
+
+void CheckNumbers(const Scene& scene) {
+  std::set<std::int32_t> known;
+  for (const DrawnWindow& window : scene.windows) {
+    if (window.number == 0) {
+      Report(scene, Kind::WindowNumber, window, "the window that begins here has no number");
+    } else if (!known.insert(window.number).second) {
+      Report(scene, Kind::WindowNumber, window,
+             fmt::format("a window before this one has the number {}, too", window.number));
+    }
+  }
+}
+
+void CheckDescriptions(const Scene& scene) {
+  for (const DrawnWindow& window : scene.windows) {
+    if (!window.isComplete) {
+      Report(scene, Kind::WindowDescription, window,
+             fmt::format("the description of window {} is damaged", window.number));
+    }
+  }
+}
+
+bool HasAllEntities(const DrawnWindow& window) {
+  const std::size_t faces = window.faces;
+  return (faces == 0 || faces == FACES_WITHOUT_SKIRT || faces == FACES_WITH_SKIRT) &&
+         window.entities.size() - faces == LinesOf(window);
+}
+
+// Half a window, or one and a copy of it.
+void CheckEntities(const Scene& scene) {
+  for (const DrawnWindow& window : scene.windows) {
+    if (!window.isComplete || HasAllEntities(window)) continue;
+    Report(scene, Kind::WindowEntities, window,
+           fmt::format("window {} has {} faces and {} lines, and should have 0, {} or {} faces and {} lines",
+                       window.number, window.faces, window.entities.size() - window.faces,
+                       FACES_WITHOUT_SKIRT, FACES_WITH_SKIRT, LinesOf(window)));
+  }
+}
+
+void CheckSizes(const Scene& scene) {
+  if (scene.unit == nullptr) return;
+  for (const DrawnWindow& window : scene.windows) {
+    if (!window.isComplete || !HasAllEntities(window)) continue;
+    try {
+      RecordOf(scene.drawing, window);
+    } catch (const Error& error) {
+      Report(scene, Kind::WindowSize, window, error.what());
+    }
+  }
+}
+
+// Whatever else can be wrong with windows and their roofs is one more function of this list.
+constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, CheckEntities, CheckSizes};
+
+const DrawingUnit* UnitOfHeader(const dxf::Document& drawing) {
+  try {
+    return &UnitOf(drawing, "");
+  } catch (const Error&) {
+    return nullptr;
+  }
+}
+
+bool IsWindowElement(std::span<const dxf::Tag> section) {
+  for (const dxf::Tag& tag : section)
+    if (tag.code == dxf::CODE_XDATA_TEXT) return dxf::Trimmed(tag.value) == WINDOW_ELEMENT;
+  return false;
+}
+
+// The tags from an application's name up to the next one.
+std::span<const dxf::Tag> SectionOf(std::span<const dxf::Tag> extended, std::string_view application) {
+  const auto isName = [](const dxf::Tag& tag) { return tag.code == dxf::CODE_XDATA_APPLICATION; };
+  for (std::size_t i = 0; i < extended.size(); ++i) {
+    if (!isName(extended[i]) || !dxf::SameName(dxf::Trimmed(extended[i].value), application)) continue;
+    std::size_t end = i + 1;
+    while (end < extended.size() && !isName(extended[end]))
+      ++end;
+    return extended.subspan(i, end - i);
+  }
+  return {};
+}
+
+}  // namespace
+
+void CheckWindowMarks(const Object& object, Findings& findings) {
+  const auto extended = object.Extended();
+  const bool isOurs = std::any_of(extended.begin(), extended.end(), [](const dxf::Tag& tag) {
+    return tag.code == dxf::CODE_XDATA_APPLICATION && tag.value.starts_with(OUR_PREFIX);
+  });
+  if (!isOurs) return;
+  const auto element = SectionOf(extended, ELEMENT_APPLICATION);
+  const auto description = SectionOf(extended, DESCRIPTION_APPLICATION);
+  const auto report = [&](const dxf::Tag& tag, std::string_view what) {
+    findings.Warning(Kind::WindowForeignData, tag.value.data(), fmt::format("the {} {}", object.type, what),
+                     object.number);
+  };
+  if (!element.empty() && !IsWindowElement(element)) {
+    report(element[0], "is marked as an element of ours that is no roof window");
+  } else if (element.empty() && !description.empty()) {
+    report(description[0], "has a description of a roof window and is not marked as one");
+  } else if (!element.empty() && description.empty()) {
+    report(element[0], "is marked as a part of a roof window and has no description of it");
+  }
+}
+
+void CheckWindows(const dxf::Document& drawing, Findings& findings) {
+  constexpr std::int32_t ANY_UNIT = 1;
+  const DrawingUnit* const unit = UnitOfHeader(drawing);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, unit == nullptr ? ANY_UNIT : unit->perMetre);
+  for (const auto check : CHECKS)
+    check({drawing, windows, unit, findings});
+}
+
+}  // namespace teskarlt::check

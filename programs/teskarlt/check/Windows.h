@@ -1,0 +1,16 @@
+// Windows.h - checks the roof windows of a drawing.
+#pragma once
+
+#include "teskarlt/check/Findings.h"
+#include "teskarlt/check/Object.h"
+#include "teskarlt/dxf/Document.h"
+
+namespace teskarlt::check {
+
+// Extended data under the names of our applications that no roof window has.
+void CheckWindowMarks(const Object& object, Findings& findings);
+
+// Each window by itself and all of them together. Sizes are checked where the header names the unit.
+void CheckWindows(const dxf::Document& drawing, Findings& findings);
+
+}  // namespace teskarlt::check

@@ -1,0 +1,112 @@
+// CheckCommand.cpp - the subcommand "check": tells what is wrong with a drawing.
+#include "teskarlt/commands/CheckCommand.h"
+
+#include <memory>
+#include <string>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "platform/FileOperations.h"
+#include "teskarlt/check/Check.h"
+#include "teskarlt/commands/CommandLine.h"
+#include "teskarlt/commands/Report.h"
+
+namespace teskarlt {
+
+namespace {
+
+using check::Finding;
+using check::Severity;
+using check::Verdict;
+using Json = nlohmann::ordered_json;
+
+struct CheckOptions {
+  std::string file;
+  bool asJson = false;
+};
+
+const char* SeverityName(Severity severity) {
+  return severity == Severity::Error ? "error" : "warning";
+}
+
+Json ToJson(const Finding& finding, std::size_t number) {
+  Json json;
+  json["number"] = number;
+  json["line"] = finding.line;
+  json["severity"] = SeverityName(finding.severity);
+  json["kind"] = check::KindName(finding.kind);
+  json["message"] = finding.message;
+  json["handle"] = finding.handle == 0 ? Json(nullptr) : Json(fmt::format("{:X}", finding.handle));
+  return json;
+}
+
+void PrintVerdictJson(const Verdict& verdict, const std::string& file) {
+  Json json;
+  json["version"] = JSON_VERSION;
+  json["file"] = file;
+  json["errors"] = verdict.errors;
+  json["warnings"] = verdict.warnings;
+  json["findings"] = Json::array();
+  std::size_t number = 0;
+  for (const Finding& finding : verdict.findings)
+    json["findings"].push_back(ToJson(finding, ++number));
+  PrintJson(json);
+}
+
+std::string Counted(std::size_t count, const char* what) {
+  return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
+}
+
+// Handles are how people find an entity in their CAD program.
+std::string KindAndHandle(const Finding& finding) {
+  const std::string_view kind = check::KindName(finding.kind);
+  return finding.handle == 0 ? std::string(kind) : fmt::format("{}, handle {:X}", kind, finding.handle);
+}
+
+void PrintVerdict(const Verdict& verdict, const std::string& file) {
+  std::size_t number = 0;
+  for (const Finding& finding : verdict.findings) {
+    fmt::print("{}. line {}: {}: {} [{}]\n", ++number, finding.line, SeverityName(finding.severity),
+               finding.message, KindAndHandle(finding));
+  }
+  for (std::size_t kind = 0; kind < verdict.unlisted.size(); ++kind) {
+    if (verdict.unlisted[kind] == 0) continue;
+    fmt::print("and {} more [{}]\n", verdict.unlisted[kind], check::KindName(static_cast<check::Kind>(kind)));
+  }
+  fmt::print("{}: {}, {}\n", file, Counted(verdict.errors, "error"), Counted(verdict.warnings, "warning"));
+}
+
+// The file layer knows no error of the host's; its own says all that is to say.
+void RunCheck(const CheckOptions& options, int& status) {
+  const Verdict verdict =
+      check::CheckDrawing(dxf::SourceText(options.file, platform::ReadWholeFile(options.file)));
+  if (options.asJson) {
+    PrintVerdictJson(verdict, options.file);
+  } else {
+    PrintVerdict(verdict, options.file);
+  }
+  if (verdict.errors > 0) status = EXIT_REFUSED;
+}
+
+}  // namespace
+
+void AddCheckCommand(CLI::App& app, int& status) {
+  CLI::App* command = app.add_subcommand("check", "Tell what strict programs find wrong with a drawing");
+  const auto options = std::make_shared<CheckOptions>();
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
+  command->add_flag("--json", options->asJson, JSON_HELP);
+  command->footer(
+      "Each finding comes with its line in the file, a name of its kind and the handle of its object. An\n"
+      "error is what makes a strict program refuse or repair the drawing, or a roof window in it impossible\n"
+      "to change; a warning is doubtful, though programs are known to take it. Of one kind the first 1000\n"
+      "findings are listed and all are counted. A damaged drawing is checked as far as it can be read.\n"
+      "Exit status: 0 no errors, perhaps warnings; 1 errors; 2 wrong usage.\n"
+      "Examples:\n"
+      "  teskarlt check house.dxf\n"
+      "  teskarlt check house.dxf --json");
+  command->callback([options, &status] { RunCheck(*options, status); });
+}
+
+}  // namespace teskarlt
