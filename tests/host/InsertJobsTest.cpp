@@ -90,7 +90,8 @@ TEST(ParseJob, LongValueIsShownByItsBeginning) {
 }
 
 TEST(ParseJob, DeeplyNestedListIsRefused) {
-  EXPECT_NE(Refusal(R"({"at": )" + std::string(100000, '[') + std::string(100000, ']') + "}"), "");
+  EXPECT_EQ(Refusal(R"({"at": )" + std::string(100000, '[') + std::string(100000, ']') + "}"),
+            "more than 10 levels of lists and objects");
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::string_view BLANKS = " \t";
 constexpr std::string_view STANDARD_INPUT = "-";
 constexpr std::size_t POINTS_OF_A_PLANE = 3;
+constexpr int MOST_LEVELS = 10;            // a job needs four; what handles values calls itself for each
 constexpr std::size_t LONGEST_QUOTE = 60;  // bytes of a value in a message
 
 // A value as a message shows it.
@@ -100,8 +101,13 @@ void TakeMember(const std::string& name, const json& value, WindowOptions& optio
 
 json ParseObject(std::string_view text) {
   json job;
+  const auto boundDepth = [](int depth, json::parse_event_t, const json&) {
+    if (depth > MOST_LEVELS)
+      throw Error(fmt::format("more than {} levels of lists and objects", MOST_LEVELS));
+    return true;
+  };
   try {
-    job = json::parse(text);
+    job = json::parse(text, boundDepth);
   } catch (const json::parse_error& error) {
     throw Error(fmt::format("this is no JSON: an error at column {}", error.byte));
   } catch (const json::exception&) {
