@@ -1,5 +1,6 @@
 // DocumentTest.cpp - a drawing as a whole: header, loading and saving.
 #include <cstdio>
+#include <fstream>
 
 #include "teskarlt/dxf/Document.h"
 #include "tests/dxf/SmallDrawings.h"
@@ -120,6 +121,23 @@ TEST(DocumentFile, FileThatSomebodyChangedIsNotOverwritten) {
   platform::WriteWholeFile(file.Path(), changed);
   EXPECT_EQ(ErrorOf([&] { drawing.Save(file.Path()); }),
             "document_test.dxf: was changed by another program meanwhile; nothing is written");
+  EXPECT_EQ(file.Text(), changed);
+}
+
+TEST(DocumentFile, FileThatSomebodyChangesDuringTheWriteIsNotOverwritten) {
+  static const std::string changed = OnlyEntities("0|LINE|8|A|0|POINT|8|B");
+  const TemporaryFile file(OnlyEntities("0|LINE|8|A"));
+  const Document drawing = Document::Load(file.Path());
+  static platform::FileOperations operations;
+  operations = platform::SystemFileOperations();
+  operations.createNew = [](const std::string& path, platform::FileHandle& handle) {
+    std::ofstream("document_test.dxf", std::ios::binary) << changed;
+    return platform::SystemFileOperations().createNew(path, handle);
+  };
+  platform::SetFileOperations(&operations);
+  const std::string message = ErrorOf([&] { drawing.Save(file.Path()); });
+  platform::SetFileOperations(nullptr);
+  EXPECT_EQ(message, "document_test.dxf: was changed by another program meanwhile; nothing is written");
   EXPECT_EQ(file.Text(), changed);
 }
 

@@ -243,10 +243,14 @@ void Document::Rollback(const EditMark& mark) {
 void Document::Save(const std::string& path) const {
   WithHostErrors([&] {
     const bool isLoadedFile = state_->file.exists && IsSameFile(path, FileName());
-    if (isLoadedFile && platform::StateOfFile(path) != state_->file)
-      state_->source.Fail("was changed by another program meanwhile; nothing is written");
+    const auto refuseIfChanged = [&] {
+      if (isLoadedFile && platform::StateOfFile(path) != state_->file)
+        state_->source.Fail("was changed by another program meanwhile; nothing is written");
+    };
+    refuseIfChanged();
     platform::FileReplacement file(path);
     state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
+    refuseIfChanged();  // large drawings take a while
     file.Commit();
     if (isLoadedFile) state_->file = platform::StateOfFile(path);
   });
