@@ -58,6 +58,13 @@ int UnitsOf(std::int64_t number) {
   return number < 0 || number > most ? 0 : static_cast<int>(number);
 }
 
+// Programs write UTF-8 into drawings whose version has a code page. What stands behind EOF says nothing.
+bool HasUtf8(const SourceText& source, const Index& index, int version) {
+  if (IsUtf8(version)) return true;
+  const char* const begin = source.Text().data();
+  return HoldsUtf8({begin, static_cast<std::size_t>(index.sections.back().end - begin)});
+}
+
 bool IsSameFile(const std::string& a, const std::string& b) {
   const auto path = [](const std::string& utf8) {
     return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
@@ -95,7 +102,7 @@ struct Document::State {
         file(stateOfFile),
         index(BuildIndex(source)),
         rules(RulesOf(source, index)),
-        codec(source.Name(), std::string(CodePageOf(index)), IsUtf8(rules.version)),
+        codec(source.Name(), std::string(CodePageOf(index)), HasUtf8(source, index, rules.version)),
         edits(source, index, codec, rules) {}
 
   SourceText source;
