@@ -1,5 +1,6 @@
 // DocumentTest.cpp - a drawing as a whole: header, loading and saving.
 #include <cstdio>
+#include <fstream>
 
 #include "teskarlt/dxf/Document.h"
 #include "tests/dxf/SmallDrawings.h"
@@ -9,6 +10,40 @@ namespace {
 
 std::string WithHeader(std::string_view variables) {
   return Tags("0|SECTION|2|HEADER|" + std::string(variables) + "0|ENDSEC") + OnlyEntities("0|LINE|8|0");
+}
+
+TEST(Document, Utf8InADrawingOfACodePageIsReadAndWrittenAsUtf8) {
+  const std::string text = OfVersion("AC1015",
+                                     "  0|TEXT|  1|\xC5\x99"
+                                     "ez");
+  Document drawing = Parsed(text);
+  EXPECT_EQ(drawing.Serialize(), text);
+  EXPECT_EQ(drawing.Text({1,
+                          "\xC5\x99"
+                          "ez"}),
+            "\xC5\x99"
+            "ez");
+  const std::string layer = drawing.ToCodePage("Krytina \xC5\x99");
+  EXPECT_EQ(layer, "Krytina \xF8");
+  const Group groups[] = {{0, "POINT"}, {8, std::string_view(layer)}, {10, Point{}}};
+  drawing.AddEntity(groups);
+  EXPECT_THAT(drawing.Serialize(), testing::HasSubstr("  8\nKrytina \xC5\x99\n"));
+}
+
+TEST(Document, OneTextThatIsNoUtf8MakesACodePageDrawing) {
+  const Document drawing = Parsed(OfVersion("AC1015",
+                                            "  0|TEXT|  1|\xC5\x99|  0|TEXT|  1|\xF8"
+                                            "ez"));
+  EXPECT_EQ(drawing.Text({1,
+                          "\xF8"
+                          "ez"}),
+            "\xC5\x99"
+            "ez");
+}
+
+TEST(Document, BytesBehindTheEndDoNotDecideOnUtf8) {
+  const Document drawing = Parsed(OfVersion("AC1015", "  0|TEXT|  1|\xC5\x99") + "\xFF\xFE");
+  EXPECT_EQ(drawing.Text({1, "\xC5\x99"}), "\xC5\x99");
 }
 
 // A file of the test folder that is gone after the test.
@@ -120,6 +155,23 @@ TEST(DocumentFile, FileThatSomebodyChangedIsNotOverwritten) {
   platform::WriteWholeFile(file.Path(), changed);
   EXPECT_EQ(ErrorOf([&] { drawing.Save(file.Path()); }),
             "document_test.dxf: was changed by another program meanwhile; nothing is written");
+  EXPECT_EQ(file.Text(), changed);
+}
+
+TEST(DocumentFile, FileThatSomebodyChangesDuringTheWriteIsNotOverwritten) {
+  static const std::string changed = OnlyEntities("0|LINE|8|A|0|POINT|8|B");
+  const TemporaryFile file(OnlyEntities("0|LINE|8|A"));
+  const Document drawing = Document::Load(file.Path());
+  static platform::FileOperations operations;
+  operations = platform::SystemFileOperations();
+  operations.createNew = [](const std::string& path, platform::FileHandle& handle) {
+    std::ofstream("document_test.dxf", std::ios::binary) << changed;
+    return platform::SystemFileOperations().createNew(path, handle);
+  };
+  platform::SetFileOperations(&operations);
+  const std::string message = ErrorOf([&] { drawing.Save(file.Path()); });
+  platform::SetFileOperations(nullptr);
+  EXPECT_EQ(message, "document_test.dxf: was changed by another program meanwhile; nothing is written");
   EXPECT_EQ(file.Text(), changed);
 }
 

@@ -137,6 +137,22 @@ TEST(WriteGroup, ExtendedTextOf255BytesFits) {
   EXPECT_EQ(Written({1000, std::string_view(text)}), "1000|" + text + "|");
 }
 
+// An application's name, which takes 4 bytes here, and numbers that take 10 each.
+std::vector<Group> ExtendedData(std::size_t numbers) {
+  std::vector<Group> groups(numbers + 1, Group{1040, 0.5});
+  groups[0] = {1001, "A"sv};
+  return groups;
+}
+
+TEST(CheckGroups, ExtendedDataOfNearlySixteenKilobytesPasses) {
+  EXPECT_EQ(Refusal(ExtendedData(1637)), "");
+}
+
+TEST(CheckGroups, MoreExtendedDataThanAnEntityCanHoldIsRefused) {
+  EXPECT_EQ(Refusal(ExtendedData(1638)),
+            "its extended data has 16384 bytes, and 16383 is the most that an entity can hold");
+}
+
 TEST(WriteGroup, ExtendedTextIsCountedAsEncoded) {
   const std::string text(200, '^');  // two bytes each in the file
   EXPECT_EQ(ErrorOf([&] {

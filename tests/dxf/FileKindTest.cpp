@@ -14,12 +14,6 @@ TEST(FileKind, DwgDrawing) {
             "roof.dxf: is a DWG drawing; save it as DXF in the CAD program first");
 }
 
-TEST(FileKind, BinaryDxf) {
-  using namespace std::string_literals;
-  EXPECT_EQ(LoadError("AutoCAD Binary DXF\r\n\x1A\0\0SECTION\0"s),
-            "roof.dxf: binary DXF is not supported yet; save it as text DXF");
-}
-
 TEST(FileKind, OtherKnownFiles) {
   EXPECT_EQ(LoadError("%PDF-1.7\n"), "roof.dxf: is a PDF document, not a DXF drawing");
   EXPECT_EQ(LoadError("PK\x03\x04zip"), "roof.dxf: is a ZIP archive, not a DXF drawing; unpack it first");

@@ -35,7 +35,7 @@ DAMAGED = {
     "blank": (b"\n\n", None),
     "no drawing": (b"Dear Sir,\nplease find a house enclosed.\n", None),
     "dwg": (b"AC1032\x00\x00\x00\x00\x00\x03" + bytes(200), "DXF"),
-    "binary": (b"AutoCAD Binary DXF\r\n\x1a\x00" + bytes(50), "binary"),
+    "binary": (b"AutoCAD Binary DXF\r\n\x1a\x00" + bytes(50), "byte 70:"),
     "bad group code": (text_of(*ENTITIES).encode() + b"abc\n3DFACE\n", ":5:"),
     "cut in a pair": (text_of(*ENTITIES).encode() + b"  0\n", None),
     "cut short": (text_of(*ENTITIES, (0, "LINE"), (8, "0")).encode(), None),

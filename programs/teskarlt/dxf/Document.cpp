@@ -58,6 +58,13 @@ int UnitsOf(std::int64_t number) {
   return number < 0 || number > most ? 0 : static_cast<int>(number);
 }
 
+// Programs write UTF-8 into drawings whose version has a code page. What stands behind EOF says nothing.
+bool HasUtf8(const SourceText& source, const Index& index, int version) {
+  if (IsUtf8(version)) return true;
+  const char* const begin = source.Text().data();
+  return HoldsUtf8({begin, static_cast<std::size_t>(index.sections.back().end - begin)});
+}
+
 bool IsSameFile(const std::string& a, const std::string& b) {
   const auto path = [](const std::string& utf8) {
     return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
@@ -95,7 +102,7 @@ struct Document::State {
         file(stateOfFile),
         index(BuildIndex(source)),
         rules(RulesOf(source, index)),
-        codec(source.Name(), std::string(CodePageOf(index)), IsUtf8(rules.version)),
+        codec(source.Name(), std::string(CodePageOf(index)), HasUtf8(source, index, rules.version)),
         edits(source, index, codec, rules) {}
 
   SourceText source;
@@ -255,10 +262,14 @@ void Document::Rollback(const EditMark& mark) {
 void Document::Save(const std::string& path) const {
   WithHostErrors([&] {
     const bool isLoadedFile = state_->file.exists && IsSameFile(path, FileName());
-    if (isLoadedFile && platform::StateOfFile(path) != state_->file)
-      state_->source.Fail("was changed by another program meanwhile; nothing is written");
+    const auto refuseIfChanged = [&] {
+      if (isLoadedFile && platform::StateOfFile(path) != state_->file)
+        state_->source.Fail("was changed by another program meanwhile; nothing is written");
+    };
+    refuseIfChanged();
     platform::FileReplacement file(path);
     state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
+    refuseIfChanged();  // large drawings take a while
     file.Commit();
     if (isLoadedFile) state_->file = platform::StateOfFile(path);
   });

@@ -17,8 +17,8 @@
 
 namespace teskarlt::dxf {
 
-// A drawing as text file (binary ones are refused). Reading keeps ranges of the file's bytes, not its tags;
-// edits are kept aside until Save. All functions throw teskarlt::Error.
+// A drawing as text or binary file; it is saved in the form that it was loaded in. Reading keeps ranges of
+// the file's bytes, not its tags; edits are kept aside until Save. All functions throw teskarlt::Error.
 //
 // A handle that cannot be read is kept and counts as none. It is an error, with its line, only where a new
 // object has to refer to it. Where handles are used twice, the first object of the file is meant.

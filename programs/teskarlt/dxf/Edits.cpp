@@ -232,18 +232,7 @@ std::vector<Splice> Edits::Splices() const {
 }
 
 void Edits::Write(const std::function<void(std::string_view)>& sink) const {
-  const std::string_view text = source_.Text();
-  const char* at = text.data();
-  for (const Splice& splice : Splices()) {
-    sink({at, static_cast<std::size_t>(splice.begin - at)});
-    sink(splice.text);
-    if (splice.more != nullptr) {
-      for (const std::string_view more : *splice.more)
-        sink(more);
-    }
-    at = splice.end;
-  }
-  sink({at, static_cast<std::size_t>(text.data() + text.size() - at)});
+  source_.Write(Splices(), sink);
 }
 
 }  // namespace teskarlt::dxf

@@ -18,6 +18,10 @@ namespace {
 constexpr std::size_t LONGEST_APPLICATION = 31;
 constexpr int FIRST_XDATA_CODE = 1000;
 
+// What CAD programs hold of extended data in an entity, in bytes, all applications together.
+constexpr std::size_t MOST_EXTENDED_DATA = 16383;
+constexpr std::size_t SIZE_OF_CODE = 2;
+
 [[noreturn]] void Refuse(int code, std::string_view why) {
   throw Error(fmt::format("the new entity is refused: group {} {}", code, why));
 }
@@ -89,6 +93,16 @@ void CheckValue(const Group& group) {
   }
 }
 
+// Bytes of a group as a binary drawing holds it. A text counts as bytes of the code page.
+std::size_t SizeOf(const Group& group) {
+  if (const auto* const text = std::get_if<std::string_view>(&group.value))
+    return SIZE_OF_CODE + text->size() + 1;
+  if (std::holds_alternative<Point>(group.value)) return SIZE_OF_CODE + sizeof(Point);
+  if (std::holds_alternative<double>(group.value)) return SIZE_OF_CODE + sizeof(double);
+  const bool isShort = KindOf(group.code) == ValueKind::Integer16;
+  return SIZE_OF_CODE + (isShort ? sizeof(std::int16_t) : sizeof(std::int32_t));
+}
+
 void CheckType(std::span<const Group> groups) {
   if (groups.empty()) throw Error("the new entity is refused: it has no groups");
   if (groups[0].code != CODE_TYPE) Refuse(groups[0].code, "stands where its type should be");
@@ -122,12 +136,20 @@ void CheckGroups(std::span<const Group> groups) {
     CheckValue(group);
   }
   bool isUnderApplication = false;
+  std::size_t size = 0;
   for (const Group& group : groups.subspan(extended)) {
     if (group.code == CODE_XDATA_MARKER) continue;
     if (group.code < FIRST_XDATA_CODE) Refuse(group.code, "stands behind extended data");
     isUnderApplication = isUnderApplication || group.code == CODE_XDATA_APPLICATION;
     if (!isUnderApplication) Refuse(group.code, "stands before the name of an application");
     CheckValue(group);
+    size += SizeOf(group);
+  }
+  if (size > MOST_EXTENDED_DATA) {
+    throw Error(
+        fmt::format("the new entity is refused: its extended data has {} bytes, and {} is the most that an "
+                    "entity can hold",
+                    size, MOST_EXTENDED_DATA));
   }
 }
 

@@ -15,7 +15,8 @@ struct Beginning {
 };
 
 constexpr Beginning BEGINNINGS[] = {
-    {"AutoCAD Binary DXF", "binary DXF is not supported yet; save it as text DXF"},
+    {"AutoCAD Binary DXF",
+     "is a binary DXF drawing with damage at byte 18: its first 22 bytes are not as they should be"},
     {"AC1.", "is a DWG drawing; save it as DXF in the CAD program first"},
     {"AC2.", "is a DWG drawing; save it as DXF in the CAD program first"},
     {"AC10", "is a DWG drawing; save it as DXF in the CAD program first"},

@@ -173,6 +173,18 @@ std::string TextCodec::ToUtf8(std::string_view bytes) const {
   return IsAscii(bytes) ? std::string(bytes) : Page().ToUtf8(bytes);
 }
 
+bool HoldsUtf8(std::string_view bytes) {
+  const auto isBeyondAscii = [](char byte) { return (static_cast<unsigned char>(byte) & 0x80U) != 0; };
+  const char* const end = bytes.data() + bytes.size();
+  bool holds = false;
+  for (const char* at = bytes.data(); (at = std::find_if(at, end, isBeyondAscii)) != end; holds = true) {
+    auto position = static_cast<std::size_t>(at - bytes.data());
+    if (!platform::NextCharacter(bytes, position)) return false;
+    at = bytes.data() + position;
+  }
+  return holds;
+}
+
 std::string FoldedName(std::string_view utf8) {
   std::string folded;
   for (std::size_t at = 0; at < utf8.size();)

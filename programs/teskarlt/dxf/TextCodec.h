@@ -35,6 +35,10 @@ class TextCodec {
   mutable std::optional<platform::CodePage> page_;  // looked up when first needed
 };
 
+// Whether the bytes are UTF-8 throughout and hold something beyond ASCII. Texts of a code page that are UTF-8
+// by chance throughout a drawing are next to impossible.
+bool HoldsUtf8(std::string_view bytes);
+
 // UTF-8 with letters in capitals, as far as names of layers and the like compare without regard to case:
 // Latin, Greek and Cyrillic.
 std::string FoldedName(std::string_view utf8);
