@@ -33,7 +33,7 @@ TEST(CheckDrawing, LinesAreRightWithCarriageReturnsAndComments) {
       Tags("999|made by hand|0|SECTION|2|ENTITIES|0|LINE|8|0|999|a comment|10|x|20|0|0|ENDSEC|0|EOF", "\r\n");
   const Verdict verdict = Checked(text);
   ASSERT_EQ(verdict.findings.size(), 1U);
-  EXPECT_EQ(verdict.findings[0].line, 14U);
+  EXPECT_EQ(verdict.findings[0].place, 14U);
   EXPECT_EQ(verdict.findings[0].message, "\"x\" is not a finite number (group 10)");
 }
 
@@ -82,7 +82,7 @@ TEST(CheckDrawing, WhateverTheHostRefusesHasAnErrorOnALineOfTheFile) {
       const Verdict verdict = Checked(text);
       ASSERT_TRUE(!isRefused || verdict.errors > 0) << text;
       for (const Finding& finding : verdict.findings)
-        ASSERT_TRUE(finding.line >= 1 && finding.line <= lines) << finding.message;
+        ASSERT_TRUE(finding.place >= 1 && finding.place <= lines) << finding.message;
     } catch (const Error&) {
       ASSERT_TRUE(isRefused) << text;
     }

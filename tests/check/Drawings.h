@@ -18,11 +18,15 @@ using dxf::Tags;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-inline Verdict Checked(const std::string& text) {
+inline dxf::SourceText SourceOf(std::string_view text) {
   platform::FileBytes bytes;
   bytes.bytes = std::make_unique<char[]>(text.size() + 1);
   bytes.size = text.copy(bytes.bytes.get(), text.size());
-  return CheckDrawing(dxf::SourceText("roof.dxf", std::move(bytes)));
+  return {"roof.dxf", std::move(bytes)};
+}
+
+inline Verdict Checked(const std::string& text) {
+  return CheckDrawing(SourceOf(text));
 }
 
 // The line of the text with that number, from 1, without blanks around.
@@ -42,7 +46,7 @@ inline std::vector<std::string> Found(const std::string& text) {
   std::vector<std::string> found;
   for (const Finding& finding : Checked(text).findings) {
     found.push_back(fmt::format("{} {} {}", finding.severity == Severity::Error ? "error" : "warning",
-                                KindName(finding.kind), LineAt(text, finding.line)));
+                                KindName(finding.kind), LineAt(text, finding.place)));
   }
   return found;
 }

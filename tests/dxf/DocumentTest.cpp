@@ -122,7 +122,8 @@ TEST(Document, ReaderWalksTheTagsOfAnEntity) {
 
 TEST(Document, PlaceOfATagIsItsLine) {
   const Document drawing = Parsed(OnlyEntities("0|LINE|8|A"));
-  EXPECT_EQ(drawing.Source().LineOf(drawing.Entities()[0].text.data()), 5U);
+  const char* const begin = drawing.Entities()[0].text.data();
+  EXPECT_EQ(drawing.Source().PlacesOf({&begin, 1}), std::vector<std::size_t>{5});
 }
 
 TEST(Document, UntouchedDrawingKeepsEveryByte) {

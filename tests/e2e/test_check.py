@@ -1,6 +1,7 @@
 # test_check.py - drawings checked for what strict programs refuse, the program's own ones above all.
 import re
 
+import ezdxf
 import pytest
 from conftest import ROOT
 from roofs import Roof
@@ -101,6 +102,20 @@ def test_json_says_the_same(teskarlt, tmp_path):
         "version": 1, "file": teskarlt.spelled(path), "errors": 1, "warnings": 0,
         "findings": [{"number": 1, "line": 12, "severity": "error", "kind": "real-value",
                       "message": '"1,5" is not a finite number (group 10)', "handle": "2F"}]}
+
+
+def test_findings_in_a_binary_drawing_come_with_the_offsets_of_their_tags(teskarlt, tmp_path):
+    path = tmp_path / "attic.dxf"
+    drawing = ezdxf.new("R2000")
+    for layer in ("ATTIC", "CELLAR"):
+        drawing.modelspace().add_point((1, 2), dxfattribs={"layer": layer})
+    drawing.saveas(path, fmt="bin")
+    findings = teskarlt("check", path, "--json").json["findings"]
+    assert [finding["kind"] for finding in findings] == ["layer-undefined"] * 2
+    content = path.read_bytes()
+    for finding, layer in zip(findings, (b"ATTIC", b"CELLAR")):
+        assert content[finding["byte"]:].startswith(b"\x08\0" + layer + b"\0")
+    assert f'1. byte {findings[0]["byte"]}: error: ' in teskarlt("check", path).stdout
 
 
 def test_warnings_alone_are_no_failure(teskarlt, with_window):

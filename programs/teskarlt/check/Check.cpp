@@ -124,12 +124,12 @@ Verdict CheckDrawing(dxf::SourceText source) {
   dxf::RefuseOtherFiles(source);
   Findings findings;
   Checks(source, findings).Run();
-  Verdict verdict = findings.Finish(source.Text());
+  Verdict verdict = findings.Finish(source);
   try {
     const dxf::Document drawing = dxf::Document::FromSource(std::move(source));
     Findings ofWindows;
     CheckWindows(drawing, ofWindows);
-    Merge(ofWindows.Finish(drawing.Source().Text()), verdict);
+    Merge(ofWindows.Finish(drawing.Source()), verdict);
   } catch (const Error& error) {
     // Most often for damage that has been found already.
     if (verdict.errors > 0) return verdict;

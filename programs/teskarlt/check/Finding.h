@@ -91,7 +91,7 @@ enum class Kind {
 std::string_view KindName(Kind kind);
 
 struct Finding {
-  std::size_t line = 0;  // of the file, from 1
+  std::size_t place = 0;  // number of its line, from 1; in a binary drawing the offset of its tag, from 0
   Severity severity = Severity::Error;
   Kind kind = Kind::GroupCode;
   std::uint64_t handle = 0;  // of the object that it is about; 0: none

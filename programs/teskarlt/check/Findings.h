@@ -5,11 +5,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "teskarlt/check/Finding.h"
+#include "teskarlt/dxf/SourceText.h"
 
 namespace teskarlt::check {
 
@@ -17,20 +17,21 @@ namespace teskarlt::check {
 // drawing that is wrong throughout does not fill the memory. All of them are counted.
 constexpr std::size_t MOST_OF_A_KIND = 1000;
 
-// All that is wrong with a drawing, in the order of its lines.
+// All that is wrong with a drawing, in the order of the places.
 struct Verdict {
+  bool isBinary = false;  // the places are offsets of bytes
   std::vector<Finding> findings;
   std::size_t errors = 0;  // with those that are not listed
   std::size_t warnings = 0;
   std::array<std::size_t, static_cast<std::size_t>(Kind::KindCount)> unlisted{};  // by kind
 };
 
-// Adds what was found later, in the order of the lines.
+// Adds what was found later, in the order of the places.
 void Merge(Verdict later, Verdict& verdict);
 
 class Findings {
  public:
-  // `place` lies in the drawing's bytes; the finding is about the line that holds it.
+  // `place` lies in the drawing's text; the finding is about the line or the tag that holds it.
   void Error(Kind kind, const char* place, std::string message, std::uint64_t handle = 0) {
     Add(Severity::Error, kind, place, std::move(message), handle);
   }
@@ -39,8 +40,8 @@ class Findings {
   }
   void Add(Severity severity, Kind kind, const char* place, std::string message, std::uint64_t handle = 0);
 
-  // `text` is all of the drawing's bytes. Lines are counted here, in one pass.
-  Verdict Finish(std::string_view text);
+  // Lines are counted here, in one pass.
+  Verdict Finish(const dxf::SourceText& source);
 
  private:
   struct Placed {

@@ -31,10 +31,14 @@ const char* SeverityName(Severity severity) {
   return severity == Severity::Error ? "error" : "warning";
 }
 
-Json ToJson(const Finding& finding, std::size_t number) {
+const char* PlaceName(const Verdict& verdict) {
+  return verdict.isBinary ? "byte" : "line";
+}
+
+Json ToJson(const Finding& finding, std::size_t number, const char* placeName) {
   Json json;
   json["number"] = number;
-  json["line"] = finding.line;
+  json[placeName] = finding.place;
   json["severity"] = SeverityName(finding.severity);
   json["kind"] = check::KindName(finding.kind);
   json["message"] = finding.message;
@@ -51,7 +55,7 @@ void PrintVerdictJson(const Verdict& verdict, const std::string& file) {
   json["findings"] = Json::array();
   std::size_t number = 0;
   for (const Finding& finding : verdict.findings)
-    json["findings"].push_back(ToJson(finding, ++number));
+    json["findings"].push_back(ToJson(finding, ++number, PlaceName(verdict)));
   PrintJson(json);
 }
 
@@ -68,8 +72,8 @@ std::string KindAndHandle(const Finding& finding) {
 void PrintVerdict(const Verdict& verdict, const std::string& file) {
   std::size_t number = 0;
   for (const Finding& finding : verdict.findings) {
-    fmt::print("{}. line {}: {}: {} [{}]\n", ++number, finding.line, SeverityName(finding.severity),
-               finding.message, KindAndHandle(finding));
+    fmt::print("{}. {} {}: {}: {} [{}]\n", ++number, PlaceName(verdict), finding.place,
+               SeverityName(finding.severity), finding.message, KindAndHandle(finding));
   }
   for (std::size_t kind = 0; kind < verdict.unlisted.size(); ++kind) {
     if (verdict.unlisted[kind] == 0) continue;
@@ -98,10 +102,12 @@ void AddCheckCommand(CLI::App& app, int& status) {
   command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
-      "Each finding comes with its line in the file, a name of its kind and the handle of its object. An\n"
-      "error is what makes a strict program refuse or repair the drawing, or a roof window in it impossible\n"
-      "to change; a warning is doubtful, though programs are known to take it. Of one kind the first 1000\n"
-      "findings are listed and all are counted. A damaged drawing is checked as far as it can be read.\n"
+      "Each finding comes with its line in the file (in a binary drawing the offset of its byte), a name of\n"
+      "its kind and the handle of its object. An error is what makes a strict program refuse or repair the\n"
+      "drawing, or a roof window in it impossible to change; a warning is doubtful, though programs are "
+      "known\n"
+      "to take it. Of one kind the first 1000 findings are listed and all are counted. A damaged drawing is\n"
+      "checked as far as it can be read.\n"
       "Exit status: 0 no errors, perhaps warnings; 1 errors; 2 wrong usage.\n"
       "Examples:\n"
       "  teskarlt check house.dxf\n"

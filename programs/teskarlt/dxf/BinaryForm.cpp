@@ -312,11 +312,15 @@ std::string TextOfBinary(const std::string& name, std::string_view bytes) {
   return text;
 }
 
-std::size_t OffsetInBinary(const std::string& name, std::string_view bytes, std::string_view text,
-                           std::size_t textOffset) {
+std::vector<std::size_t> OffsetsInBinary(const std::string& name, std::string_view bytes,
+                                         std::string_view text, std::span<const std::size_t> textOffsets) {
+  std::vector<std::size_t> offsets;
   Pairs pairs(name, bytes, text);
-  pairs.GoTo(textOffset);
-  return pairs.BinaryBegin();
+  for (const std::size_t offset : textOffsets) {
+    pairs.GoTo(offset);
+    offsets.push_back(pairs.BinaryBegin());
+  }
+  return offsets;
 }
 
 void AppendBinary(const std::string& name, std::string_view tags, bool hasShortCodes, std::string& out) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -55,9 +56,9 @@ class BinaryReader {
 // as BinaryReader does.
 std::string TextOfBinary(const std::string& name, std::string_view bytes);
 
-// Offset in the bytes of the tag that holds the byte at `textOffset` of the text.
-std::size_t OffsetInBinary(const std::string& name, std::string_view bytes, std::string_view text,
-                           std::size_t textOffset);
+// Offsets in the bytes of the tags that hold the bytes at `textOffsets`, in ascending order, of the text.
+std::vector<std::size_t> OffsetsInBinary(const std::string& name, std::string_view bytes,
+                                         std::string_view text, std::span<const std::size_t> textOffsets);
 
 // Lines of text, whole tags, as bytes. Throws Error for a value that its group code cannot hold.
 void AppendBinary(const std::string& name, std::string_view tags, bool hasShortCodes, std::string& out);

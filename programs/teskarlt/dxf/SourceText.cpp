@@ -23,14 +23,27 @@ std::string_view SourceText::Tags() const {
   return text.starts_with(BYTE_ORDER_MARK) ? text.substr(BYTE_ORDER_MARK.size()) : text;
 }
 
-std::size_t SourceText::LineOf(const char* position) const {
-  return 1 + static_cast<std::size_t>(std::count(Text().data(), position, '\n'));
+std::vector<std::size_t> SourceText::PlacesOf(std::span<const char* const> positions) const {
+  std::vector<std::size_t> places;
+  const char* counted = Text().data();
+  if (IsBinary()) {
+    for (const char* const position : positions)
+      places.push_back(static_cast<std::size_t>(position - counted));
+    return OffsetsInBinary(name_, bytes_.View(), Text(), places);
+  }
+  std::size_t line = 1;
+  for (const char* const position : positions) {
+    line += static_cast<std::size_t>(std::count(counted, position, '\n'));
+    counted = position;
+    places.push_back(line);
+  }
+  return places;
 }
 
 void SourceText::Write(const std::vector<Splice>& splices,
                        const std::function<void(std::string_view)>& sink) const {
   const std::string_view text = Text();
-  if (decoded_ != nullptr) return WriteBinary(name_, bytes_.View(), text, splices, sink);
+  if (IsBinary()) return WriteBinary(name_, bytes_.View(), text, splices, sink);
   const char* at = text.data();
   for (const Splice& splice : splices) {
     sink({at, static_cast<std::size_t>(splice.begin - at)});
@@ -42,10 +55,8 @@ void SourceText::Write(const std::vector<Splice>& splices,
 }
 
 void SourceText::FailAt(const char* position, const std::string& message) const {
-  if (decoded_ == nullptr) throw Error(fmt::format("{}:{}: {}", name_, LineOf(position), message));
-  const auto offset = static_cast<std::size_t>(position - Text().data());
-  throw Error(
-      fmt::format("{}: byte {}: {}", name_, OffsetInBinary(name_, bytes_.View(), Text(), offset), message));
+  const std::size_t place = PlacesOf({&position, 1}).front();
+  throw Error(fmt::format("{}:{}{}: {}", name_, IsBinary() ? " byte " : "", place, message));
 }
 
 void SourceText::Fail(const std::string& message) const {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,9 +26,11 @@ class SourceText {
   // The text behind a byte order mark, where one stands in front.
   std::string_view Tags() const;
 
-  // Number of the line, from 1, that holds the byte at `position` of the text. Counts through the file: for
-  // messages only.
-  std::size_t LineOf(const char* position) const;
+  bool IsBinary() const { return decoded_ != nullptr; }
+
+  // Where positions of the text, in ascending order, are in the file: the numbers of their lines, from 1, or
+  // in a binary drawing the offsets of their tags, from 0. One pass over the text.
+  std::vector<std::size_t> PlacesOf(std::span<const char* const> positions) const;
 
   // Gives the file's bytes with the splices, which lie in the text and are in ascending order, to `sink`,
   // piece by piece: text as text, a binary drawing as a binary one. What no splice touches keeps its bytes.
