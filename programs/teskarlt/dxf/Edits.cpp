@@ -45,6 +45,16 @@ void AppendKey(std::string& key, const Group& group) {
   }
 }
 
+// What is taken out of an object that goes as a whole needs no change of its own. The splices are in order.
+void DropNested(std::vector<Splice>& splices) {
+  const char* end = splices.empty() ? nullptr : splices.front().begin;
+  std::erase_if(splices, [&](const Splice& splice) {
+    if (splice.begin < end) return true;
+    end = splice.end;
+    return false;
+  });
+}
+
 }  // namespace
 
 Edits::Edits(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules)
@@ -228,6 +238,7 @@ std::vector<Splice> Edits::Splices() const {
   std::stable_sort(splices.begin(), splices.end(), [](const Splice& a, const Splice& b) {
     return a.begin != b.begin ? a.begin < b.begin : a.end < b.end;  // additions first
   });
+  DropNested(splices);
   return splices;
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "teskarlt/dxf/ObjectCodes.h"
+#include "teskarlt/dxf/Objects.h"
 #include "teskarlt/dxf/TagReader.h"
 #include "teskarlt/dxf/TagValue.h"
 
@@ -64,24 +65,11 @@ std::uint64_t GroupNamesHandle(const Dictionary& root) {
 
 GroupObjects ReadGroupObjects(const SourceText& source, const Index& index) {
   GroupObjects objects;
-  const Section* const section = index.FindSection("OBJECTS");
-  if (section == nullptr) return objects;
   std::vector<Dictionary> dictionaries;
-  const auto take = [&](std::string_view type, std::string_view text) {
+  for (const auto& [type, text] : ReadObjects(source, index)) {
     if (type == "GROUP") objects.groups.push_back(ReadGroup(source, text));
     if (type == "DICTIONARY") dictionaries.push_back(ReadDictionary(source, text));
-  };
-  TagReader reader(source, Between(section->begin, section->end));
-  std::string_view type;
-  const char* begin = nullptr;
-  for (Tag tag; reader.Next(tag);) {
-    if (tag.code != CODE_TYPE) continue;
-    if (begin != nullptr) take(type, Between(begin, reader.TagBegin()));
-    type = tag.value;
-    begin = reader.TagBegin();
   }
-  if (begin != nullptr) take(type, Between(begin, section->end));
-
   if (dictionaries.empty()) return objects;
   objects.root = dictionaries.front();  // the first of a drawing names all others
   const std::uint64_t wanted = GroupNamesHandle(*objects.root);

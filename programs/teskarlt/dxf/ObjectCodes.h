@@ -22,6 +22,10 @@ constexpr int CODE_GROUP_MEMBER = 340;
 // Of a SORTENTSTABLE; the handle to sort it by follows.
 constexpr int CODE_SORTED_ENTITY = 331;
 
+// Of a DIMASSOC: the entities that a dimension measures.
+constexpr int CODE_ASSOCIATED = 331;
+constexpr int CODE_ASSOCIATED_CROSSING = 332;
+
 // Around the objects that an object tells of its changes.
 constexpr int CODE_LIST = 102;
 constexpr std::string_view REACTORS_BEGIN = "{ACAD_REACTORS";
