@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include "teskarlt/commands/ClosedLayers.h"
 #include "teskarlt/commands/WindowChoice.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/RoofSearch.h"
@@ -25,6 +26,7 @@ using geometry::Vec3;
 struct EditOptions {
   WindowOptions window;
   int number = 0;
+  bool isLockedToo = false;
 };
 
 Vec3 ToVec3(const RecordPoint& p) {
@@ -82,6 +84,7 @@ void RunEdit(const EditOptions& options) {
   const DrawingUnit& unit = TakeUnit(options.window, drawing);
   const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
   const DrawnWindow& window = ChooseWindow(windows, options.window.file, options.number);
+  RefuseClosedLayers(drawing, window, options.isLockedToo);
   const std::vector<RoofFace> faces = FindRoofFaces(drawing, RoofTolerance(unit));
 
   WindowRequest request;
@@ -111,6 +114,7 @@ void AddEditCommand(CLI::App& app) {
       ->required()
       ->type_name("");
   AddWindowOptions(*command, options->window);
+  AddLockedOption(*command, options->isLockedToo);
   command->footer(
       "What is not given stays as it is; the window keeps its number and, without --at, its place.\n"
       "teskarlt insert --fields lists the fields for --set.\n"

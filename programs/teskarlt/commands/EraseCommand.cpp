@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
+#include "teskarlt/commands/ClosedLayers.h"
 #include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowChoice.h"
 #include "teskarlt/commands/WindowOptions.h"
@@ -20,6 +21,7 @@ struct EraseOptions {
   std::string file;
   int number = 0;
   std::string output;
+  bool isLockedToo = false;
   bool dryRun = false;
   bool asJson = false;
 };
@@ -30,7 +32,9 @@ void RunErase(const EraseOptions& options) {
   constexpr int anyUnit = 1;  // only the entities count
   const std::vector<DrawnWindow> windows = FindWindows(drawing, anyUnit);
   WindowRequest request;
-  request.replaced = ChooseWindow(windows, options.file, options.number).entities;
+  const DrawnWindow& window = ChooseWindow(windows, options.file, options.number);
+  RefuseClosedLayers(drawing, window, options.isLockedToo);
+  request.replaced = window.entities;
 
   const CommandOutcome outcome = module.Erase(drawing, request);
   const std::string target = options.output.empty() ? options.file : options.output;
@@ -61,6 +65,7 @@ void AddEraseCommand(CLI::App& app) {
   command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
       ->type_name("FILE")
       ->check(NotEmpty);
+  AddLockedOption(*command, options->isLockedToo);
   command->add_flag("--dry-run", options->dryRun, "say what would be done and write nothing");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer("Example: teskarlt erase house-with-window.dxf 1");

@@ -2,6 +2,8 @@
 #include "teskarlt/commands/InsertJobs.h"
 
 #include <cstdio>
+#include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -10,6 +12,7 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/ClosedLayers.h"
 #include "teskarlt/commands/Progress.h"
 #include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowInserter.h"
@@ -146,6 +149,7 @@ struct JobsReport {
   std::size_t inserted = 0;
   std::size_t faces = 0;
   std::size_t lines = 0;
+  std::set<std::string> layers;  // of the new entities
 };
 
 void RunJob(const Job& job, const WindowOptions& defaults, WindowInserter& inserter, JobsReport& report) {
@@ -153,6 +157,7 @@ void RunJob(const Job& job, const WindowOptions& defaults, WindowInserter& inser
   ++report.inserted;
   report.faces += window.outcome.faces;
   report.lines += window.outcome.lines;
+  report.layers.insert(window.outcome.layers.begin(), window.outcome.layers.end());
   if (!defaults.asJson) return;
   ordered_json entry{{"line", job.line}};
   entry.update(WindowJson(window.outcome, window.face));
@@ -228,6 +233,7 @@ void RunInsertJobs(const WindowOptions& defaults, const JobsOptions& options) {
   const std::size_t refused = report.refused.size();
   const bool isWanted = refused == 0 || (options.keepGoing && report.inserted > 0);
   const bool isSaved = isWanted && !defaults.dryRun;
+  WarnOfClosedLayers(inserter.Drawing(), report.layers);
   if (isSaved) inserter.Drawing().Save(TargetOf(defaults));
   Print(defaults, report, isSaved);
   if (refused > 0) {

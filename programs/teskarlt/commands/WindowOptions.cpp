@@ -8,6 +8,7 @@
 #include "inc/RecordFields.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
+#include "teskarlt/commands/ClosedLayers.h"
 #include "teskarlt/commands/Numbers.h"
 #include "teskarlt/commands/Report.h"
 #include "teskarlt/drawing/RoofSearch.h"
@@ -216,6 +217,7 @@ const std::string& TargetOf(const WindowOptions& options) {
 void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
                    const RoofFace* face) {
   const std::string& target = TargetOf(options);
+  WarnOfClosedLayers(drawing, outcome.layers);
   if (!options.dryRun) drawing.Save(target);
   if (options.asJson) {
     PrintJson(ToJson(options, outcome, face, target));

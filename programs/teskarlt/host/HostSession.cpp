@@ -124,6 +124,11 @@ std::int32_t HostSession::MakeEntity(const brevanta::ValueNode* list) {
     const bool isFace =
         !groups.empty() && groups[0].value == decltype(dxf::Group::value)(std::string_view("3DFACE"));
     ++(isFace ? batchFaces_ : batchLines_);
+    for (const dxf::Group& group : groups) {
+      if (group.code != dxf::CODE_LAYER) continue;
+      outcome_.layers.insert(drawing_.ToUtf8(std::get<std::string_view>(group.value)));
+      break;
+    }
     return HOST_DONE;
   } catch (const std::exception& error) {  // the caller knows no exceptions
     if (outcome_.failure.empty()) outcome_.failure = error.what();

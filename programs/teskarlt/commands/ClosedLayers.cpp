@@ -1,0 +1,44 @@
+// ClosedLayers.cpp - windows on layers that cannot be changed or seen.
+#include "teskarlt/commands/ClosedLayers.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/drawing/LayerStates.h"
+
+namespace teskarlt {
+
+void AddLockedOption(CLI::App& command, bool& isLockedToo) {
+  command.add_flag("--locked", isLockedToo, "change the window though its layer is locked or frozen");
+}
+
+void RefuseClosedLayers(const dxf::Document& drawing, const DrawnWindow& window, bool isLockedToo) {
+  if (isLockedToo) return;
+  const LayerStates states(drawing);
+  for (const std::string& layer : LayersOf(drawing, window.entities)) {
+    const LayerState state = states.Of(layer);
+    if (!state.isLocked && !state.isFrozen) continue;
+    throw Error(fmt::format(
+        "window {} lies on the layer \"{}\", which is {}; {} it in the CAD program, or give --locked",
+        window.number, layer, state.isLocked ? "locked" : "frozen", state.isLocked ? "unlock" : "thaw"));
+  }
+}
+
+void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string>& layers) {
+  const LayerStates states(drawing);
+  const auto warn = [](const std::string& layer, const char* what) {
+    fmt::print(stderr, "teskarlt: warning: the layer \"{}\" is {}\n", layer, what);
+  };
+  for (const std::string& layer : layers) {
+    const LayerState state = states.Of(layer);
+    if (state.isFrozen) {
+      warn(layer, "frozen; what was drawn on it is not to be seen");
+    } else if (state.isOff) {
+      warn(layer, "switched off; what was drawn on it is not to be seen");
+    }
+    if (state.isLocked) warn(layer, "locked; it must be unlocked before the window can be changed");
+  }
+}
+
+}  // namespace teskarlt
