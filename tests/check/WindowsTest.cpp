@@ -50,9 +50,9 @@ TEST(CheckWindows, HalfAWindowIsAnError) {
   EXPECT_THAT(FoundIn(Window(100, 6, Element(1) + Description())), ElementsAre("error window-entities LINE"));
 }
 
-TEST(CheckWindows, WindowAndItsCopyAreAnError) {
+TEST(CheckWindows, CopyWithTheNumberOfItsModelIsAnError) {
   EXPECT_THAT(FoundIn(Window(100, 2 * LINES_OF_A_PLAIN_WINDOW, Element(1) + Description())),
-              ElementsAre("error window-entities LINE"));
+              ElementsAre("error window-number LINE"));
 }
 
 TEST(CheckWindows, TwoWindowsWithOneNumberAreAnErrorAtTheSecond) {
@@ -75,7 +75,7 @@ TEST(CheckWindows, DamagedDescriptionIsAnError) {
               ElementsAre("error window-description LINE"));
 }
 
-TEST(CheckWindows, WindowThatWasStretchedIsAnErrorWhereTheUnitIsKnown) {
+TEST(CheckWindows, WindowThatIsNoRectangleIsAnErrorWhereTheUnitIsKnown) {
   const std::string text = WithWindows(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(1) + Description()));
   EXPECT_EQ(Checked(text).errors, 0U);
   const Verdict verdict = Checked(Damaged(text, "9|$HANDSEED|5|FFFF", "9|$HANDSEED|5|FFFF|9|$INSUNITS|70|4"));

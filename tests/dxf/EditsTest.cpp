@@ -256,5 +256,19 @@ TEST(Rollback, WorkGoesOnAfterIt) {
   EXPECT_EQ(drawing.Serialize(), once);
 }
 
+TEST(ReplaceValue, PutsTheNewValueInThePlaceOfTheOldOne) {
+  Document drawing = Parsed(Tags("0|SECTION|2|ENTITIES|0|LINE|62| 7|8|A|0|ENDSEC|0|EOF"));
+  TagReader reader = drawing.Reader(drawing.Entities()[0]);
+  Tag tag;
+  while (reader.Next(tag) && tag.code != 62) {
+  }
+  const EditMark mark = drawing.Mark();
+  drawing.ReplaceValue(tag, "256");
+  EXPECT_TRUE(drawing.IsChanged());
+  EXPECT_EQ(drawing.Serialize(), Tags("0|SECTION|2|ENTITIES|0|LINE|62|256|8|A|0|ENDSEC|0|EOF"));
+  drawing.Rollback(mark);
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
 }  // namespace
 }  // namespace teskarlt::dxf

@@ -138,7 +138,7 @@ def test_window_that_lost_an_entity_is_an_error(teskarlt, with_window):
     answer = teskarlt("check", with_window, "--json")
     assert (answer.status, kinds(answer)) == (1, [("error", "window-entities"), ("error", "group-member")])
     assert answer.json["findings"][0]["message"] == (
-        "window 1 has 17 faces and 15 lines, and should have 0, 17 or 21 faces and 16 lines")
+        "window 1: it has 17 faces and 15 lines, and should have 0, 17 or 21 faces and 16 lines")
 
 
 def test_second_window_with_the_same_number_is_an_error(teskarlt, with_window):

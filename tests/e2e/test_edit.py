@@ -101,15 +101,6 @@ def test_window_whose_entities_are_missing_is_not_changed(teskarlt, with_windows
     refused(teskarlt("edit", with_windows, "1", "--set", "width=1"), "window 1 cannot be changed", "16 faces")
 
 
-def test_window_that_was_stretched_is_not_changed(teskarlt, with_windows):
-    drawing = readers.ezdxf.readfile(with_windows)
-    for entity in windows.window_entities(drawing):
-        if entity.get_xdata("TK_LT_ELEM")[-1].value == 1:
-            entity.scale_uniform(1.5)
-    drawing.saveas(with_windows)
-    refused(teskarlt("edit", with_windows, "1", "--set", "text1=x"), "window 1 cannot be changed", "by its description")
-
-
 def test_erased_window_leaves_the_drawing_as_it_was_before(teskarlt, house, tmp_path):
     once, twice = tmp_path / "once.dxf", tmp_path / "twice.dxf"
     teskarlt.done("insert", house, *AT, "-o", once)

@@ -22,13 +22,6 @@ namespace {
 
 constexpr std::string_view OUR_PREFIX = "TK_LT_";
 
-// Lines that each letter of the opening code adds to the symbol.
-struct Mark {
-  char letter;
-  std::size_t lines;
-};
-constexpr Mark MARKS[] = {{'B', 2}, {'C', 2}, {'D', 4}, {'E', 2}};
-
 // What the checks look at.
 struct Scene {
   const dxf::Document& drawing;
@@ -37,17 +30,10 @@ struct Scene {
   Findings& findings;
 };
 
-void Report(const Scene& scene, Kind kind, const DrawnWindow& window, std::string message) {
+void Report(const Scene& scene, Kind kind, const DrawnWindow& window, std::string message,
+            Severity severity = Severity::Error) {
   const dxf::Entity& first = *window.entities.front();
-  scene.findings.Error(kind, first.type.data(), std::move(message), first.handle);
-}
-
-std::size_t LinesOf(const DrawnWindow& window) {
-  if (window.params.drawOpeningSymbol == 0) return LINES_OF_OPENING;
-  std::size_t lines = LINES_OF_SYMBOL + LINES_OF_OUTLINE;
-  for (const Mark& mark : MARKS)
-    if (window.openingCode.find(mark.letter) != std::string::npos) lines += mark.lines;
-  return lines;
+  scene.findings.Add(severity, kind, first.type.data(), std::move(message), first.handle);
 }
 
 void CheckNumbers(const Scene& scene) {
@@ -71,37 +57,34 @@ void CheckDescriptions(const Scene& scene) {
   }
 }
 
-bool HasAllEntities(const DrawnWindow& window) {
-  const std::size_t faces = window.faces;
-  return (faces == 0 || faces == FACES_WITHOUT_SKIRT || faces == FACES_WITH_SKIRT) &&
-         window.entities.size() - faces == LinesOf(window);
-}
-
-// Half a window, or one and a copy of it.
+// Half a window, or one with something added.
 void CheckEntities(const Scene& scene) {
   for (const DrawnWindow& window : scene.windows) {
-    if (!window.isComplete || HasAllEntities(window)) continue;
-    Report(scene, Kind::WindowEntities, window,
-           fmt::format("window {} has {} faces and {} lines, and should have 0, {} or {} faces and {} lines",
-                       window.number, window.faces, window.entities.size() - window.faces,
-                       FACES_WITHOUT_SKIRT, FACES_WITH_SKIRT, LinesOf(window)));
+    if (!window.isComplete) continue;
+    const std::string mismatch = EntityMismatch(window);
+    if (!mismatch.empty())
+      Report(scene, Kind::WindowEntities, window, fmt::format("window {}: {}", window.number, mismatch));
   }
 }
 
-void CheckSizes(const Scene& scene) {
+// What another program did to a window is no error as long as the window can still be changed.
+void CheckShapes(const Scene& scene) {
   if (scene.unit == nullptr) return;
   for (const DrawnWindow& window : scene.windows) {
-    if (!window.isComplete || !HasAllEntities(window)) continue;
-    try {
-      RecordOf(scene.drawing, window);
-    } catch (const Error& error) {
-      Report(scene, Kind::WindowSize, window, error.what());
+    if (!window.isComplete || !EntityMismatch(window).empty()) continue;
+    const WindowReading reading = ReadWindow(scene.drawing, window);
+    if (!reading.obstacle.empty()) {
+      Report(scene, Kind::WindowSize, window,
+             fmt::format("window {} cannot be changed: {}", window.number, reading.obstacle));
     }
+    for (const std::string& note : reading.notes)
+      Report(scene, Kind::WindowSize, window, fmt::format("window {}: {}", window.number, note),
+             Severity::Warning);
   }
 }
 
 // Whatever else can be wrong with windows and their roofs is one more function of this list.
-constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, CheckEntities, CheckSizes};
+constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, CheckEntities, CheckShapes};
 
 const DrawingUnit* UnitOfHeader(const dxf::Document& drawing) {
   try {

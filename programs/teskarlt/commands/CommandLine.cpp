@@ -18,6 +18,7 @@
 #include "teskarlt/commands/MergeCommand.h"
 #include "teskarlt/commands/NewCommand.h"
 #include "teskarlt/commands/PreviewCommand.h"
+#include "teskarlt/commands/RenumberCommand.h"
 #include "teskarlt/commands/RoofsCommand.h"
 
 namespace teskarlt {
@@ -54,6 +55,7 @@ void AddCommands(CLI::App& app, int& status) {
   AddEditCommand(app);
   AddEraseCommand(app);
   AddListCommand(app);
+  AddRenumberCommand(app);
   AddCheckCommand(app, status);
   AddPreviewCommand(app);
   AddNewCommand(app);

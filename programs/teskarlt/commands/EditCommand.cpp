@@ -89,7 +89,10 @@ void RunEdit(const EditOptions& options) {
 
   WindowRequest request;
   request.unitFactor = unit.perMetre;
-  request.edited = RecordOf(drawing, window);
+  const WindowReading reading = ReadEditableWindow(drawing, window);
+  for (const std::string& note : reading.notes)
+    fmt::print(stderr, "teskarlt: note: window {}: {}\n", window.number, note);
+  request.edited = reading.params;
   request.replaced = window.entities;
   const WindowNumbers numbers = NumbersOf(windows);
   request.numbersInUse = &numbers;
@@ -101,7 +104,7 @@ void RunEdit(const EditOptions& options) {
   if (!moves) KeepSecondPlane(*request.edited, RoofTolerance(unit), request);
   const RoofFace* face = moves ? TakeRoof(options.window, faces, RoofTolerance(unit), request)
                                : KeepPlace(*request.edited, faces, RoofTolerance(unit), request);
-  SaveAndReport(options.window, drawing, module.Edit(drawing, request), face);
+  SaveAndReport(options.window, drawing, module.Edit(drawing, request), face, &reading);
 }
 
 }  // namespace

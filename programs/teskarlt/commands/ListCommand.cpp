@@ -1,7 +1,10 @@
 // ListCommand.cpp - the subcommand "list": lists the roof windows of a drawing.
 #include "teskarlt/commands/ListCommand.h"
 
+#include <cmath>
 #include <memory>
+#include <optional>
+#include <set>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -9,8 +12,10 @@
 
 #include "geometry/Matrix4.h"
 #include "teskarlt/commands/Report.h"
+#include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowRecord.h"
 
 namespace teskarlt {
 
@@ -32,25 +37,30 @@ Json PointsJson(const brevanta::RecordPoint (&points)[3]) {
   return {PointJson(points[0]), PointJson(points[1]), PointJson(points[2])};
 }
 
-// Every field that the extended data holds, under its name in the record.
-Json FieldsJson(const DrawnWindow& window) {
-  const brevanta::WindowParams& params = window.params;
+// Every field, under its name in the record.
+Json FieldsJson(const DrawnWindow& window, const brevanta::WindowParams& params) {
   Json json;
   json["width"] = params.width;
   json["length"] = params.length;
   json["frameWidth"] = params.frameWidth;
   json["frameDepth"] = params.frameDepth;
+  json["skirtHeight"] = params.skirtHeight;
   json["lowerEdgeHeight"] = params.lowerEdgeHeight;
+  json["upperEdgeHeight"] = params.upperEdgeHeight;
+  json["placeByHeight"] = params.placeByHeight;
   json["heightReference"] = params.heightReference;
   json["widthAnchor"] = params.widthAnchor;
+  json["pickOffset"] = params.pickOffset;
   json["roofBuildUp"] = params.roofBuildUp;
+  json["bodyAsFaces"] = params.bodyAsFaces;
+  json["slopeOffset"] = params.slopeOffset;
   json["layerThickness"] = params.layerThickness;
   json["pitch"] = params.pitch;
   json["drawOpeningSymbol"] = params.drawOpeningSymbol;
   json["text1"] = window.text1;
   json["text2"] = window.text2;
   json["text3"] = window.text3;
-  json["openingCode"] = window.openingCode;
+  json["openingCode"] = params.openingCode;
   json["storedPoint"] = PointJson(params.storedPoint);
   json["insertionPoint"] = PointJson(params.insertionPoint);
   json["rotation"] = params.rotation;
@@ -62,23 +72,69 @@ Json FieldsJson(const DrawnWindow& window) {
   return json;
 }
 
-Json ToJson(const DrawnWindow& window) {
+// A window as it is listed.
+struct Row {
+  const DrawnWindow& window;
+  WindowReading reading;
+};
+
+std::vector<Row> ReadRows(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows) {
+  std::vector<Row> rows;
+  std::set<std::int32_t> numbers;
+  for (const DrawnWindow& window : windows) {
+    Row& row = rows.emplace_back(Row{window, ReadWindow(drawing, window)});
+    if (!numbers.insert(window.number).second) {
+      row.reading.notes.push_back(
+          "its number is that of a window before it; teskarlt renumber gives it one of its own");
+    }
+    if (!row.reading.obstacle.empty())
+      row.reading.notes.push_back("it cannot be changed: " + row.reading.obstacle);
+  }
+  return rows;
+}
+
+// Where the roof falls to, in degrees clockwise from the drawing's y axis; none when it is flat.
+std::optional<double> Direction(const brevanta::WindowParams& params) {
+  constexpr double FLAT = 0.01;  // degrees
+  constexpr double FULL_TURN = 360.0;
+  constexpr double TENTHS = 10.0;
+  if (params.pitch < FLAT) return std::nullopt;
+  const double direction =
+      std::fmod(FULL_TURN + FULL_TURN / 2 - geometry::RadToDeg(params.rotation), FULL_TURN);
+  return std::fmod(std::round(direction * TENTHS) / TENTHS, FULL_TURN);
+}
+
+// "SE" for 135 degrees.
+const char* CompassPoint(double direction) {
+  constexpr const char* POINTS[] = {"N", "NE", "E", "SE", "S", "SW", "W", "NW"};
+  constexpr double EIGHTH = 45.0;
+  return POINTS[static_cast<std::size_t>(std::lround(direction / EIGHTH)) % std::size(POINTS)];
+}
+
+Json ToJson(const Row& row) {
+  const auto& [window, reading] = row;
+  const std::optional<double> direction = window.isComplete ? Direction(reading.params) : std::nullopt;
   Json json;
   json["number"] = window.number;
   json["complete"] = window.isComplete;
+  json["editable"] = reading.obstacle.empty();
+  json["mirrored"] = reading.isMirrored;
   json["faces"] = window.faces;
   json["lines"] = window.entities.size() - window.faces;
-  json["fields"] = window.isComplete ? FieldsJson(window) : Json(nullptr);
+  json["direction"] = direction ? Json(*direction) : Json(nullptr);
+  json["fields"] = window.isComplete ? FieldsJson(window, reading.params) : Json(nullptr);
+  json["sources"] = SourcesJson(reading);
+  json["notes"] = reading.notes;
   return json;
 }
 
-void PrintWindows(const std::vector<DrawnWindow>& windows, const DrawingUnit& unit) {
+void PrintRows(const std::vector<Row>& rows, const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
   json["windows"] = Json::array();
-  for (const DrawnWindow& window : windows)
-    json["windows"].push_back(ToJson(window));
+  for (const Row& row : rows)
+    json["windows"].push_back(ToJson(row));
   PrintJson(json);
 }
 
@@ -90,11 +146,16 @@ std::string Texts(const DrawnWindow& window) {
   return texts;
 }
 
-void PrintTable(const std::vector<DrawnWindow>& windows) {
-  Table table({"number", "width m", "length m", "pitch deg", "turned deg", "x", "y", "z", "code", "entities",
-               "texts"});
-  for (const DrawnWindow& window : windows) {
-    const brevanta::WindowParams& p = window.params;
+std::string DirectionText(const brevanta::WindowParams& params) {
+  const std::optional<double> direction = Direction(params);
+  return direction ? fmt::format("{:g} {}", *direction, CompassPoint(*direction)) : "-";
+}
+
+void PrintTable(const std::vector<Row>& rows) {
+  Table table(
+      {"number", "width m", "length m", "pitch deg", "falls to", "x", "y", "z", "code", "entities", "texts"});
+  for (const auto& [window, reading] : rows) {
+    const brevanta::WindowParams& p = reading.params;
     const std::string entities = std::to_string(window.entities.size());
     if (!window.isComplete) {
       table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", entities,
@@ -102,23 +163,27 @@ void PrintTable(const std::vector<DrawnWindow>& windows) {
       continue;
     }
     table.Add({std::to_string(window.number), fmt::format("{:g}", p.width), fmt::format("{:g}", p.length),
-               fmt::format("{:.2f}", p.pitch), fmt::format("{:.1f}", geometry::RadToDeg(p.rotation)),
-               fmt::format("{:.3f}", p.storedPoint.x), fmt::format("{:.3f}", p.storedPoint.y),
-               fmt::format("{:.3f}", p.storedPoint.z), window.openingCode, entities, Texts(window)});
+               fmt::format("{:.2f}", p.pitch), DirectionText(p), fmt::format("{:.3f}", p.storedPoint.x),
+               fmt::format("{:.3f}", p.storedPoint.y), fmt::format("{:.3f}", p.storedPoint.z), p.openingCode,
+               entities, Texts(window)});
   }
   table.Print();
+  for (const auto& [window, reading] : rows)
+    for (const std::string& note : reading.notes)
+      fmt::print("window {}: {}\n", window.number, note);
 }
 
 void RunList(const ListOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
   const DrawingUnit& unit = UnitOf(drawing, options.units);
   const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  const std::vector<Row> rows = ReadRows(drawing, windows);
   if (options.asJson) {
-    PrintWindows(windows, unit);
+    PrintRows(rows, unit);
   } else if (windows.empty()) {
     fmt::print("{} holds no roof window.\n", options.file);
   } else {
-    PrintTable(windows);
+    PrintTable(rows);
   }
 }
 
@@ -131,8 +196,10 @@ void AddListCommand(CLI::App& app) {
   command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
-      "Sizes are in metres, the place in drawing units; a window is turned by the angle of its lower edge\n"
-      "counter-clockwise from the drawing's x axis.\n"
+      "Sizes are in metres, the place in drawing units. The direction in which the roof falls is in degrees\n"
+      "clockwise from the drawing's y axis, which counts as north. Windows that another program moved, "
+      "turned,\n"
+      "mirrored or scaled are listed as they stand in the drawing, with a note.\n"
       "Example: teskarlt list house-with-window.dxf --json");
   command->callback([options] { RunList(*options); });
 }

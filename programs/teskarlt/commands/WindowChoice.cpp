@@ -20,10 +20,10 @@ const DrawnWindow& ChooseWindow(const std::vector<DrawnWindow>& windows, const s
   }
   const auto count = std::count_if(windows.begin(), windows.end(), bears);
   if (count == 1) return *found;
-  throw Error(
-      fmt::format("{} has {} windows with the number {}; a copy made by another program bears the number of "
-                  "its model",
-                  file, count, number));
+  throw Error(fmt::format(
+      "{} has {} windows with the number {}, as a copy bears that of its model; teskarlt renumber "
+      "gives copies numbers of their own",
+      file, count, number));
 }
 
 }  // namespace teskarlt

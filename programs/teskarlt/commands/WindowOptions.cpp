@@ -90,17 +90,21 @@ const RoofFace& ChooseFace(const WindowOptions& options, const WindowRequest& re
 }
 
 nlohmann::ordered_json ToJson(const WindowOptions& options, const CommandOutcome& outcome,
-                              const RoofFace* face, const std::string& target) {
+                              const RoofFace* face, const WindowReading* edited, const std::string& target) {
   nlohmann::ordered_json json;
   json["version"] = JSON_VERSION;
   json.update(WindowJson(outcome, face));
+  if (edited != nullptr) {
+    json["sources"] = SourcesJson(*edited);
+    json["notes"] = edited->notes;
+  }
   json["file"] = options.dryRun ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(target);
   json["dryRun"] = options.dryRun;
   return json;
 }
 
 void PrintText(const WindowOptions& options, const CommandOutcome& outcome, const RoofFace* face,
-               const std::string& target) {
+               const WindowReading* edited, const std::string& target) {
   const brevanta::WindowParams& window = *outcome.confirmed;
   const std::string where =
       face == nullptr ? "the given plane" : fmt::format("face {} of layer {}", face->name, face->layer);
@@ -109,6 +113,9 @@ void PrintText(const WindowOptions& options, const CommandOutcome& outcome, cons
   fmt::print(
       "{} faces and {} lines {}.\n", outcome.faces, outcome.lines,
       options.dryRun ? "would be added; nothing was written (dry run)" : "added; written to " + target);
+  if (edited == nullptr) return;
+  fmt::print("Not in its description: {} from the geometry; {} by default.\n",
+             fmt::join(edited->recovered, ", "), fmt::join(edited->defaults, ", "));
 }
 
 // The user's word goes before the header's, but a slip would make a window a thousand times too small.
@@ -210,19 +217,28 @@ nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace*
   return json;
 }
 
+nlohmann::ordered_json SourcesJson(const WindowReading& reading) {
+  nlohmann::ordered_json json = nlohmann::ordered_json::object();
+  for (const std::string& field : reading.recovered)
+    json[field] = "geometry";
+  for (const std::string& field : reading.defaults)
+    json[field] = "default";
+  return json;
+}
+
 const std::string& TargetOf(const WindowOptions& options) {
   return options.output.empty() ? options.file : options.output;
 }
 
 void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
-                   const RoofFace* face) {
+                   const RoofFace* face, const WindowReading* edited) {
   const std::string& target = TargetOf(options);
   WarnOfClosedLayers(drawing, outcome.layers);
   if (!options.dryRun) drawing.Save(target);
   if (options.asJson) {
-    PrintJson(ToJson(options, outcome, face, target));
+    PrintJson(ToJson(options, outcome, face, edited, target));
   } else {
-    PrintText(options, outcome, face, target);
+    PrintText(options, outcome, face, edited, target);
   }
 }
 

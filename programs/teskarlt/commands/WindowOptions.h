@@ -10,6 +10,7 @@
 #include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/host/HostSession.h"
 
@@ -63,9 +64,14 @@ nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace*
 // The file that is written.
 const std::string& TargetOf(const WindowOptions& options);
 
-// Saves the drawing, unless it is a dry run, and tells what became of the window.
+// For programs: of the fields that are not as the description says, or not in it, where their values come
+// from.
+nlohmann::ordered_json SourcesJson(const WindowReading& reading);
+
+// Saves the drawing, unless it is a dry run, and tells what became of the window; `edited` is what it was,
+// null for a new one.
 void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
-                   const RoofFace* face);
+                   const RoofFace* face, const WindowReading* edited = nullptr);
 
 // For options that name something: an empty name comes of a shell variable that is not set.
 std::string NotEmpty(const std::string& name);

@@ -6,6 +6,9 @@
 #include <optional>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
+
+#include <fmt/format.h>
 
 #include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/TagValue.h"
@@ -42,6 +45,7 @@ enum class Section { Foreign, Element, WindowElement, Description };
 struct Marks {
   bool isWindow = false;
   std::int32_t number = 0;
+  std::optional<dxf::Tag> numberTag;
   Description description;
 };
 
@@ -105,6 +109,7 @@ void TakeTag(const dxf::Document& drawing, const dxf::Tag& tag, Section& section
     marks.isWindow = true;
   } else if (section == Section::WindowElement && tag.code == XDATA_LONG) {
     marks.number = IntegerOf(tag, marks.description);
+    marks.numberTag = tag;
   } else if (section == Section::Description) {
     TakeDescription(drawing, tag, marks.description);
   }
@@ -165,6 +170,47 @@ void TakeComplete(const Description& d, double unitFactor, DrawnWindow& window) 
   }
 }
 
+// Lines that each letter of the opening code adds to the symbol.
+struct Mark {
+  char letter;
+  std::size_t lines;
+};
+constexpr Mark MARKS[] = {{'B', 2}, {'C', 2}, {'D', 4}, {'E', 2}};
+
+bool IsFace(const dxf::Entity& entity) {
+  return dxf::SameName(entity.type, "3DFACE");
+}
+
+bool IsFaceCount(std::size_t faces) {
+  return faces == 0 || faces == FACES_WITHOUT_SKIRT || faces == FACES_WITH_SKIRT;
+}
+
+// How many windows the entities are, each with the types of the first one in their order; 1 when they are no
+// multiple of a window's.
+std::size_t CopiesIn(const DrawnWindow& window) {
+  const auto& entities = window.entities;
+  const std::size_t lines = entities.size() - window.faces;
+  const std::size_t count = lines / LinesOf(window);
+  if (!window.isComplete || count < 2 || lines % LinesOf(window) != 0 || window.faces % count != 0 ||
+      !IsFaceCount(window.faces / count))
+    return 1;
+  const std::size_t size = entities.size() / count;
+  for (std::size_t i = size; i < entities.size(); ++i)
+    if (!dxf::SameName(entities[i]->type, entities[i % size]->type)) return 1;
+  return count;
+}
+
+void AddWithCopies(DrawnWindow window, std::vector<DrawnWindow>& windows) {
+  const std::size_t count = CopiesIn(window);
+  const std::vector<const dxf::Entity*> entities = std::move(window.entities);
+  const std::size_t size = entities.size() / count;
+  window.faces /= count;
+  for (auto begin = entities.begin(); begin != entities.end(); begin += static_cast<std::ptrdiff_t>(size)) {
+    window.entities.assign(begin, begin + static_cast<std::ptrdiff_t>(size));
+    windows.push_back(window);
+  }
+}
+
 DrawnWindow MakeWindow(const Marks& marks, std::int32_t unitFactor) {
   DrawnWindow window;
   window.number = marks.number;
@@ -180,6 +226,25 @@ DrawnWindow MakeWindow(const Marks& marks, std::int32_t unitFactor) {
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
   const std::string_view extendedData = ExtendedData(drawing, entity);
   return !extendedData.empty() && ReadMarks(drawing, extendedData).isWindow;
+}
+
+std::size_t LinesOf(const DrawnWindow& window) {
+  if (window.params.drawOpeningSymbol == 0) return LINES_OF_OPENING;
+  std::size_t lines = LINES_OF_SYMBOL + LINES_OF_OUTLINE;
+  for (const Mark& mark : MARKS)
+    if (window.openingCode.find(mark.letter) != std::string::npos) lines += mark.lines;
+  return lines;
+}
+
+std::string EntityMismatch(const DrawnWindow& window) {
+  const std::size_t lines = window.entities.size() - window.faces;
+  if (IsFaceCount(window.faces) && lines == LinesOf(window)) return {};
+  return fmt::format("it has {} faces and {} lines, and should have 0, {} or {} faces and {} lines",
+                     window.faces, lines, FACES_WITHOUT_SKIRT, FACES_WITH_SKIRT, LinesOf(window));
+}
+
+std::optional<dxf::Tag> NumberTagOf(const dxf::Document& drawing, const dxf::Entity& entity) {
+  return ReadMarks(drawing, ExtendedData(drawing, entity)).numberTag;
 }
 
 std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor) {
@@ -199,9 +264,12 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
     if (found->second == notOurs) continue;
     DrawnWindow& window = windows[found->second];
     window.entities.push_back(&entity);
-    if (dxf::SameName(entity.type, "3DFACE")) ++window.faces;
+    if (IsFace(entity)) ++window.faces;
   }
-  return windows;
+  std::vector<DrawnWindow> withCopies;
+  for (DrawnWindow& window : windows)
+    AddWithCopies(std::move(window), withCopies);
+  return withCopies;
 }
 
 WindowNumbers NumbersOf(const std::vector<DrawnWindow>& windows) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,8 +29,19 @@ struct DrawnWindow {
 // True when the entity is marked as one of a roof window.
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity);
 
+// Where the entity of a window holds its number; none in one that has none.
+std::optional<dxf::Tag> NumberTagOf(const dxf::Document& drawing, const dxf::Entity& entity);
+
+// How many lines a window with this description has.
+std::size_t LinesOf(const DrawnWindow& window);
+
+// What is wrong with the count of the entities, for people; empty when all are there and none besides.
+std::string EntityMismatch(const DrawnWindow& window);
+
 // The windows in the order of their first entities. Entities with the same number and the same description
-// are one window. `unitFactor` is in drawing units per metre. The drawing must outlive the result.
+// are one window, or several where they are a multiple of what one has: another program's copies, entity by
+// entity in the order of their model. `unitFactor` is in drawing units per metre. The drawing must outlive
+// the result.
 std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor);
 
 // The numbers of the windows.

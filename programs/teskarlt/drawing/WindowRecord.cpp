@@ -1,43 +1,40 @@
 // WindowRecord.cpp - the record with which a window that stands in a drawing can be inserted again.
 #include "teskarlt/drawing/WindowRecord.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
-#include <string>
-#include <vector>
+#include <string_view>
+#include <utility>
 
 #include <fmt/format.h>
 
-#include "geometry/Intersections.h"
+#include "geometry/Matrix4.h"
+#include "geometry/Trigonometry.h"
+#include "inc/EdgeHeights.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/WindowParts.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/drawing/WindowShape.h"
 
 namespace teskarlt {
 
 namespace {
 
+using brevanta::RecordPoint;
 using brevanta::WindowParams;
 using geometry::Vec3;
 
-constexpr std::size_t TOP_EDGE_OF_OUTLINE = 1;  // which of those lines the frame's upper edge is
-constexpr std::size_t TOP_EDGE_OF_OPENING = 4;
 constexpr double SAME_LENGTH = 0.001;  // metres
+constexpr double SAME_ANGLE = 0.01;    // degrees
+constexpr double ROUNDING = 1e6;       // sizes out of the geometry are whole micrometres
 
-[[noreturn]] void Fail(const DrawnWindow& window, const std::string& what) {
-  throw Error(fmt::format("window {} cannot be changed: {}", window.number, what));
+Vec3 ToVec3(const RecordPoint& p) {
+  return {p.x, p.y, p.z};
 }
 
-// The points 10 to 13 of an entity, those that are missing at the origin.
-std::vector<Vec3> PointsOf(const dxf::Document& drawing, const dxf::Entity& entity) {
-  std::vector<Vec3> points(4);
-  dxf::TagReader reader = drawing.Reader(entity);
-  for (dxf::Tag tag; reader.Next(tag) && tag.code < dxf::CODE_XDATA_TEXT;) {
-    if (tag.code < 10 || tag.code > 39 || tag.code % 10 > 3) continue;
-    Vec3& point = points[static_cast<std::size_t>(tag.code % 10)];
-    (tag.code < 20 ? point.x : tag.code < 30 ? point.y : point.z) = reader.Real(tag);
-  }
-  return points;
+RecordPoint ToRecordPoint(const Vec3& v) {
+  return {v.x, v.y, v.z};
 }
 
 double Distance(const Vec3& a, const Vec3& b) {
@@ -46,58 +43,9 @@ double Distance(const Vec3& a, const Vec3& b) {
   return geometry::VecLength(d);
 }
 
-// The ends of the frame's upper edge, drawing coordinates.
-std::vector<Vec3> TopEdge(const dxf::Document& drawing, const DrawnWindow& window) {
-  std::vector<const dxf::Entity*> lines;
-  for (const dxf::Entity* entity : window.entities) {
-    if (dxf::SameName(entity->type, "LINE")) lines.push_back(entity);
-  }
-  const bool hasSymbol = window.params.drawOpeningSymbol != 0;
-  const std::size_t expected = hasSymbol ? LINES_OF_OUTLINE : LINES_OF_OPENING;
-  if (lines.size() < expected) Fail(window, "some of its lines are missing");
-  const std::size_t first = lines.size() - expected;
-  return PointsOf(drawing, *lines[first + (hasSymbol ? TOP_EDGE_OF_OUTLINE : TOP_EDGE_OF_OPENING)]);
-}
-
-// Metres from the window's place to the line of its upper edge.
-double ReachOf(const DrawnWindow& window, const std::vector<Vec3>& topEdge) {
-  const brevanta::RecordPoint& place = window.params.storedPoint;
-  double distance = 0.0;
-  geometry::PointLineDistance(topEdge[0], topEdge[1], {place.x, place.y, place.z}, distance);
-  return distance / window.params.unitFactor;
-}
-
-void TakeBody(const dxf::Document& drawing, const DrawnWindow& window, WindowParams& params) {
-  const std::size_t faces = window.faces;
-  if (faces != 0 && faces != FACES_WITHOUT_SKIRT && faces != FACES_WITH_SKIRT)
-    Fail(window, fmt::format("it has {} faces, and a window has 17 or, with a skirt, 21", faces));
-  params.bodyAsFaces = faces == 0 ? 0 : 1;
-  params.skirtHeight = 0.0;
-  if (faces != FACES_WITH_SKIRT) return;
-  for (const dxf::Entity* entity : window.entities) {
-    if (!dxf::SameName(entity->type, "3DFACE")) continue;
-    const std::vector<Vec3> corners = PointsOf(drawing, *entity);  // of the skirt: from foot to top
-    params.skirtHeight = Distance(corners[0], corners[3]) / params.unitFactor;
-    return;
-  }
-}
-
-// Another program may have stretched or mirrored the window since; then its description does not fit any
-// more.
-void CheckSize(const DrawnWindow& window, const std::vector<Vec3>& topEdge, double reach,
-               WindowParams& params) {
-  const double width = Distance(topEdge[0], topEdge[1]) / params.unitFactor;
-  if (std::abs(width - params.width) > SAME_LENGTH) {
-    Fail(window, fmt::format("it is {:.3f} m wide in the drawing and {:.3f} m by its description", width,
-                             params.width));
-  }
-  if (params.roofBuildUp == brevanta::BUILD_UP_SLOPE_OFFSET) {
-    params.slopeOffset = reach - params.length;
-  } else if (params.roofBuildUp == brevanta::BUILD_UP_PLAIN &&
-             std::abs(reach - params.length) > SAME_LENGTH) {
-    Fail(window, fmt::format("it is {:.3f} m long in the drawing and {:.3f} m by its description", reach,
-                             params.length));
-  }
+// The point `distance` along `direction` from p.
+Vec3 Moved(const Vec3& p, const Vec3& direction, double distance) {
+  return {p.x + direction.x * distance, p.y + direction.y * distance, p.z + direction.z * distance};
 }
 
 template <std::size_t SIZE>
@@ -106,22 +54,246 @@ void StoreText(const dxf::Document& drawing, const std::string& utf8, char (&fie
   std::memcpy(field, bytes.c_str(), bytes.size() + 1);
 }
 
-}  // namespace
-
-WindowParams RecordOf(const dxf::Document& drawing, const DrawnWindow& window) {
-  if (!window.isComplete) Fail(window, "its description is damaged");
-  WindowParams params = window.params;
-  StoreText(drawing, window.text1, params.text1);
-  StoreText(drawing, window.text2, params.text2);
-  StoreText(drawing, window.text3, params.text3);
-  StoreText(drawing, window.openingCode, params.openingCode);
-  params.rotation = 0.0;
-  TakeBody(drawing, window, params);
-  const std::vector<Vec3> topEdge = TopEdge(drawing, window);
-  CheckSize(window, topEdge, ReachOf(window, topEdge), params);
-  return params;
+// The opening code of the mirrored window: hinges on the left without a word go to the right.
+std::string MirroredCode(std::string_view code) {
+  std::string mirrored;
+  for (std::size_t at = 0; at < code.size(); ++at) {
+    mirrored += code[at];
+    if (code[at] != 'E') continue;
+    bool hasSide = false;
+    for (; at + 1 < code.size() && std::string_view("IOLR").find(code[at + 1]) != std::string_view::npos;
+         ++at) {
+      const char suffix = code[at + 1];
+      hasSide = hasSide || suffix == 'L' || suffix == 'R';
+      mirrored += suffix == 'L' ? 'R' : suffix == 'R' ? 'L' : suffix;
+    }
+    if (!hasSide) mirrored += 'R';
+  }
+  return mirrored;
 }
 
+// Puts what the shape says over what the description says.
+class Reconciliation {
+ public:
+  Reconciliation(const WindowShape& shape, WindowReading& reading)
+      : shape_(shape), reading_(reading), params_(reading.params), factor_(reading.params.unitFactor) {}
+
+  void Run() {
+    if (shape_.isMirrored) Mirror();
+    TakeLength("width", "wide", shape_.width, params_.width);
+    TakeLength("length", "long", shape_.length, params_.length);
+    if (shape_.frameWidth) TakeLength("frameWidth", "framed", *shape_.frameWidth, params_.frameWidth);
+    if (shape_.frameDepth) TakeLength("frameDepth", "deep", *shape_.frameDepth, params_.frameDepth);
+    TakeBody();
+    TakePlane();
+    TakePlace();
+    TakeDefaults();
+  }
+
+ private:
+  bool IsNear(const Vec3& a, const Vec3& b) const { return Distance(a, b) <= SAME_LENGTH * factor_; }
+
+  void Mirror() {
+    reading_.isMirrored = true;
+    reading_.notes.emplace_back("it was mirrored");
+    if (params_.widthAnchor != brevanta::ANCHOR_CENTRE) {
+      params_.widthAnchor =
+          params_.widthAnchor == brevanta::ANCHOR_START ? brevanta::ANCHOR_END : brevanta::ANCHOR_START;
+      reading_.recovered.emplace_back("widthAnchor");
+    }
+    const std::string_view code = params_.openingCode;
+    const std::string mirrored = MirroredCode(code);
+    if (mirrored == code) return;
+    if (mirrored.size() >= sizeof params_.openingCode) {
+      reading_.obstacle = fmt::format("it was mirrored, and no opening code is long enough for its hinges");
+      return;
+    }
+    std::memcpy(params_.openingCode, mirrored.c_str(), mirrored.size() + 1);
+    reading_.recovered.emplace_back("openingCode");
+  }
+
+  // `drawn` in drawing units.
+  void TakeLength(const char* field, const char* word, double drawn, double& described) {
+    const double metres = std::round(drawn / factor_ * ROUNDING) / ROUNDING;
+    if (std::abs(metres - described) <= SAME_LENGTH) return;
+    reading_.notes.push_back(
+        fmt::format("it is {:g} m {} in the drawing and {:g} m by its description", metres, word, described));
+    described = metres;
+    reading_.recovered.emplace_back(field);
+  }
+
+  void TakeBody() {
+    params_.bodyAsFaces = shape_.frameDepth ? 1 : 0;
+    reading_.recovered.emplace_back("bodyAsFaces");
+    if (shape_.skirtHeight) {
+      params_.skirtHeight = std::round(*shape_.skirtHeight / factor_ * ROUNDING) / ROUNDING;
+      reading_.recovered.emplace_back("skirtHeight");
+    } else {
+      reading_.defaults.emplace_back("skirtHeight");
+    }
+  }
+
+  bool UsesSecondPlane() const {
+    return params_.roofBuildUp == brevanta::BUILD_UP_SECOND_PLANE && params_.layerThickness > 0.0;
+  }
+
+  bool LiesOnRoof(const RecordPoint (&plane)[3]) const {
+    const Vec3 normal = shape_.Normal();
+    return std::all_of(std::begin(plane), std::end(plane), [&](const RecordPoint& point) {
+      Vec3 offset{};
+      geometry::VecSub(ToVec3(point), shape_.outline[0], offset);
+      return std::abs(geometry::VecDot(normal, offset)) <= SAME_LENGTH * factor_;
+    });
+  }
+
+  // The window lies in its roof's plane. Only a second plane of the user's own leaves the two apart.
+  void TakePlane() {
+    if (LiesOnRoof(params_.roofPlanePoints)) {
+      if (UsesSecondPlane()) TakeThickness();
+      return;
+    }
+    if (UsesSecondPlane() && !IsUnderside(params_, SAME_LENGTH * factor_)) {
+      if (IsNear(Anchor(), ToVec3(params_.storedPoint))) return;
+      reading_.obstacle = "it was moved, and its second plane is not the roof's underside";
+      return;
+    }
+    const double pitch = shape_.Pitch();
+    if (std::abs(pitch - params_.pitch) > SAME_ANGLE) {
+      reading_.notes.push_back(fmt::format(
+          "its pitch is {:.2f} degrees in the drawing and {:.2f} by its description", pitch, params_.pitch));
+      reading_.recovered.emplace_back("pitch");
+    }
+    params_.pitch = pitch;
+    const Vec3 down = shape_.Normal();
+    constexpr std::size_t CORNERS[] = {0, 1, 3};
+    for (std::size_t i = 0; i < std::size(CORNERS); ++i) {
+      const Vec3& corner = shape_.outline[CORNERS[i]];
+      params_.roofPlanePoints[i] = ToRecordPoint(corner);
+      params_.secondPlanePoints[i] = ToRecordPoint(Moved(corner, down, -params_.layerThickness * factor_));
+    }
+    reading_.recovered.emplace_back("roofPlanePoints");
+    reading_.recovered.emplace_back("secondPlanePoints");
+  }
+
+  // Of a scaled window the second plane still is the underside, of a thicker layer.
+  void TakeThickness() {
+    std::array<double, 3> depths{};
+    for (std::size_t i = 0; i < depths.size(); ++i) {
+      Vec3 offset{};
+      geometry::VecSub(shape_.outline[0], ToVec3(params_.secondPlanePoints[i]), offset);
+      depths[i] = geometry::VecDot(shape_.Normal(), offset);
+    }
+    const auto [least, most] = std::minmax_element(depths.begin(), depths.end());
+    if (*most - *least > SAME_LENGTH * factor_ || *least <= 0) return;
+    TakeLength("layerThickness", "deep in its roof", depths[0], params_.layerThickness);
+  }
+
+  // Where the window is anchored if it has no offset along the slope.
+  Vec3 Anchor() const {
+    const bool atStart = params_.widthAnchor == brevanta::ANCHOR_START;
+    const double part = params_.widthAnchor == brevanta::ANCHOR_CENTRE ? 0.5
+                        : atStart != shape_.isMirrored                 ? 0.0
+                                                                       : 1.0;
+    const Vec3 anchor = Moved(shape_.outline[0], shape_.Across(), part * shape_.width);
+    if (!UsesSecondPlane()) return anchor;
+    const double depth = params_.layerThickness * factor_;
+    const bool isSquare = params_.heightReference == 0 || params_.heightReference == 2;
+    if (isSquare) return Moved(anchor, shape_.Normal(), -depth);
+    return Moved(anchor, {0, 0, -1}, depth / geometry::Cosine(geometry::DegToRad(shape_.Pitch())));
+  }
+
+  void TakePlace() {
+    Vec3 anchor = Anchor();
+    const Vec3 stored = ToVec3(params_.storedPoint);
+    if (params_.roofBuildUp == brevanta::BUILD_UP_SLOPE_OFFSET) anchor = TakeSlopeOffset(anchor, stored);
+    const Vec3 xAxis = shape_.Across();
+    const double turned =
+        std::atan2(shape_.isMirrored ? -xAxis.y : xAxis.y, shape_.isMirrored ? -xAxis.x : xAxis.x);
+    const double rotation = turned < 0 ? turned + geometry::TWO_PI : turned;
+    const bool isTurned = std::abs(std::remainder(rotation - params_.rotation, geometry::TWO_PI)) >
+                          geometry::DegToRad(SAME_ANGLE);
+    if (isTurned) {
+      params_.rotation = rotation;
+      reading_.recovered.emplace_back("rotation");
+    }
+    if (IsNear(anchor, stored)) return;
+    reading_.notes.push_back(
+        fmt::format("it stands {:g} m from the place in its description",
+                    std::round(Distance(anchor, stored) / factor_ / SAME_LENGTH) * SAME_LENGTH));
+    params_.storedPoint = ToRecordPoint(anchor);
+    reading_.recovered.emplace_back("storedPoint");
+    params_.lowerEdgeHeight = anchor.z / factor_;
+    reading_.recovered.emplace_back("lowerEdgeHeight");
+  }
+
+  // The offset is what lies between the anchor and the lower edge, where the anchor is still below the edge.
+  Vec3 TakeSlopeOffset(const Vec3& edge, const Vec3& stored) {
+    Vec3 between{};
+    geometry::VecSub(edge, stored, between);
+    const double offset = geometry::VecDot(between, shape_.Up());
+    if (IsNear(Moved(stored, shape_.Up(), offset), edge)) {
+      params_.slopeOffset = std::round(offset / factor_ * ROUNDING) / ROUNDING;
+      reading_.recovered.emplace_back("slopeOffset");
+      return stored;
+    }
+    params_.slopeOffset = brevanta::DEFAULT_SLOPE_OFFSET;
+    reading_.defaults.emplace_back("slopeOffset");
+    return Moved(edge, shape_.Up(), -params_.slopeOffset * factor_);
+  }
+
+  void TakeDefaults() {
+    if (params_.roofBuildUp != brevanta::BUILD_UP_SLOPE_OFFSET) {
+      params_.slopeOffset = brevanta::DEFAULT_SLOPE_OFFSET;
+      reading_.defaults.emplace_back("slopeOffset");
+    }
+    params_.placeByHeight = 0;  // the place says it
+    params_.pickOffset = 0.0;
+    reading_.defaults.insert(reading_.defaults.end(), {"placeByHeight", "pickOffset"});
+    params_.upperEdgeHeight =
+        brevanta::EdgeHeight(params_, brevanta::UPPER_FROM_LOWER, static_cast<int>(factor_)) / factor_;
+    reading_.recovered.emplace_back("upperEdgeHeight");
+  }
+
+  const WindowShape& shape_;
+  WindowReading& reading_;
+  WindowParams& params_;
+  double factor_;  // drawing units per metre
+};
+
+}  // namespace
+
+WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window) {
+  WindowReading reading;
+  reading.params = window.params;
+  if (!window.isComplete) {
+    reading.obstacle = "its description is damaged";
+    return reading;
+  }
+  StoreText(drawing, window.text1, reading.params.text1);
+  StoreText(drawing, window.text2, reading.params.text2);
+  StoreText(drawing, window.text3, reading.params.text3);
+  StoreText(drawing, window.openingCode, reading.params.openingCode);
+  reading.obstacle = EntityMismatch(window);
+  if (!reading.obstacle.empty()) return reading;
+  const WindowReading described = reading;
+  try {
+    Reconciliation(ShapeOf(drawing, window), reading).Run();
+  } catch (const Error& error) {
+    reading.obstacle = error.what();
+  }
+  if (reading.obstacle.empty()) return reading;
+  const std::string obstacle = std::move(reading.obstacle);
+  reading = described;
+  reading.obstacle = obstacle;
+  return reading;
+}
+
+WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow& window) {
+  WindowReading reading = ReadWindow(drawing, window);
+  if (!reading.obstacle.empty())
+    throw Error(fmt::format("window {} cannot be changed: {}", window.number, reading.obstacle));
+  return reading;
+}
 bool IsUnderside(const WindowParams& params, double tolerance) {
   const auto point = [](const brevanta::RecordPoint& p) { return Vec3{p.x, p.y, p.z}; };
   const auto& roof = params.roofPlanePoints;

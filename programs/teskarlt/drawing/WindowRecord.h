@@ -1,17 +1,32 @@
 // WindowRecord.h - the record with which a window that stands in a drawing can be inserted again.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
 
-// The window's record, texts in the drawing's code page. What the extended data does not hold comes from the
-// geometry: `bodyAsFaces`, `skirtHeight` and, where the window uses it, `slopeOffset`; `pickOffset` and
-// `rotation`, which its place holds already, are 0. Throws Error when the description is damaged, entities
-// are missing or were added, or their size no longer is what the description says.
-brevanta::WindowParams RecordOf(const dxf::Document& drawing, const DrawnWindow& window);
+// A window as it stands in its drawing. Other programs move, turn, mirror and scale windows, and some of them
+// leave the description as it was or change parts of it: where the two disagree, the geometry holds.
+struct WindowReading {
+  brevanta::WindowParams params{};  // texts in the drawing's code page
+  bool isMirrored = false;  // since it was inserted; its hinges and its anchor have changed sides then
+  std::vector<std::string>
+      recovered;  // names of the fields that are not as the description says, or not in it
+  std::vector<std::string> defaults;  // names of the fields that nothing tells
+  std::vector<std::string> notes;     // what another program did to it, for people; UTF-8
+  std::string obstacle;               // why it cannot be inserted again; empty: it can
+};
+
+// Reads a window. With an obstacle, the record is what the description says.
+WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window);
+
+// The record of a window that can be inserted again. Throws Error with the obstacle for one that cannot.
+WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow& window);
 
 // True when the record's second plane is the roof plane lowered by the layer's thickness along its normal,
 // within `tolerance` (drawing units).

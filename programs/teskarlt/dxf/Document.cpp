@@ -227,6 +227,10 @@ bool Document::IsRemoved(const Entity& entity) const {
   return state_->edits.IsRemoved(entity);
 }
 
+void Document::ReplaceValue(const Tag& tag, std::string value) {
+  state_->edits.ReplaceValue(tag, std::move(value));
+}
+
 void Document::BeginGroup(std::span<const Entity* const> replaced) {
   state_->edits.BeginGroup(replaced);
 }

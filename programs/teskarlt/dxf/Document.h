@@ -85,9 +85,13 @@ class Document {
   std::uint64_t AddEntity(std::span<const Group> groups);
 
   // Takes an entity of Entities() out, and out of the groups and drawing orders that list it; a group that
-  // loses its last member goes too. A second time does nothing.
+  // loses its last member goes too, and so does what the entity owns. A second time does nothing.
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
+
+  // Writes another value, in the drawing's encoding, in the place of the tag's. The tag is one of the file,
+  // and none is replaced twice.
+  void ReplaceValue(const Tag& tag, std::string value);
 
   // From here on to EndGroup, new entities come into those groups of the drawing that list all `replaced`
   // entities, or else into a group of their own. A drawing before R13 has no groups: there both do nothing.

@@ -157,6 +157,10 @@ bool Edits::IsRemoved(const Entity& entity) const {
   return isRemoved_[NumberOf(entity)];
 }
 
+void Edits::ReplaceValue(const Tag& tag, std::string value) {
+  replaced_.push_back({tag.value.data(), tag.value.data() + tag.value.size(), std::move(value)});
+}
+
 // Entities that replace others come into the groups that had all of those.
 void Edits::BeginGroup(std::span<const Entity* const> replaced) {
   if (!HasSubclassMarkers(rules_.version)) return;
@@ -184,11 +188,12 @@ void Edits::EndGroup(std::string_view name, std::string_view description) {
 }
 
 bool Edits::IsChanged() const {
-  return !added_.empty() || !removed_.empty() || records_.Count() > 0 || groups_.Count() > 0;
+  return !added_.empty() || !removed_.empty() || !replaced_.empty() || records_.Count() > 0 ||
+         groups_.Count() > 0;
 }
 
 EditMark Edits::Mark() const {
-  return {added_.size(),   removed_.size(),       records_.Count(),
+  return {added_.size(),   removed_.size(),       replaced_.size(), records_.Count(),
           groups_.Count(), grouping_.has_value(), handles_.Next()};
 }
 
@@ -198,6 +203,8 @@ void Edits::Rollback(const EditMark& mark) {
     isRemoved_[removed_.back()] = false;
     removed_.pop_back();
   }
+  while (replaced_.size() > mark.replacedValues)
+    replaced_.pop_back();
   if (records_.Count() > mark.addedRecords) records_.GoBack(mark.addedRecords);
   groups_.GoBack(mark.addedGroups);
   if (!mark.isGrouping) grouping_.reset();
@@ -222,7 +229,7 @@ void Edits::AddSeedSplice(std::vector<Splice>& splices) const {
 }
 
 std::vector<Splice> Edits::Splices() const {
-  std::vector<Splice> splices;
+  std::vector<Splice> splices = replaced_;
   AddSeedSplice(splices);
   records_.AddSplices(splices);
   std::unordered_set<std::uint64_t> removedHandles;

@@ -25,6 +25,7 @@ namespace teskarlt::dxf {
 struct EditMark {
   std::size_t addedTexts;
   std::size_t removedEntities;
+  std::size_t replacedValues;
   std::size_t addedRecords;
   std::size_t addedGroups;
   bool isGrouping;
@@ -39,6 +40,7 @@ class Edits {
   std::uint64_t AddEntity(std::span<const Group> groups);
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
+  void ReplaceValue(const Tag& tag, std::string value);
   void BeginGroup(std::span<const Entity* const> replaced);
   void EndGroup(std::string_view name, std::string_view description);
   NewRecords& Records() { return records_; }
@@ -81,6 +83,7 @@ class Edits {
   std::vector<std::string_view> added_;  // texts of new entities, one behind the other
   std::vector<std::size_t> removed_;     // numbers of entities in the order of their removal
   std::vector<bool> isRemoved_;
+  std::vector<Splice> replaced_;  // values of tags
 
   std::string scratch_;
   // The extended data that were written last: the entities of one window share theirs.

@@ -42,7 +42,7 @@ struct CommandOutcome {
   std::optional<brevanta::WindowParams> confirmed;  // the record that the dialog confirmed
   std::size_t faces = 0;                            // entities of finished batches
   std::size_t lines = 0;
-  std::size_t erased = 0;  // entities of the window that was changed or erased
+  std::size_t erased = 0;        // entities of the window that was changed or erased
   std::set<std::string> layers;  // of the new entities, UTF-8
   std::vector<DialogReport> reports;
   std::string failure;  // why an entity was refused; empty when none was

@@ -21,6 +21,8 @@ constexpr std::int32_t BUILD_UP_SECOND_PLANE = 0;
 constexpr std::int32_t BUILD_UP_PLAIN = 1;
 constexpr std::int32_t BUILD_UP_SLOPE_OFFSET = 2;
 
+constexpr double DEFAULT_SLOPE_OFFSET = 0.1;  // metres
+
 // A point or vector of three doubles as it lies in the record.
 struct RecordPoint {
   double x;

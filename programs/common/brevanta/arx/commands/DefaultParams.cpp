@@ -18,7 +18,7 @@ WindowParams* SetDefaultWindowParams(WindowParams* record) {
   record->pickOffset = 0.0;
   record->roofBuildUp = BUILD_UP_PLAIN;
   record->bodyAsFaces = 1;
-  record->slopeOffset = 0.1;
+  record->slopeOffset = DEFAULT_SLOPE_OFFSET;
   record->upperEdgeHeight = 0.0;
   record->layerThickness = 0.1;
   record->pitch = 30.0;

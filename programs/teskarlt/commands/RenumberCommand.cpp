@@ -1,0 +1,110 @@
+// RenumberCommand.cpp - the subcommand "renumber": gives copies of roof windows numbers of their own.
+#include "teskarlt/commands/RenumberCommand.h"
+
+#include <memory>
+#include <set>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "teskarlt/commands/Report.h"
+#include "teskarlt/commands/WindowOptions.h"
+#include "teskarlt/drawing/DrawnWindow.h"
+
+namespace teskarlt {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct RenumberOptions {
+  std::string file;
+  std::string output;
+  bool dryRun = false;
+  bool asJson = false;
+};
+
+struct NewNumber {
+  const DrawnWindow& window;
+  std::int32_t number;
+};
+
+// The windows whose number a window before them bears. What has no number is none of ours to number.
+std::vector<NewNumber> NewNumbers(const std::vector<DrawnWindow>& windows) {
+  WindowNumbers taken = NumbersOf(windows);
+  std::set<std::int32_t> known;
+  std::vector<NewNumber> numbers;
+  for (const DrawnWindow& window : windows) {
+    if (window.number == 0 || known.insert(window.number).second) continue;
+    numbers.push_back({window, taken.Free()});
+    taken.Take(numbers.back().number);
+  }
+  return numbers;
+}
+
+void Store(const NewNumber& change, dxf::Document& drawing) {
+  for (const dxf::Entity* const entity : change.window.entities)
+    if (const auto tag = NumberTagOf(drawing, *entity); tag)
+      drawing.ReplaceValue(*tag, std::to_string(change.number));
+}
+
+void Print(const RenumberOptions& options, const std::vector<NewNumber>& changes, const std::string& target) {
+  if (options.asJson) {
+    Json json{{"version", JSON_VERSION}};
+    json["windows"] = Json::array();
+    for (const auto& [window, number] : changes)
+      json["windows"].push_back(
+          {{"from", window.number}, {"to", number}, {"entities", window.entities.size()}});
+    json["file"] = options.dryRun || changes.empty() ? Json(nullptr) : Json(target);
+    json["dryRun"] = options.dryRun;
+    PrintJson(json);
+    return;
+  }
+  for (const auto& [window, number] : changes) {
+    const brevanta::RecordPoint& place = window.params.storedPoint;
+    fmt::print("Window {} at {:.3f},{:.3f}: {} {}.\n", window.number, place.x, place.y,
+               options.dryRun ? "would get the number" : "has the number", number);
+  }
+  if (changes.empty()) {
+    fmt::print("Every window of {} has a number of its own.\n", options.file);
+  } else {
+    fmt::print("{} window{} {}.\n", changes.size(), changes.size() == 1 ? "" : "s",
+               options.dryRun ? "would be renumbered; nothing was written (dry run)"
+                              : "renumbered; written to " + target);
+  }
+}
+
+void RunRenumber(const RenumberOptions& options) {
+  dxf::Document drawing = dxf::Document::Load(options.file);
+  constexpr int anyUnit = 1;  // no length has a part in it
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, anyUnit);
+  const std::vector<NewNumber> changes = NewNumbers(windows);
+  for (const NewNumber& change : changes)
+    Store(change, drawing);
+  const std::string& target = options.output.empty() ? options.file : options.output;
+  const bool isWanted = drawing.IsChanged() || !options.output.empty();
+  if (isWanted && !options.dryRun) drawing.Save(target);
+  Print(options, changes, target);
+}
+
+}  // namespace
+
+void AddRenumberCommand(CLI::App& app) {
+  CLI::App* command = app.add_subcommand("renumber", "Give copies of roof windows numbers of their own");
+  const auto options = std::make_shared<RenumberOptions>();
+  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
+  command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
+      ->type_name("FILE")
+      ->check(NotEmpty);
+  command->add_flag("--dry-run", options->dryRun, "say what would be done and write nothing");
+  command->add_flag("--json", options->asJson, JSON_HELP);
+  command->footer(
+      "A window that was copied in a CAD program bears the number of its model, and edit and erase know\n"
+      "windows by their numbers. The first window of a number keeps it, all others get free ones; nothing\n"
+      "else of them changes.\n"
+      "Example: teskarlt renumber house-with-copies.dxf");
+  command->callback([options] { RunRenumber(*options); });
+}
+
+}  // namespace teskarlt

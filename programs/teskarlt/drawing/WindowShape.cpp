@@ -1,0 +1,219 @@
+// WindowShape.cpp - reads a window's shape from the ends of its lines and the corners of its faces.
+#include "teskarlt/drawing/WindowShape.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "geometry/Matrix4.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/drawing/WindowParts.h"
+#include "teskarlt/dxf/TagValue.h"
+
+namespace teskarlt {
+
+namespace {
+
+using geometry::Vec3;
+using Corners = std::array<Vec3, 4>;
+
+// Of the symbol: frame and sash come first, the outline last.
+constexpr std::size_t FIRST_LINE_OF_SASH = 4;
+// Without a symbol: the opening, then the frame's upper edge.
+constexpr std::size_t TOP_EDGE_OF_OPENING = 4;
+// Of the body, behind the skirt: outer and inner wall, then the ring between them, each of four faces.
+constexpr std::size_t FIRST_FACE_OF_RING = 8;
+
+constexpr double SAME_PLACE = 1e-3;      // metres; parts that are farther apart do not belong together
+constexpr double SAME_DIRECTION = 1e-4;  // sine of the angle
+constexpr double STEEPEST = 1e-6;        // least upward part of a roof's normal
+
+Vec3 Minus(const Vec3& a, const Vec3& b) {
+  Vec3 difference{};
+  geometry::VecSub(a, b, difference);
+  return difference;
+}
+
+double Distance(const Vec3& a, const Vec3& b) {
+  return geometry::VecLength(Minus(b, a));
+}
+
+Vec3 Unit(const Vec3& v) {
+  Vec3 unit{};
+  geometry::VecNormalize(v, unit);
+  return unit;
+}
+
+// The point `distance` along `direction` from p.
+Vec3 Moved(const Vec3& p, const Vec3& direction, double distance) {
+  return {p.x + direction.x * distance, p.y + direction.y * distance, p.z + direction.z * distance};
+}
+
+// The points 10 to 13 of an entity, those that are missing at the origin.
+Corners PointsOf(const dxf::Document& drawing, const dxf::Entity& entity) {
+  Corners points{};
+  dxf::TagReader reader = drawing.Reader(entity);
+  for (dxf::Tag tag; reader.Next(tag) && tag.code < dxf::CODE_XDATA_TEXT;) {
+    if (tag.code < 10 || tag.code > 39 || tag.code % 10 > 3) continue;
+    Vec3& point = points[static_cast<std::size_t>(tag.code % 10)];
+    (tag.code < 20 ? point.x : tag.code < 30 ? point.y : point.z) = reader.Real(tag);
+  }
+  return points;
+}
+
+// Reads the shape of one window.
+class ShapeReader {
+ public:
+  ShapeReader(const dxf::Document& drawing, const DrawnWindow& window)
+      : window_(window), tolerance_(SAME_PLACE * window.params.unitFactor) {
+    for (const dxf::Entity* entity : window.entities)
+      (dxf::SameName(entity->type, "LINE") ? lines_ : faces_).push_back(PointsOf(drawing, *entity));
+    skirtFaces_ = faces_.size() == FACES_WITH_SKIRT ? FACES_WITH_SKIRT - FACES_WITHOUT_SKIRT : 0;
+  }
+
+  WindowShape Read() const {
+    WindowShape shape{};
+    shape.outline = HasSymbol() ? OutlineOfSymbol() : faces_.empty() ? OutlineOfOpening() : OutlineOfBody();
+    CheckRectangle(shape.outline);
+    shape.length = Distance(shape.outline[0], shape.outline[1]);
+    shape.width = Distance(shape.outline[0], shape.outline[3]);
+    Vec3 normal{};
+    geometry::VecCross(shape.Across(), shape.Up(), normal);
+    shape.isMirrored = normal.z < 0;
+    CheckStand(shape);
+    TakeBody(shape);
+    TakeFrame(shape);
+    return shape;
+  }
+
+ private:
+  [[noreturn]] static void Fail(const std::string& what) { throw Error(what); }
+  bool HasSymbol() const { return window_.params.drawOpeningSymbol != 0; }
+  bool IsNear(const Vec3& a, const Vec3& b) const { return Distance(a, b) <= tolerance_; }
+
+  // Four lines, each from the end of the one before it.
+  Corners Chain(std::size_t first) const {
+    Corners corners{};
+    for (std::size_t k = 0; k < corners.size(); ++k) {
+      corners[k] = lines_[first + k][0];
+      if (!IsNear(lines_[first + k][1], lines_[first + (k + 1) % corners.size()][0])) FailApart();
+    }
+    return corners;
+  }
+
+  [[noreturn]] static void FailApart() { Fail("its parts were moved apart"); }
+
+  Corners OutlineOfSymbol() const {
+    const Corners outline = Chain(lines_.size() - LINES_OF_OUTLINE);
+    if (!faces_.empty() && !std::equal(outline.begin(), outline.end(), OutlineOfBody().begin(),
+                                       [&](const Vec3& a, const Vec3& b) { return IsNear(a, b); }))
+      FailApart();
+    return outline;
+  }
+
+  // The first faces stand on it.
+  Corners OutlineOfBody() const {
+    Corners outline{};
+    for (std::size_t k = 0; k < outline.size(); ++k)
+      outline[k] = faces_[k][0];
+    return outline;
+  }
+
+  // Only the upper edge is drawn; the opening tells the direction and, with what the roof's layer adds to it,
+  // the length.
+  Corners OutlineOfOpening() const {
+    const Corners opening = Chain(0);
+    const Corners& topEdge = lines_[TOP_EDGE_OF_OPENING];
+    const Vec3 up = Unit(Minus(opening[1], opening[0]));
+    const double length = Distance(opening[0], opening[1]) - Lengthening(up);
+    return {Moved(topEdge[0], up, -length), topEdge[0], topEdge[1], Moved(topEdge[1], up, -length)};
+  }
+
+  // How much longer than the window its opening is: where it is cut at the lower or upper edge.
+  double Lengthening(const Vec3& up) const {
+    const double depth = window_.params.layerThickness * window_.params.unitFactor;
+    const double tangent = up.z / std::hypot(up.x, up.y);
+    const std::int32_t mode = window_.params.heightReference;
+    double longer = 0.0;
+    if (mode == 1 || mode == 3) longer += std::abs(depth * tangent);
+    if ((mode == 1 || mode == 2) && tangent != 0.0) longer += std::abs(depth / tangent);
+    return longer;
+  }
+
+  void CheckRectangle(const Corners& outline) const {
+    const Vec3 up = Minus(outline[1], outline[0]);
+    const Vec3 across = Minus(outline[3], outline[0]);
+    const double size = geometry::VecLength(up) * geometry::VecLength(across);
+    if (!(size > 0.0)) Fail("it was squeezed to a line");
+    const Vec3 opposite{outline[1].x + across.x, outline[1].y + across.y, outline[1].z + across.z};
+    if (!IsNear(outline[2], opposite) || std::abs(geometry::VecDot(up, across)) > SAME_DIRECTION * size)
+      Fail("it is no rectangle any more");
+  }
+
+  static void CheckStand(const WindowShape& shape) {
+    const Vec3 across = shape.Across();
+    if (shape.Normal().z < STEEPEST) Fail("it stands upright, as in a wall");
+    if (std::abs(across.z) > SAME_DIRECTION) Fail("its lower edge is not horizontal any more");
+    if (shape.Up().z < -SAME_DIRECTION) Fail("it stands upside down");
+    const bool isFlat = std::abs(shape.Up().z) <= SAME_DIRECTION;
+    const double alongX = shape.isMirrored ? -across.x : across.x;
+    if (isFlat && (alongX < 0 || std::abs(across.y) > SAME_DIRECTION))
+      Fail("it lies turned on a flat roof, where a window lies along the x axis");
+  }
+
+  void TakeBody(WindowShape& shape) const {
+    if (faces_.empty()) return;
+    shape.skirtHeight = skirtFaces_ == 0 ? 0.0 : Distance(faces_[0][0], faces_[0][3]);
+    const Corners& wall = faces_[skirtFaces_];  // from the foot up
+    shape.frameDepth = Distance(wall[0], wall[3]);
+    if (geometry::VecDot(Minus(wall[3], wall[0]), shape.Normal()) < 0) Fail("it stands upside down");
+  }
+
+  // From the frame's corner to the sash's, along both edges.
+  void TakeFrame(WindowShape& shape) const {
+    if (!HasSymbol() && faces_.empty()) return;
+    const Vec3& corner =
+        HasSymbol() ? lines_[FIRST_LINE_OF_SASH][0] : faces_[skirtFaces_ + FIRST_FACE_OF_RING][3];
+    const Vec3 diagonal = Minus(corner, shape.outline[0]);
+    const double side = geometry::VecDot(diagonal, shape.Across());
+    const double bottom = geometry::VecDot(diagonal, shape.Up());
+    if (std::abs(side - bottom) <= tolerance_) shape.frameWidth = (side + bottom) / 2;
+  }
+
+  const DrawnWindow& window_;
+  double tolerance_;  // drawing units
+  std::vector<Corners> lines_;
+  std::vector<Corners> faces_;
+  std::size_t skirtFaces_ = 0;
+};
+
+}  // namespace
+
+Vec3 WindowShape::Across() const {
+  return Unit(Minus(outline[3], outline[0]));
+}
+
+Vec3 WindowShape::Up() const {
+  return Unit(Minus(outline[1], outline[0]));
+}
+
+Vec3 WindowShape::Normal() const {
+  Vec3 normal{};
+  geometry::VecCross(Across(), Up(), normal);
+  if (isMirrored) geometry::VecScale(normal, -1.0, normal);
+  return Unit(normal);
+}
+
+double WindowShape::Pitch() const {
+  const Vec3 up = Up();
+  return geometry::RadToDeg(std::atan2(up.z, std::hypot(up.x, up.y)));
+}
+
+WindowShape ShapeOf(const dxf::Document& drawing, const DrawnWindow& window) {
+  return ShapeReader(drawing, window).Read();
+}
+
+}  // namespace teskarlt

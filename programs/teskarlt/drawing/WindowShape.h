@@ -1,0 +1,37 @@
+// WindowShape.h - the shape of a roof window as its entities show it, whatever their description says.
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "geometry/Vec3.h"
+#include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/dxf/Document.h"
+
+namespace teskarlt {
+
+// Lengths and points in drawing units.
+struct WindowShape {
+  // The frame's outline on the roof: from the start of the lower edge up, across and down to its end. From
+  // below the eaves the start is on the left, and on the right when the window is mirrored.
+  std::array<geometry::Vec3, 4> outline;
+  double width;
+  double length;
+  std::optional<double> frameWidth;   // none without symbol and body, or where the sides differ
+  std::optional<double> frameDepth;   // none without a body
+  std::optional<double> skirtHeight;  // likewise
+  bool isMirrored;
+
+  geometry::Vec3 Across() const;  // unit vectors along the lower edge from its start, and up the slope
+  geometry::Vec3 Up() const;
+  geometry::Vec3 Normal() const;  // of the roof, upwards
+  double Pitch() const;           // degrees from the horizontal
+};
+
+// The shape of a window with all its entities (MissingEntities gives none). Throws Error, naming what is
+// wrong, when they do not show a window that can stand in a roof: its parts were moved apart, it is no
+// rectangle, its lower edge is not horizontal, it stands upside down or upright, or lies turned on a flat
+// roof.
+WindowShape ShapeOf(const dxf::Document& drawing, const DrawnWindow& window);
+
+}  // namespace teskarlt
