@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "dialog/FaceCover.h"
 #include "dialog/Refusal.h"
+#include "geometry/PlanCover.h"
 #include "geometry/RoofPlane.h"
 #include "geometry/Trigonometry.h"
 #include "inc/EdgeHeights.h"
@@ -16,6 +16,7 @@ namespace brevanta {
 namespace {
 
 using geometry::KernelTolerance;
+using geometry::PlanPolygon;
 using geometry::roofPlane;
 using geometry::Vec3;
 
@@ -183,7 +184,7 @@ std::string HeightRange(const Roof& roof, std::int32_t unitFactor) {
 }
 
 void CheckInside(const Roof& roof, const PlanPolygon& outline, const WindowParams& record) {
-  const double area = PlanArea(outline);
+  const double area = geometry::PlanArea(outline);
   if (!(area > 0.0) || !std::isfinite(area))
     throw Refusal("the window would lie farther away than numbers reach; check its sizes and offsets");
   std::vector<PlanPolygon> faces;
@@ -192,7 +193,7 @@ void CheckInside(const Roof& roof, const PlanPolygon& outline, const WindowParam
     for (std::size_t i = 0; i < face.size(); ++i)
       geometry::WorldToRoof(face[i], local[i]);
   }
-  const double outside = 1.0 - CoveredArea(outline, faces) / area;
+  const double outside = 1.0 - geometry::CoveredArea(outline, faces) / area;
   if (outside <= COVER_TOLERANCE) return;
   const double percent = std::ceil(outside * 1000.0) / 10.0;
   throw Refusal("the window would leave the roof face: " + NumberText(percent) +

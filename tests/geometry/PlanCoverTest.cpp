@@ -1,9 +1,9 @@
-// FaceCoverTest.cpp - how much of an outline a face covers.
+// PlanCoverTest.cpp - how much of an outline a face covers.
 #include <gtest/gtest.h>
 
-#include "dialog/FaceCover.h"
+#include "geometry/PlanCover.h"
 
-namespace brevanta {
+namespace geometry {
 namespace {
 
 const PlanPolygon SQUARE = {{0, 0, 0}, {2, 0, 0}, {2, 2, 0}, {0, 2, 0}};
@@ -70,4 +70,4 @@ TEST(CoveredArea, WithoutFacesNothingIsCovered) {
 }
 
 }  // namespace
-}  // namespace brevanta
+}  // namespace geometry

@@ -1,16 +1,14 @@
-// FaceCover.cpp - clips polygons against a convex outline in the plan and measures what they cover together.
-#include "dialog/FaceCover.h"
+// PlanCover.cpp - clips polygons against a convex outline in the plan and measures what they cover together.
+#include "geometry/PlanCover.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <utility>
 
-namespace brevanta {
+namespace geometry {
 
 namespace {
-
-using geometry::Vec3;
 
 // Positive when the corners run counter-clockwise.
 // Coordinates are taken from the first corner, for precision.
@@ -145,4 +143,4 @@ double CoveredArea(const PlanPolygon& outline, const std::vector<PlanPolygon>& p
   return area;
 }
 
-}  // namespace brevanta
+}  // namespace geometry

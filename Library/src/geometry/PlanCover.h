@@ -1,13 +1,13 @@
-// FaceCover.h - how much of a convex outline a set of faces covers, in the plan.
+// PlanCover.h - how much of a convex outline a set of faces covers, in the plan.
 #pragma once
 
 #include <vector>
 
 #include "geometry/Vec3.h"
 
-namespace brevanta {
+namespace geometry {
 
-using PlanPolygon = std::vector<geometry::Vec3>;  // corners in order, either way round; z has no part in it
+using PlanPolygon = std::vector<Vec3>;  // corners in order, either way round; z has no part in it
 
 // The area, not negative.
 double PlanArea(const PlanPolygon& polygon);
@@ -16,4 +16,4 @@ double PlanArea(const PlanPolygon& polygon);
 // where they lie over each other the area counts once.
 double CoveredArea(const PlanPolygon& outline, const std::vector<PlanPolygon>& polygons);
 
-}  // namespace brevanta
+}  // namespace geometry
