@@ -4,9 +4,10 @@ import json
 import os
 import pathlib
 import subprocess
+import sys
 
 TIME_LIMIT = 120  # seconds
-WRITING = ("new", "insert", "edit", "erase")  # the commands that write drawings
+WRITING = ("new", "insert", "edit", "erase", "renumber", "refit")  # the commands that write drawings
 
 
 @dataclasses.dataclass
@@ -39,9 +40,17 @@ class Program:
         """Runs the program; never raises for its exit status."""
         command = [*(["wine"] if self.windows else []), str(self.path), *map(self.spelled, arguments)]
         variables = {"TESKAR_DATA": self.data_folder, **(env or {})}
-        done = subprocess.run(command, cwd=cwd, capture_output=True, timeout=TIME_LIMIT,
-                              env={**os.environ, **{name: self.spelled(value) for name, value in variables.items()}},
-                              **({"stdin": subprocess.DEVNULL} if stdin is None else {"input": stdin.encode()}))
+
+        def run():
+            return subprocess.run(command, cwd=cwd, capture_output=True, timeout=TIME_LIMIT,
+                                  env={**os.environ, **{name: self.spelled(value) for name, value in variables.items()}},
+                                  **({"stdin": subprocess.DEVNULL} if stdin is None else {"input": stdin.encode()}))
+        done = run()
+        # On a busy machine about one start in a thousand under Wine ends at once, with status 1 and without a word.
+        # The program itself never fails without a word.
+        if self.windows and (done.returncode, done.stdout, done.stderr) == (1, b"", b""):
+            print("Wine did not start:", *command, file=sys.stderr)
+            done = run()
         texts = [stream.decode("utf-8", "replace").replace("\r\n", "\n") for stream in (done.stdout, done.stderr)]
         return Answer(done.returncode, *texts)
 
