@@ -75,6 +75,7 @@ constexpr std::string_view KIND_NAMES[] = {
     "window-entities",
     "window-number",
     "window-size",
+    "window-misfit",
     "window-foreign-data",
 };
 static_assert(std::size(KIND_NAMES) == static_cast<std::size_t>(Kind::KindCount));

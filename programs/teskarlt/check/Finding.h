@@ -83,6 +83,7 @@ enum class Kind {
   WindowEntities,
   WindowNumber,
   WindowSize,
+  WindowMisfit,
   WindowForeignData,
   KindCount
 };

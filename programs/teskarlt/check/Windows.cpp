@@ -12,7 +12,9 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/TagValue.h"
@@ -83,8 +85,26 @@ void CheckShapes(const Scene& scene) {
   }
 }
 
+// Windows in each other's way, and those whose roof was changed.
+void CheckFits(const Scene& scene) {
+  if (scene.unit == nullptr) return;
+  const double tolerance = RoofTolerance(*scene.unit);
+  const std::vector<RoofFace> faces = FindRoofFaces(scene.drawing, tolerance);
+  WindowFit fit(faces, tolerance);
+  for (const DrawnWindow& window : scene.windows) {
+    const std::optional<Outline> outline = DrawnOutline(scene.drawing, window);
+    if (!outline) continue;
+    for (const std::string& misfit : fit.Misfits(*outline)) {
+      Report(scene, Kind::WindowMisfit, window, fmt::format("window {}: {}", window.number, misfit),
+             Severity::Warning);
+    }
+    fit.Add(window.number, *outline);
+  }
+}
+
 // Whatever else can be wrong with windows and their roofs is one more function of this list.
-constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, CheckEntities, CheckShapes};
+constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, CheckEntities, CheckShapes,
+                                            CheckFits};
 
 const DrawingUnit* UnitOfHeader(const dxf::Document& drawing) {
   try {

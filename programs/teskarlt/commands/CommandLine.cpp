@@ -18,6 +18,7 @@
 #include "teskarlt/commands/MergeCommand.h"
 #include "teskarlt/commands/NewCommand.h"
 #include "teskarlt/commands/PreviewCommand.h"
+#include "teskarlt/commands/RefitCommand.h"
 #include "teskarlt/commands/RenumberCommand.h"
 #include "teskarlt/commands/RoofsCommand.h"
 
@@ -55,6 +56,7 @@ void AddCommands(CLI::App& app, int& status) {
   AddEditCommand(app);
   AddEraseCommand(app);
   AddListCommand(app);
+  AddRefitCommand(app);
   AddRenumberCommand(app);
   AddCheckCommand(app, status);
   AddPreviewCommand(app);

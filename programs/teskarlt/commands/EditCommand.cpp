@@ -12,6 +12,7 @@
 #include "teskarlt/commands/WindowChoice.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/host/WindowModule.h"
 
@@ -59,10 +60,6 @@ const RoofFace* KeepPlace(const WindowParams& window, const std::vector<RoofFace
     BoundByFace(*face, faces, tolerance, request);
     return face;
   }
-  fmt::print(
-      stderr,
-      "teskarlt: warning: window {} stands on no roof face any more; the plane that it keeps is used\n",
-      window.markerValue);
   request.faces = {{}};
   for (const RecordPoint& point : window.roofPlanePoints)
     request.faces[0].push_back(ToVec3(point));
@@ -104,7 +101,13 @@ void RunEdit(const EditOptions& options) {
   if (!moves) KeepSecondPlane(*request.edited, RoofTolerance(unit), request);
   const RoofFace* face = moves ? TakeRoof(options.window, faces, RoofTolerance(unit), request)
                                : KeepPlace(*request.edited, faces, RoofTolerance(unit), request);
-  SaveAndReport(options.window, drawing, module.Edit(drawing, request), face, &reading);
+  const CommandOutcome outcome = module.Edit(drawing, request);
+  WindowFit fit(faces, RoofTolerance(unit));
+  fit.AddAll(drawing, windows, &window);
+  const std::vector<std::string> misfits = fit.Misfits(OutlineOf(*outcome.confirmed));
+  RefuseMisfits(options.window, misfits);
+  WarnOfMisfits(window.number, misfits);
+  SaveAndReport(options.window, drawing, outcome, face, misfits, &reading);
 }
 
 }  // namespace

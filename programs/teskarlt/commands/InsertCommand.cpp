@@ -19,7 +19,8 @@ namespace {
 void RunInsert(const WindowOptions& options) {
   WindowInserter inserter(options);
   const InsertedWindow window = inserter.Insert(options);
-  SaveAndReport(options, inserter.Drawing(), window.outcome, window.face);
+  WarnOfMisfits(window.outcome.confirmed->markerValue, window.misfits);
+  SaveAndReport(options, inserter.Drawing(), window.outcome, window.face, window.misfits);
 }
 
 void PrintFields() {

@@ -152,15 +152,18 @@ struct JobsReport {
   std::set<std::string> layers;  // of the new entities
 };
 
-void RunJob(const Job& job, const WindowOptions& defaults, WindowInserter& inserter, JobsReport& report) {
+void RunJob(const Job& job, const WindowOptions& defaults, WindowInserter& inserter, Progress& progress,
+            JobsReport& report) {
   const InsertedWindow window = inserter.Insert(ParseJob(job.text, defaults));
+  if (!window.misfits.empty()) progress.Clear();
+  WarnOfMisfits(window.outcome.confirmed->markerValue, window.misfits);
   ++report.inserted;
   report.faces += window.outcome.faces;
   report.lines += window.outcome.lines;
   report.layers.insert(window.outcome.layers.begin(), window.outcome.layers.end());
   if (!defaults.asJson) return;
   ordered_json entry{{"line", job.line}};
-  entry.update(WindowJson(window.outcome, window.face));
+  entry.update(WindowJson(window.outcome, window.face, window.misfits));
   report.windows.push_back(std::move(entry));
 }
 
@@ -170,7 +173,7 @@ JobsReport RunAll(const std::vector<Job>& jobs, const WindowOptions& defaults, c
   Progress progress("windows", jobs.size());
   for (const Job& job : jobs) {
     try {
-      RunJob(job, defaults, inserter, report);
+      RunJob(job, defaults, inserter, progress, report);
     } catch (const Error& error) {
       progress.Clear();
       fmt::print(stderr, "teskarlt: {}:{}: {}\n", file, job.line, error.what());

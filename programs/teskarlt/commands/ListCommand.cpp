@@ -93,27 +93,17 @@ std::vector<Row> ReadRows(const dxf::Document& drawing, const std::vector<DrawnW
   return rows;
 }
 
-// Where the roof falls to, in degrees clockwise from the drawing's y axis; none when it is flat.
-std::optional<double> Direction(const brevanta::WindowParams& params) {
+// Where the roof falls to, in degrees counter-clockwise from the drawing's x axis; none when it is flat.
+std::optional<double> FallDirection(const brevanta::WindowParams& params) {
   constexpr double FLAT = 0.01;  // degrees
   constexpr double FULL_TURN = 360.0;
-  constexpr double TENTHS = 10.0;
   if (params.pitch < FLAT) return std::nullopt;
-  const double direction =
-      std::fmod(FULL_TURN + FULL_TURN / 2 - geometry::RadToDeg(params.rotation), FULL_TURN);
-  return std::fmod(std::round(direction * TENTHS) / TENTHS, FULL_TURN);
-}
-
-// "SE" for 135 degrees.
-const char* CompassPoint(double direction) {
-  constexpr const char* POINTS[] = {"N", "NE", "E", "SE", "S", "SW", "W", "NW"};
-  constexpr double EIGHTH = 45.0;
-  return POINTS[static_cast<std::size_t>(std::lround(direction / EIGHTH)) % std::size(POINTS)];
+  return std::fmod(geometry::RadToDeg(params.rotation) + 0.75 * FULL_TURN, FULL_TURN);
 }
 
 Json ToJson(const Row& row) {
   const auto& [window, reading] = row;
-  const std::optional<double> direction = window.isComplete ? Direction(reading.params) : std::nullopt;
+  const std::optional<double> fall = window.isComplete ? FallDirection(reading.params) : std::nullopt;
   Json json;
   json["number"] = window.number;
   json["complete"] = window.isComplete;
@@ -121,7 +111,7 @@ Json ToJson(const Row& row) {
   json["mirrored"] = reading.isMirrored;
   json["faces"] = window.faces;
   json["lines"] = window.entities.size() - window.faces;
-  json["direction"] = direction ? Json(*direction) : Json(nullptr);
+  json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
   json["fields"] = window.isComplete ? FieldsJson(window, reading.params) : Json(nullptr);
   json["sources"] = SourcesJson(reading);
   json["notes"] = reading.notes;
@@ -146,14 +136,14 @@ std::string Texts(const DrawnWindow& window) {
   return texts;
 }
 
-std::string DirectionText(const brevanta::WindowParams& params) {
-  const std::optional<double> direction = Direction(params);
-  return direction ? fmt::format("{:g} {}", *direction, CompassPoint(*direction)) : "-";
+std::string FallText(const brevanta::WindowParams& params) {
+  const std::optional<double> fall = FallDirection(params);
+  return fall ? fmt::format("{:.1f}", *fall) : "flat";
 }
 
 void PrintTable(const std::vector<Row>& rows) {
-  Table table(
-      {"number", "width m", "length m", "pitch deg", "falls to", "x", "y", "z", "code", "entities", "texts"});
+  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "x", "y", "z", "code",
+               "entities", "texts"});
   for (const auto& [window, reading] : rows) {
     const brevanta::WindowParams& p = reading.params;
     const std::string entities = std::to_string(window.entities.size());
@@ -163,7 +153,7 @@ void PrintTable(const std::vector<Row>& rows) {
       continue;
     }
     table.Add({std::to_string(window.number), fmt::format("{:g}", p.width), fmt::format("{:g}", p.length),
-               fmt::format("{:.2f}", p.pitch), DirectionText(p), fmt::format("{:.3f}", p.storedPoint.x),
+               fmt::format("{:.2f}", p.pitch), FallText(p), fmt::format("{:.3f}", p.storedPoint.x),
                fmt::format("{:.3f}", p.storedPoint.y), fmt::format("{:.3f}", p.storedPoint.z), p.openingCode,
                entities, Texts(window)});
   }

@@ -12,7 +12,11 @@ WindowInserter::WindowInserter(const WindowOptions& options)
     : drawing_(dxf::Document::Load(options.file)),
       unit_(TakeUnit(options, drawing_)),
       faces_(FindRoofFaces(drawing_, RoofTolerance(unit_))),
-      numbers_(NumbersOf(FindWindows(drawing_, unit_.perMetre))) {}
+      fit_(faces_, RoofTolerance(unit_)) {
+  const std::vector<DrawnWindow> windows = FindWindows(drawing_, unit_.perMetre);
+  numbers_ = NumbersOf(windows);
+  fit_.AddAll(drawing_, windows);
+}
 
 InsertedWindow WindowInserter::Insert(const WindowOptions& options) {
   WindowRequest request;
@@ -20,8 +24,19 @@ InsertedWindow WindowInserter::Insert(const WindowOptions& options) {
   request.numbersInUse = &numbers_;
   TakeAnswers(options, drawing_, catalogues_, request);
   const RoofFace* face = TakeRoof(options, faces_, RoofTolerance(unit_), request);
-  InsertedWindow window{module_.Insert(drawing_, request), face};
-  numbers_.Take(window.outcome.confirmed->markerValue);
+  const dxf::EditMark before = drawing_.Mark();
+  InsertedWindow window{module_.Insert(drawing_, request), face, {}};
+  const brevanta::WindowParams& record = *window.outcome.confirmed;
+  const Outline outline = OutlineOf(record);
+  window.misfits = fit_.Misfits(outline);
+  try {
+    RefuseMisfits(options, window.misfits);
+  } catch (...) {
+    drawing_.Rollback(before);
+    throw;
+  }
+  fit_.Add(record.markerValue, outline);
+  numbers_.Take(record.markerValue);
   return window;
 }
 

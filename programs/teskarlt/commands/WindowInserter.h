@@ -1,11 +1,13 @@
 // WindowInserter.h - inserts windows into one drawing, one after the other.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/host/WindowModule.h"
@@ -14,7 +16,8 @@ namespace teskarlt {
 
 struct InsertedWindow {
   CommandOutcome outcome;
-  const RoofFace* face;  // lives as long as the inserter; null where the user gave the plane
+  const RoofFace* face;              // lives as long as the inserter; null where the user gave the plane
+  std::vector<std::string> misfits;  // why it does not fit, as WindowFit tells it
 };
 
 class WindowInserter {
@@ -34,6 +37,7 @@ class WindowInserter {
   const DrawingUnit& unit_;
   const std::vector<RoofFace> faces_;
   WindowNumbers numbers_;
+  WindowFit fit_;
   Catalogues catalogues_;
 };
 

@@ -90,10 +90,11 @@ const RoofFace& ChooseFace(const WindowOptions& options, const WindowRequest& re
 }
 
 nlohmann::ordered_json ToJson(const WindowOptions& options, const CommandOutcome& outcome,
-                              const RoofFace* face, const WindowReading* edited, const std::string& target) {
+                              const RoofFace* face, const std::vector<std::string>& misfits,
+                              const WindowReading* edited, const std::string& target) {
   nlohmann::ordered_json json;
   json["version"] = JSON_VERSION;
-  json.update(WindowJson(outcome, face));
+  json.update(WindowJson(outcome, face, misfits));
   if (edited != nullptr) {
     json["sources"] = SourcesJson(*edited);
     json["notes"] = edited->notes;
@@ -158,6 +159,8 @@ void AddWindowOptions(CLI::App& command, WindowOptions& options) {
       ->type_name("FILE")
       ->check(NotEmpty);
   command.add_option("--units", options.units, UNITS_HELP)->type_name("UNIT");
+  command.add_flag("--strict", options.isStrict,
+                   "refuse a window that overlaps another or does not lie on a roof face");
   command.add_flag("--dry-run", options.dryRun, "say what would be done and write nothing");
   command.add_flag("--json", options.asJson, JSON_HELP);
 }
@@ -203,7 +206,8 @@ void BoundByFace(const RoofFace& face, const std::vector<RoofFace>& faces, doubl
   request.isBounded = true;
 }
 
-nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace* face) {
+nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace* face,
+                                  const std::vector<std::string>& misfits) {
   const brevanta::WindowParams& window = *outcome.confirmed;
   nlohmann::ordered_json json;
   json["number"] = window.markerValue;
@@ -214,6 +218,7 @@ nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace*
   json["unitFactor"] = window.unitFactor;
   json["faces"] = outcome.faces;
   json["lines"] = outcome.lines;
+  json["warnings"] = misfits;
   return json;
 }
 
@@ -231,15 +236,26 @@ const std::string& TargetOf(const WindowOptions& options) {
 }
 
 void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
-                   const RoofFace* face, const WindowReading* edited) {
+                   const RoofFace* face, const std::vector<std::string>& misfits,
+                   const WindowReading* edited) {
   const std::string& target = TargetOf(options);
   WarnOfClosedLayers(drawing, outcome.layers);
   if (!options.dryRun) drawing.Save(target);
   if (options.asJson) {
-    PrintJson(ToJson(options, outcome, face, edited, target));
+    PrintJson(ToJson(options, outcome, face, misfits, edited, target));
   } else {
     PrintText(options, outcome, face, edited, target);
   }
+}
+
+void RefuseMisfits(const WindowOptions& options, const std::vector<std::string>& misfits) {
+  if (options.isStrict && !misfits.empty())
+    throw Error(fmt::format("--strict: the window is refused; {}", fmt::join(misfits, " and ")));
+}
+
+void WarnOfMisfits(std::int32_t number, const std::vector<std::string>& misfits) {
+  if (misfits.empty()) return;
+  fmt::print(stderr, "teskarlt: warning: window {}: {}\n", number, fmt::join(misfits, " and "));
 }
 
 std::string NotEmpty(const std::string& name) {

@@ -30,6 +30,7 @@ struct WindowOptions {
   std::vector<std::string> settings;
   std::string output;
   std::string units;
+  bool isStrict = false;
   bool dryRun = false;
   bool asJson = false;
 };
@@ -59,7 +60,8 @@ void BoundByFace(const RoofFace& face, const std::vector<RoofFace>& faces, doubl
                  WindowRequest& request);
 
 // The window that came into the drawing, for programs; `face` is null where the user gave the plane.
-nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace* face);
+nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace* face,
+                                  const std::vector<std::string>& misfits);
 
 // The file that is written.
 const std::string& TargetOf(const WindowOptions& options);
@@ -68,10 +70,16 @@ const std::string& TargetOf(const WindowOptions& options);
 // from.
 nlohmann::ordered_json SourcesJson(const WindowReading& reading);
 
+// What WindowFit tells of a window: with --strict throws Error for it.
+void RefuseMisfits(const WindowOptions& options, const std::vector<std::string>& misfits);
+// A line of warning for people; nothing when the window fits.
+void WarnOfMisfits(std::int32_t number, const std::vector<std::string>& misfits);
+
 // Saves the drawing, unless it is a dry run, and tells what became of the window; `edited` is what it was,
 // null for a new one.
 void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
-                   const RoofFace* face, const WindowReading* edited = nullptr);
+                   const RoofFace* face, const std::vector<std::string>& misfits,
+                   const WindowReading* edited = nullptr);
 
 // For options that name something: an empty name comes of a shell variable that is not set.
 std::string NotEmpty(const std::string& name);

@@ -1,0 +1,259 @@
+// RefitCommand.cpp - the subcommand "refit": puts windows back onto roofs that have changed.
+#include "teskarlt/commands/RefitCommand.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/commands/ClosedLayers.h"
+#include "teskarlt/commands/Report.h"
+#include "teskarlt/commands/WindowChoice.h"
+#include "teskarlt/commands/WindowOptions.h"
+#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/WindowFit.h"
+#include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/drawing/WindowShape.h"
+#include "teskarlt/host/WindowModule.h"
+
+namespace teskarlt {
+
+namespace {
+
+using brevanta::RecordPoint;
+using brevanta::WindowParams;
+using Json = nlohmann::ordered_json;
+
+constexpr const char* KEEP_PLAN = "plan";
+constexpr const char* KEEP_HEIGHT = "height";
+
+struct RefitOptions {
+  WindowOptions window;  // the file, its unit and where the answer goes
+  std::vector<int> numbers;
+  std::string keep = KEEP_PLAN;
+  bool isLockedToo = false;
+  bool keepGoing = false;
+};
+
+// A window that was put onto another face.
+struct Refitted {
+  WindowParams before;
+  WindowParams after;
+  std::string face;
+};
+
+struct Problem {
+  int number;
+  std::string message;
+};
+
+struct RefitReport {
+  std::vector<Refitted> refitted;
+  std::vector<Problem> problems;
+  std::size_t fitting = 0;
+};
+
+// The face over the window's place that is nearest to it in height; null when there is none.
+const RoofFace* FaceOver(const RecordPoint& place, const std::vector<RoofFace>& faces) {
+  const RoofFace* nearest = nullptr;
+  double least = 0.0;
+  for (const RoofFace& face : faces) {
+    const std::optional<double> height = HeightOver(face, place.x, place.y);
+    if (!height) continue;
+    const double distance = std::abs(*height - place.z);
+    if (nearest != nullptr && distance >= least) continue;
+    nearest = &face;
+    least = distance;
+  }
+  return nearest;
+}
+
+class Refitter {
+ public:
+  explicit Refitter(const RefitOptions& options)
+      : options_(options),
+        drawing_(dxf::Document::Load(options.window.file)),
+        unit_(TakeUnit(options.window, drawing_)),
+        faces_(FindRoofFaces(drawing_, RoofTolerance(unit_))),
+        windows_(FindWindows(drawing_, unit_.perMetre)),
+        numbers_(NumbersOf(windows_)) {}
+
+  RefitReport Run() {
+    RefitReport report;
+    for (const DrawnWindow* const window : Chosen()) {
+      try {
+        Refit(*window, report);
+      } catch (const Error& error) {
+        report.problems.push_back({window->number, error.what()});
+      }
+    }
+    return report;
+  }
+
+  const dxf::Document& Drawing() const { return drawing_; }
+
+ private:
+  std::vector<const DrawnWindow*> Chosen() const {
+    std::vector<const DrawnWindow*> chosen;
+    if (options_.numbers.empty()) {
+      for (const DrawnWindow& window : windows_)
+        chosen.push_back(&window);
+    }
+    for (const int number : options_.numbers)
+      chosen.push_back(&ChooseWindow(windows_, options_.window.file, number));
+    return chosen;
+  }
+
+  void Refit(const DrawnWindow& window, RefitReport& report) {
+    const WindowReading reading = ReadEditableWindow(drawing_, window);
+    const double tolerance = RoofTolerance(unit_);
+    const double covered = CoveredPart(ShapeOf(drawing_, window).outline, faces_, tolerance);
+    if (IsWhole(covered)) {
+      ++report.fitting;
+      return;
+    }
+    if (covered > 0.0) throw Error("a part of it lies outside its roof face; move it or make it smaller");
+    const RoofFace* const face = FaceOver(reading.params.storedPoint, faces_);
+    if (face == nullptr) throw Error("no roof face lies over or under its place");
+    ChooseWindow(windows_, options_.window.file, window.number);  // refuses copies
+    RefuseClosedLayers(drawing_, window, options_.isLockedToo);
+    const CommandOutcome outcome = module_.Edit(drawing_, RequestFor(window, reading, *face));
+    report.refitted.push_back({reading.params, *outcome.confirmed, face->name});
+  }
+
+  WindowRequest RequestFor(const DrawnWindow& window, const WindowReading& reading,
+                           const RoofFace& face) const {
+    WindowRequest request;
+    request.unitFactor = unit_.perMetre;
+    request.edited = reading.params;
+    request.replaced = window.entities;
+    request.numbersInUse = &numbers_;
+    request.point = {reading.params.storedPoint.x, reading.params.storedPoint.y};
+    if (options_.keep == KEEP_HEIGHT)
+      request.answers["lowerEdgeHeight"] = fmt::format("{}", reading.params.lowerEdgeHeight);
+    BoundByFace(face, faces_, RoofTolerance(unit_), request);
+    return request;
+  }
+
+  const RefitOptions& options_;
+  const WindowModule module_;
+  dxf::Document drawing_;
+  const DrawingUnit& unit_;
+  const std::vector<RoofFace> faces_;
+  const std::vector<DrawnWindow> windows_;
+  const WindowNumbers numbers_;
+};
+
+// Metres that the window's place moved in the plan, and up.
+double Shift(const Refitted& window) {
+  const RecordPoint& a = window.before.storedPoint;
+  const RecordPoint& b = window.after.storedPoint;
+  return std::hypot(b.x - a.x, b.y - a.y) / window.after.unitFactor;
+}
+
+double Rise(const Refitted& window) {
+  return (window.after.storedPoint.z - window.before.storedPoint.z) / window.after.unitFactor;
+}
+
+Json ToJson(const Refitted& window) {
+  Json json;
+  json["number"] = window.after.markerValue;
+  json["face"] = window.face;
+  json["pitch"] = {{"from", window.before.pitch}, {"to", window.after.pitch}};
+  for (const auto& [name, params] : {std::pair{"from", &window.before}, std::pair{"to", &window.after}})
+    json["place"][name] = {params->storedPoint.x, params->storedPoint.y, params->storedPoint.z};
+  json["shift"] = Shift(window);
+  json["rise"] = Rise(window);
+  return json;
+}
+
+void PrintJsonReport(const RefitOptions& options, const RefitReport& report, bool isSaved) {
+  Json json{{"version", JSON_VERSION}};
+  json["windows"] = Json::array();
+  for (const Refitted& window : report.refitted)
+    json["windows"].push_back(ToJson(window));
+  json["fitting"] = report.fitting;
+  json["problems"] = Json::array();
+  for (const Problem& problem : report.problems)
+    json["problems"].push_back({{"number", problem.number}, {"message", problem.message}});
+  json["file"] = isSaved ? Json(TargetOf(options.window)) : Json(nullptr);
+  json["dryRun"] = options.window.dryRun;
+  PrintJson(json);
+}
+
+void PrintReport(const RefitOptions& options, const RefitReport& report, bool isSaved) {
+  Table table({"number", "face", "pitch was", "pitch is", "shift m", "rise m"});
+  for (const Refitted& window : report.refitted) {
+    table.Add({std::to_string(window.after.markerValue), window.face,
+               fmt::format("{:.2f}", window.before.pitch), fmt::format("{:.2f}", window.after.pitch),
+               fmt::format("{:.3f}", Shift(window)), fmt::format("{:.3f}", Rise(window))});
+  }
+  if (!report.refitted.empty()) table.Print();
+  const std::string what = isSaved                 ? "refitted; written to " + TargetOf(options.window)
+                           : options.window.dryRun ? "would be refitted; nothing was written (dry run)"
+                                                   : "could be refitted; nothing was written";
+  const std::size_t count = report.refitted.size();
+  if (count > 0) fmt::print("{} window{} {}.\n", count, count == 1 ? "" : "s", what);
+  if (report.fitting > 0) {
+    fmt::print("{} window{} fit{} as {}.\n", report.fitting, report.fitting == 1 ? "" : "s",
+               report.fitting == 1 ? "s" : "", report.fitting == 1 ? "it is" : "they are");
+  }
+  if (count + report.fitting + report.problems.size() == 0)
+    fmt::print("{} holds no roof window.\n", options.window.file);
+}
+
+void RunRefit(const RefitOptions& options) {
+  Refitter refitter(options);
+  const RefitReport report = refitter.Run();
+  for (const Problem& problem : report.problems)
+    fmt::print(stderr, "teskarlt: window {}: {}\n", problem.number, problem.message);
+  const bool isWanted = report.problems.empty() || options.keepGoing;
+  const bool isChanged = !report.refitted.empty() || !options.window.output.empty();
+  const bool isSaved = isWanted && isChanged && !options.window.dryRun;
+  if (isSaved) refitter.Drawing().Save(TargetOf(options.window));
+  (options.window.asJson ? PrintJsonReport : PrintReport)(options, report, isSaved);
+  if (!report.problems.empty()) {
+    throw Error(fmt::format("{} of the windows cannot be refitted{}", report.problems.size(),
+                            isWanted ? "" : "; nothing was written"));
+  }
+}
+
+}  // namespace
+
+void AddRefitCommand(CLI::App& app) {
+  CLI::App* command = app.add_subcommand("refit", "Put windows back onto roofs that have changed");
+  const auto options = std::make_shared<RefitOptions>();
+  WindowOptions& window = options->window;
+  command->add_option("FILE", window.file, "the drawing")->required()->type_name("");
+  command->add_option("NUMBER", options->numbers, "only these windows; without any, all")->type_name("...");
+  command
+      ->add_option("--keep", options->keep,
+                   "what stays of a window's place: its point in the plan, or the height of its lower edge")
+      ->type_name("plan|height")
+      ->check(CLI::IsMember({KEEP_PLAN, KEEP_HEIGHT}))
+      ->capture_default_str();
+  command->add_flag("--keep-going", options->keepGoing,
+                    "write the others when some windows cannot be refitted");
+  AddLockedOption(*command, options->isLockedToo);
+  command->add_option("-o,--output", window.output, "the drawing to write; without it FILE is replaced")
+      ->type_name("FILE")
+      ->check(NotEmpty);
+  command->add_option("--units", window.units, UNITS_HELP)->type_name("UNIT");
+  command->add_flag("--dry-run", window.dryRun, "say what would be done and write nothing");
+  command->add_flag("--json", window.asJson, JSON_HELP);
+  command->footer(
+      "A window whose roof face was moved or has another pitch since is inserted again on the face that now\n"
+      "lies over or under its place, with its number and all its values; of several faces, on the one "
+      "nearest\n"
+      "in height. Windows that lie on a roof face stay as they are.\n"
+      "Examples:\n"
+      "  teskarlt refit house.dxf --dry-run\n"
+      "  teskarlt refit house.dxf 3 4 --keep height");
+  command->callback([options] { RunRefit(*options); });
+}
+
+}  // namespace teskarlt

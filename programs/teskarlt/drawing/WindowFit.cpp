@@ -1,0 +1,176 @@
+// WindowFit.cpp - outlines of windows against each other and against the faces of roofs.
+#include "teskarlt/drawing/WindowFit.h"
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "geometry/PlanCover.h"
+#include "geometry/RoofPlane.h"
+#include "geometry/Trigonometry.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/drawing/WindowShape.h"
+
+namespace teskarlt {
+
+namespace {
+
+using brevanta::RecordPoint;
+using brevanta::WindowParams;
+using geometry::Vec3;
+
+constexpr double PERCENT = 100.0;
+
+Vec3 Minus(const Vec3& a, const Vec3& b) {
+  Vec3 difference{};
+  geometry::VecSub(a, b, difference);
+  return difference;
+}
+
+Vec3 ToVec3(const RecordPoint& p) {
+  return {p.x, p.y, p.z};
+}
+
+bool FitPlane(const RecordPoint (&points)[3], std::int32_t unitFactor) {
+  return geometry::FitRoofPlane(ToVec3(points[0]), ToVec3(points[1]), ToVec3(points[2]), unitFactor) == 1;
+}
+
+Vec3 UnitNormal(const Outline& outline) {
+  Vec3 normal{};
+  geometry::VecCross(Minus(outline[3], outline[0]), Minus(outline[1], outline[0]), normal);
+  geometry::VecNormalize(normal, normal);
+  return normal;
+}
+
+// From where to where the outline reaches along a direction, seen from `origin`.
+std::pair<double, double> Reach(const Outline& outline, const Vec3& origin, const Vec3& direction) {
+  std::array<double, 4> along{};
+  std::transform(outline.begin(), outline.end(), along.begin(),
+                 [&](const Vec3& corner) { return geometry::VecDot(Minus(corner, origin), direction); });
+  const auto [least, most] = std::minmax_element(along.begin(), along.end());
+  return {*least, *most};
+}
+
+std::pair<double, double> ReachAlongX(const Outline& outline) {
+  return Reach(outline, {0, 0, 0}, {1, 0, 0});
+}
+
+bool LiesInPlane(const Outline& outline, const Vec3& origin, const Vec3& normal, double tolerance) {
+  const auto [least, most] = Reach(outline, origin, normal);
+  return least >= -tolerance && most <= tolerance;
+}
+
+// The plan of corners, seen from `origin`: far from the drawing's own, numbers lose their last digits.
+template <typename Corners>
+geometry::PlanPolygon PlanOf(const Corners& corners, const Vec3& origin) {
+  geometry::PlanPolygon plan;
+  for (const Vec3& corner : corners)
+    plan.push_back(Minus(corner, origin));
+  return plan;
+}
+
+}  // namespace
+
+std::optional<Outline> DrawnOutline(const dxf::Document& drawing, const DrawnWindow& window) {
+  if (!window.isComplete || !EntityMismatch(window).empty()) return std::nullopt;
+  try {
+    return ShapeOf(drawing, window).outline;
+  } catch (const Error&) {
+    return std::nullopt;
+  }
+}
+
+Outline OutlineOf(const WindowParams& record) {
+  const double factor = record.unitFactor;
+  const double depth = record.layerThickness * factor;
+  const bool usesSecondPlane = record.roofBuildUp == brevanta::BUILD_UP_SECOND_PLANE && depth > 0.0;
+  FitPlane(usesSecondPlane ? record.secondPlanePoints : record.roofPlanePoints, record.unitFactor);
+  const Vec3& normal = geometry::roofPlane.localNormal;
+  const double slope = std::abs(geometry::ArcTangent(normal.y / normal.z));
+  const double sine = geometry::Sine(slope);
+  const double cosine = geometry::Cosine(slope);
+
+  Vec3 start{};
+  geometry::WorldToRoof(ToVec3(record.storedPoint), start);
+  const double width = record.width * factor;
+  if (record.widthAnchor == brevanta::ANCHOR_CENTRE) start.x -= width / 2;
+  if (record.widthAnchor == brevanta::ANCHOR_END) start.x -= width;
+  if (record.roofBuildUp == brevanta::BUILD_UP_SLOPE_OFFSET) {
+    start.y += record.slopeOffset * factor * cosine;
+    start.z += record.slopeOffset * factor * sine;
+  }
+  if (usesSecondPlane) {
+    const bool isSquare = record.heightReference == 0 || record.heightReference == 2;
+    start.y -= isSquare ? depth * sine : 0.0;
+    start.z += isSquare ? depth * cosine : depth / cosine;
+  }
+  const double length = record.length * factor;
+  const Vec3 top{start.x, start.y + length * cosine, start.z + length * sine};
+  Outline outline{start, top, Vec3{top.x + width, top.y, top.z}, Vec3{start.x + width, start.y, start.z}};
+  for (Vec3& corner : outline)
+    geometry::RoofToWorld(corner, corner);
+  return outline;
+}
+
+bool Overlap(const Outline& a, const Outline& b, double tolerance) {
+  if (!LiesInPlane(b, a[0], UnitNormal(a), tolerance)) return false;
+  // Windows of one plane have parallel edges: each lower edge is horizontal.
+  for (const std::size_t neighbour : {std::size_t{1}, std::size_t{3}}) {
+    Vec3 direction{};
+    geometry::VecNormalize(Minus(a[neighbour], a[0]), direction);
+    const auto [leastA, mostA] = Reach(a, a[0], direction);
+    const auto [leastB, mostB] = Reach(b, a[0], direction);
+    if (std::min(mostA, mostB) - std::max(leastA, leastB) <= tolerance) return false;
+  }
+  return true;
+}
+
+double CoveredPart(const Outline& outline, const std::vector<RoofFace>& faces, double tolerance) {
+  const Vec3& origin = outline[0];
+  std::vector<geometry::PlanPolygon> polygons;
+  for (const RoofFace& face : faces) {
+    if (LiesInPlane(outline, face.corners[0], face.normal, tolerance))
+      polygons.push_back(PlanOf(face.corners, origin));
+  }
+  const geometry::PlanPolygon plan = PlanOf(outline, origin);
+  return polygons.empty() ? 0.0 : geometry::CoveredArea(plan, polygons) / geometry::PlanArea(plan);
+}
+
+void WindowFit::AddAll(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows,
+                       const DrawnWindow* except) {
+  for (const DrawnWindow& window : windows) {
+    const std::optional<Outline> outline = &window == except ? std::nullopt : DrawnOutline(drawing, window);
+    if (outline) Add(window.number, *outline);
+  }
+}
+
+void WindowFit::Add(std::int32_t number, const Outline& outline) {
+  const auto [least, most] = ReachAlongX(outline);
+  places_.emplace(least, Place{number, outline});
+  widest_ = std::max(widest_, most - least);
+}
+
+std::vector<std::string> WindowFit::Misfits(const Outline& outline) const {
+  std::vector<std::string> misfits;
+  const auto [least, most] = ReachAlongX(outline);
+  std::set<std::int32_t> overlapped;
+  const auto end = places_.upper_bound(most);
+  for (auto place = places_.lower_bound(least - widest_); place != end; ++place) {
+    if (Overlap(outline, place->second.outline, tolerance_)) overlapped.insert(place->second.number);
+  }
+  for (const std::int32_t number : overlapped)
+    misfits.push_back(fmt::format("it overlaps window {}", number));
+  if (faces_.empty()) return misfits;
+  const double covered = CoveredPart(outline, faces_, tolerance_);
+  if (covered <= 0.0) {
+    misfits.emplace_back("it lies on no roof face");
+  } else if (!IsWhole(covered)) {
+    misfits.push_back(fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT));
+  }
+  return misfits;
+}
+
+}  // namespace teskarlt

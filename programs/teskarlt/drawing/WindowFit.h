@@ -1,0 +1,66 @@
+// WindowFit.h - whether windows fit: into their roof faces, and beside each other.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "geometry/Vec3.h"
+#include "inc/WindowParams.h"
+#include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/RoofFace.h"
+
+namespace teskarlt {
+
+// Corners of a frame on its roof: from an end of the lower edge up, across and down. Drawing units.
+using Outline = std::array<geometry::Vec3, 4>;
+
+// The outline of a window as its entities show it; none where they show no window any more.
+std::optional<Outline> DrawnOutline(const dxf::Document& drawing, const DrawnWindow& window);
+
+// The outline of the frame that the module draws for a confirmed record, whose `storedPoint` is its place.
+Outline OutlineOf(const brevanta::WindowParams& record);
+
+// Two windows of one plane that cover the same piece of it. Edges may touch; both measures of the piece must
+// be greater than `tolerance`, and the windows' planes no farther apart (drawing units).
+bool Overlap(const Outline& a, const Outline& b, double tolerance);
+
+// How much of the outline, from 0 to 1, lies on those of the faces in whose plane it lies within `tolerance`.
+double CoveredPart(const Outline& outline, const std::vector<RoofFace>& faces, double tolerance);
+
+// True for the part of a window that lies on its roof but for what rounding leaves.
+constexpr bool IsWhole(double part) {
+  return part >= 1.0 - 1e-6;
+}
+
+// The faces of a drawing and the windows that stand on them.
+class WindowFit {
+ public:
+  // The faces must outlive the object. `tolerance` is in drawing units.
+  WindowFit(const std::vector<RoofFace>& faces, double tolerance) : faces_(faces), tolerance_(tolerance) {}
+
+  // Adds the windows of the drawing but `except`, as far as their entities show an outline.
+  void AddAll(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows,
+              const DrawnWindow* except = nullptr);
+  void Add(std::int32_t number, const Outline& outline);
+
+  // What is wrong with a window that is to come or stands there, for people: "it overlaps window 3". A
+  // drawing without faces says nothing of the roof.
+  std::vector<std::string> Misfits(const Outline& outline) const;
+
+ private:
+  struct Place {
+    std::int32_t number;
+    Outline outline;
+  };
+
+  const std::vector<RoofFace>& faces_;
+  double tolerance_;
+  std::multimap<double, Place> places_;  // by the least x
+  double widest_ = 0.0;                  // along x
+};
+
+}  // namespace teskarlt
