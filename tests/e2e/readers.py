@@ -64,6 +64,16 @@ def handles(path):
     return [value.strip() for code, value in groups if code.strip() in ("5", "105")]
 
 
+# Of the bytes of a drawing in any form.
+TABLES = re.compile(rb"TABLES[\0\r\n].*?ENDSEC", re.DOTALL)
+SEED = re.compile(rb"(\$HANDSEED[\0\r\n]+ *(?:5|\x05\0?)[\r\n]*)[0-9A-F]+")
+
+
+def without_records(content):
+    """The bytes without the section TABLES and the value of the handle seed."""
+    return SEED.sub(rb"\1", TABLES.sub(b"", content))
+
+
 def line_changes(before, after):
     """What became of a file's lines: those that were changed or went, and the number of lines that came."""
     matcher = difflib.SequenceMatcher(None, before.splitlines(), after.splitlines(), autojunk=False)
