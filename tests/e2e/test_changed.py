@@ -77,7 +77,7 @@ KINDS = [
     {}, {"widthAnchor": 1, "openingCode": "EIR"}, {"widthAnchor": 2, "openingCode": "E", "bodyAsFaces": 0},
     {"roofBuildUp": 2, "slopeOffset": 0.25, "skirtHeight": 0.05}, {"drawOpeningSymbol": 0, "heightReference": 3},
     {"roofBuildUp": 0, "heightReference": 2, "layerThickness": 0.2}, {"roofBuildUp": 0, "heightReference": 3},
-    {"drawOpeningSymbol": 0, "bodyAsFaces": 0, "heightReference": 0},
+    {"drawOpeningSymbol": 0, "bodyAsFaces": 0, "heightReference": 0}, {"bodyAsFaces": 0, "skirtHeight": 0.04},
 ]
 
 
@@ -86,8 +86,8 @@ KINDS = [
 @pytest.mark.parametrize("settings", KINDS, ids=str)
 def test_changed_window_stays_where_it_stands_when_it_is_edited(
         teskarlt, path, settings, change, with_description):
-    if change in ("doubled", "steeper") and settings.get("drawOpeningSymbol") == 0 and "bodyAsFaces" in settings:
-        pytest.skip("only the opening tells the length, and its depth is that of the description")
+    if change == "steeper" and settings.get("drawOpeningSymbol") == 0 and "bodyAsFaces" in settings:
+        pytest.skip("only the opening tells the length, and it was cut for another pitch")
     insert(teskarlt, path, **settings)
     transform(path, MATRICES[change], with_description)
     before = shapes(path)
@@ -164,15 +164,29 @@ def test_what_is_no_roof_window_any_more_is_listed_and_can_only_be_erased(teskar
     assert listed(teskarlt, path) == []
 
 
-def test_window_whose_parts_were_moved_apart_is_not_changed(teskarlt, path):
+@pytest.mark.parametrize("part", [-1, 0, 16, 17, 25, 28], ids=["outline", "wall", "pane", "frame", "mark", "other-mark"])
+def test_window_whose_parts_were_moved_apart_is_not_changed(teskarlt, path, part):
     insert(teskarlt, path)
     drawing = ezdxf.readfile(path)
-    line = of_window(drawing, 1)[-1]
-    line.dxf.start += (0, 0, 100)
-    line.dxf.end += (0, 0, 100)
+    entity = of_window(drawing, 1)[part]
+    tags = list(entity.get_xdata("TK_LT_DESC"))
+    entity.translate(0, 0, 100)
+    entity.set_xdata("TK_LT_DESC", tags)
     drawing.saveas(path)
     answer = teskarlt("edit", path, "1", "--set", "text1=x")
     assert answer.status == 1 and "its parts were moved apart" in answer.stderr
+
+
+def test_leaning_body_is_told(teskarlt, path):
+    insert(teskarlt, path)
+    transform(path, MATRICES["steeper"], False)
+    assert "its body is not square to its roof" in listed(teskarlt, path)[0]["notes"]
+
+
+def test_skirt_of_a_window_without_faces_is_kept(teskarlt, path):
+    insert(teskarlt, path, bodyAsFaces=0, skirtHeight=0.04)
+    [window] = listed(teskarlt, path)
+    assert (window["fields"]["skirtHeight"], window["sources"]["skirtHeight"]) == (0.04, "geometry")
 
 
 def copy(path, offset, number=1, with_description=False, times=1):

@@ -33,8 +33,7 @@ def test_windows_side_by_side_may_touch_and_not_overlap(teskarlt, tmp_path, roof
         assert teskarlt.done("insert", path, *at(roof, *place), *options).stderr == ""
     answer = teskarlt("insert", path, *at(roof, -1 + WIDTH - 0.01, up + row - 0.01), *options, "--strict")
     assert answer.status == 1 and answer.stderr == (
-        "teskarlt: --strict: the window is refused; it overlaps window 1 and it overlaps window 2 and it overlaps "
-        "window 3\n")
+        "teskarlt: --strict: the window is refused; it overlaps windows 1, 2, 3\n")
     assert len(windows_of(teskarlt, path, roof)) == len(places)
 
 
@@ -91,7 +90,7 @@ def test_jobs_that_overlap_are_warned_of_or_refused(teskarlt, house, tmp_path):
     teskarlt.done("erase", house, "1")
     teskarlt.done("erase", house, "2")
     assert teskarlt.done("insert", house, "--jobs", jobs).stderr == (
-        "teskarlt: warning: window 2: it overlaps window 1\n")
+        f"teskarlt: {teskarlt.spelled(jobs)}:2: warning: window 2: it overlaps window 1\n")
 
 
 def test_window_that_leaves_its_face_is_found(teskarlt, house):
@@ -107,3 +106,22 @@ def test_window_that_leaves_its_face_is_found(teskarlt, house):
     findings = teskarlt.done("check", house, "--json").json["findings"]
     assert [finding["message"] for finding in findings if finding["kind"] == "window-misfit"] == [
         "window 1: 50.0 % of it lie outside its roof face"]
+
+
+def test_window_with_a_second_plane_of_its_own_is_not_measured_by_its_roof(teskarlt, tmp_path):
+    path, roof = tmp_path / "roof.dxf", Roof()
+    roof.save(path)
+    points = ";".join(",".join(repr(value) for value in (x, y, z - 150 - 0.05 * y)) for x, y, z in roof.corners[:3])
+    answer = teskarlt.done("insert", path, "--at", "0,0", "--set", "roofBuildUp=0", "--set", f"secondPlanePoints={points}")
+    assert answer.stderr == ""
+    assert teskarlt.done("check", path, "--json").json["findings"] == []
+    before = path.read_bytes()
+    assert "1 window fits as it is" in teskarlt.done("refit", path).stdout
+    assert path.read_bytes() == before
+
+
+def test_many_copies_in_one_place_are_not_all_named(teskarlt, house, tmp_path):
+    jobs = tmp_path / "jobs.jsonl"
+    jobs.write_text('{"at": [2500, 1200]}\n' * 13)
+    answer = teskarlt.done("insert", house, "--jobs", jobs, "--json")
+    assert answer.json["windows"][-1]["warnings"] == ["it overlaps windows 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 and 2 more"]

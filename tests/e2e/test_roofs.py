@@ -1,6 +1,7 @@
 # test_roofs.py - the drawings that the other tests start from are sound themselves.
 import math
 
+import ezdxf
 import pytest
 import readers
 from roofs import VARIETY, Roof
@@ -32,3 +33,19 @@ def test_height_agrees_with_the_corners():
 def test_roof_falls_where_it_says():
     x, y, z = Roof(direction=0, centre=(0, 0, 0), pitch=45, units="m").point(up=-2)
     assert (x, round(y, 12), round(z, 12)) == (2, 0, -2)
+
+
+def test_warped_face_is_left_out_and_told(teskarlt, tmp_path):
+    path = tmp_path / "warped.dxf"
+    drawing = ezdxf.new("R2000")
+    drawing.header["$INSUNITS"] = 4
+    space = drawing.modelspace()
+    warped = space.add_3dface([(0, 0, 0), (4000, 0, 0), (4000, 3000, 2040), (0, 3000, 2000)], dxfattribs={"layer": "0"})
+    space.add_3dface([(0, 0, 0), (4000, 0, 0), (4000, 3000, 2000), (0, 3000, 2000)])
+    drawing.saveas(path)
+    answer = teskarlt.done("roofs", path, "--json")
+    assert len(answer.json["roofs"]) == 1
+    [told] = answer.json["warped"]
+    assert (told["face"], told["layer"]) == (warped.dxf.handle, "0") and 0.01 < told["offPlane"] < 0.02
+    assert answer.stderr == (f"teskarlt: note: face {warped.dxf.handle} of layer 0 is left out: it is not planar; "
+                             f"a corner lies {told['offPlane']:.3f} m off\n")

@@ -94,7 +94,7 @@ void CheckFits(const Scene& scene) {
   for (const DrawnWindow& window : scene.windows) {
     const std::optional<Outline> outline = DrawnOutline(scene.drawing, window);
     if (!outline) continue;
-    for (const std::string& misfit : fit.Misfits(*outline)) {
+    for (const std::string& misfit : fit.Misfits(ReadWindow(scene.drawing, window).params, *outline)) {
       Report(scene, Kind::WindowMisfit, window, fmt::format("window {}: {}", window.number, misfit),
              Severity::Warning);
     }

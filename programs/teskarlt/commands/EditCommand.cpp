@@ -34,24 +34,6 @@ Vec3 ToVec3(const RecordPoint& p) {
   return {p.x, p.y, p.z};
 }
 
-// True when the face lies in the plane of the window's roof points.
-bool LiesInPlane(const RoofFace& face, const RecordPoint (&plane)[3], double tolerance) {
-  return std::all_of(std::begin(plane), std::end(plane), [&](const RecordPoint& point) {
-    Vec3 offset{};
-    geometry::VecSub(ToVec3(point), face.corners[0], offset);
-    return std::abs(geometry::VecDot(face.normal, offset)) <= tolerance;
-  });
-}
-
-// The face on which the window stands; null when the roof is not there any more.
-const RoofFace* FaceUnder(const WindowParams& window, const std::vector<RoofFace>& faces, double tolerance) {
-  const auto found = std::find_if(faces.begin(), faces.end(), [&](const RoofFace& face) {
-    return LiesInPlane(face, window.roofPlanePoints, tolerance) &&
-           HeightOver(face, window.storedPoint.x, window.storedPoint.y).has_value();
-  });
-  return found == faces.end() ? nullptr : &*found;
-}
-
 // The window stays where it is, on the face there, or on its own plane where that face is gone.
 const RoofFace* KeepPlace(const WindowParams& window, const std::vector<RoofFace>& faces, double tolerance,
                           WindowRequest& request) {
@@ -104,9 +86,9 @@ void RunEdit(const EditOptions& options) {
   const CommandOutcome outcome = module.Edit(drawing, request);
   WindowFit fit(faces, RoofTolerance(unit));
   fit.AddAll(drawing, windows, &window);
-  const std::vector<std::string> misfits = fit.Misfits(OutlineOf(*outcome.confirmed));
+  const std::vector<std::string> misfits = fit.Misfits(*outcome.confirmed, OutlineOf(*outcome.confirmed));
   RefuseMisfits(options.window, misfits);
-  WarnOfMisfits(window.number, misfits);
+  WarnOfMisfits("", window.number, misfits);
   SaveAndReport(options.window, drawing, outcome, face, misfits, &reading);
 }
 

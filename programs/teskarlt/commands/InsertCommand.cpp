@@ -19,7 +19,7 @@ namespace {
 void RunInsert(const WindowOptions& options) {
   WindowInserter inserter(options);
   const InsertedWindow window = inserter.Insert(options);
-  WarnOfMisfits(window.outcome.confirmed->markerValue, window.misfits);
+  WarnOfMisfits("", window.outcome.confirmed->markerValue, window.misfits);
   SaveAndReport(options, inserter.Drawing(), window.outcome, window.face, window.misfits);
 }
 

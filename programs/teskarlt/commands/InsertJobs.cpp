@@ -152,11 +152,7 @@ struct JobsReport {
   std::set<std::string> layers;  // of the new entities
 };
 
-void RunJob(const Job& job, const WindowOptions& defaults, WindowInserter& inserter, Progress& progress,
-            JobsReport& report) {
-  const InsertedWindow window = inserter.Insert(ParseJob(job.text, defaults));
-  if (!window.misfits.empty()) progress.Clear();
-  WarnOfMisfits(window.outcome.confirmed->markerValue, window.misfits);
+void Count(const Job& job, const InsertedWindow& window, const WindowOptions& defaults, JobsReport& report) {
   ++report.inserted;
   report.faces += window.outcome.faces;
   report.lines += window.outcome.lines;
@@ -173,7 +169,11 @@ JobsReport RunAll(const std::vector<Job>& jobs, const WindowOptions& defaults, c
   Progress progress("windows", jobs.size());
   for (const Job& job : jobs) {
     try {
-      RunJob(job, defaults, inserter, progress, report);
+      const InsertedWindow window = inserter.Insert(ParseJob(job.text, defaults));
+      Count(job, window, defaults, report);
+      if (!window.misfits.empty()) progress.Clear();
+      WarnOfMisfits(fmt::format("{}:{}: ", file, job.line), window.outcome.confirmed->markerValue,
+                    window.misfits);
     } catch (const Error& error) {
       progress.Clear();
       fmt::print(stderr, "teskarlt: {}:{}: {}\n", file, job.line, error.what());

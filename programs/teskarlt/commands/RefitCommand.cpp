@@ -111,6 +111,12 @@ class Refitter {
   void Refit(const DrawnWindow& window, RefitReport& report) {
     const WindowReading reading = ReadEditableWindow(drawing_, window);
     const double tolerance = RoofTolerance(unit_);
+    if (HasOwnSecondPlane(reading.params, tolerance)) {
+      if (FaceUnder(reading.params, faces_, tolerance) == nullptr)
+        throw Error("its roof was changed, and its second plane is not the roof's underside");
+      ++report.fitting;
+      return;
+    }
     const double covered = CoveredPart(ShapeOf(drawing_, window).outline, faces_, tolerance);
     if (IsWhole(covered)) {
       ++report.fitting;

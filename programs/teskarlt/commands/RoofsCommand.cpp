@@ -43,14 +43,28 @@ nlohmann::ordered_json ToJson(const RoofFace& face, double unitFactor) {
   return json;
 }
 
-void PrintRoofs(const std::vector<RoofFace>& faces, const DrawingUnit& unit) {
+// Whoever misses a roof in the list learns why.
+void TellOfWarped(const std::vector<RoofFace>& warped, const DrawingUnit& unit) {
+  for (const RoofFace& face : warped) {
+    fmt::print(
+        stderr,
+        "teskarlt: note: face {} of layer {} is left out: it is not planar; a corner lies {:.3f} m off\n",
+        face.name, face.layer, Warp(face) / unit.perMetre);
+  }
+}
+
+void PrintRoofs(const RoofFaces& faces, const DrawingUnit& unit) {
   nlohmann::ordered_json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
   json["unitFactor"] = unit.perMetre;
   json["roofs"] = nlohmann::ordered_json::array();
-  for (const RoofFace& face : faces)
+  for (const RoofFace& face : faces.planar)
     json["roofs"].push_back(ToJson(face, unit.perMetre));
+  json["warped"] = nlohmann::ordered_json::array();
+  for (const RoofFace& face : faces.warped)
+    json["warped"].push_back(
+        {{"face", face.name}, {"layer", face.layer}, {"offPlane", Warp(face) / unit.perMetre}});
   PrintJson(json);
 }
 
@@ -73,13 +87,14 @@ void PrintTable(const std::vector<RoofFace>& faces, double unitFactor) {
 void RunRoofs(const RoofsOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
   const DrawingUnit& unit = UnitOf(drawing, options.units);
-  const std::vector<RoofFace> faces = FindRoofFaces(drawing, RoofTolerance(unit));
+  const RoofFaces faces = FindAllRoofFaces(drawing, RoofTolerance(unit));
+  TellOfWarped(faces.warped, unit);
   if (options.asJson) {
     PrintRoofs(faces, unit);
-  } else if (faces.empty()) {
+  } else if (faces.planar.empty()) {
     fmt::print("{} holds no planar face that can take a roof window.\n", options.file);
   } else {
-    PrintTable(faces, unit.perMetre);
+    PrintTable(faces.planar, unit.perMetre);
   }
 }
 

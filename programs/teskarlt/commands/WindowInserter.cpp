@@ -28,7 +28,7 @@ InsertedWindow WindowInserter::Insert(const WindowOptions& options) {
   InsertedWindow window{module_.Insert(drawing_, request), face, {}};
   const brevanta::WindowParams& record = *window.outcome.confirmed;
   const Outline outline = OutlineOf(record);
-  window.misfits = fit_.Misfits(outline);
+  window.misfits = fit_.Misfits(record, outline);
   try {
     RefuseMisfits(options, window.misfits);
   } catch (...) {

@@ -253,9 +253,9 @@ void RefuseMisfits(const WindowOptions& options, const std::vector<std::string>&
     throw Error(fmt::format("--strict: the window is refused; {}", fmt::join(misfits, " and ")));
 }
 
-void WarnOfMisfits(std::int32_t number, const std::vector<std::string>& misfits) {
+void WarnOfMisfits(std::string_view place, std::int32_t number, const std::vector<std::string>& misfits) {
   if (misfits.empty()) return;
-  fmt::print(stderr, "teskarlt: warning: window {}: {}\n", number, fmt::join(misfits, " and "));
+  fmt::print(stderr, "teskarlt: {}warning: window {}: {}\n", place, number, fmt::join(misfits, " and "));
 }
 
 std::string NotEmpty(const std::string& name) {

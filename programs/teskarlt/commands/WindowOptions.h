@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <nlohmann/json_fwd.hpp>
@@ -72,8 +73,8 @@ nlohmann::ordered_json SourcesJson(const WindowReading& reading);
 
 // What WindowFit tells of a window: with --strict throws Error for it.
 void RefuseMisfits(const WindowOptions& options, const std::vector<std::string>& misfits);
-// A line of warning for people; nothing when the window fits.
-void WarnOfMisfits(std::int32_t number, const std::vector<std::string>& misfits);
+// A line of warning for people; nothing when the window fits. `place` is that of its job with ": ", or empty.
+void WarnOfMisfits(std::string_view place, std::int32_t number, const std::vector<std::string>& misfits);
 
 // Saves the drawing, unless it is a dry run, and tells what became of the window; `edited` is what it was,
 // null for a new one.

@@ -87,10 +87,14 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, double to
   if (!(twiceArea > tolerance * tolerance)) return std::nullopt;
   geometry::VecScale(area, (area.z < 0 ? -1.0 : 1.0) / twiceArea, face.normal);
   if (face.normal.z < VERTICAL_LIMIT) return std::nullopt;
-  const bool planar = std::all_of(face.corners.begin(), face.corners.end(), [&](const Vec3& corner) {
-    return std::abs(DistanceFromPlane(face, corner)) <= tolerance;
-  });
-  return planar ? std::optional(face) : std::nullopt;
+  return face;
+}
+
+double Warp(const RoofFace& face) {
+  double warp = 0.0;
+  for (const Vec3& corner : face.corners)
+    warp = std::max(warp, std::abs(DistanceFromPlane(face, corner)));
+  return warp;
 }
 
 double Pitch(const RoofFace& face) {

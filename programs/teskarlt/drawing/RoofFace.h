@@ -19,9 +19,13 @@ struct RoofFace {
   geometry::Vec3 normal;  // unit length, z positive
 };
 
-// The face with these corners when it is planar within `tolerance` (drawing units), has an area and is not
-// vertical; consecutive corners that coincide become one. Names and layer stay empty.
+// The face with these corners when it has an area, for which `tolerance` (drawing units) is a length, and is
+// not vertical; consecutive corners that coincide become one. Names and layer stay empty.
 std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners, double tolerance);
+
+// How far the farthest corner lies off the plane through the first one with the face's mean normal, in
+// drawing units; 0 but for rounding in a planar face.
+double Warp(const RoofFace& face);
 
 // Degrees from the horizontal, from 0 up to but not 90.
 double Pitch(const RoofFace& face);

@@ -21,8 +21,8 @@ std::string FaceName(const dxf::Entity& entity, std::size_t entityNumber, std::s
 
 }  // namespace
 
-std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double tolerance) {
-  std::vector<RoofFace> found;
+RoofFaces FindAllRoofFaces(const dxf::Document& drawing, double tolerance) {
+  RoofFaces found;
   std::size_t entityNumber = 0;
   for (const dxf::Entity& entity : drawing.Entities()) {
     ++entityNumber;
@@ -34,10 +34,14 @@ std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double toleran
       face->name = FaceName(entity, entityNumber, i + 1, entityFaces.faces.size());
       face->layer = entityFaces.layer;
       face->type = entityFaces.type;
-      found.push_back(*std::move(face));
+      (Warp(*face) <= tolerance ? found.planar : found.warped).push_back(*std::move(face));
     }
   }
   return found;
+}
+
+std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double tolerance) {
+  return FindAllRoofFaces(drawing, tolerance).planar;
 }
 
 std::vector<const RoofFace*> FacesNamed(const std::vector<RoofFace>& faces, std::string_view name) {

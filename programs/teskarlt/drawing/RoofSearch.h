@@ -9,9 +9,17 @@
 
 namespace teskarlt {
 
-// The planar faces of the model space in the order of the file: 3D faces, the faces of polyface and polygon
-// meshes, and closed 3D polylines. Left out are vertical faces, those that are not planar within `tolerance`
-// (drawing units), and the faces of roof windows.
+struct RoofFaces {
+  std::vector<RoofFace> planar;
+  std::vector<RoofFace> warped;  // no window fits into them
+};
+
+// The faces of the model space in the order of the file: 3D faces, the faces of polyface and polygon meshes,
+// and closed 3D polylines. Planar are those whose warp is at most `tolerance` (drawing units). Left out are
+// vertical faces and the faces of roof windows.
+RoofFaces FindAllRoofFaces(const dxf::Document& drawing, double tolerance);
+
+// The planar ones of them.
 std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double tolerance);
 
 // The faces of that name (RoofFace.h), without regard to case; several where the drawing uses a handle twice.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -12,6 +13,7 @@
 #include "geometry/RoofPlane.h"
 #include "geometry/Trigonometry.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/drawing/WindowShape.h"
 
 namespace teskarlt {
@@ -58,6 +60,10 @@ std::pair<double, double> ReachAlongX(const Outline& outline) {
   return Reach(outline, {0, 0, 0}, {1, 0, 0});
 }
 
+std::pair<double, double> ReachAlongY(const Outline& outline) {
+  return Reach(outline, {0, 0, 0}, {0, 1, 0});
+}
+
 bool LiesInPlane(const Outline& outline, const Vec3& origin, const Vec3& normal, double tolerance) {
   const auto [least, most] = Reach(outline, origin, normal);
   return least >= -tolerance && most <= tolerance;
@@ -86,7 +92,7 @@ std::optional<Outline> DrawnOutline(const dxf::Document& drawing, const DrawnWin
 Outline OutlineOf(const WindowParams& record) {
   const double factor = record.unitFactor;
   const double depth = record.layerThickness * factor;
-  const bool usesSecondPlane = record.roofBuildUp == brevanta::BUILD_UP_SECOND_PLANE && depth > 0.0;
+  const bool usesSecondPlane = UsesSecondPlane(record);
   FitPlane(usesSecondPlane ? record.secondPlanePoints : record.roofPlanePoints, record.unitFactor);
   const Vec3& normal = geometry::roofPlane.localNormal;
   const double slope = std::abs(geometry::ArcTangent(normal.y / normal.z));
@@ -128,11 +134,24 @@ bool Overlap(const Outline& a, const Outline& b, double tolerance) {
   return true;
 }
 
+const RoofFace* FaceUnder(const WindowParams& window, const std::vector<RoofFace>& faces, double tolerance) {
+  const auto isUnder = [&](const RoofFace& face) {
+    const auto liesInIt = [&](const RecordPoint& point) {
+      return std::abs(geometry::VecDot(face.normal, Minus(ToVec3(point), face.corners[0]))) <= tolerance;
+    };
+    return std::all_of(std::begin(window.roofPlanePoints), std::end(window.roofPlanePoints), liesInIt) &&
+           HeightOver(face, window.storedPoint.x, window.storedPoint.y).has_value();
+  };
+  const auto found = std::find_if(faces.begin(), faces.end(), isUnder);
+  return found == faces.end() ? nullptr : &*found;
+}
+
 double CoveredPart(const Outline& outline, const std::vector<RoofFace>& faces, double tolerance) {
   const Vec3& origin = outline[0];
   std::vector<geometry::PlanPolygon> polygons;
   for (const RoofFace& face : faces) {
-    if (LiesInPlane(outline, face.corners[0], face.normal, tolerance))
+    const double first = geometry::VecDot(Minus(origin, face.corners[0]), face.normal);  // most go here
+    if (std::abs(first) <= tolerance && LiesInPlane(outline, face.corners[0], face.normal, tolerance))
       polygons.push_back(PlanOf(face.corners, origin));
   }
   const geometry::PlanPolygon plan = PlanOf(outline, origin);
@@ -149,21 +168,38 @@ void WindowFit::AddAll(const dxf::Document& drawing, const std::vector<DrawnWind
 
 void WindowFit::Add(std::int32_t number, const Outline& outline) {
   const auto [least, most] = ReachAlongX(outline);
-  places_.emplace(least, Place{number, outline});
+  const auto [leastY, mostY] = ReachAlongY(outline);
+  places_.emplace(least, Place{number, outline, leastY, mostY});
   widest_ = std::max(widest_, most - least);
 }
 
-std::vector<std::string> WindowFit::Misfits(const Outline& outline) const {
-  std::vector<std::string> misfits;
+// "it overlaps windows 1, 2 and 3 more"; empty when it overlaps none.
+std::string WindowFit::Overlapped(const Outline& outline) const {
+  constexpr std::size_t MOST_NAMED = 10;
   const auto [least, most] = ReachAlongX(outline);
-  std::set<std::int32_t> overlapped;
+  const auto [leastY, mostY] = ReachAlongY(outline);
+  std::set<std::int32_t> numbers;
   const auto end = places_.upper_bound(most);
-  for (auto place = places_.lower_bound(least - widest_); place != end; ++place) {
-    if (Overlap(outline, place->second.outline, tolerance_)) overlapped.insert(place->second.number);
+  for (auto at = places_.lower_bound(least - widest_); at != end; ++at) {
+    const Place& place = at->second;
+    const bool isNear = place.leastY <= mostY && place.mostY >= leastY;
+    if (isNear && Overlap(outline, place.outline, tolerance_)) numbers.insert(place.number);
   }
-  for (const std::int32_t number : overlapped)
-    misfits.push_back(fmt::format("it overlaps window {}", number));
-  if (faces_.empty()) return misfits;
+  if (numbers.empty()) return {};
+  const std::size_t named = std::min(numbers.size(), MOST_NAMED);
+  const std::vector<std::int32_t> names(numbers.begin(),
+                                        std::next(numbers.begin(), static_cast<std::ptrdiff_t>(named)));
+  std::string text =
+      fmt::format("it overlaps window{} {}", numbers.size() == 1 ? "" : "s", fmt::join(names, ", "));
+  if (numbers.size() > named) text += fmt::format(" and {} more", numbers.size() - named);
+  return text;
+}
+
+std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Outline& outline) const {
+  std::vector<std::string> misfits;
+  if (std::string overlapped = Overlapped(outline); !overlapped.empty())
+    misfits.push_back(std::move(overlapped));
+  if (faces_.empty() || HasOwnSecondPlane(record, tolerance_)) return misfits;
   const double covered = CoveredPart(outline, faces_, tolerance_);
   if (covered <= 0.0) {
     misfits.emplace_back("it lies on no roof face");

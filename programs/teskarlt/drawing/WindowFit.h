@@ -28,6 +28,11 @@ Outline OutlineOf(const brevanta::WindowParams& record);
 // be greater than `tolerance`, and the windows' planes no farther apart (drawing units).
 bool Overlap(const Outline& a, const Outline& b, double tolerance);
 
+// The face on which a window stands by its record; null when the roof is not there any more. `tolerance` is
+// in drawing units; the result is one of `faces`.
+const RoofFace* FaceUnder(const brevanta::WindowParams& window, const std::vector<RoofFace>& faces,
+                          double tolerance);
+
 // How much of the outline, from 0 to 1, lies on those of the faces in whose plane it lies within `tolerance`.
 double CoveredPart(const Outline& outline, const std::vector<RoofFace>& faces, double tolerance);
 
@@ -47,15 +52,19 @@ class WindowFit {
               const DrawnWindow* except = nullptr);
   void Add(std::int32_t number, const Outline& outline);
 
-  // What is wrong with a window that is to come or stands there, for people: "it overlaps window 3". A
-  // drawing without faces says nothing of the roof.
-  std::vector<std::string> Misfits(const Outline& outline) const;
+  // What is wrong with a window that is to come or stands there, for people: "it overlaps window 3". The
+  // faces have no part in it where the drawing has none and where the window has a second plane of its own.
+  std::vector<std::string> Misfits(const brevanta::WindowParams& record, const Outline& outline) const;
 
  private:
   struct Place {
     std::int32_t number;
     Outline outline;
+    double leastY;
+    double mostY;
   };
+
+  std::string Overlapped(const Outline& outline) const;
 
   const std::vector<RoofFace>& faces_;
   double tolerance_;

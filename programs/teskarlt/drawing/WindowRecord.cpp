@@ -84,6 +84,9 @@ class Reconciliation {
     TakeLength("length", "long", shape_.length, params_.length);
     if (shape_.frameWidth) TakeLength("frameWidth", "framed", *shape_.frameWidth, params_.frameWidth);
     if (shape_.frameDepth) TakeLength("frameDepth", "deep", *shape_.frameDepth, params_.frameDepth);
+    if (shape_.layerThickness)
+      TakeLength("layerThickness", "deep in its roof", *shape_.layerThickness, params_.layerThickness);
+    if (shape_.isLeaning) reading_.notes.emplace_back("its body is not square to its roof");
     TakeBody();
     TakePlane();
     TakePlace();
@@ -133,10 +136,6 @@ class Reconciliation {
     }
   }
 
-  bool UsesSecondPlane() const {
-    return params_.roofBuildUp == brevanta::BUILD_UP_SECOND_PLANE && params_.layerThickness > 0.0;
-  }
-
   bool LiesOnRoof(const RecordPoint (&plane)[3]) const {
     const Vec3 normal = shape_.Normal();
     return std::all_of(std::begin(plane), std::end(plane), [&](const RecordPoint& point) {
@@ -149,10 +148,10 @@ class Reconciliation {
   // The window lies in its roof's plane. Only a second plane of the user's own leaves the two apart.
   void TakePlane() {
     if (LiesOnRoof(params_.roofPlanePoints)) {
-      if (UsesSecondPlane()) TakeThickness();
+      if (UsesSecondPlane(params_)) TakeThickness();
       return;
     }
-    if (UsesSecondPlane() && !IsUnderside(params_, SAME_LENGTH * factor_)) {
+    if (HasOwnSecondPlane(params_, SAME_LENGTH * factor_)) {
       if (IsNear(Anchor(), ToVec3(params_.storedPoint))) return;
       reading_.obstacle = "it was moved, and its second plane is not the roof's underside";
       return;
@@ -195,7 +194,7 @@ class Reconciliation {
                         : atStart != shape_.isMirrored                 ? 0.0
                                                                        : 1.0;
     const Vec3 anchor = Moved(shape_.outline[0], shape_.Across(), part * shape_.width);
-    if (!UsesSecondPlane()) return anchor;
+    if (!UsesSecondPlane(params_)) return anchor;
     const double depth = params_.layerThickness * factor_;
     const bool isSquare = params_.heightReference == 0 || params_.heightReference == 2;
     if (isSquare) return Moved(anchor, shape_.Normal(), -depth);
@@ -294,6 +293,14 @@ WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow
     throw Error(fmt::format("window {} cannot be changed: {}", window.number, reading.obstacle));
   return reading;
 }
+bool UsesSecondPlane(const WindowParams& params) {
+  return params.roofBuildUp == brevanta::BUILD_UP_SECOND_PLANE && params.layerThickness > 0.0;
+}
+
+bool HasOwnSecondPlane(const WindowParams& params, double tolerance) {
+  return UsesSecondPlane(params) && !IsUnderside(params, tolerance);
+}
+
 bool IsUnderside(const WindowParams& params, double tolerance) {
   const auto point = [](const brevanta::RecordPoint& p) { return Vec3{p.x, p.y, p.z}; };
   const auto& roof = params.roofPlanePoints;

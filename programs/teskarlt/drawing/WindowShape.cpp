@@ -86,6 +86,7 @@ class ShapeReader {
     CheckStand(shape);
     TakeBody(shape);
     TakeFrame(shape);
+    CheckParts(shape);
     return shape;
   }
 
@@ -132,9 +133,17 @@ class ShapeReader {
     return {Moved(topEdge[0], up, -length), topEdge[0], topEdge[1], Moved(topEdge[1], up, -length)};
   }
 
+  // How far the opening lies below the window, square to the roof.
+  double Depth() const {
+    const Corners& topEdge = lines_[TOP_EDGE_OF_OPENING];
+    Vec3 normal{};
+    geometry::VecCross(Minus(lines_[0][1], lines_[0][0]), Minus(topEdge[1], topEdge[0]), normal);
+    return std::abs(geometry::VecDot(Unit(normal), Minus(topEdge[0], lines_[0][0])));
+  }
+
   // How much longer than the window its opening is: where it is cut at the lower or upper edge.
   double Lengthening(const Vec3& up) const {
-    const double depth = window_.params.layerThickness * window_.params.unitFactor;
+    const double depth = Depth();
     const double tangent = up.z / std::hypot(up.x, up.y);
     const std::int32_t mode = window_.params.heightReference;
     double longer = 0.0;
@@ -164,12 +173,50 @@ class ShapeReader {
       Fail("it lies turned on a flat roof, where a window lies along the x axis");
   }
 
+  // Skirt and frame, by the walls that stand on the outline.
   void TakeBody(WindowShape& shape) const {
-    if (faces_.empty()) return;
-    shape.skirtHeight = skirtFaces_ == 0 ? 0.0 : Distance(faces_[0][0], faces_[0][3]);
+    const Vec3 normal = shape.Normal();
+    if (!HasSymbol()) shape.layerThickness = Depth();
+    if (faces_.empty()) {
+      if (!HasSymbol()) return;
+      const Vec3 rise = Minus(lines_[0][1], shape.outline[0]);  // the symbol lies where the frame begins
+      shape.skirtHeight = geometry::VecDot(normal, rise);
+      shape.isLeaning = Leans(rise, *shape.skirtHeight);
+      return;
+    }
     const Corners& wall = faces_[skirtFaces_];  // from the foot up
-    shape.frameDepth = Distance(wall[0], wall[3]);
-    if (geometry::VecDot(Minus(wall[3], wall[0]), shape.Normal()) < 0) Fail("it stands upside down");
+    const Vec3 rise = Minus(wall[3], wall[0]);
+    shape.frameDepth = geometry::VecDot(normal, rise);
+    shape.skirtHeight = geometry::VecDot(normal, Minus(wall[0], shape.outline[0]));
+    if (*shape.frameDepth < 0) Fail("it stands upside down");
+    shape.isLeaning = Leans(rise, *shape.frameDepth);
+  }
+
+  bool Leans(const Vec3& rise, double height) const {
+    constexpr double VISIBLE = 0.1;  // of the tolerance
+    return geometry::VecLength(rise) - height > VISIBLE * tolerance_;
+  }
+
+  // Nothing of a window reaches beyond its frame, and its lines lie where the frame begins.
+  void CheckParts(const WindowShape& shape) const {
+    if (shape.isLeaning) return;
+    const auto isWithin = [&](const Vec3& point, double height) {
+      const Vec3 offset = Minus(point, shape.outline[0]);
+      const auto reaches = [&](const Vec3& direction, double most) {
+        const double along = geometry::VecDot(direction, offset);
+        return along >= -tolerance_ && along <= most + tolerance_;
+      };
+      return reaches(shape.Across(), shape.width) && reaches(shape.Up(), shape.length) &&
+             reaches(shape.Normal(), height);
+    };
+    const double skirt = shape.skirtHeight.value_or(0.0);
+    for (const Corners& face : faces_) {
+      for (const Vec3& corner : face)
+        if (!isWithin(corner, skirt + shape.frameDepth.value_or(0.0))) FailApart();
+    }
+    if (!HasSymbol()) return;
+    for (const Corners& line : lines_)
+      if (!isWithin(line[0], skirt) || !isWithin(line[1], skirt)) FailApart();
   }
 
   // From the frame's corner to the sash's, along both edges.

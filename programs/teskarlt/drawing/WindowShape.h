@@ -17,10 +17,12 @@ struct WindowShape {
   std::array<geometry::Vec3, 4> outline;
   double width;
   double length;
-  std::optional<double> frameWidth;   // none without symbol and body, or where the sides differ
-  std::optional<double> frameDepth;   // none without a body
-  std::optional<double> skirtHeight;  // likewise
+  std::optional<double> frameWidth;      // none without symbol and body, or where the sides differ
+  std::optional<double> frameDepth;      // none without a body
+  std::optional<double> skirtHeight;     // none without symbol and body
+  std::optional<double> layerThickness;  // none with a symbol
   bool isMirrored;
+  bool isLeaning;  // the body is not square to the roof
 
   geometry::Vec3 Across() const;  // unit vectors along the lower edge from its start, and up the slope
   geometry::Vec3 Up() const;
