@@ -42,14 +42,15 @@ TEST(MakeRoofFace, FaceWithoutAreaIsNone) {
   EXPECT_FALSE(MakeRoofFace({}, TOLERANCE));
 }
 
-TEST(MakeRoofFace, TwistedFaceIsNone) {
-  EXPECT_FALSE(MakeRoofFace({{0, 0, 0}, {4, 0, 0}, {4, 4, 0.1}, {0, 4, 0}}, TOLERANCE));
+TEST(Warp, IsThatOfTheFarthestCorner) {
+  EXPECT_NEAR(Warp(Face({{0, 0, 0}, {4, 0, 0}, {4, 4, 0.1}, {0, 4, 0}})), 0.05, 0.001);
+  EXPECT_NEAR(Warp(Face(SLOPE)), 0, 1e-15);
 }
 
-TEST(MakeRoofFace, PlanarityDoesNotSufferFarFromTheOrigin) {
+TEST(Warp, DoesNotSufferFarFromTheOrigin) {
   const double x = 5e8;
   const double y = -4e8;
-  EXPECT_TRUE(MakeRoofFace({{x, y, 1}, {x + 4, y, 1}, {x + 4, y + 3, 4}, {x, y + 3, 4}}, TOLERANCE));
+  EXPECT_LE(Warp(Face({{x, y, 1}, {x + 4, y, 1}, {x + 4, y + 3, 4}, {x, y + 3, 4}})), TOLERANCE);
 }
 
 TEST(Pitch, IsMeasuredFromTheHorizontal) {

@@ -1,0 +1,155 @@
+// WindowFitTest.cpp - outlines of windows, what they overlap and how much of them lies on a roof.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "teskarlt/drawing/WindowFit.h"
+
+namespace teskarlt {
+namespace {
+
+using brevanta::RecordPoint;
+using brevanta::WindowParams;
+using geometry::Vec3;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr double TOLERANCE = 1.0;  // millimetres
+
+// A point of a plane that rises 3 in 4 along y, from height `z` at y = 0; metres to millimetres.
+RecordPoint OnSlope(double x, double y, double z = 0.0) {
+  return {x * 1000, y * 1000, (z + 0.75 * y) * 1000};
+}
+
+Vec3 Corner(double x, double y) {
+  const RecordPoint p = OnSlope(x, y);
+  return {p.x, p.y, p.z};
+}
+
+// 1 m wide and 2 m long, in the plan 1.6 m; its lower edge's centre at (x, y) of the slope.
+WindowParams Window(double x, double y, double z = 0.0) {
+  WindowParams record{};
+  record.width = 1.0;
+  record.length = 2.0;
+  record.roofBuildUp = brevanta::BUILD_UP_PLAIN;
+  record.heightReference = 1;
+  record.unitFactor = 1000;
+  record.storedPoint = OnSlope(x, y, z);
+  record.roofPlanePoints[0] = OnSlope(0, 0, z);
+  record.roofPlanePoints[1] = OnSlope(10, 0, z);
+  record.roofPlanePoints[2] = OnSlope(0, 10, z);
+  return record;
+}
+
+void ExpectLowerLeft(const WindowParams& record, double x, double y) {
+  const Outline outline = OutlineOf(record);
+  const Vec3 expected = Corner(x, y);
+  EXPECT_NEAR(outline[0].x, expected.x, 1e-6);
+  EXPECT_NEAR(outline[0].y, expected.y, 1e-6);
+  EXPECT_NEAR(outline[0].z, expected.z, 1e-6);
+}
+
+bool DoOverlap(const WindowParams& a, const WindowParams& b) {
+  return Overlap(OutlineOf(a), OutlineOf(b), TOLERANCE);
+}
+
+// The slope from x = 0 to `width` and y = 0 to 10.
+std::vector<RoofFace> Slope(double width) {
+  return {*MakeRoofFace({Corner(0, 0), Corner(width, 0), Corner(width, 10), Corner(0, 10)}, TOLERANCE)};
+}
+
+TEST(OutlineOf, RunsFromTheLowerLeftCornerUpTheSlope) {
+  const Outline outline = OutlineOf(Window(5, 2));
+  ExpectLowerLeft(Window(5, 2), 4.5, 2);
+  EXPECT_NEAR(outline[1].y, 3600, 1e-6);
+  EXPECT_NEAR(outline[1].z, 2700, 1e-6);
+  EXPECT_NEAR(outline[2].x, 5500, 1e-6);
+  EXPECT_NEAR(outline[3].y, 2000, 1e-6);
+}
+
+TEST(OutlineOf, AnchorsAtTheStartAndAtTheEnd) {
+  WindowParams record = Window(5, 2);
+  record.widthAnchor = brevanta::ANCHOR_START;
+  ExpectLowerLeft(record, 5, 2);
+  record.widthAnchor = brevanta::ANCHOR_END;
+  ExpectLowerLeft(record, 4, 2);
+}
+
+TEST(OutlineOf, OffsetMovesTheWindowUpTheSlope) {
+  WindowParams record = Window(5, 2);
+  record.roofBuildUp = brevanta::BUILD_UP_SLOPE_OFFSET;
+  record.slopeOffset = 0.5;
+  ExpectLowerLeft(record, 4.5, 2.4);
+}
+
+TEST(OutlineOf, WindowPlacedByTheUndersideLiesOnTheRoof) {
+  for (const std::int32_t reference : {0, 1, 2, 3}) {
+    WindowParams record = Window(5, 2);
+    record.roofBuildUp = brevanta::BUILD_UP_SECOND_PLANE;
+    record.heightReference = reference;
+    record.layerThickness = 0.2;
+    for (int i = 0; i < 3; ++i) {
+      const RecordPoint& p = record.roofPlanePoints[i];
+      record.secondPlanePoints[i] = {p.x, p.y + 120, p.z - 160};
+    }
+    const bool isSquare = reference == 0 || reference == 2;
+    record.storedPoint = isSquare ? RecordPoint{5000, 2120, 1340} : RecordPoint{5000, 2000, 1250};
+    ExpectLowerLeft(record, 4.5, 2);
+  }
+}
+
+TEST(Overlap, TouchingEdgesAreNone) {
+  EXPECT_FALSE(DoOverlap(Window(5, 2), Window(6, 2)));
+  EXPECT_FALSE(DoOverlap(Window(5, 2), Window(5, 3.6)));
+}
+
+TEST(Overlap, BeginsBeyondTheTolerance) {
+  EXPECT_FALSE(DoOverlap(Window(5, 2), Window(5.9995, 2)));
+  EXPECT_TRUE(DoOverlap(Window(5, 2), Window(5.998, 2)));
+  EXPECT_TRUE(DoOverlap(Window(5, 2), Window(5.5, 3.5)));
+}
+
+TEST(Overlap, WindowsOfDifferentPlanesDoNot) {
+  EXPECT_FALSE(DoOverlap(Window(5, 2), Window(5, 2, 1.0)));
+}
+
+TEST(CoveredPart, IsThePartOnTheFacesOfTheWindowsPlane) {
+  EXPECT_NEAR(CoveredPart(OutlineOf(Window(5, 2)), Slope(10), TOLERANCE), 1.0, 1e-12);
+  EXPECT_NEAR(CoveredPart(OutlineOf(Window(5, 2)), Slope(5), TOLERANCE), 0.5, 1e-12);
+  EXPECT_EQ(CoveredPart(OutlineOf(Window(5, 2, 1.0)), Slope(10), TOLERANCE), 0.0);
+}
+
+TEST(WindowFit, NamesTheWindowsThatAreOverlapped) {
+  const std::vector<RoofFace> faces;
+  WindowFit fit(faces, TOLERANCE);
+  for (int number = 1; number <= 4; ++number)
+    fit.Add(number, OutlineOf(Window(2.0 * number, 2)));
+  EXPECT_THAT(fit.Misfits(Window(3, 2), OutlineOf(Window(3, 2))), IsEmpty());
+  EXPECT_THAT(fit.Misfits(Window(6.1, 3), OutlineOf(Window(6.1, 3))), ElementsAre("it overlaps window 3"));
+}
+
+TEST(WindowFit, WideWindowIsFoundFromItsFarEnd) {
+  const std::vector<RoofFace> faces;
+  WindowFit fit(faces, TOLERANCE);
+  WindowParams wide = Window(0, 2);
+  wide.width = 50;
+  fit.Add(1, OutlineOf(wide));
+  for (int number = 2; number <= 5; ++number)
+    fit.Add(number, OutlineOf(Window(2.0 * number, 8)));
+  EXPECT_THAT(fit.Misfits(Window(24, 2), OutlineOf(Window(24, 2))), ElementsAre("it overlaps window 1"));
+}
+
+TEST(WindowFit, FaceOfWindowWithASecondPlaneOfItsOwnIsNotAsked) {
+  const std::vector<RoofFace> faces = Slope(10);
+  const WindowFit fit(faces, TOLERANCE);
+  WindowParams record = Window(5, 2, 1.0);
+  EXPECT_THAT(fit.Misfits(record, OutlineOf(record)), ElementsAre("it lies on no roof face"));
+  record.roofBuildUp = brevanta::BUILD_UP_SECOND_PLANE;
+  record.layerThickness = 0.2;
+  record.secondPlanePoints[0] = OnSlope(0, 0);
+  record.secondPlanePoints[1] = OnSlope(10, 0);
+  record.secondPlanePoints[2] = OnSlope(0, 10, 0.5);
+  EXPECT_THAT(fit.Misfits(record, OutlineOf(record)), IsEmpty());
+}
+
+}  // namespace
+}  // namespace teskarlt
