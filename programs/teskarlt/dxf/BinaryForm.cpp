@@ -306,6 +306,7 @@ void BinaryReader::Fail(const std::string& message) const {
 
 std::string TextOfBinary(const std::string& name, std::string_view bytes) {
   std::string text;
+  text.reserve(bytes.size() * 5 / 2);  // most drawings need less; growing would need as much again
   BinaryReader reader(name, bytes);
   for (BinaryTag tag; reader.Next(tag);)
     AppendText(text, tag);
