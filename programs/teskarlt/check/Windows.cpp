@@ -79,9 +79,10 @@ void CheckShapes(const Scene& scene) {
       Report(scene, Kind::WindowSize, window,
              fmt::format("window {} cannot be changed: {}", window.number, reading.obstacle));
     }
-    for (const std::string& note : reading.notes)
+    for (const std::string& note : reading.notes) {
       Report(scene, Kind::WindowSize, window, fmt::format("window {}: {}", window.number, note),
              Severity::Warning);
+    }
   }
 }
 

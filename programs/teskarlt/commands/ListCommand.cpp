@@ -84,7 +84,7 @@ std::vector<Row> ReadRows(const dxf::Document& drawing, const std::vector<DrawnW
   for (const DrawnWindow& window : windows) {
     Row& row = rows.emplace_back(Row{window, ReadWindow(drawing, window)});
     if (!numbers.insert(window.number).second) {
-      row.reading.notes.push_back(
+      row.reading.notes.emplace_back(
           "its number is that of a window before it; teskarlt renumber gives it one of its own");
     }
     if (!row.reading.obstacle.empty())
@@ -158,9 +158,10 @@ void PrintTable(const std::vector<Row>& rows) {
                entities, Texts(window)});
   }
   table.Print();
-  for (const auto& [window, reading] : rows)
+  for (const auto& [window, reading] : rows) {
     for (const std::string& note : reading.notes)
       fmt::print("window {}: {}\n", window.number, note);
+  }
 }
 
 void RunList(const ListOptions& options) {

@@ -44,18 +44,20 @@ std::vector<NewNumber> NewNumbers(const std::vector<DrawnWindow>& windows) {
 }
 
 void Store(const NewNumber& change, dxf::Document& drawing) {
-  for (const dxf::Entity* const entity : change.window.entities)
-    if (const auto tag = NumberTagOf(drawing, *entity); tag)
-      drawing.ReplaceValue(*tag, std::to_string(change.number));
+  for (const dxf::Entity* const entity : change.window.entities) {
+    const auto tag = NumberTagOf(drawing, *entity);
+    if (tag) drawing.ReplaceValue(*tag, std::to_string(change.number));
+  }
 }
 
 void Print(const RenumberOptions& options, const std::vector<NewNumber>& changes, const std::string& target) {
   if (options.asJson) {
     Json json{{"version", JSON_VERSION}};
     json["windows"] = Json::array();
-    for (const auto& [window, number] : changes)
+    for (const auto& [window, number] : changes) {
       json["windows"].push_back(
           {{"from", window.number}, {"to", number}, {"entities", window.entities.size()}});
+    }
     json["file"] = options.dryRun || changes.empty() ? Json(nullptr) : Json(target);
     json["dryRun"] = options.dryRun;
     PrintJson(json);

@@ -62,9 +62,10 @@ void PrintRoofs(const RoofFaces& faces, const DrawingUnit& unit) {
   for (const RoofFace& face : faces.planar)
     json["roofs"].push_back(ToJson(face, unit.perMetre));
   json["warped"] = nlohmann::ordered_json::array();
-  for (const RoofFace& face : faces.warped)
+  for (const RoofFace& face : faces.warped) {
     json["warped"].push_back(
         {{"face", face.name}, {"layer", face.layer}, {"offPlane", Warp(face) / unit.perMetre}});
+  }
   PrintJson(json);
 }
 
