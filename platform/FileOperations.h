@@ -19,6 +19,7 @@ struct FileState {
   bool isWritable = false;        // for this user
   std::uint64_t size = 0;         // bytes
   std::int64_t modifiedTime = 0;  // in the system's own unit
+  std::uint64_t identity = 0;     // tells the file from another that was put in its place
 
   bool operator==(const FileState&) const = default;
 };

@@ -102,6 +102,7 @@ int Stat(const std::string& path, FileState& state) {
   state.isOrdinary = S_ISREG(found.st_mode);
   state.isWritable = access(path.c_str(), W_OK) == 0;
   state.size = static_cast<std::uint64_t>(found.st_size);
+  state.identity = found.st_ino;
   state.modifiedTime = found.st_mtim.tv_sec * NANOSECONDS + found.st_mtim.tv_nsec;
   return 0;
 }

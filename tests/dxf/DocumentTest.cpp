@@ -1,5 +1,6 @@
 // DocumentTest.cpp - a drawing as a whole: header, loading and saving.
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 
 #include "teskarlt/dxf/Document.h"
@@ -157,6 +158,18 @@ TEST(DocumentFile, FileThatSomebodyChangedIsNotOverwritten) {
   EXPECT_EQ(ErrorOf([&] { drawing.Save(file.Path()); }),
             "document_test.dxf: was changed by another program meanwhile; nothing is written");
   EXPECT_EQ(file.Text(), changed);
+}
+
+TEST(DocumentFile, FileThatAnotherWasPutInThePlaceOfIsNotOverwritten) {
+  const TemporaryFile file(OnlyEntities("0|LINE|8|A"));
+  const Document drawing = Document::Load(file.Path());
+  const std::string other = OnlyEntities("0|LINE|8|B");
+  platform::WriteWholeFile("document_test_other.dxf", other);
+  std::filesystem::last_write_time("document_test_other.dxf", std::filesystem::last_write_time(file.Path()));
+  std::filesystem::rename("document_test_other.dxf", file.Path());
+  EXPECT_EQ(ErrorOf([&] { drawing.Save(file.Path()); }),
+            "document_test.dxf: was changed by another program meanwhile; nothing is written");
+  EXPECT_EQ(file.Text(), other);
 }
 
 TEST(DocumentFile, FileThatSomebodyChangesDuringTheWriteIsNotOverwritten) {

@@ -197,11 +197,10 @@ def copy(path, offset, number=1, with_description=False, times=1):
         for entity in of_window(drawing, number)[:33]:
             twin = entity.copy()
             space.add_entity(twin)
-            tags = twin.get_xdata("TK_LT_DESC")
+            tags = list(twin.get_xdata("TK_LT_DESC"))
             twin.transform(matrix)
-            if with_description:
-                twin.set_xdata("TK_LT_DESC", [(tag.code, matrix.transform(tag.value)) if tag.code == 1011
-                                              else (tag.code, tag.value) for tag in tags])
+            twin.set_xdata("TK_LT_DESC", [(tag.code, matrix.transform(tag.value)) if with_description and tag.code == 1011
+                                          else (tag.code, tag.value) for tag in tags])
     drawing.saveas(path)
 
 
@@ -258,3 +257,62 @@ def test_half_a_window_is_listed_with_what_is_missing_and_can_be_erased(teskarlt
     assert window["notes"] == [
         "it cannot be changed: it has 12 faces and 16 lines, and should have 0, 17 or 21 faces and 16 lines"]
     assert teskarlt.done("erase", path, "1", "--json").json["erased"] == 28
+
+
+def test_part_of_a_copy_is_not_erased_with_its_model(teskarlt, house):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    copy(house, (1800, 0, 0))
+    drawing = ezdxf.readfile(house)
+    drawing.modelspace().delete_entity(of_window(drawing, 1)[-1])
+    drawing.saveas(house)
+    before = house.read_bytes()
+    answer = teskarlt("erase", house, "1")
+    assert answer.status == 1 and "34 faces and 31 lines" in answer.stderr and house.read_bytes() == before
+
+
+def test_fragment_keeps_the_number_of_its_window(teskarlt, house):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    drawing = ezdxf.readfile(house)
+    of_window(drawing, 1)[3].translate(0, 0, 50)  # its description goes along
+    drawing.saveas(house)
+    before = house.read_bytes()
+    assert [window["notes"][0] for window in listed(teskarlt, house)][1] == (
+        "its number is that of a window before it, of which it may be a part")
+    assert teskarlt("renumber", house).status == 0 and house.read_bytes() == before
+
+
+def test_other_entities_with_a_windows_data_are_no_parts_of_it(teskarlt, path):
+    insert(teskarlt, path)
+    drawing = ezdxf.readfile(path)
+    model = of_window(drawing, 1)[0]
+    text = drawing.modelspace().add_text("note")
+    for application in ("TK_LT_ELEM", "TK_LT_DESC"):
+        text.set_xdata(application, list(model.get_xdata(application)))
+    drawing.saveas(path)
+    assert [(window["faces"], window["lines"], window["notes"]) for window in listed(teskarlt, path)] == [(17, 16, [])]
+    assert [finding["kind"] for finding in teskarlt("check", path, "--json").json["findings"]] == ["window-foreign-data"]
+    teskarlt.done("erase", path, "1")
+    assert len(ezdxf.readfile(path).modelspace().query("TEXT")) == 1
+
+
+@pytest.mark.parametrize("with_description", [False, True], ids=["description-left", "points-moved-along"])
+def test_pitch_is_the_one_that_is_drawn(teskarlt, path, with_description):
+    insert(teskarlt, path)
+    transform(path, MATRICES["steeper"], with_description)
+    [window] = listed(teskarlt, path)
+    expected = math.degrees(math.atan(1.3 * math.tan(math.radians(ROOF.pitch))))
+    assert abs(window["fields"]["pitch"] - expected) < 1e-6 and window["sources"]["pitch"] == "geometry"
+    assert f"its pitch is {expected:.2f} degrees in the drawing and 40.00 by its description" in window["notes"]
+
+
+def test_renumbering_tells_where_the_copies_stand(teskarlt, house):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    copy(house, (1800, 0, 0))
+    assert "Window 1 at 4300.000,1200.000: has the number 2." in teskarlt.done("renumber", house).stdout
+
+
+def test_window_that_leaves_its_face_can_still_be_changed(teskarlt, house):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    transform(house, Matrix44.translate(4100, 0, 0), True, with_roof=False)
+    answer = teskarlt.done("edit", house, "1", "--set", "text1=a")
+    assert "% of it lie outside its roof face" in answer.stderr

@@ -125,7 +125,7 @@ def test_window_without_a_roof_is_told_and_nothing_is_written(teskarlt, with_pro
     before = with_problem.read_bytes()
     answer = teskarlt("refit", with_problem)
     assert answer.status == 1 and with_problem.read_bytes() == before
-    assert answer.stderr == ("teskarlt: window 1: no roof face lies over or under its place\n"
+    assert answer.stderr == ("teskarlt: window 1: no roof face that falls its way lies over or under its place\n"
                              "teskarlt: 1 of the windows cannot be refitted; nothing was written\n")
     assert "1 window could be refitted; nothing was written." in answer.stdout
 
@@ -165,3 +165,47 @@ def test_nearest_of_several_faces_is_taken(teskarlt, tmp_path):
     drawing.saveas(path)
     [window] = teskarlt.done("refit", path, "--json").json["windows"]
     assert window["face"] == lower.dxf.handle and abs(window["rise"] - 1) < 1e-9
+
+
+def test_floor_is_no_roof_for_a_window_with_a_pitch(teskarlt, tmp_path):
+    path, roof = tmp_path / "roof.dxf", Roof()
+    roof.save(path)
+    teskarlt.done("insert", path, "--at", "0,0", "--set", "heightReference=0")
+    drawing = ezdxf.readfile(path)
+    [face] = drawing.modelspace().query("3DFACE[layer=='ROOF']")
+    face.translate(0, 0, 2500)
+    drawing.modelspace().add_3dface([(x, y, 3000) for x, y, _ in roof.corners])
+    drawing.saveas(path)
+    [window] = teskarlt.done("refit", path, "--json").json["windows"]
+    assert abs(window["pitch"]["to"] - 35) < 1e-6 and abs(window["rise"] - 2.5) < 1e-9
+    drawing = ezdxf.readfile(path)
+    drawing.modelspace().delete_entity(drawing.entitydb[face.dxf.handle])
+    drawing.saveas(path)
+    assert "no roof face that falls its way" in teskarlt("refit", path).stderr
+
+
+def test_number_given_twice_counts_once(teskarlt, tmp_path):
+    path = tmp_path / "old.dxf"
+    Roof().save(path)
+    insert(teskarlt, path, Roof())
+    change_roof(path, Roof(centre=(0, 0, 3.5)))
+    assert len(teskarlt.done("refit", path, "1", "1", "--json").json["windows"]) == 1
+    assert [window["number"] for window in listed(teskarlt, path)] == [1, 2]
+
+
+def test_refitted_window_that_overlaps_another_is_warned_of_or_refused(teskarlt, tmp_path):
+    path, roof = tmp_path / "old.dxf", Roof()
+    roof.save(path)
+    insert(teskarlt, path, roof)
+    drawing = ezdxf.readfile(path)
+    ends = [roof.point(*place) for place in PLACES]
+    for entity in windows.window_entities(drawing):
+        if entity.get_xdata("TK_LT_ELEM")[-1].value == 2:
+            entity.translate(ends[0][0] - ends[1][0] + 300, ends[0][1] - ends[1][1], 900)
+    drawing.saveas(path)
+    before = path.read_bytes()
+    refused = teskarlt("refit", path, "--strict")
+    assert refused.status == 1 and "it overlaps window 1" in refused.stderr and path.read_bytes() == before
+    answer = teskarlt.done("refit", path, "--json")
+    assert answer.stderr == "teskarlt: warning: window 2: it overlaps window 1\n"
+    assert answer.json["windows"][0]["warnings"] == ["it overlaps window 1"]

@@ -148,7 +148,9 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
     findings.Warning(Kind::WindowForeignData, tag.value.data(), fmt::format("the {} {}", object.type, what),
                      object.number);
   };
-  if (!element.empty() && !IsWindowElement(element)) {
+  if (!element.empty() && IsWindowElement(element) && !CanBePart(object.type)) {
+    report(element[0], "is marked as a part of a roof window, which has lines and 3D faces only");
+  } else if (!element.empty() && !IsWindowElement(element)) {
     report(element[0], "is marked as an element of ours that is no roof window");
   } else if (element.empty() && !description.empty()) {
     report(description[0], "has a description of a roof window and is not marked as one");

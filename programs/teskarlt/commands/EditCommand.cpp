@@ -40,6 +40,9 @@ const RoofFace* KeepPlace(const WindowParams& window, const std::vector<RoofFace
   const RoofFace* face = FaceUnder(window, faces, tolerance);
   if (face != nullptr) {
     BoundByFace(*face, faces, tolerance, request);
+    // What stuck out before may do so still.
+    request.isBounded =
+        HasOwnSecondPlane(window, tolerance) || IsWhole(CoveredPart(OutlineOf(window), faces, tolerance));
     return face;
   }
   request.faces = {{}};

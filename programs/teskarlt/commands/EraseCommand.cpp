@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
+#include "teskarlt/Error.h"
 #include "teskarlt/commands/ClosedLayers.h"
 #include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowChoice.h"
@@ -33,6 +34,12 @@ void RunErase(const EraseOptions& options) {
   const std::vector<DrawnWindow> windows = FindWindows(drawing, anyUnit);
   WindowRequest request;
   const DrawnWindow& window = ChooseWindow(windows, options.file, options.number);
+  if (HasMoreThanOneWindow(window)) {
+    throw Error(
+        fmt::format("window {} cannot be told from a part of a copy of it: {}; take the copy's parts out "
+                    "in the CAD program",
+                    window.number, EntityMismatch(window)));
+  }
   RefuseClosedLayers(drawing, window, options.isLockedToo);
   request.replaced = window.entities;
 

@@ -85,7 +85,9 @@ std::vector<Row> ReadRows(const dxf::Document& drawing, const std::vector<DrawnW
     Row& row = rows.emplace_back(Row{window, ReadWindow(drawing, window)});
     if (!numbers.insert(window.number).second) {
       row.reading.notes.emplace_back(
-          "its number is that of a window before it; teskarlt renumber gives it one of its own");
+          EntityMismatch(window).empty()
+              ? "its number is that of a window before it; teskarlt renumber gives it one of its own"
+              : "its number is that of a window before it, of which it may be a part");
     }
     if (!row.reading.obstacle.empty())
       row.reading.notes.push_back("it cannot be changed: " + row.reading.obstacle);
@@ -187,10 +189,11 @@ void AddListCommand(CLI::App& app) {
   command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
   command->add_flag("--json", options->asJson, JSON_HELP);
   command->footer(
-      "Sizes are in metres, the place in drawing units. The direction in which the roof falls is in degrees\n"
-      "clockwise from the drawing's y axis, which counts as north. Windows that another program moved, "
-      "turned,\n"
-      "mirrored or scaled are listed as they stand in the drawing, with a note.\n"
+      "Sizes are in metres, the place in drawing units; the direction in which the roof falls is in degrees\n"
+      "counter-clockwise from the drawing's x axis. Windows that another program moved, turned, mirrored or\n"
+      "scaled are listed as they stand in the drawing, with a note; those that cannot be changed any more "
+      "as\n"
+      "their descriptions say.\n"
       "Example: teskarlt list house-with-window.dxf --json");
   command->callback([options] { RunList(*options); });
 }

@@ -4,11 +4,14 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <set>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
+#include "geometry/Matrix4.h"
+#include "geometry/Trigonometry.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/ClosedLayers.h"
 #include "teskarlt/commands/Report.h"
@@ -44,6 +47,7 @@ struct Refitted {
   WindowParams before;
   WindowParams after;
   std::string face;
+  std::vector<std::string> misfits;  // as WindowFit tells them
 };
 
 struct Problem {
@@ -57,13 +61,22 @@ struct RefitReport {
   std::size_t fitting = 0;
 };
 
-// The face over the window's place that is nearest to it in height; null when there is none.
-const RoofFace* FaceOver(const RecordPoint& place, const std::vector<RoofFace>& faces) {
+// A floor is no roof for a window that had a pitch, nor is a roof that falls the other way.
+bool CanFollow(const RoofFace& face, const geometry::Vec3& normal) {
+  constexpr double FLAT = 1.0;  // degrees
+  if (std::hypot(normal.x, normal.y) <= geometry::Sine(geometry::DegToRad(FLAT))) return true;
+  return Pitch(face) > FLAT && face.normal.x * normal.x + face.normal.y * normal.y > 0.0;
+}
+
+// The face over the window's place that is nearest to it in height, of those that a roof with that normal can
+// have become; null when there is none.
+const RoofFace* FaceOver(const RecordPoint& place, const geometry::Vec3& normal,
+                         const std::vector<RoofFace>& faces) {
   const RoofFace* nearest = nullptr;
   double least = 0.0;
   for (const RoofFace& face : faces) {
     const std::optional<double> height = HeightOver(face, place.x, place.y);
-    if (!height) continue;
+    if (!height || !CanFollow(face, normal)) continue;
     const double distance = std::abs(*height - place.z);
     if (nearest != nullptr && distance >= least) continue;
     nearest = &face;
@@ -91,6 +104,7 @@ class Refitter {
         report.problems.push_back({window->number, error.what()});
       }
     }
+    TakeMisfits(report);
     return report;
   }
 
@@ -103,13 +117,14 @@ class Refitter {
       for (const DrawnWindow& window : windows_)
         chosen.push_back(&window);
     }
-    for (const int number : options_.numbers)
+    for (const int number : std::set<int>(options_.numbers.begin(), options_.numbers.end()))
       chosen.push_back(&ChooseWindow(windows_, options_.window.file, number));
     return chosen;
   }
 
   void Refit(const DrawnWindow& window, RefitReport& report) {
-    const WindowReading reading = ReadEditableWindow(drawing_, window);
+    const WindowReading reading = ReadWindow(drawing_, window);
+    if (!reading.obstacle.empty()) throw Error("it cannot be changed: " + reading.obstacle);
     const double tolerance = RoofTolerance(unit_);
     if (HasOwnSecondPlane(reading.params, tolerance)) {
       if (FaceUnder(reading.params, faces_, tolerance) == nullptr)
@@ -117,18 +132,35 @@ class Refitter {
       ++report.fitting;
       return;
     }
-    const double covered = CoveredPart(ShapeOf(drawing_, window).outline, faces_, tolerance);
+    const WindowShape shape = ShapeOf(drawing_, window);
+    const double covered = CoveredPart(shape.outline, faces_, tolerance);
     if (IsWhole(covered)) {
       ++report.fitting;
       return;
     }
     if (covered > 0.0) throw Error("a part of it lies outside its roof face; move it or make it smaller");
-    const RoofFace* const face = FaceOver(reading.params.storedPoint, faces_);
-    if (face == nullptr) throw Error("no roof face lies over or under its place");
+    const RoofFace* const face = FaceOver(reading.params.storedPoint, shape.Normal(), faces_);
+    if (face == nullptr) throw Error("no roof face that falls its way lies over or under its place");
     ChooseWindow(windows_, options_.window.file, window.number);  // refuses copies
     RefuseClosedLayers(drawing_, window, options_.isLockedToo);
     const CommandOutcome outcome = module_.Edit(drawing_, RequestFor(window, reading, *face));
-    report.refitted.push_back({reading.params, *outcome.confirmed, face->name});
+    report.refitted.push_back({reading.params, *outcome.confirmed, face->name, {}});
+    moved_.insert(&window);
+  }
+
+  // What the windows overlap in their new places.
+  void TakeMisfits(RefitReport& report) const {
+    WindowFit fit(faces_, RoofTolerance(unit_));
+    for (const DrawnWindow& window : windows_) {
+      const std::optional<Outline> outline =
+          moved_.contains(&window) ? std::nullopt : DrawnOutline(drawing_, window);
+      if (outline) fit.Add(window.number, *outline);
+    }
+    for (Refitted& window : report.refitted) {
+      const Outline outline = OutlineOf(window.after);
+      window.misfits = fit.Misfits(window.after, outline);
+      fit.Add(window.after.markerValue, outline);
+    }
   }
 
   WindowRequest RequestFor(const DrawnWindow& window, const WindowReading& reading,
@@ -152,6 +184,7 @@ class Refitter {
   const std::vector<RoofFace> faces_;
   const std::vector<DrawnWindow> windows_;
   const WindowNumbers numbers_;
+  std::set<const DrawnWindow*> moved_;
 };
 
 // Metres that the window's place moved in the plan, and up.
@@ -174,6 +207,7 @@ Json ToJson(const Refitted& window) {
     json["place"][name] = {params->storedPoint.x, params->storedPoint.y, params->storedPoint.z};
   json["shift"] = Shift(window);
   json["rise"] = Rise(window);
+  json["warnings"] = window.misfits;
   return json;
 }
 
@@ -217,6 +251,10 @@ void RunRefit(const RefitOptions& options) {
   const RefitReport report = refitter.Run();
   for (const Problem& problem : report.problems)
     fmt::print(stderr, "teskarlt: window {}: {}\n", problem.number, problem.message);
+  for (const Refitted& window : report.refitted) {
+    RefuseMisfits(options.window, window.misfits);
+    WarnOfMisfits("", window.after.markerValue, window.misfits);
+  }
   const bool isWanted = report.problems.empty() || options.keepGoing;
   const bool isChanged = !report.refitted.empty() || !options.window.output.empty();
   const bool isSaved = isWanted && isChanged && !options.window.dryRun;
@@ -249,6 +287,7 @@ void AddRefitCommand(CLI::App& app) {
       ->type_name("FILE")
       ->check(NotEmpty);
   command->add_option("--units", window.units, UNITS_HELP)->type_name("UNIT");
+  command->add_flag("--strict", window.isStrict, "refuse when a window would overlap another");
   command->add_flag("--dry-run", window.dryRun, "say what would be done and write nothing");
   command->add_flag("--json", window.asJson, JSON_HELP);
   command->footer(

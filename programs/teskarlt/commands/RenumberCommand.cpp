@@ -11,6 +11,7 @@
 #include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/WindowRecord.h"
 
 namespace teskarlt {
 
@@ -28,16 +29,19 @@ struct RenumberOptions {
 struct NewNumber {
   const DrawnWindow& window;
   std::int32_t number;
+  brevanta::RecordPoint place;
 };
 
-// The windows whose number a window before them bears. What has no number is none of ours to number.
-std::vector<NewNumber> NewNumbers(const std::vector<DrawnWindow>& windows) {
+// The windows whose number a window before them bears. Parts of windows keep theirs, so that they can be put
+// back to the rest.
+std::vector<NewNumber> NewNumbers(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows) {
   WindowNumbers taken = NumbersOf(windows);
   std::set<std::int32_t> known;
   std::vector<NewNumber> numbers;
   for (const DrawnWindow& window : windows) {
-    if (window.number == 0 || known.insert(window.number).second) continue;
-    numbers.push_back({window, taken.Free()});
+    const bool isWhole = window.isComplete && EntityMismatch(window).empty();
+    if (window.number == 0 || !isWhole || known.insert(window.number).second) continue;
+    numbers.push_back({window, taken.Free(), ReadWindow(drawing, window).params.storedPoint});
     taken.Take(numbers.back().number);
   }
   return numbers;
@@ -54,17 +58,18 @@ void Print(const RenumberOptions& options, const std::vector<NewNumber>& changes
   if (options.asJson) {
     Json json{{"version", JSON_VERSION}};
     json["windows"] = Json::array();
-    for (const auto& [window, number] : changes) {
-      json["windows"].push_back(
-          {{"from", window.number}, {"to", number}, {"entities", window.entities.size()}});
+    for (const auto& [window, number, place] : changes) {
+      json["windows"].push_back({{"from", window.number},
+                                 {"to", number},
+                                 {"place", {place.x, place.y, place.z}},
+                                 {"entities", window.entities.size()}});
     }
     json["file"] = options.dryRun || changes.empty() ? Json(nullptr) : Json(target);
     json["dryRun"] = options.dryRun;
     PrintJson(json);
     return;
   }
-  for (const auto& [window, number] : changes) {
-    const brevanta::RecordPoint& place = window.params.storedPoint;
+  for (const auto& [window, number, place] : changes) {
     fmt::print("Window {} at {:.3f},{:.3f}: {} {}.\n", window.number, place.x, place.y,
                options.dryRun ? "would get the number" : "has the number", number);
   }
@@ -79,9 +84,9 @@ void Print(const RenumberOptions& options, const std::vector<NewNumber>& changes
 
 void RunRenumber(const RenumberOptions& options) {
   dxf::Document drawing = dxf::Document::Load(options.file);
-  constexpr int anyUnit = 1;  // no length has a part in it
+  constexpr int anyUnit = 1;  // lengths are compared with lengths of the drawing only
   const std::vector<DrawnWindow> windows = FindWindows(drawing, anyUnit);
-  const std::vector<NewNumber> changes = NewNumbers(windows);
+  const std::vector<NewNumber> changes = NewNumbers(drawing, windows);
   for (const NewNumber& change : changes)
     Store(change, drawing);
   const std::string& target = options.output.empty() ? options.file : options.output;

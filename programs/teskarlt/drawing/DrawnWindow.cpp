@@ -1,6 +1,7 @@
 // DrawnWindow.cpp - reads the windows of a drawing back from the extended data of their entities.
 #include "teskarlt/drawing/DrawnWindow.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <optional>
@@ -223,6 +224,10 @@ DrawnWindow MakeWindow(const Marks& marks, std::int32_t unitFactor) {
 
 }  // namespace
 
+bool CanBePart(std::string_view type) {
+  return dxf::SameName(type, "LINE") || dxf::SameName(type, "3DFACE");
+}
+
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
   const std::string_view extendedData = ExtendedData(drawing, entity);
   return !extendedData.empty() && ReadMarks(drawing, extendedData).isWindow;
@@ -234,6 +239,11 @@ std::size_t LinesOf(const DrawnWindow& window) {
   for (const Mark& mark : MARKS)
     if (window.openingCode.find(mark.letter) != std::string::npos) lines += mark.lines;
   return lines;
+}
+
+bool HasMoreThanOneWindow(const DrawnWindow& window) {
+  return window.isComplete &&
+         (window.faces > FACES_WITH_SKIRT || window.entities.size() - window.faces > LinesOf(window));
 }
 
 std::string EntityMismatch(const DrawnWindow& window) {
@@ -253,7 +263,7 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
   std::unordered_map<std::string_view, std::size_t> windowOf;  // by the bytes of the extended data
   for (const dxf::Entity& entity : drawing.Entities()) {
     const std::string_view extendedData = ExtendedData(drawing, entity);
-    if (extendedData.empty()) continue;
+    if (extendedData.empty() || !CanBePart(entity.type)) continue;
     auto [found, isNew] = windowOf.try_emplace(extendedData, notOurs);
     if (isNew) {
       const Marks marks = ReadMarks(drawing, extendedData);
@@ -269,6 +279,9 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
   std::vector<DrawnWindow> withCopies;
   for (DrawnWindow& window : windows)
     AddWithCopies(std::move(window), withCopies);
+  std::stable_sort(withCopies.begin(), withCopies.end(), [](const DrawnWindow& a, const DrawnWindow& b) {
+    return a.entities.front() < b.entities.front();  // of one array
+  });
   return withCopies;
 }
 

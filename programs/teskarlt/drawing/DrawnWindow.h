@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "inc/WindowParams.h"
@@ -26,6 +27,9 @@ struct DrawnWindow {
   std::size_t faces = 0;  // of the entities
 };
 
+// Whether windows have entities of that type.
+bool CanBePart(std::string_view type);
+
 // True when the entity is marked as one of a roof window.
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity);
 
@@ -34,6 +38,9 @@ std::optional<dxf::Tag> NumberTagOf(const dxf::Document& drawing, const dxf::Ent
 
 // How many lines a window with this description has.
 std::size_t LinesOf(const DrawnWindow& window);
+
+// Whether there are more entities than one window can have.
+bool HasMoreThanOneWindow(const DrawnWindow& window);
 
 // What is wrong with the count of the entities, for people; empty when all are there and none besides.
 std::string EntityMismatch(const DrawnWindow& window);

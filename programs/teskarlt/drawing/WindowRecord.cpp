@@ -148,6 +148,7 @@ class Reconciliation {
   // The window lies in its roof's plane. Only a second plane of the user's own leaves the two apart.
   void TakePlane() {
     if (LiesOnRoof(params_.roofPlanePoints)) {
+      TakePitch();
       if (UsesSecondPlane(params_)) TakeThickness();
       return;
     }
@@ -156,13 +157,7 @@ class Reconciliation {
       reading_.obstacle = "it was moved, and its second plane is not the roof's underside";
       return;
     }
-    const double pitch = shape_.Pitch();
-    if (std::abs(pitch - params_.pitch) > SAME_ANGLE) {
-      reading_.notes.push_back(fmt::format(
-          "its pitch is {:.2f} degrees in the drawing and {:.2f} by its description", pitch, params_.pitch));
-      reading_.recovered.emplace_back("pitch");
-    }
-    params_.pitch = pitch;
+    TakePitch();
     const Vec3 down = shape_.Normal();
     constexpr std::size_t CORNERS[] = {0, 1, 3};
     for (std::size_t i = 0; i < std::size(CORNERS); ++i) {
@@ -172,6 +167,15 @@ class Reconciliation {
     }
     reading_.recovered.emplace_back("roofPlanePoints");
     reading_.recovered.emplace_back("secondPlanePoints");
+  }
+
+  void TakePitch() {
+    const double pitch = shape_.Pitch();
+    if (std::abs(pitch - params_.pitch) <= SAME_ANGLE) return;
+    reading_.notes.push_back(fmt::format(
+        "its pitch is {:.2f} degrees in the drawing and {:.2f} by its description", pitch, params_.pitch));
+    reading_.recovered.emplace_back("pitch");
+    params_.pitch = pitch;
   }
 
   // Of a scaled window the second plane still is the underside, of a thicker layer.

@@ -105,7 +105,9 @@ class ShapeReader {
     return corners;
   }
 
-  [[noreturn]] static void FailApart() { Fail("its parts were moved apart"); }
+  [[noreturn]] static void FailApart() {
+    Fail("its parts were moved apart, or into another order in the file");
+  }
 
   Corners OutlineOfSymbol() const {
     const Corners outline = Chain(lines_.size() - LINES_OF_OUTLINE);

@@ -46,6 +46,7 @@ Belonging BelongingOf(const SourceText& source, const ObjectText& object, const 
 std::vector<ObjectText> TakeOutDependents(const SourceText& source, const std::vector<ObjectText>& objects,
                                           Handles& removed, std::vector<Splice>& splices) {
   std::vector<Belonging> belongings;
+  belongings.reserve(objects.size());
   for (const ObjectText& object : objects)
     belongings.push_back(BelongingOf(source, object, removed));
   std::vector<bool> goes(objects.size());
