@@ -117,7 +117,8 @@ TEST_P(BinaryForm, DrawingCutInAnyPlaceIsRefusedWithTheOffsetOfTheCutTag) {
   const std::string drawing = Ended(writer.Text(0, "LINE").Real(10, 1).Value(310, "\x02zz"));
   for (std::size_t size = 22; size < drawing.size(); ++size) {
     EXPECT_THAT(LoadError(drawing.substr(0, size)),
-                testing::ContainsRegex("^roof.dxf: byte \\d+: the file is cut short"));
+                testing::AllOf(testing::StartsWith("roof.dxf: byte "),
+                               testing::HasSubstr(": the file is cut short")));
   }
 }
 
