@@ -96,8 +96,8 @@ int Stat(const std::string& path, FileState& state) {
   state.isOrdinary = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
   state.isWritable = (found.dwFileAttributes & FILE_ATTRIBUTE_READONLY) == 0;
   state.size = static_cast<std::uint64_t>(Joined(found.nFileSizeHigh, found.nFileSizeLow));
-  state.identity =
-      static_cast<std::uint64_t>(Joined(found.ftCreationTime.dwHighDateTime, found.ftCreationTime.dwLowDateTime));
+  state.identity = static_cast<std::uint64_t>(
+      Joined(found.ftCreationTime.dwHighDateTime, found.ftCreationTime.dwLowDateTime));
   state.modifiedTime = Joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime);
   return 0;
 }
