@@ -1,4 +1,5 @@
 # conftest.py - the fixtures of the end-to-end tests: the program under test and folders with drawings.
+import collections
 import pathlib
 import shutil
 import sys
@@ -16,11 +17,26 @@ def pytest_addoption(parser):
                      help="whose teskarlt is tested; windows: under Wine")
 
 
+def pytest_configure(config):
+    config.addinivalue_line("markers", "many: every eighth case is enough under Wine, where each start takes long")
+
+
+def belongs_to(build, item, cases):
+    """Tests without the program are the same for every build; they run once, with the native one. `cases` counts the
+    cases of the tests that are marked so."""
+    if build != "linux" and "teskarlt" not in item.fixturenames:
+        return False
+    if build == "windows" and item.get_closest_marker("many"):
+        cases[item.function] += 1
+        return cases[item.function] % 8 == 1
+    return True
+
+
 def pytest_collection_modifyitems(config, items):
-    """Tests without the program are the same for every build; they run once, with the native one."""
-    if config.getoption("--build") != "linux":
-        config.hook.pytest_deselected(items=[item for item in items if "teskarlt" not in item.fixturenames])
-        items[:] = [item for item in items if "teskarlt" in item.fixturenames]
+    cases = collections.Counter()
+    belong = [belongs_to(config.getoption("--build"), item, cases) for item in items]
+    config.hook.pytest_deselected(items=[item for item, does in zip(items, belong) if not does])
+    items[:] = [item for item, does in zip(items, belong) if does]
 
 
 @pytest.fixture(scope="session")

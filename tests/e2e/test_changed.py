@@ -81,6 +81,7 @@ KINDS = [
 ]
 
 
+@pytest.mark.many
 @pytest.mark.parametrize("with_description", [False, True], ids=["description-left", "points-moved-along"])
 @pytest.mark.parametrize("change", MATRICES)
 @pytest.mark.parametrize("settings", KINDS, ids=str)

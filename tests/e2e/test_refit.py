@@ -43,6 +43,7 @@ def steeper(roof):
     return Roof(direction=roof.direction, pitch=48, units=roof.units, centre=(0, 0, 3.4))
 
 
+@pytest.mark.many
 @pytest.mark.parametrize("settings", [(), ("roofBuildUp=2", "widthAnchor=1"), ("roofBuildUp=0", "heightReference=2")],
                          ids=",".join)
 @pytest.mark.parametrize("roof", ROOFS, ids=str)

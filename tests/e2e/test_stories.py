@@ -48,6 +48,7 @@ def test_every_code_and_every_two_values_are_in_a_story():
     assert len(STORIES) < 50
 
 
+@pytest.mark.many
 @pytest.mark.parametrize("story", STORIES, ids=lambda story: "-".join(str(value) for value in story.values()))
 def test_window_lives_as_it_was_asked_for(teskarlt, tmp_path, story):
     path = tmp_path / "roof.dxf"
