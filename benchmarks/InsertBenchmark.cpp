@@ -6,7 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include "arx/BvMakeWindow/BvMakeWindow.h"
-#include "arx/commands/DefaultParams.h"
+#include "arx/exports/DefaultParams.h"
 #include "inc/HostFunctionTable.h"
 #include "inc/ValueList.h"
 #include "platform/Heap.h"

@@ -10,7 +10,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "arx/catalogue/MergeLibraryFiles.h"
+#include "arx/merge/MergeLibraryFiles.h"
 #include "inc/LibraryMerge.h"
 
 namespace {

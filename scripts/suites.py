@@ -100,11 +100,11 @@ def end_to_end(preset, results):
     pytest("e2e", results, ["--build", preset], environment(preset))
 
 
-def checks(results):
+def rules(results):
     """Rules that the sources and the built modules keep."""
     for preset in ("linux", "windows"):
         build(preset)
-    pytest("checks", results)
+    pytest("rules", results)
 
 
 def tidy(results):
@@ -120,7 +120,7 @@ SUITES = {
     "e2e": lambda results: end_to_end("linux", results),
     "windows": lambda results: unit_tests("windows", results),
     "e2e-windows": lambda results: end_to_end("windows", results),
-    "checks": checks,
+    "rules": rules,
     "asan": lambda results: unit_tests("asan", results),
     "e2e-asan": lambda results: end_to_end("asan", results),
     "tidy": tidy,

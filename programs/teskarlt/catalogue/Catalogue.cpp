@@ -11,7 +11,7 @@
 #include "platform/CodePage.h"
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
 

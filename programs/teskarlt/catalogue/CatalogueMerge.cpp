@@ -13,9 +13,9 @@
 #include "platform/FolderLock.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
-#include "teskarlt/dxf/TagValue.h"
-#include "teskarlt/host/DataFolder.h"
-#include "teskarlt/host/WindowModule.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/modules/DataFolder.h"
+#include "teskarlt/modules/WindowModule.h"
 
 namespace teskarlt {
 

@@ -7,7 +7,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
 

@@ -20,8 +20,8 @@
 #include "teskarlt/check/Walk.h"
 #include "teskarlt/check/Windows.h"
 #include "teskarlt/dxf/Document.h"
-#include "teskarlt/dxf/FileKind.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/read/FileKind.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "teskarlt/check/Findings.h"
-#include "teskarlt/dxf/SourceText.h"
+#include "teskarlt/dxf/tags/SourceText.h"
 
 namespace teskarlt::check {
 

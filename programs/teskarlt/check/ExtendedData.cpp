@@ -6,7 +6,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/check/Values.h"
-#include "teskarlt/dxf/Group.h"
+#include "teskarlt/dxf/tags/TypedTag.h"
 
 namespace teskarlt::check {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "teskarlt/check/Finding.h"
-#include "teskarlt/dxf/SourceText.h"
+#include "teskarlt/dxf/tags/SourceText.h"
 
 namespace teskarlt::check {
 

@@ -7,7 +7,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
 namespace {

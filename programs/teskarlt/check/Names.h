@@ -12,7 +12,7 @@
 
 #include "teskarlt/check/Findings.h"
 #include "teskarlt/check/Object.h"
-#include "teskarlt/dxf/TextCodec.h"
+#include "teskarlt/dxf/tags/TextCodec.h"
 
 namespace teskarlt::check {
 

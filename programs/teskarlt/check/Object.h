@@ -6,8 +6,8 @@
 #include <span>
 #include <string_view>
 
-#include "teskarlt/dxf/Tag.h"
-#include "teskarlt/dxf/Version.h"
+#include "teskarlt/dxf/tags/Tag.h"
+#include "teskarlt/dxf/tags/Version.h"
 
 namespace teskarlt::check {
 

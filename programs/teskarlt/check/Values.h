@@ -3,7 +3,7 @@
 
 #include "teskarlt/check/Findings.h"
 #include "teskarlt/check/Object.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
 

@@ -6,8 +6,8 @@
 
 #include "teskarlt/check/Findings.h"
 #include "teskarlt/check/Object.h"
-#include "teskarlt/dxf/SourceText.h"
-#include "teskarlt/dxf/TagReader.h"
+#include "teskarlt/dxf/read/TagReader.h"
+#include "teskarlt/dxf/tags/SourceText.h"
 
 namespace teskarlt::check {
 

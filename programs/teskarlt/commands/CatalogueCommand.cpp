@@ -9,9 +9,9 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
-#include "teskarlt/commands/Report.h"
-#include "teskarlt/dxf/TagValue.h"
-#include "teskarlt/host/DataFolder.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/modules/DataFolder.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -11,7 +11,7 @@
 #include "platform/FileOperations.h"
 #include "teskarlt/check/Check.h"
 #include "teskarlt/commands/CommandLine.h"
-#include "teskarlt/commands/Report.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

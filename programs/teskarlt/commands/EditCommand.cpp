@@ -14,7 +14,7 @@
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
-#include "teskarlt/host/WindowModule.h"
+#include "teskarlt/modules/WindowModule.h"
 
 namespace teskarlt {
 

@@ -9,10 +9,10 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/ClosedLayers.h"
-#include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowChoice.h"
 #include "teskarlt/commands/WindowOptions.h"
-#include "teskarlt/host/WindowModule.h"
+#include "teskarlt/modules/WindowModule.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -8,9 +8,9 @@
 
 #include "inc/RecordFields.h"
 #include "teskarlt/commands/InsertJobs.h"
-#include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowInserter.h"
 #include "teskarlt/commands/WindowOptions.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -13,9 +13,9 @@
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/ClosedLayers.h"
-#include "teskarlt/commands/Progress.h"
-#include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowInserter.h"
+#include "teskarlt/terminal/Progress.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -11,11 +11,11 @@
 #include <nlohmann/json.hpp>
 
 #include "geometry/Matrix4.h"
-#include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

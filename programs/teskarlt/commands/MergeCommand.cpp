@@ -9,8 +9,8 @@
 #include <nlohmann/json.hpp>
 
 #include "teskarlt/catalogue/CatalogueMerge.h"
-#include "teskarlt/commands/Report.h"
-#include "teskarlt/host/WindowModule.h"
+#include "teskarlt/modules/WindowModule.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -10,14 +10,14 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/commands/Report.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/preview/Glb.h"
 #include "teskarlt/preview/Page.h"
 #include "teskarlt/preview/Png.h"
 #include "teskarlt/preview/Raster.h"
 #include "teskarlt/preview/SceneReader.h"
 #include "teskarlt/preview/Svg.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -14,14 +14,14 @@
 #include "geometry/Trigonometry.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/ClosedLayers.h"
-#include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowChoice.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/drawing/WindowShape.h"
-#include "teskarlt/host/WindowModule.h"
+#include "teskarlt/modules/WindowModule.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -8,10 +8,10 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
-#include "teskarlt/commands/Report.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -8,9 +8,9 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
-#include "teskarlt/commands/Report.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

@@ -10,7 +10,7 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/dxf/Document.h"
-#include "teskarlt/host/WindowModule.h"
+#include "teskarlt/modules/WindowModule.h"
 
 namespace teskarlt {
 

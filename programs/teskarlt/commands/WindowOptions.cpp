@@ -9,11 +9,11 @@
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/commands/ClosedLayers.h"
-#include "teskarlt/commands/Numbers.h"
-#include "teskarlt/commands/Report.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/dxf/NewDrawing.h"
-#include "teskarlt/host/DataFolder.h"
+#include "teskarlt/modules/DataFolder.h"
+#include "teskarlt/terminal/Numbers.h"
+#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 

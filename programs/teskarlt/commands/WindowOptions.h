@@ -13,7 +13,7 @@
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/Document.h"
-#include "teskarlt/host/HostSession.h"
+#include "teskarlt/modules/ModuleSession.h"
 
 namespace CLI {
 class App;

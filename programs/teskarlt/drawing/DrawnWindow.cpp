@@ -12,7 +12,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/drawing/WindowParts.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
 

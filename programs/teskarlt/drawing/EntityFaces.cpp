@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
 

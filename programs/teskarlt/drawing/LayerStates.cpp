@@ -1,8 +1,8 @@
 // LayerStates.cpp - reads the table of layers.
 #include "teskarlt/drawing/LayerStates.h"
 
-#include "teskarlt/dxf/TagValue.h"
-#include "teskarlt/dxf/TextCodec.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/TextCodec.h"
 
 namespace teskarlt {
 

@@ -5,7 +5,7 @@
 
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/EntityFaces.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
 

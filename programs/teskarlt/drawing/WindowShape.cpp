@@ -11,7 +11,7 @@
 #include "geometry/Matrix4.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/WindowParts.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
 

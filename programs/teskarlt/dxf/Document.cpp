@@ -10,10 +10,10 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/Rules.h"
-#include "teskarlt/dxf/TagValue.h"
-#include "teskarlt/dxf/TextCodec.h"
-#include "teskarlt/dxf/Version.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/TextCodec.h"
+#include "teskarlt/dxf/tags/Version.h"
+#include "teskarlt/dxf/write/Rules.h"
 
 namespace teskarlt::dxf {
 namespace {

@@ -9,11 +9,11 @@
 #include <string>
 #include <string_view>
 
-#include "teskarlt/dxf/Edits.h"
-#include "teskarlt/dxf/Group.h"
-#include "teskarlt/dxf/Index.h"
-#include "teskarlt/dxf/SourceText.h"
-#include "teskarlt/dxf/TagReader.h"
+#include "teskarlt/dxf/read/Index.h"
+#include "teskarlt/dxf/read/TagReader.h"
+#include "teskarlt/dxf/tags/SourceText.h"
+#include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/dxf/write/Edits.h"
 
 namespace teskarlt::dxf {
 

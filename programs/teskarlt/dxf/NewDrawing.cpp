@@ -8,9 +8,9 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/Document.h"
-#include "teskarlt/dxf/TableRecords.h"
-#include "teskarlt/dxf/Tag.h"
-#include "teskarlt/dxf/TagWriter.h"
+#include "teskarlt/dxf/tags/Tag.h"
+#include "teskarlt/dxf/write/TableEntries.h"
+#include "teskarlt/dxf/write/TagWriter.h"
 
 namespace teskarlt::dxf {
 namespace {

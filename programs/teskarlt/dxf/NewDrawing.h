@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "teskarlt/dxf/Version.h"
+#include "teskarlt/dxf/tags/Version.h"
 
 namespace teskarlt::dxf {
 

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "teskarlt/dxf/TagValue.h"
-#include "teskarlt/dxf/TextCodec.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/preview/Curves.h"
 
 namespace teskarlt::preview {

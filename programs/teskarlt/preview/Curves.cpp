@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "geometry/Trigonometry.h"
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::preview {
 

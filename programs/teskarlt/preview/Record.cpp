@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "teskarlt/dxf/TagValue.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::preview {
 

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "teskarlt/dxf/TagValue.h"
-#include "teskarlt/dxf/TextCodec.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/preview/Record.h"
 
 namespace teskarlt::preview {

@@ -8,7 +8,7 @@ namespace brevanta {
 
 // The value of one group, read according to the kind of its type code (ValueList.h). The node owns `text` of
 // a text kind and the bytes of a binary chunk; both come from the process heap (std::malloc).
-union GroupValue {
+union NodeValue {
   char* text;       // zero-terminated, may be null
   double point[3];  // x, y, z
   double real;
@@ -27,11 +27,11 @@ struct ValueNode {
   ValueNode* next;  // following group; null ends the list
   std::int16_t
       typeCode;  // drawing-interchange group code, or one of the host's codes (-5 to -1, 5001 to 5023)
-  GroupValue value;
+  NodeValue value;
 };
 
 static_assert(sizeof(void*) == 8, "the record formats are those of 64-bit systems");
-static_assert(sizeof(GroupValue) == 24);
+static_assert(sizeof(NodeValue) == 24);
 static_assert(offsetof(ValueNode, typeCode) == 8);
 static_assert(offsetof(ValueNode, value) == 16);
 static_assert(sizeof(ValueNode) == 40);

@@ -4,7 +4,7 @@
 #include "arx/BvMakeWindow/ExtendedData.h"
 #include "arx/BvMakeWindow/LayerName.h"
 #include "arx/BvMakeWindow/ListBuilder.h"
-#include "arx/commands/HostTable.h"
+#include "arx/exports/HostTable.h"
 #include "inc/ValueList.h"
 
 namespace brevanta {

@@ -1,0 +1,31 @@
+// TypedTag.h - one group of an entity that is to be added to a drawing.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <variant>
+
+namespace teskarlt::dxf {
+
+// The most bytes, as they stand in the file, that a text of extended data may have.
+constexpr std::size_t LONGEST_EXTENDED_TEXT = 255;
+
+struct Point {
+  double x = 0;
+  double y = 0;
+  double z = 0;
+
+  bool operator==(const Point&) const = default;
+};
+
+// Texts are bytes of the drawing's code page, without escapes, and stay the caller's; they are read during
+// the call alone. Coordinates in drawing units.
+struct Group {
+  int code = 0;
+  std::variant<std::string_view, std::int64_t, double, Point> value;
+
+  bool operator==(const Group&) const = default;
+};
+
+}  // namespace teskarlt::dxf

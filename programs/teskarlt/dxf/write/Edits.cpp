@@ -1,0 +1,256 @@
+// Edits.cpp - new entities as text, removals, and the file that comes of them.
+#include "teskarlt/dxf/write/Edits.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/Version.h"
+#include "teskarlt/dxf/write/EntityTags.h"
+#include "teskarlt/dxf/write/Referrers.h"
+#include "teskarlt/dxf/write/TagWriter.h"
+
+namespace teskarlt::dxf {
+namespace {
+
+constexpr std::string_view SEED_VARIABLE = "$HANDSEED";
+
+HandleSeed SeedOf(const Index& index, const Rules& rules) {
+  const HeaderVariable* const variable = index.FindVariable(SEED_VARIABLE);
+  const std::uint64_t seed = variable == nullptr ? 0 : ParseHandle(variable->value.value).value_or(0);
+  return {index.largestHandle, seed, rules.usesHandles};
+}
+
+template <typename Plain>
+void AppendBytes(std::string& key, const Plain& value) {
+  key.append(reinterpret_cast<const char*>(&value), sizeof value);
+}
+
+// Equal for equal groups alone.
+void AppendKey(std::string& key, const Group& group) {
+  AppendBytes(key, group.code);
+  AppendBytes(key, group.value.index());
+  if (const auto* const text = std::get_if<std::string_view>(&group.value)) {
+    AppendBytes(key, text->size());
+    key.append(*text);
+  } else if (const auto* const point = std::get_if<Point>(&group.value)) {
+    AppendBytes(key, *point);
+  } else if (const auto* const real = std::get_if<double>(&group.value)) {
+    AppendBytes(key, *real);
+  } else {
+    AppendBytes(key, std::get<std::int64_t>(group.value));
+  }
+}
+
+// What is taken out of an object that goes as a whole needs no change of its own. The splices are in order.
+void DropNested(std::vector<Splice>& splices) {
+  const char* end = splices.empty() ? nullptr : splices.front().begin;
+  std::erase_if(splices, [&](const Splice& splice) {
+    if (splice.begin < end) return true;
+    end = splice.end;
+    return false;
+  });
+}
+
+}  // namespace
+
+Edits::Edits(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules)
+    : source_(source),
+      index_(index),
+      codec_(codec),
+      rules_(rules),
+      handles_(SeedOf(index, rules)),
+      records_(source, index, codec, rules, handles_),
+      groups_(source, index, codec, rules, handles_),
+      isRemoved_(index.entities.size()) {}
+
+std::uint64_t Edits::AddEntity(std::span<const Group> groups) {
+  const EditMark mark = Mark();
+  try {
+    CheckGroups(groups);
+    return AddCheckedEntity(groups);
+  } catch (...) {
+    Rollback(mark);
+    throw;
+  }
+}
+
+std::uint64_t Edits::AddCheckedEntity(std::span<const Group> groups) {
+  RequireNames(groups);
+  const std::size_t extended = ExtendedDataBegin(groups);
+  const std::uint64_t handle = handles_.Take();
+  scratch_.clear();
+  TagWriter writer(scratch_, rules_.lineEnd);
+  writer.Text(CODE_TYPE, TextOf(groups[0]));
+  if (handle != 0) writer.Handle(CODE_HANDLE, handle);
+  if (grouping_) {
+    grouping_->members.push_back(handle);
+    if (HasOwners(rules_.version)) WriteReactors(writer, grouping_->reactors);
+  }
+  if (const std::uint64_t owner = ModelSpaceHandle(); owner != 0) writer.Handle(CODE_OWNER, owner);
+  for (const Group& group : groups.subspan(1, extended - 1)) {
+    if (group.code == CODE_SUBCLASS && !HasSubclassMarkers(rules_.version)) continue;
+    if (group.code == CODE_LAYER) {
+      WriteGroup(writer, codec_, {CODE_LAYER, std::string_view(records_.RequireLayer(TextOf(group)))});
+    } else {
+      WriteGroup(writer, codec_, group);
+    }
+  }
+  const std::string_view body = store_.Add(scratch_);
+  const std::string_view extendedData = ExtendedData(groups.subspan(extended));
+  added_.push_back(body);
+  if (!extendedData.empty()) added_.push_back(extendedData);
+  return handle;
+}
+
+// What the entity refers to by name must be in the drawing, else strict programs refuse all of it.
+void Edits::RequireNames(std::span<const Group> groups) {
+  for (const Group& group : groups) {
+    if (group.code == CODE_LAYER) records_.RequireLayer(TextOf(group));
+    if (group.code == CODE_LINETYPE) records_.RequireLinetype(TextOf(group));
+    if (group.code == CODE_XDATA_APPLICATION) records_.RequireApplication(TextOf(group));
+  }
+}
+
+// The owner of new entities; 0 where there is none to name.
+std::uint64_t Edits::ModelSpaceHandle() const {
+  if (!HasOwners(rules_.version) || index_.modelSpace.code == 0) return 0;
+  if (const auto handle = ParseHandle(index_.modelSpace.value)) return *handle;
+  source_.FailAt(index_.modelSpace.value.data(),
+                 fmt::format("{} is no handle, and new entities of the model space have to refer to it",
+                             Quoted(index_.modelSpace.value)));
+}
+
+std::string_view Edits::ExtendedData(std::span<const Group> groups) {
+  if (groups.empty()) return {};
+  std::string key;
+  for (const Group& group : groups)
+    AppendKey(key, group);
+  if (key == lastKey_) return lastExtendedData_;
+  scratch_.clear();
+  TagWriter writer(scratch_, rules_.lineEnd);
+  for (const Group& group : groups)
+    if (group.code != CODE_XDATA_MARKER) WriteGroup(writer, codec_, group);
+  lastExtendedData_ = store_.Add(scratch_);
+  lastKey_ = std::move(key);
+  return lastExtendedData_;
+}
+
+std::size_t Edits::NumberOf(const Entity& entity) const {
+  const Entity* const first = index_.entities.data();
+  if (std::less<>()(&entity, first) || !std::less<>()(&entity, first + index_.entities.size()))
+    throw Error(fmt::format("{}: this entity is not one of the drawing", source_.Name()));
+  return static_cast<std::size_t>(&entity - first);
+}
+
+void Edits::RemoveEntity(const Entity& entity) {
+  const std::size_t number = NumberOf(entity);
+  if (isRemoved_[number]) return;
+  isRemoved_[number] = true;
+  removed_.push_back(number);
+}
+
+bool Edits::IsRemoved(const Entity& entity) const {
+  return isRemoved_[NumberOf(entity)];
+}
+
+void Edits::ReplaceValue(const Tag& tag, std::string value) {
+  replaced_.push_back({tag.value.data(), tag.value.data() + tag.value.size(), std::move(value)});
+}
+
+// Entities that replace others come into the groups that had all of those.
+void Edits::BeginGroup(std::span<const Entity* const> replaced) {
+  if (!HasSubclassMarkers(rules_.version)) return;
+  std::vector<std::uint64_t> old;
+  for (const Entity* const entity : replaced)
+    old.push_back(entity->handle);
+  Grouping grouping;
+  grouping.fileGroups = groups_.GroupsOf(old);
+  for (const GroupObject* const group : grouping.fileGroups)
+    grouping.reactors.push_back(group->handle);
+  if (grouping.fileGroups.empty()) {
+    grouping.newGroup = groups_.TakeHandle();
+    grouping.reactors.push_back(grouping.newGroup);
+  }
+  grouping_ = std::move(grouping);
+}
+
+void Edits::EndGroup(std::string_view name, std::string_view description) {
+  if (!grouping_) return;
+  const Grouping grouping = std::move(*grouping_);
+  grouping_.reset();
+  for (const GroupObject* const group : grouping.fileGroups)
+    groups_.Extend(*group, grouping.members);
+  groups_.Add(grouping.newGroup, name, description, grouping.members);
+}
+
+bool Edits::IsChanged() const {
+  return !added_.empty() || !removed_.empty() || !replaced_.empty() || records_.Count() > 0 ||
+         groups_.Count() > 0;
+}
+
+EditMark Edits::Mark() const {
+  return {added_.size(),   removed_.size(),       replaced_.size(), records_.Count(),
+          groups_.Count(), grouping_.has_value(), handles_.Next()};
+}
+
+void Edits::Rollback(const EditMark& mark) {
+  added_.resize(std::min(mark.addedTexts, added_.size()));
+  while (removed_.size() > mark.removedEntities) {
+    isRemoved_[removed_.back()] = false;
+    removed_.pop_back();
+  }
+  while (replaced_.size() > mark.replacedValues)
+    replaced_.pop_back();
+  if (records_.Count() > mark.addedRecords) records_.GoBack(mark.addedRecords);
+  groups_.GoBack(mark.addedGroups);
+  if (!mark.isGrouping) grouping_.reset();
+  if (grouping_)
+    std::erase_if(grouping_->members, [&](std::uint64_t handle) { return handle >= mark.nextHandle; });
+  handles_.GoBack(mark.nextHandle);
+}
+
+void Edits::AddSeedSplice(std::vector<Splice>& splices) const {
+  if (!handles_.HasMoved()) return;
+  std::string text;
+  TagWriter writer(text, rules_.lineEnd);
+  if (const HeaderVariable* const variable = index_.FindVariable(SEED_VARIABLE);
+      variable != nullptr && variable->value.code != 0) {
+    const std::string_view old = variable->value.value;
+    splices.push_back({old.data(), old.data() + old.size(), fmt::format("{:X}", handles_.Next())});
+  } else if (const Section* const header = index_.FindSection("HEADER"); header != nullptr) {
+    writer.Text(CODE_VARIABLE, SEED_VARIABLE);
+    writer.Handle(CODE_HANDLE, handles_.Next());
+    splices.push_back({header->end, header->end, std::move(text)});
+  }
+}
+
+std::vector<Splice> Edits::Splices() const {
+  std::vector<Splice> splices = replaced_;
+  AddSeedSplice(splices);
+  records_.AddSplices(splices);
+  std::unordered_set<std::uint64_t> removedHandles;
+  for (const std::size_t number : removed_) {
+    const Entity& entity = index_.entities[number];
+    splices.push_back({entity.text.data(), entity.text.data() + entity.text.size()});
+    if (entity.handle != 0) removedHandles.insert(entity.handle);
+  }
+  AddReferrerSplices(source_, index_, removedHandles, splices);
+  groups_.AddSplices(removedHandles, splices);
+  const char* const end = index_.FindSection("ENTITIES")->end;
+  if (!added_.empty()) splices.push_back({end, end, {}, &added_});
+  std::stable_sort(splices.begin(), splices.end(), [](const Splice& a, const Splice& b) {
+    return a.begin != b.begin ? a.begin < b.begin : a.end < b.end;  // additions first
+  });
+  DropNested(splices);
+  return splices;
+}
+
+void Edits::Write(const std::function<void(std::string_view)>& sink) const {
+  source_.Write(Splices(), sink);
+}
+
+}  // namespace teskarlt::dxf

@@ -1,0 +1,94 @@
+// Edits.h - what is to be added to a drawing and taken out of it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "teskarlt/dxf/read/Index.h"
+#include "teskarlt/dxf/tags/TextCodec.h"
+#include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/dxf/write/HandleSeed.h"
+#include "teskarlt/dxf/write/NewGroups.h"
+#include "teskarlt/dxf/write/NewTableEntries.h"
+#include "teskarlt/dxf/write/Rules.h"
+#include "teskarlt/dxf/write/TextStore.h"
+
+namespace teskarlt::dxf {
+
+// A state of the edits to which a document can go back.
+struct EditMark {
+  std::size_t addedTexts;
+  std::size_t removedEntities;
+  std::size_t replacedValues;
+  std::size_t addedRecords;
+  std::size_t addedGroups;
+  bool isGrouping;
+  std::uint64_t nextHandle;
+};
+
+// The references must outlive the object. Functions as those of Document, which are described there.
+class Edits {
+ public:
+  Edits(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules);
+
+  std::uint64_t AddEntity(std::span<const Group> groups);
+  void RemoveEntity(const Entity& entity);
+  bool IsRemoved(const Entity& entity) const;
+  void ReplaceValue(const Tag& tag, std::string value);
+  void BeginGroup(std::span<const Entity* const> replaced);
+  void EndGroup(std::string_view name, std::string_view description);
+  NewRecords& Records() { return records_; }
+  const NewRecords& Records() const { return records_; }
+
+  bool IsChanged() const;
+  EditMark Mark() const;
+  void Rollback(const EditMark& mark);
+
+  // Gives the drawing's bytes with the edits to `sink`, piece by piece.
+  void Write(const std::function<void(std::string_view)>& sink) const;
+
+ private:
+  // The groups that new entities come into.
+  struct Grouping {
+    std::uint64_t newGroup = 0;                  // handle of a group to be made, or 0
+    std::vector<const GroupObject*> fileGroups;  // groups of the file
+    std::vector<std::uint64_t> reactors;         // handles of both
+    std::vector<std::uint64_t> members;          // in ascending order
+  };
+
+  std::uint64_t AddCheckedEntity(std::span<const Group> groups);
+  void RequireNames(std::span<const Group> groups);
+  std::uint64_t ModelSpaceHandle() const;
+  std::string_view ExtendedData(std::span<const Group> groups);
+  std::size_t NumberOf(const Entity& entity) const;
+  std::vector<Splice> Splices() const;
+  void AddSeedSplice(std::vector<Splice>& splices) const;
+
+  const SourceText& source_;
+  const Index& index_;
+  const TextCodec& codec_;
+  const Rules& rules_;
+  HandleSeed handles_;
+  NewRecords records_;
+  NewGroups groups_;
+  std::optional<Grouping> grouping_;
+
+  TextStore store_;
+  std::vector<std::string_view> added_;  // texts of new entities, one behind the other
+  std::vector<std::size_t> removed_;     // numbers of entities in the order of their removal
+  std::vector<bool> isRemoved_;
+  std::vector<Splice> replaced_;  // values of tags
+
+  std::string scratch_;
+  // The extended data that were written last: the entities of one window share theirs.
+  std::string lastKey_;
+  std::string_view lastExtendedData_;
+};
+
+}  // namespace teskarlt::dxf

@@ -1,0 +1,29 @@
+// EntityTags.h - checks the groups of a new entity and writes them.
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+
+#include "teskarlt/dxf/tags/TextCodec.h"
+#include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/dxf/write/TagWriter.h"
+
+namespace teskarlt::dxf {
+
+// Throws Error unless the list can become an entity: it starts with its type, every code is one of entities
+// and has a value of its kind and range, numbers are finite, and extended data stand at the end, each under
+// an application. Handle and owner are not among the groups.
+void CheckGroups(std::span<const Group> groups);
+
+// Number of groups before the extended data.
+std::size_t ExtendedDataBegin(std::span<const Group> groups);
+
+// The text of a group that holds one.
+std::string_view TextOf(const Group& group);
+
+// Writes a group that passed the check; throws Error for
+// an extended text that is too long once it is encoded.
+void WriteGroup(TagWriter& writer, const TextCodec& codec, const Group& group);
+
+}  // namespace teskarlt::dxf

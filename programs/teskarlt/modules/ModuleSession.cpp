@@ -1,0 +1,155 @@
+// ModuleSession.cpp - answers the dialog's questions and gathers the module's entities.
+#include "teskarlt/modules/ModuleSession.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "teskarlt/modules/ValueListTags.h"
+
+namespace teskarlt {
+
+namespace {
+
+constexpr std::int32_t HOST_DONE = 5100;
+constexpr std::int32_t HOST_FAILED = -5001;
+
+ModuleSession* currentSession = nullptr;
+
+}  // namespace
+
+// The dialog's questions; `context` is the session.
+struct ServiceCalls {
+  static ModuleSession& Session(void* context) { return *static_cast<ModuleSession*>(context); }
+
+  static std::int32_t Answer(void* context, const char* field, char* buffer, std::int32_t size) {
+    const auto& answers = Session(context).request_.answers;
+    const auto found = answers.find(std::string_view(field));
+    if (found == answers.end()) return -1;
+    const std::string& text = found->second;
+    const std::size_t room = size > 0 ? static_cast<std::size_t>(size) - 1 : 0;
+    const std::size_t copied = std::min(text.size(), room);
+    if (copied > 0) std::memcpy(buffer, text.data(), copied);
+    if (size > 0) buffer[copied] = '\0';
+    return static_cast<std::int32_t>(text.size());
+  }
+
+  static std::int32_t PickedPoint(void* context, double (&xy)[2]) {
+    const auto& point = Session(context).request_.point;
+    if (!point) return 0;
+    std::copy(point->begin(), point->end(), xy);
+    return 1;
+  }
+
+  static std::int32_t RoofFace(void* context, std::int32_t index, double* corners, std::int32_t capacity,
+                               std::int32_t* isBoundary) {
+    const WindowRequest& request = Session(context).request_;
+    if (index < 0 || static_cast<std::size_t>(index) >= request.faces.size()) return 0;
+    const auto& face = request.faces[static_cast<std::size_t>(index)];
+    *isBoundary = request.isBounded ? 1 : 0;
+    const std::size_t copied = std::min(face.size(), static_cast<std::size_t>(std::max(capacity, 0)));
+    for (std::size_t i = 0; i < copied; ++i) {
+      corners[3 * i] = face[i].x;
+      corners[3 * i + 1] = face[i].y;
+      corners[3 * i + 2] = face[i].z;
+    }
+    return static_cast<std::int32_t>(face.size());
+  }
+
+  static const WindowNumbers& Numbers(void* context) {
+    static const WindowNumbers none;
+    const WindowNumbers* numbers = Session(context).request_.numbersInUse;
+    return numbers == nullptr ? none : *numbers;
+  }
+
+  static std::int32_t NumberInUse(void* context, std::int32_t number) {
+    return Numbers(context).IsTaken(number) ? 1 : 0;
+  }
+
+  static std::int32_t FreeNumber(void* context) { return Numbers(context).Free(); }
+
+  static std::int32_t ReadWindow(void* context, brevanta::WindowParams* record) {
+    const std::optional<brevanta::WindowParams>& edited = Session(context).request_.edited;
+    if (!edited) return 0;
+    *record = *edited;
+    return 1;
+  }
+
+  static std::int32_t EraseWindow(void* context) {
+    ModuleSession& session = Session(context);
+    for (const dxf::Entity* entity : session.request_.replaced)
+      session.drawing_.RemoveEntity(*entity);
+    session.outcome_.erased = session.request_.replaced.size();
+    return static_cast<std::int32_t>(session.outcome_.erased);
+  }
+
+  static void Confirm(void* context, const brevanta::WindowParams* record) {
+    Session(context).outcome_.confirmed = *record;
+  }
+
+  static void Report(void* context, std::int32_t gravity, const char* text) {
+    Session(context).outcome_.reports.push_back({gravity, text});
+  }
+};
+
+ModuleSession::ModuleSession(dxf::Document& drawing, const WindowRequest& request)
+    : drawing_(drawing),
+      request_(request),
+      services_{brevanta::DIALOG_SERVICES_VERSION,
+                static_cast<std::int32_t>(sizeof(brevanta::DialogServices)),
+                this,
+                ServiceCalls::Answer,
+                ServiceCalls::PickedPoint,
+                ServiceCalls::RoofFace,
+                ServiceCalls::NumberInUse,
+                ServiceCalls::FreeNumber,
+                ServiceCalls::ReadWindow,
+                ServiceCalls::EraseWindow,
+                ServiceCalls::Confirm,
+                ServiceCalls::Report} {
+  currentSession = this;
+}
+
+ModuleSession::~ModuleSession() {
+  currentSession = nullptr;
+}
+
+ModuleSession* ModuleSession::Current() {
+  return currentSession;
+}
+
+std::int32_t ModuleSession::MakeEntity(const brevanta::ValueNode* list) {
+  try {
+    const std::vector<dxf::Group> groups = TagsOf(list);
+    drawing_.AddEntity(groups);
+    const bool isFace =
+        !groups.empty() && groups[0].value == decltype(dxf::Group::value)(std::string_view("3DFACE"));
+    ++(isFace ? batchFaces_ : batchLines_);
+    for (const dxf::Group& group : groups) {
+      if (group.code != dxf::CODE_LAYER) continue;
+      outcome_.layers.insert(drawing_.ToUtf8(std::get<std::string_view>(group.value)));
+      break;
+    }
+    return HOST_DONE;
+  } catch (const std::exception& error) {  // the caller knows no exceptions
+    if (outcome_.failure.empty()) outcome_.failure = error.what();
+    return HOST_FAILED;
+  }
+}
+
+void ModuleSession::BeginBatch() {
+  batchStart_ = drawing_.Mark();
+  batchFaces_ = batchLines_ = 0;
+}
+
+void ModuleSession::EndBatch(bool keep) {
+  if (!batchStart_) return;
+  if (keep) {
+    outcome_.faces += batchFaces_;
+    outcome_.lines += batchLines_;
+  } else {
+    drawing_.Rollback(*batchStart_);
+  }
+  batchStart_.reset();
+}
+
+}  // namespace teskarlt

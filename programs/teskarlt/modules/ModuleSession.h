@@ -1,0 +1,84 @@
+// ModuleSession.h - one command of the module as the host
+// sees it: what the dialog asks for, and what comes back.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "geometry/Vec3.h"
+#include "inc/DialogServices.h"
+#include "inc/HostFunctionTable.h"
+#include "inc/WindowParams.h"
+#include "teskarlt/drawing/WindowNumbers.h"
+#include "teskarlt/dxf/Document.h"
+
+namespace teskarlt {
+
+// What the user wants, as the dialog asks for it. Coordinates are those of the drawing; texts are bytes in
+// its code page.
+struct WindowRequest {
+  std::int32_t unitFactor = 1;                              // drawing units per metre
+  std::map<std::string, std::string, std::less<>> answers;  // record field to the user's text
+  std::optional<std::array<double, 2>> point;               // x and y in the plan
+  std::vector<std::vector<geometry::Vec3>> faces;           // the roof; the chosen face first
+  bool isBounded = false;                                   // the window must stay inside the faces
+  const WindowNumbers* numbersInUse = nullptr;              // of the windows in the drawing; null: none
+  std::optional<brevanta::WindowParams> edited;             // the window that is changed
+  std::vector<const dxf::Entity*> replaced;                 // its entities, or those of one to erase
+};
+
+struct DialogReport {
+  std::int32_t gravity;  // REPORT_NOTE and so on
+  std::string text;      // UTF-8
+};
+
+// What a command left behind.
+struct CommandOutcome {
+  std::optional<brevanta::WindowParams> confirmed;  // the record that the dialog confirmed
+  std::size_t faces = 0;                            // entities of finished batches
+  std::size_t lines = 0;
+  std::size_t erased = 0;        // entities of the window that was changed or erased
+  std::set<std::string> layers;  // of the new entities, UTF-8
+  std::vector<DialogReport> reports;
+  std::string failure;  // why an entity was refused; empty when none was
+};
+
+// Lends itself to the host's exports while it lives; one at a time. Entities go into the drawing at once;
+// whoever runs the command takes them back when it fails (dxf::Document::Rollback).
+class ModuleSession {
+ public:
+  ModuleSession(dxf::Document& drawing, const WindowRequest& request);
+  ~ModuleSession();
+  ModuleSession(const ModuleSession&) = delete;
+  ModuleSession& operator=(const ModuleSession&) = delete;
+
+  brevanta::DialogServices* Services() { return &services_; }
+  const CommandOutcome& Outcome() const { return outcome_; }
+
+  // The session that lives now, or null.
+  static ModuleSession* Current();
+
+  // What the host's function table offers. A list that no drawing can hold is refused. The entities of a
+  // batch count when it ends with `keep`, else they are taken back.
+  std::int32_t MakeEntity(const brevanta::ValueNode* list);
+  void BeginBatch();
+  void EndBatch(bool keep);
+
+ private:
+  friend struct ServiceCalls;
+
+  dxf::Document& drawing_;
+  const WindowRequest& request_;
+  brevanta::DialogServices services_;
+  std::optional<dxf::EditMark> batchStart_;
+  std::size_t batchFaces_ = 0;
+  std::size_t batchLines_ = 0;
+  CommandOutcome outcome_;
+};
+
+}  // namespace teskarlt

@@ -1,0 +1,15 @@
+// ValueListTags.h - an entity from the module's typed value list to the groups of a drawing.
+#pragma once
+
+#include <vector>
+
+#include "inc/ValueNode.h"
+#include "teskarlt/dxf/tags/TypedTag.h"
+
+namespace teskarlt {
+
+// The list's groups in their order; texts stay the list's. The marker in front of extended data goes, an
+// empty layer name becomes "0". Throws Error for a code that has no kind, a missing text and an endless list.
+std::vector<dxf::Group> TagsOf(const brevanta::ValueNode* list);
+
+}  // namespace teskarlt

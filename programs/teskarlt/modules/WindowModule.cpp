@@ -1,0 +1,170 @@
+// WindowModule.cpp - loads the roof window module and runs its commands.
+#include "teskarlt/modules/WindowModule.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+#include <fmt/format.h>
+
+#include "inc/DialogModule.h"
+#include "inc/LibraryMerge.h"
+#include "platform/SystemFolders.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/modules/DataFolder.h"
+
+namespace teskarlt {
+
+namespace {
+
+constexpr const char* PROGRAM = "TESKARLT.EXE";
+constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
+constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
+constexpr const char* INSERT_EXPORT = "Brevanta";
+constexpr const char* EDIT_EXPORT = "EditBrevanta";
+constexpr std::int32_t EDIT_MODE_DIALOG = 0;
+
+std::string ProgramPath() {
+  char path[4096];
+  const DWORD length = GetModuleFileNameA(GetModuleHandleA(nullptr), path, sizeof path);
+  return {path, length};
+}
+
+// The program's folder with the separator at its end.
+std::string ProgramFolder() {
+  const std::string path = ProgramPath();
+  return path.substr(0, path.find_last_of("\\/") + 1);
+}
+
+// The modules find the host by the name of its program.
+void CheckProgramName() {
+  if (GetModuleHandleA(PROGRAM) == GetModuleHandleA(nullptr)) return;
+  throw Error(
+      fmt::format("this program must be called teskarlt for the roof window module to find it; it is {}",
+                  platform::FromSystemPath(ProgramPath())));
+}
+
+[[noreturn]] void ThrowForeign(const char* name, const char* meaning, const char* missingExport) {
+  throw Error(fmt::format("{}{} is not {}: it has no export \"{}\"",
+                          platform::FromSystemPath(ProgramFolder()), name, meaning, missingExport));
+}
+
+HMODULE LoadFromFolder(const char* name) {
+  const std::string path = ProgramFolder() + name;
+  HMODULE module = AfxLoadLibrary(path.c_str());
+  if (module != nullptr) return module;
+  std::string reason = ModuleLoadError();
+  if (reason.starts_with(path + ": ")) reason.erase(0, path.size() + 2);  // some loaders name the file too
+  throw Error(fmt::format("cannot load {}: {}", platform::FromSystemPath(path), reason));
+}
+
+// The module itself says nothing when a companion is missing, and calls the companion's exports unseen, so
+// each is tried first.
+void CheckCompanion(const char* name, const char* meaning, std::initializer_list<const char*> exports) {
+  HMODULE companion = LoadFromFolder(name);
+  const auto* missing = std::find_if(exports.begin(), exports.end(), [&](const char* wanted) {
+    return GetProcAddress(companion, wanted) == nullptr;
+  });
+  const char* const missingName = missing == exports.end() ? nullptr : *missing;
+  FreeLibrary(companion);
+  if (missingName != nullptr) ThrowForeign(name, meaning, missingName);
+}
+
+std::string SystemPath(const std::string& path) {
+  if (const auto systemPath = platform::ToSystemPath(path)) return *systemPath;
+  throw Error(fmt::format("{}: the system's code page cannot hold this path", path));
+}
+
+std::string FirstRefusal(const CommandOutcome& outcome) {
+  for (const DialogReport& report : outcome.reports) {
+    if (report.gravity == brevanta::REPORT_REFUSAL) return report.text;
+  }
+  return {};
+}
+
+// The module reports nothing, so what it left behind has to show whether it did what was asked.
+void CheckWindow(const CommandOutcome& outcome) {
+  if (!outcome.confirmed) {
+    const std::string reason = FirstRefusal(outcome);
+    throw Error(reason.empty()
+                    ? std::string("the dialog module did not confirm the window and gave no reason")
+                    : reason);
+  }
+  if (!outcome.failure.empty()) throw Error("the window cannot be written: " + outcome.failure);
+  if (outcome.faces + outcome.lines == 0) {
+    throw Error("the module made nothing of the window; the roof's plane cannot be used");
+  }
+}
+
+// A window is one thing to select.
+void EndGroup(dxf::Document& drawing, const CommandOutcome& outcome) {
+  const std::int32_t number = outcome.confirmed->markerValue;
+  drawing.EndGroup(fmt::format("BREVANTA_{}", number), fmt::format("Roof window {}", number));
+}
+
+// Runs a command in a session of its own; when it fails the drawing is what it was.
+template <typename Command>
+CommandOutcome Run(dxf::Document& drawing, const WindowRequest& request, Command command) {
+  const dxf::EditMark before = drawing.Mark();
+  try {
+    ModuleSession session(drawing, request);
+    command(session);
+    return session.Outcome();
+  } catch (...) {
+    drawing.Rollback(before);
+    throw;
+  }
+}
+
+}  // namespace
+
+WindowModule::WindowModule() {
+  CheckProgramName();
+  CheckCompanion(brevanta::DIALOG_MODULE, "the dialog module",
+                 {brevanta::DIALOG_EXPORT, brevanta::ERASE_WINDOW_EXPORT});
+  CheckCompanion(RESOURCE_MODULE, "the string module", {});
+  CheckCompanion(WINDOW_MODULE, "the roof window module",
+                 {INSERT_EXPORT, EDIT_EXPORT, brevanta::MERGE_LIBRARY_FILES_EXPORT});
+  module_ = LoadFromFolder(WINDOW_MODULE);
+  insert_ = ExportedFunction<InsertFunction>(module_, INSERT_EXPORT);
+  edit_ = ExportedFunction<EditFunction>(module_, EDIT_EXPORT);
+  merge_ =
+      ExportedFunction<brevanta::MergeLibraryFilesFunction>(module_, brevanta::MERGE_LIBRARY_FILES_EXPORT);
+}
+
+WindowModule::~WindowModule() {
+  FreeLibrary(module_);
+}
+
+CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest& request) const {
+  return Run(drawing, request, [&](ModuleSession& session) {
+    drawing.BeginGroup({});
+    insert_(session.Services(), request.unitFactor, nullptr, 0);
+    CheckWindow(session.Outcome());
+    EndGroup(drawing, session.Outcome());
+  });
+}
+
+CommandOutcome WindowModule::Edit(dxf::Document& drawing, const WindowRequest& request) const {
+  return Run(drawing, request, [&](ModuleSession& session) {
+    drawing.BeginGroup(request.replaced);
+    edit_(session.Services(), request.unitFactor, EDIT_MODE_DIALOG);
+    CheckWindow(session.Outcome());
+    EndGroup(drawing, session.Outcome());
+  });
+}
+
+CommandOutcome WindowModule::Erase(dxf::Document& drawing, const WindowRequest& request) const {
+  return Run(drawing, request, [&](ModuleSession& session) {
+    edit_(session.Services(), request.unitFactor, brevanta::EDIT_MODE_ERASE);
+    if (session.Outcome().erased == 0) throw Error("the dialog module erased nothing and gave no reason");
+  });
+}
+
+std::int32_t WindowModule::Merge(const std::string& source, const std::optional<std::string>& target) const {
+  const std::string sourcePath = SystemPath(source);
+  const std::string targetPath = target ? SystemPath(*target) : std::string();
+  return merge_(nullptr, sourcePath.c_str(), target ? targetPath.c_str() : nullptr,
+                brevanta::CATALOGUE_FOLDER_KIND);
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,98 @@
+// WindowsTest.cpp - damage to roof windows.
+#include "tests/teskarlt/check/Drawings.h"
+
+namespace teskarlt::check {
+namespace {
+
+constexpr int LINES_OF_A_PLAIN_WINDOW = 7;  // without a symbol and without faces
+
+std::string Element(int number) {
+  return fmt::format("1001|TK_LT_ELEM|1000|TKBRVA|1071|{}|", number);
+}
+
+std::string Description(std::string_view width = "940.0") {
+  std::string points;
+  for (int i = 0; i < 6; ++i)
+    points += "1011|0.0|1021|0.0|1031|0.0|";
+  return fmt::format(
+      "1001|TK_LT_DESC|1070|1|1040|1400.0|1041|{}|1042|100.0|1000|Maker|1000||1000|D|1070|0|1040|80.0|"
+      "1040|3900.0|1070|1|1070|0|1070|0|1011|0.0|1021|0.0|1031|0.0|1011|0.0|1021|0.0|1031|0.0|"
+      "1040|0.0|1040|0.0|1040|100.0|1040|35.0|{}1000||",
+      width, points);
+}
+
+// Lines of a window, with consecutive handles from `handle` on.
+std::string Window(int handle, int lines, const std::string& data) {
+  std::string all;
+  for (int i = 0; i < lines; ++i)
+    all += Line(std::to_string(handle + i), data);
+  return all;
+}
+
+std::string WithWindows(const std::string& entities) {
+  return Damaged(
+      Sound(entities), "2|FOREIGN|70|0",
+      "2|TK_LT_ELEM|70|0|" + Record("APPID", "9", "93", "AcDbRegAppTableRecord", "TK_LT_DESC") + "62|0");
+}
+
+std::vector<std::string> FoundIn(const std::string& entities) {
+  std::vector<std::string> found;
+  for (std::string& finding : Found(WithWindows(entities)))
+    if (finding.find("table-count") == std::string::npos) found.push_back(std::move(finding));
+  return found;
+}
+
+TEST(CheckWindows, WholeWindowIsSound) {
+  EXPECT_THAT(FoundIn(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(1) + Description())), IsEmpty());
+}
+
+TEST(CheckWindows, HalfAWindowIsAnError) {
+  EXPECT_THAT(FoundIn(Window(100, 6, Element(1) + Description())), ElementsAre("error window-entities LINE"));
+}
+
+TEST(CheckWindows, CopyWithTheNumberOfItsModelIsAnError) {
+  EXPECT_THAT(FoundIn(Window(100, 2 * LINES_OF_A_PLAIN_WINDOW, Element(1) + Description())),
+              ElementsAre("error window-number LINE"));
+}
+
+TEST(CheckWindows, TwoWindowsWithOneNumberAreAnErrorAtTheSecond) {
+  const std::string text =
+      WithWindows(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(4) + Description()) +
+                  Window(200, LINES_OF_A_PLAIN_WINDOW, Element(4) + Description("780.0")));
+  const Verdict verdict = Checked(text);
+  ASSERT_EQ(verdict.errors, 1U);
+  EXPECT_EQ(verdict.findings.back().kind, Kind::WindowNumber);
+  EXPECT_EQ(verdict.findings.back().handle, 0x200U);
+}
+
+TEST(CheckWindows, WindowWithoutANumberIsAnError) {
+  EXPECT_THAT(FoundIn(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(0) + Description())),
+              ElementsAre("error window-number LINE"));
+}
+
+TEST(CheckWindows, DamagedDescriptionIsAnError) {
+  EXPECT_THAT(FoundIn(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(1) + "1001|TK_LT_DESC|1070|1|")),
+              ElementsAre("error window-description LINE"));
+}
+
+TEST(CheckWindows, WindowThatIsNoRectangleIsAnErrorWhereTheUnitIsKnown) {
+  const std::string text = WithWindows(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(1) + Description()));
+  EXPECT_EQ(Checked(text).errors, 0U);
+  const Verdict verdict = Checked(Damaged(text, "9|$HANDSEED|5|FFFF", "9|$HANDSEED|5|FFFF|9|$INSUNITS|70|4"));
+  ASSERT_EQ(verdict.errors, 1U);
+  EXPECT_EQ(verdict.findings.back().kind, Kind::WindowSize);
+}
+
+TEST(CheckWindowMarks, ForeignDataUnderOurNamesAreDoubtful) {
+  EXPECT_THAT(FoundIn(Line("100", "1001|TK_LT_ELEM|1000|OTHER|")),
+              ElementsAre("warning window-foreign-data TK_LT_ELEM"));
+  EXPECT_THAT(FoundIn(Line("100", Description())), ElementsAre("warning window-foreign-data TK_LT_DESC"));
+}
+
+TEST(CheckWindowMarks, PartWithoutADescriptionIsDoubtful) {
+  EXPECT_THAT(FoundIn(Line("100", Element(1))),
+              ElementsAre("error window-description LINE", "warning window-foreign-data TK_LT_ELEM"));
+}
+
+}  // namespace
+}  // namespace teskarlt::check

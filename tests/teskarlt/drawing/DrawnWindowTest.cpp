@@ -1,0 +1,138 @@
+// DrawnWindowTest.cpp - windows read back from the extended data of their entities.
+#include <gtest/gtest.h>
+
+#include "teskarlt/drawing/DrawnWindow.h"
+#include "tests/teskarlt/drawing/Drawings.h"
+
+namespace teskarlt {
+namespace {
+
+std::string Point(double x, double y, double z) {
+  return "1011\n" + std::to_string(x) + "\n1021\n" + std::to_string(y) + "\n1031\n" + std::to_string(z) +
+         "\n";
+}
+
+std::string Element(int number) {
+  return "1001\nTK_LT_ELEM\n1000\nTKBRVA\n1071\n" + std::to_string(number) + "\n";
+}
+
+// The description of a window in millimetres, 1.4 x `width` / 1000 m.
+std::string Description(const std::string& width = "940.0") {
+  return "1001\nTK_LT_DESC\n1070\n1\n1040\n1400.0\n1041\n" + width +
+         "\n1042\n100.0\n1000\nMaker\n1000\nThird\n1000\nBI\n1070\n-1\n1040\n80.0\n1040\n3900."
+         "0\n1070\n1\n1070\n2\n"
+         "1070\n1\n" +
+         Point(4000, 2000, 3900) + Point(1, 2, 3) + "1040\n1.5\n1040\n0.25\n1040\n100.0\n1040\n35.0\n" +
+         Point(1, 1, 1) + Point(2, 2, 2) + Point(3, 3, 3) + Point(4, 4, 4) + Point(5, 5, 5) + Point(6, 6, 6) +
+         "1000\nSecond\n";
+}
+
+std::string Line(const std::string& data) {
+  return "0\nLINE\n8\n0\n10\n0.0\n20\n0.0\n11\n1.0\n21\n0.0\n" + data;
+}
+std::string Face(const std::string& data) {
+  return "0\n3DFACE\n8\n0\n10\n0.0\n20\n0.0\n30\n0.0\n" + data;
+}
+
+TEST(FindWindows, EveryItemOfTheDescriptionComesBack) {
+  const dxf::Document drawing = Drawing("", Line(Element(7) + Description()));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  const DrawnWindow& window = windows[0];
+  EXPECT_EQ(window.number, 7);
+  EXPECT_TRUE(window.isComplete);
+  EXPECT_EQ(window.params.length, 1.4);
+  EXPECT_EQ(window.params.width, 0.94);
+  EXPECT_EQ(window.params.frameWidth, 0.1);
+  EXPECT_EQ(window.params.frameDepth, 0.08);
+  EXPECT_EQ(window.params.lowerEdgeHeight, 3.9);
+  EXPECT_EQ(window.params.layerThickness, 0.1);
+  EXPECT_EQ(window.params.pitch, 35);
+  EXPECT_EQ(window.params.rotation, 1.5);
+  EXPECT_EQ(window.params.rotation2, 0.25);
+}
+
+TEST(FindWindows, TextsAndChoicesComeBackInTheirPlaces) {
+  const dxf::Document drawing = Drawing("", Line(Element(7) + Description()));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].text1, "Maker");
+  EXPECT_EQ(windows[0].text2, "Second");
+  EXPECT_EQ(windows[0].text3, "Third");
+  EXPECT_EQ(windows[0].openingCode, "BI");
+  EXPECT_EQ(windows[0].params.drawOpeningSymbol, -1);
+  EXPECT_EQ(windows[0].params.heightReference, 1);
+  EXPECT_EQ(windows[0].params.widthAnchor, 2);
+  EXPECT_EQ(windows[0].params.roofBuildUp, 1);
+}
+
+TEST(FindWindows, PlanePointsComeBackInPairs) {
+  const dxf::Document drawing = Drawing("", Line(Element(7) + Description()));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].params.storedPoint.y, 2000);
+  EXPECT_EQ(windows[0].params.insertionPoint.z, 3);
+  EXPECT_EQ(windows[0].params.secondPlanePoints[1].x, 3);
+  EXPECT_EQ(windows[0].params.roofPlanePoints[2].x, 6);
+}
+
+TEST(FindWindows, EntitiesWithTheSameDataAreOneWindow) {
+  const dxf::Document drawing =
+      Drawing("", Face(Element(1) + Description()) + Line(Element(2) + Description()) +
+                      Line(Element(1) + Description()) + Line(""));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 2U);
+  EXPECT_EQ(windows[0].number, 1);
+  EXPECT_EQ(windows[0].entities.size(), 2U);
+  EXPECT_EQ(windows[0].faces, 1U);
+  EXPECT_EQ(windows[1].number, 2);
+  EXPECT_EQ(NumbersOf(windows).Free(), 3);
+}
+
+TEST(FindWindows, SameNumberWithAnotherDescriptionIsAnotherWindow) {
+  const dxf::Document drawing =
+      Drawing("", Line(Element(1) + Description()) + Line(Element(1) + Description("1140.0")));
+  EXPECT_EQ(FindWindows(drawing, 1000).size(), 2U);
+}
+
+TEST(FindWindows, DescriptionThatIsCutShortIsNotComplete) {
+  const dxf::Document drawing = Drawing("", Line(Element(3) + "1001\nTK_LT_DESC\n1070\n1\n1040\n1400.0\n"));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].number, 3);
+  EXPECT_FALSE(windows[0].isComplete);
+}
+
+TEST(FindWindows, ItemThatIsNoNumberMakesTheDescriptionIncomplete) {
+  const dxf::Document drawing = Drawing("", Line(Element(3) + Description("nan")));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].number, 3);
+  EXPECT_FALSE(windows[0].isComplete);
+}
+
+TEST(FindWindows, NumberOutOfRangeIsNone) {
+  const std::string element = "1001\nTK_LT_ELEM\n1000\nTKBRVA\n1071\n99999999999\n";
+  const dxf::Document drawing = Drawing("", Line(element + Description()));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].number, 0);
+  EXPECT_FALSE(windows[0].isComplete);
+}
+
+TEST(FindWindows, ForeignDataUnderOtherNamesIsNoWindow) {
+  const dxf::Document drawing = Drawing("", Line("1001\nOTHER\n1000\nTKBRVA\n1071\n5\n"));
+  EXPECT_TRUE(FindWindows(drawing, 1000).empty());
+}
+
+TEST(FindWindows, ForeignDataBesideOursDoesNotMatter) {
+  const dxf::Document drawing =
+      Drawing("", Line("1001\nOTHER\n1040\n9.0\n" + Element(1) + Description() + "1001\nLAST\n1000\nx\n"));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_TRUE(windows[0].isComplete);
+  EXPECT_EQ(windows[0].params.length, 1.4);
+}
+
+}  // namespace
+}  // namespace teskarlt

@@ -1,0 +1,149 @@
+// RoofSearchTest.cpp - the faces of a drawing that can take a roof window.
+#include <gtest/gtest.h>
+
+#include "teskarlt/drawing/RoofSearch.h"
+#include "tests/teskarlt/drawing/Drawings.h"
+
+namespace teskarlt {
+namespace {
+
+constexpr double TOLERANCE = 1.0;
+
+std::string Point(int code, double x, double y, double z) {
+  const auto group = [](int c, double value) {
+    return std::to_string(c) + "\n" + std::to_string(value) + "\n";
+  };
+  return group(code, x) + group(code + 10, y) + group(code + 20, z);
+}
+
+const std::string SLOPE =
+    Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 3000, 3000) + Point(13, 0, 3000, 3000);
+
+std::string Face(const std::string& handle, const std::string& points) {
+  return "0\n3DFACE\n5\n" + handle + "\n8\nROOF\n" + points;
+}
+
+std::string Vertex(int flags, const std::string& rest) {
+  return "0\nVERTEX\n8\nROOF\n" + rest + "70\n" + std::to_string(flags) + "\n";
+}
+
+TEST(FindRoofFaces, FaceIsNamedByItsHandle) {
+  const dxf::Document drawing = Drawing("", Face("2F", SLOPE));
+  const auto faces = FindRoofFaces(drawing, TOLERANCE);
+  ASSERT_EQ(faces.size(), 1U);
+  EXPECT_EQ(faces[0].name, "2F");
+  EXPECT_EQ(faces[0].layer, "ROOF");
+  EXPECT_EQ(faces[0].type, "3DFACE");
+  EXPECT_EQ(faces[0].corners.size(), 4U);
+}
+
+TEST(FindRoofFaces, OrderOfTheGroupsInAFaceIsFree) {
+  const std::string points =
+      Point(13, 0, 3000, 3000) + Point(12, 4000, 3000, 3000) + Point(11, 4000, 0, 0) + Point(10, 0, 0, 0);
+  EXPECT_EQ(FindRoofFaces(Drawing("", Face("2F", "70\n0\n" + points)), TOLERANCE).size(), 1U);
+}
+
+TEST(FindRoofFaces, MissingFourthCornerMakesATriangle) {
+  const std::string points = Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 3000, 3000);
+  const auto faces = FindRoofFaces(Drawing("", Face("2F", points)), TOLERANCE);
+  ASSERT_EQ(faces.size(), 1U);
+  EXPECT_EQ(faces[0].corners.size(), 3U);
+}
+
+TEST(FindRoofFaces, FaceWithoutOneOfItsFirstCornersIsLeftOut) {
+  const std::string points = Point(10, 0, 1000, 0) + Point(12, 4000, 3000, 3000) + Point(13, 0, 3000, 3000);
+  EXPECT_TRUE(FindRoofFaces(Drawing("", Face("2F", points)), TOLERANCE).empty());
+}
+
+TEST(FindRoofFaces, WallsAndTwistedFacesAreLeftOut) {
+  const std::string wall =
+      Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 0, 2500) + Point(13, 0, 0, 2500);
+  const std::string twisted =
+      Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 3000, 500) + Point(13, 0, 3000, 0);
+  EXPECT_TRUE(FindRoofFaces(Drawing("", Face("1", wall) + Face("2", twisted)), TOLERANCE).empty());
+}
+
+TEST(FindRoofFaces, FacesOfAWindowAreLeftOut) {
+  const std::string data = "1001\nTK_LT_ELEM\n1000\nTKBRVA\n1071\n1\n";
+  EXPECT_TRUE(FindRoofFaces(Drawing("", Face("2F", SLOPE + data)), TOLERANCE).empty());
+}
+
+TEST(FindRoofFaces, FaceWithForeignExtendedDataStays) {
+  const std::string data = "1001\nOTHER\n1000\nTKBRVA\n1011\n1\n1021\n2\n1031\n3\n";
+  EXPECT_EQ(FindRoofFaces(Drawing("", Face("2F", SLOPE + data)), TOLERANCE).size(), 1U);
+}
+
+TEST(FindRoofFaces, PolyfaceMeshGivesItsFacesWithNumbers) {
+  const std::string mesh = "0\nPOLYLINE\n5\n30\n8\nMESH\n66\n1\n70\n64\n71\n5\n72\n2\n" +
+                           Vertex(192, Point(10, 0, 0, 0)) + Vertex(192, Point(10, 4000, 0, 0)) +
+                           Vertex(192, Point(10, 4000, 3000, 3000)) + Vertex(192, Point(10, 0, 3000, 3000)) +
+                           Vertex(192, Point(10, 2000, 6000, 6000)) +
+                           Vertex(128, Point(10, 0, 0, 0) + "71\n1\n72\n2\n73\n-3\n74\n4\n") +
+                           Vertex(128, Point(10, 0, 0, 0) + "71\n4\n72\n3\n73\n5\n") + "0\nSEQEND\n8\nMESH\n";
+  const auto faces = FindRoofFaces(Drawing("", mesh), TOLERANCE);
+  ASSERT_EQ(faces.size(), 2U);
+  EXPECT_EQ(faces[0].name, "30/1");
+  EXPECT_EQ(faces[0].layer, "MESH");
+  EXPECT_EQ(faces[0].type, "POLYFACE MESH");
+  EXPECT_EQ(faces[0].corners.size(), 4U);
+  EXPECT_EQ(faces[1].name, "30/2");
+  EXPECT_EQ(faces[1].corners.size(), 3U);
+}
+
+TEST(FindRoofFaces, FaceOfAMeshThatNamesAMissingVertexIsLeftOut) {
+  const std::string vertices = Vertex(192, Point(10, 0, 0, 0)) + Vertex(192, Point(10, 4000, 0, 0)) +
+                               Vertex(192, Point(10, 4000, 3000, 3000));
+  for (const char* number : {"4", "-4", "9223372036854775807", "-9223372036854775808"}) {
+    const std::string mesh = "0\nPOLYLINE\n5\n30\n70\n64\n" + vertices +
+                             Vertex(128, "71\n1\n72\n2\n73\n3\n74\n" + std::string(number) + "\n") +
+                             "0\nSEQEND\n";
+    EXPECT_TRUE(FindRoofFaces(Drawing("", mesh), TOLERANCE).empty()) << number;
+  }
+}
+
+TEST(FindRoofFaces, PolygonMeshGivesItsQuadrilaterals) {
+  const std::string mesh = "0\nPOLYLINE\n5\n30\n8\nMESH\n66\n1\n70\n16\n71\n2\n72\n3\n" +
+                           Vertex(64, Point(10, 0, 0, 0)) + Vertex(64, Point(10, 0, 1000, 1000)) +
+                           Vertex(64, Point(10, 0, 2000, 2000)) + Vertex(64, Point(10, 4000, 0, 0)) +
+                           Vertex(64, Point(10, 4000, 1000, 1000)) + Vertex(64, Point(10, 4000, 2000, 2000)) +
+                           "0\nSEQEND\n";
+  const auto faces = FindRoofFaces(Drawing("", mesh), TOLERANCE);
+  ASSERT_EQ(faces.size(), 2U);
+  EXPECT_EQ(faces[1].name, "30/2");
+  EXPECT_EQ(faces[1].corners[0].y, 1000);
+}
+
+TEST(FindRoofFaces, MeshWithAWrongCountOfVerticesGivesNone) {
+  const std::string mesh =
+      "0\nPOLYLINE\n5\n30\n70\n16\n71\n2\n72\n3\n" + Vertex(64, Point(10, 0, 0, 0)) + "0\nSEQEND\n";
+  EXPECT_TRUE(FindRoofFaces(Drawing("", mesh), TOLERANCE).empty());
+}
+
+TEST(FindRoofFaces, ClosedThreeDimensionalPolylineIsAFaceAndAnOpenOneIsNot) {
+  const std::string vertices = Vertex(32, Point(10, 0, 0, 0)) + Vertex(32, Point(10, 4000, 0, 0)) +
+                               Vertex(32, Point(10, 4000, 3000, 3000)) + "0\nSEQEND\n";
+  EXPECT_EQ(FindRoofFaces(Drawing("", "0\nPOLYLINE\n5\n30\n8\nROOF\n70\n9\n" + vertices), TOLERANCE).size(),
+            1U);
+  EXPECT_TRUE(
+      FindRoofFaces(Drawing("", "0\nPOLYLINE\n5\n30\n8\nROOF\n70\n8\n" + vertices), TOLERANCE).empty());
+}
+
+TEST(FindRoofFaces, FaceWithoutAHandleIsNumbered) {
+  const auto faces = FindRoofFaces(Drawing("", "0\nLINE\n8\n0\n0\n3DFACE\n8\nROOF\n" + SLOPE), TOLERANCE);
+  ASSERT_EQ(faces.size(), 1U);
+  EXPECT_EQ(faces[0].name, "#2");
+}
+
+TEST(FacesNamed, NamesCompareWithoutRegardToCase) {
+  const auto faces = FindRoofFaces(Drawing("", Face("2F", SLOPE)), TOLERANCE);
+  EXPECT_EQ(FacesNamed(faces, "2f"), std::vector<const RoofFace*>{&faces[0]});
+  EXPECT_TRUE(FacesNamed(faces, "30").empty());
+}
+
+TEST(FacesNamed, HandleThatIsUsedTwiceGivesBothFaces) {
+  const auto faces = FindRoofFaces(Drawing("", Face("2F", SLOPE) + Face("2F", SLOPE)), TOLERANCE);
+  EXPECT_EQ(FacesNamed(faces, "2F").size(), 2U);
+}
+
+}  // namespace
+}  // namespace teskarlt

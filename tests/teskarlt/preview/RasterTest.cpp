@@ -1,0 +1,66 @@
+// RasterTest.cpp - pixels, with hidden surfaces right.
+#include <gtest/gtest.h>
+
+#include "teskarlt/preview/Raster.h"
+#include "tests/teskarlt/preview/Drawings.h"
+
+namespace teskarlt::preview {
+namespace {
+
+constexpr const char* RED_AND_BLUE = "0 LAYER|2 RED|70 0|62 1|0 LAYER|2 BLUE|70 0|62 5|";
+
+Picture Rendered(const std::string& entities, const char* view) {
+  PictureOptions options;
+  options.view = FindView(view);
+  options.width = 100;
+  return Render(SceneOf({.tables = RED_AND_BLUE, .entities = entities}), options);
+}
+
+// Red, green and blue at a place of the picture, in shares of its size from the upper left.
+std::array<int, 3> At(const Picture& picture, double x, double y) {
+  const auto column = static_cast<std::size_t>(picture.width * x);
+  const auto row = static_cast<std::size_t>(picture.height * y);
+  const std::size_t place = (row * static_cast<std::size_t>(picture.width) + column) * 3;
+  return {picture.bytes[place], picture.bytes[place + 1], picture.bytes[place + 2]};
+}
+
+bool IsRed(const std::array<int, 3>& pixel) {
+  return pixel[0] > pixel[2] + 40;
+}
+
+TEST(Render, NearerSurfaceIsSeenWhateverTheOrder) {
+  const std::string high = Rectangle("RED", 2, 2, 8, 8, 5);
+  const std::string low = Rectangle("BLUE", 0, 0, 10, 10, 1);
+  EXPECT_TRUE(IsRed(At(Rendered(high + low, "plan"), 0.55, 0.45)));
+  EXPECT_TRUE(IsRed(At(Rendered(low + high, "plan"), 0.55, 0.45)));
+  EXPECT_FALSE(IsRed(At(Rendered(high + low, "plan"), 0.15, 0.15)));
+}
+
+TEST(Render, SurfacesThatCutThroughEachOtherAreSeenInParts) {
+  const std::string falling = "0 3DFACE|8 BLUE|10 0|20 0|30 9|11 0|21 9|31 9|12 9|22 9|32 0|13 9|23 0|33 0|";
+  const Picture picture = Rendered(Rectangle("RED", 0, 0, 9, 9, 5) + falling, "plan");
+  EXPECT_FALSE(IsRed(At(picture, 0.2, 0.3)));
+  EXPECT_TRUE(IsRed(At(picture, 0.8, 0.3)));
+}
+
+TEST(Render, WindowOnALargeSlopeIsNotHiddenByIt) {
+  const std::string slope = "0 3DFACE|8 BLUE|10 0|20 0|30 0|11 9|21 0|31 0|12 9|22 9|32 9|13 0|23 9|33 9|";
+  const std::string window =
+      "0 3DFACE|8 RED|10 4|20 1|30 1.1|11 6|21 1|31 1.1|12 6|22 3|32 3.1|13 4|23 3|33 3.1|";
+  EXPECT_TRUE(IsRed(At(Rendered(window + slope, "plan"), 0.55, 0.75)));
+}
+
+TEST(Render, PictureHasTheGroundAroundTheDrawing) {
+  const Picture picture = Rendered(Rectangle("RED", 0, 0, 9, 9, 5), "plan");
+  EXPECT_EQ(picture.width, 100);
+  EXPECT_EQ(At(picture, 0.01, 0.01), (std::array<int, 3>{236, 239, 241}));
+}
+
+TEST(Render, HiddenEdgeIsNotDrawn) {
+  const std::string shown = Rectangle("RED", 0, 0, 9, 9, 5);
+  const std::string hidden = Rectangle("RED", 0, 0, 9, 9, 5, "|70 15");
+  EXPECT_LT(At(Rendered(shown, "plan"), 0.5, 0.04)[0], At(Rendered(hidden, "plan"), 0.5, 0.045)[0]);
+}
+
+}  // namespace
+}  // namespace teskarlt::preview
