@@ -9,12 +9,12 @@ namespace recording_host {
 namespace {
 
 using brevanta::HostFunction;
-using group_list::GroupList;
+using node_list::NodeList;
 
 struct Log {
   brevanta::HostFunctionTable table{};
   std::vector<std::string> calls;
-  std::vector<GroupList> entities;
+  std::vector<NodeList> entities;
   std::int32_t answer = 0;
   bool onlyZeroReserved = true;
 };
@@ -26,8 +26,8 @@ Log& TheLog() {
 
 std::int32_t MakeEntity(brevanta::ValueNode* list, std::int32_t reserved) {
   Log& log = TheLog();
-  log.entities.push_back(group_list::Copy(list));
-  log.calls.push_back(group_list::TextOf(log.entities.back(), 0));
+  log.entities.push_back(node_list::Copy(list));
+  log.calls.push_back(node_list::TextOf(log.entities.back(), 0));
   if (reserved != 0) log.onlyZeroReserved = false;
   return log.answer;
 }
@@ -40,11 +40,11 @@ void EndBatch(std::int32_t keep) {
   TheLog().calls.push_back("end " + std::to_string(keep));
 }
 
-std::vector<GroupList> OfType(const std::string& type) {
-  std::vector<GroupList> found;
+std::vector<NodeList> OfType(const std::string& type) {
+  std::vector<NodeList> found;
   const auto& all = TheLog().entities;
   std::copy_if(all.begin(), all.end(), std::back_inserter(found),
-               [&type](const GroupList& list) { return group_list::TextOf(list, 0) == type; });
+               [&type](const NodeList& list) { return node_list::TextOf(list, 0) == type; });
   return found;
 }
 
@@ -66,15 +66,15 @@ const std::vector<std::string>& Calls() {
   return TheLog().calls;
 }
 
-const std::vector<GroupList>& Entities() {
+const std::vector<NodeList>& Entities() {
   return TheLog().entities;
 }
 
-std::vector<GroupList> Faces() {
+std::vector<NodeList> Faces() {
   return OfType("3DFACE");
 }
 
-std::vector<GroupList> Lines() {
+std::vector<NodeList> Lines() {
   return OfType("LINE");
 }
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "inc/HostFunctionTable.h"
-#include "tests/support/GroupList.h"
+#include "tests/support/NodeList.h"
 
 // One a test program. Entities are deep copies, made while the list is alive.
 namespace recording_host {
@@ -19,11 +19,11 @@ brevanta::HostFunctionTable* Table();
 // "begin", "3DFACE", "LINE" and "end 1", in the order of the calls.
 const std::vector<std::string>& Calls();
 
-const std::vector<group_list::GroupList>& Entities();
+const std::vector<node_list::NodeList>& Entities();
 
 // The entities of one type, in order.
-std::vector<group_list::GroupList> Faces();
-std::vector<group_list::GroupList> Lines();
+std::vector<node_list::NodeList> Faces();
+std::vector<node_list::NodeList> Lines();
 
 // What MakeEntity answers from now on.
 void AnswerMakeEntity(std::int32_t answer);

@@ -26,7 +26,7 @@ bool IsPart(std::string_view type) {
 }
 
 bool HasHandle(Place place) {
-  return place == Place::Table || place == Place::Record || place == Place::BlockEntity ||
+  return place == Place::Table || place == Place::TableEntry || place == Place::BlockEntity ||
          place == Place::Entity || place == Place::Object;
 }
 
@@ -40,7 +40,8 @@ void Handles::Take(const Object& object) {
 
 Handles::Role Handles::RoleOf(const Object& object) {
   if (object.place == Place::Table) return Role::Table;
-  if (object.place == Place::Record) return object.type == "BLOCK_RECORD" ? Role::BlockRecord : Role::Plain;
+  if (object.place == Place::TableEntry)
+    return object.type == "BLOCK_RECORD" ? Role::BlockRecord : Role::Plain;
   return object.type == "POLYLINE" || object.type == "INSERT" ? Role::Sequence : Role::Plain;
 }
 
@@ -83,7 +84,7 @@ void Handles::TakeReferences(const Object& object) {
 }
 
 Handles::Use Handles::OwnerUse(const Object& object) {
-  if (object.place == Place::Record) return Use::RecordOwner;
+  if (object.place == Place::TableEntry) return Use::EntryOwner;
   if (object.place == Place::Object) return Use::ObjectOwner;
   return IsPart(object.type) ? Use::PartOwner : Use::EntityOwner;
 }
@@ -177,7 +178,7 @@ void Handles::CheckOwner(const Reference& reference, const Known& owner) {
   } else if (reference.use == Use::PartOwner && owner.role != Role::BlockRecord &&
              owner.role != Role::Sequence) {
     wanted = "a POLYLINE, an INSERT or a BLOCK_RECORD";
-  } else if (reference.use == Use::RecordOwner && owner.role != Role::Table) {
+  } else if (reference.use == Use::EntryOwner && owner.role != Role::Table) {
     wanted = "a TABLE";
   } else {
     return;

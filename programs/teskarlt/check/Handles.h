@@ -28,7 +28,7 @@ class Handles {
   enum class Use : std::uint8_t {
     EntityOwner,
     PartOwner,  // of vertices, attributes and what ends them
-    RecordOwner,
+    EntryOwner,
     ObjectOwner,
     GroupMember,
     DictionaryEntry,

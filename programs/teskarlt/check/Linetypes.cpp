@@ -22,7 +22,7 @@ std::int64_t CountOf(const Object& object, int code) {
 }  // namespace
 
 void CheckLinetype(const Object& object, const Header& header, Findings& findings) {
-  if (object.place != Place::Record || object.type != "LTYPE") return;
+  if (object.place != Place::TableEntry || object.type != "LTYPE") return;
   const std::int64_t dashes = CountOf(object, CODE_DASH);
   const dxf::Tag* const count = FindTag(object, CODE_DASH_COUNT);
   if (count != nullptr && dxf::ParseInteger(count->value).value_or(dashes) != dashes) {

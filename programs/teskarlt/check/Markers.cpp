@@ -139,7 +139,7 @@ void CheckMarkers(const Object& object, const Header& header, Findings& findings
   if (object.IsEntity()) {
     expected = Find(ENTITIES, object.type);
     common = ENTITY_MARKER;
-  } else if (object.place == Place::Record) {
+  } else if (object.place == Place::TableEntry) {
     expected = Find(RECORDS, object.type);
     common = RECORD_MARKER;
   } else if (object.place == Place::Table) {

@@ -136,7 +136,7 @@ void Names::Take(const Object& object) {
       if (!tables_.empty()) CheckCount(tables_.back());
       if (!tables_.empty()) tables_.back().end = object.Begin();
       break;
-    case Place::Record:
+    case Place::TableEntry:
       TakeRecord(object);
       break;
     case Place::BlockEntity:

@@ -16,7 +16,7 @@ enum class Place {
   Section,      // SECTION itself, with the variables in the case of HEADER
   SectionEnd,   // ENDSEC
   Table,        // TABLE itself
-  Record,       // of a table
+  TableEntry,   // of a table
   TableEnd,     // ENDTAB
   BlockEntity,  // of the section BLOCKS, with BLOCK and ENDBLK
   Entity,       // of the section ENTITIES

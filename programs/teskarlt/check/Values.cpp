@@ -77,7 +77,7 @@ class ObjectValues {
   }
 
   void CheckHandle(const Tag& tag) const {
-    const bool isArrowName = tag.code == dxf::CODE_HANDLE && object_.place == Place::Record &&
+    const bool isArrowName = tag.code == dxf::CODE_HANDLE && object_.place == Place::TableEntry &&
                              dxf::SameName(object_.table, "DIMSTYLE");
     if (!isArrowName && !dxf::ParseHandle(tag.value))
       Error(Kind::HandleValue, tag, "is not a handle of 1 to 16 hexadecimal digits");

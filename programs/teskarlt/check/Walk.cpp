@@ -31,7 +31,7 @@ struct SectionPlace {
 };
 
 constexpr SectionPlace SECTION_PLACES[] = {{"CLASSES", Place::Class},
-                                           {"TABLES", Place::Record},
+                                           {"TABLES", Place::TableEntry},
                                            {"BLOCKS", Place::BlockEntity},
                                            {"ENTITIES", Place::Entity},
                                            {"OBJECTS", Place::Object}};
@@ -48,8 +48,8 @@ bool IsBlank(char byte) {
 
 // A record of DIMSTYLE has its handle under a code of its own, 5 being the name of an arrow's block.
 int HandleCode(const Object& object) {
-  return object.place == Place::Record && SameName(object.table, "DIMSTYLE") ? dxf::CODE_DIMSTYLE_HANDLE
-                                                                             : dxf::CODE_HANDLE;
+  return object.place == Place::TableEntry && SameName(object.table, "DIMSTYLE") ? dxf::CODE_DIMSTYLE_HANDLE
+                                                                                 : dxf::CODE_HANDLE;
 }
 
 }  // namespace
@@ -152,9 +152,9 @@ void Walk::Describe(Object& object) {
       object.place = EnterSection();
     } else if (object.type == "ENDSEC") {
       object.place = LeaveSection();
-    } else if (object.type == "TABLE" && inside_ == Place::Record) {
+    } else if (object.type == "TABLE" && inside_ == Place::TableEntry) {
       object.place = EnterTable();
-    } else if (object.type == "ENDTAB" && inside_ == Place::Record) {
+    } else if (object.type == "ENDTAB" && inside_ == Place::TableEntry) {
       object.place = LeaveTable();
     } else if (object.type != "EOF") {
       object.place = PlaceInside();
@@ -222,7 +222,7 @@ Place Walk::PlaceInside() {
     return Place::Other;
   }
   if (inside_ == Place::BlockEntity) FollowBlock();
-  if (inside_ != Place::Record || tableBegin_ != nullptr) return inside_;
+  if (inside_ != Place::TableEntry || tableBegin_ != nullptr) return inside_;
   findings_.Error(Kind::OutsideSection, first.value.data(),
                   fmt::format("{} stands outside of the tables", Quoted(first.value)));
   return Place::Other;

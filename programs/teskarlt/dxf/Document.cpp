@@ -194,7 +194,7 @@ std::size_t Document::PaperSpaceEntities() const {
 }
 
 bool Document::HasLayer(std::string_view name) const {
-  return state_->edits.Records().Has(TableKind::Layer, name);
+  return state_->edits.TableEntries().Has(TableKind::Layer, name);
 }
 
 std::string Document::Text(const Tag& tag) const {
@@ -215,7 +215,7 @@ std::size_t Document::EncodedSize(std::string_view bytes) const {
   return raw.size();
 }
 
-std::uint64_t Document::AddEntity(std::span<const Group> groups) {
+std::uint64_t Document::AddEntity(std::span<const TypedTag> groups) {
   return state_->edits.AddEntity(groups);
 }
 
@@ -240,15 +240,15 @@ void Document::EndGroup(std::string_view name, std::string_view description) {
 }
 
 std::string Document::RequireLayer(std::string_view name) {
-  return state_->edits.Records().RequireLayer(name);
+  return state_->edits.TableEntries().RequireLayer(name);
 }
 
 void Document::RequireLinetype(std::string_view name) {
-  state_->edits.Records().RequireLinetype(name);
+  state_->edits.TableEntries().RequireLinetype(name);
 }
 
 void Document::RequireApplication(std::string_view name) {
-  state_->edits.Records().RequireApplication(name);
+  state_->edits.TableEntries().RequireApplication(name);
 }
 
 bool Document::IsChanged() const {

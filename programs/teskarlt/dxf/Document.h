@@ -82,7 +82,7 @@ class Document {
   // over. Handle, owner and what the version wants otherwise are added here; so are layer, linetype and
   // applications that the drawing lacks. Refused whole: unknown codes, values of a wrong kind or range,
   // numbers that are not finite, extended texts of more than 255 bytes, unknown linetypes.
-  std::uint64_t AddEntity(std::span<const Group> groups);
+  std::uint64_t AddEntity(std::span<const TypedTag> groups);
 
   // Takes an entity of Entities() out, and out of the groups and drawing orders that list it; a group that
   // loses its last member goes too, and so does what the entity owns. A second time does nothing.

@@ -32,8 +32,8 @@ class Skeleton {
 
  private:
   std::uint64_t NewHandle() { return hasObjects_ ? ++lastHandle_ : 0; }
-  RecordHead NewHead(std::uint64_t owner) { return {options_.version, NewHandle(), owner}; }
-  RecordHead BeginTable(std::string_view name, std::size_t count);
+  EntryHead NewHead(std::uint64_t owner) { return {options_.version, NewHandle(), owner}; }
+  EntryHead BeginTable(std::string_view name, std::size_t count);
   void EndTable() { WriteTableEnd(writer_); }
   // A record of a kind that no other file writes: type, handle, owner and markers.
   void BeginRecord(std::string_view type, std::string_view subclass, std::string_view name,
@@ -67,8 +67,8 @@ void Skeleton::BeginSection(std::string_view name) {
   writer_.Text(CODE_NAME, name);
 }
 
-RecordHead Skeleton::BeginTable(std::string_view name, std::size_t count) {
-  const RecordHead head = NewHead(0);
+EntryHead Skeleton::BeginTable(std::string_view name, std::size_t count) {
+  const EntryHead head = NewHead(0);
   WriteTableBegin(writer_, name, head, count);
   return head;
 }
@@ -93,7 +93,7 @@ void Skeleton::Flat(int code, double x, double y) {
 }
 
 void Skeleton::WriteViewport() {
-  const RecordHead table = BeginTable("VPORT", 1);
+  const EntryHead table = BeginTable("VPORT", 1);
   BeginRecord("VPORT", "AcDbViewportTableRecord", hasObjects_ ? "*Active" : "*ACTIVE", table.handle);
   const double height = VIEW_MILLIMETRES / MillimetresPerUnit(options_.units, true);
   Flat(10, 0, 0);  // corners of the viewport
@@ -119,7 +119,7 @@ void Skeleton::WriteViewport() {
 }
 
 void Skeleton::WriteStyle() {
-  const RecordHead table = BeginTable("STYLE", 1);
+  const EntryHead table = BeginTable("STYLE", 1);
   BeginRecord("STYLE", "AcDbTextStyleTableRecord", hasObjects_ ? "Standard" : "STANDARD", table.handle);
   writer_.Real(40, 0);
   writer_.Real(41, 1);
@@ -132,7 +132,7 @@ void Skeleton::WriteStyle() {
 }
 
 void Skeleton::WriteDimensionStyle() {
-  const RecordHead table = BeginTable("DIMSTYLE", hasObjects_ ? 1 : 0);
+  const EntryHead table = BeginTable("DIMSTYLE", hasObjects_ ? 1 : 0);
   if (hasObjects_) {
     writer_.Text(CODE_SUBCLASS, "AcDbDimStyleTable");
     writer_.Integer(71, 0);
@@ -147,7 +147,7 @@ void Skeleton::WriteEmptyTable(std::string_view name) {
 }
 
 void Skeleton::WriteBlockRecords() {
-  const RecordHead table = BeginTable("BLOCK_RECORD", 2);
+  const EntryHead table = BeginTable("BLOCK_RECORD", 2);
   BeginRecord("BLOCK_RECORD", "AcDbBlockTableRecord", MODEL_SPACE, table.handle);
   modelSpace_ = lastHandle_;
   BeginRecord("BLOCK_RECORD", "AcDbBlockTableRecord", PAPER_SPACE, table.handle);
@@ -158,20 +158,20 @@ void Skeleton::WriteBlockRecords() {
 void Skeleton::WriteTables() {
   BeginSection("TABLES");
   WriteViewport();
-  const RecordHead linetypes = BeginTable("LTYPE", 1);
+  const EntryHead linetypes = BeginTable("LTYPE", 1);
   if (hasObjects_) {
     WriteSolidLinetype(writer_, LINETYPE_BY_BLOCK, NewHead(linetypes.handle));
     WriteSolidLinetype(writer_, LINETYPE_BY_LAYER, NewHead(linetypes.handle));
   }
   WriteSolidLinetype(writer_, hasObjects_ ? LINETYPE_CONTINUOUS : "CONTINUOUS", NewHead(linetypes.handle));
   EndTable();
-  const RecordHead layers = BeginTable("LAYER", 1);
+  const EntryHead layers = BeginTable("LAYER", 1);
   WriteLayer(writer_, "0", NewHead(layers.handle));
   EndTable();
   WriteStyle();
   WriteEmptyTable("VIEW");
   WriteEmptyTable("UCS");
-  const RecordHead applications = BeginTable("APPID", 1);
+  const EntryHead applications = BeginTable("APPID", 1);
   WriteApplication(writer_, "ACAD", NewHead(applications.handle));
   EndTable();
   WriteDimensionStyle();

@@ -119,14 +119,14 @@ ModuleSession* ModuleSession::Current() {
 
 std::int32_t ModuleSession::MakeEntity(const brevanta::ValueNode* list) {
   try {
-    const std::vector<dxf::Group> groups = TagsOf(list);
-    drawing_.AddEntity(groups);
+    const std::vector<dxf::TypedTag> tags = TagsOf(list);
+    drawing_.AddEntity(tags);
     const bool isFace =
-        !groups.empty() && groups[0].value == decltype(dxf::Group::value)(std::string_view("3DFACE"));
+        !tags.empty() && tags[0].value == decltype(dxf::TypedTag::value)(std::string_view("3DFACE"));
     ++(isFace ? batchFaces_ : batchLines_);
-    for (const dxf::Group& group : groups) {
-      if (group.code != dxf::CODE_LAYER) continue;
-      outcome_.layers.insert(drawing_.ToUtf8(std::get<std::string_view>(group.value)));
+    for (const dxf::TypedTag& tag : tags) {
+      if (tag.code != dxf::CODE_LAYER) continue;
+      outcome_.layers.insert(drawing_.ToUtf8(std::get<std::string_view>(tag.value)));
       break;
     }
     return HOST_DONE;

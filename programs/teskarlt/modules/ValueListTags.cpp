@@ -1,4 +1,4 @@
-// ValueListTags.cpp - an entity from the module's typed value list to the groups of a drawing.
+// ValueListTags.cpp - an entity from the module's typed value list to the tags of a drawing.
 #include "teskarlt/modules/ValueListTags.h"
 
 #include <cstddef>
@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t MOST_GROUPS = 10000;  // far above any entity; a list that closes on itself ends here
 constexpr std::string_view DEFAULT_LAYER = "0";
 
-using NodeValue = decltype(dxf::Group::value);
+using NodeValue = decltype(dxf::TypedTag::value);
 
 NodeValue TextOf(const brevanta::ValueNode& node) {
   if (node.value.text == nullptr) {
@@ -47,13 +47,13 @@ NodeValue ValueOf(const brevanta::ValueNode& node) {
 
 }  // namespace
 
-std::vector<dxf::Group> TagsOf(const brevanta::ValueNode* list) {
-  std::vector<dxf::Group> groups;
+std::vector<dxf::TypedTag> TagsOf(const brevanta::ValueNode* list) {
+  std::vector<dxf::TypedTag> tags;
   for (; list != nullptr; list = list->next) {
-    if (groups.size() == MOST_GROUPS) throw Error("the module handed over an entity without an end");
-    if (list->typeCode != dxf::CODE_XDATA_MARKER) groups.push_back({list->typeCode, ValueOf(*list)});
+    if (tags.size() == MOST_GROUPS) throw Error("the module handed over an entity without an end");
+    if (list->typeCode != dxf::CODE_XDATA_MARKER) tags.push_back({list->typeCode, ValueOf(*list)});
   }
-  return groups;
+  return tags;
 }
 
 }  // namespace teskarlt

@@ -1,4 +1,4 @@
-// ValueListTags.h - an entity from the module's typed value list to the groups of a drawing.
+// ValueListTags.h - an entity from the module's typed value list to the tags of a drawing.
 #pragma once
 
 #include <vector>
@@ -8,8 +8,8 @@
 
 namespace teskarlt {
 
-// The list's groups in their order; texts stay the list's. The marker in front of extended data goes, an
+// The list's tags in their order; texts stay the list's. The marker in front of extended data goes, an
 // empty layer name becomes "0". Throws Error for a code that has no kind, a missing text and an endless list.
-std::vector<dxf::Group> TagsOf(const brevanta::ValueNode* list);
+std::vector<dxf::TypedTag> TagsOf(const brevanta::ValueNode* list);
 
 }  // namespace teskarlt

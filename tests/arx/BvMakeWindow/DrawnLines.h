@@ -9,14 +9,14 @@
 namespace brevanta {
 
 // "x,y,z > x,y,z", behind it the linetype where there is one.
-inline std::string LineText(const group_list::GroupList& line) {
-  const auto text = [](const group_list::Point& p) {
+inline std::string LineText(const node_list::NodeList& line) {
+  const auto text = [](const node_list::Point& p) {
     char buffer[80];
     std::snprintf(buffer, sizeof buffer, "%g,%g,%g", p[0], p[1], p[2]);
     return std::string(buffer);
   };
-  std::string drawn = text(group_list::PointOf(line, 10)) + " > " + text(group_list::PointOf(line, 11));
-  if (group_list::Has(line, 6)) drawn += " " + group_list::TextOf(line, 6);
+  std::string drawn = text(node_list::PointOf(line, 10)) + " > " + text(node_list::PointOf(line, 11));
+  if (node_list::Has(line, 6)) drawn += " " + node_list::TextOf(line, 6);
   return drawn;
 }
 

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "tests/support/GroupList.h"
+#include "tests/support/NodeList.h"
 #include "tests/support/RoundRecord.h"
 
 namespace brevanta {
@@ -45,8 +45,8 @@ inline WindowParams FullRecord() {
 }
 
 // With 1000 drawing units a metre.
-inline group_list::GroupList FullExtendedData() {
-  using namespace group_list;  // NOLINT(google-build-using-namespace): a literal list
+inline node_list::NodeList FullExtendedData() {
+  using namespace node_list;  // NOLINT(google-build-using-namespace): a literal list
   return {Marker(-3),
           Text(1001, "TK_LT_ELEM"),
           Text(1000, "TKBRVA"),

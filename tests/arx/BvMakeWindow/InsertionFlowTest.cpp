@@ -13,7 +13,7 @@
 namespace brevanta {
 namespace {
 
-using group_list::Point;
+using node_list::Point;
 
 constexpr double PI = 3.141592653589793;
 
@@ -29,7 +29,7 @@ class InsertionFlow : public testing::Test {
   // The first corner of the first face: where the outer outline starts.
   Point Start() {
     EXPECT_FALSE(recording_host::Faces().empty());
-    return recording_host::Faces().empty() ? Point{} : group_list::PointOf(recording_host::Faces()[0], 10);
+    return recording_host::Faces().empty() ? Point{} : node_list::PointOf(recording_host::Faces()[0], 10);
   }
   void ExpectStart(double x, double y, double z) {
     const Point start = Start();
@@ -173,7 +173,7 @@ TEST_F(InsertionFlow, FlatRoofIsNotPlacedByHeight) {
 TEST_F(InsertionFlow, WindowOnAFlatRoofRunsAlongPlusY) {
   record.roofPlanePoints[1] = {0, 100, 0};
   Make();
-  const Point top = group_list::PointOf(recording_host::Faces()[0], 11);
+  const Point top = node_list::PointOf(recording_host::Faces()[0], 11);
   EXPECT_NEAR(top[1], 200, 1e-9);
   EXPECT_NEAR(top[2], 0, 1e-9);
 }
@@ -185,7 +185,7 @@ TEST_F(InsertionFlow, WindowOnANearlyFlatRoofRunsUpItsSlope) {
   record.placeByHeight = 1;  // too flat for it
   record.lowerEdgeHeight = 90;
   Make();
-  const Point top = group_list::PointOf(recording_host::Faces()[0], 11);
+  const Point top = node_list::PointOf(recording_host::Faces()[0], 11);
   EXPECT_NEAR(top[1], -200, 1e-6);
   EXPECT_NEAR(top[2], 0.01, 1e-9);
   EXPECT_EQ(record.rotation, 0);
@@ -228,8 +228,8 @@ TEST_F(InsertionFlow, HeightsAreWrittenBack) {
 TEST_F(InsertionFlow, LengthsTakeTheCommandsUnitFactorAndTheGlassTheRecords) {
   record.unitFactor = 50;  // glass 1 below the top
   Make(2);
-  const Point foot = group_list::PointOf(recording_host::Faces()[8], 10);
-  const Point glass = group_list::PointOf(recording_host::Faces()[16], 10);
+  const Point foot = node_list::PointOf(recording_host::Faces()[8], 10);
+  const Point glass = node_list::PointOf(recording_host::Faces()[16], 10);
   // Inner corner 20 up and 20 across; lifted by 10 - 1 along the normal.
   EXPECT_NEAR(glass[0] - foot[0], 20, 1e-9);
   EXPECT_NEAR(glass[1] - foot[1], 16 - 9 * 0.6, 1e-9);
@@ -295,9 +295,9 @@ TEST_F(InsertionFlow, DirectionMinusOneRunsTheWidthTheOtherWay) {
   Make();  // fits the roof
   recording_host::Reset();
   maker.BuildWindow({0, 0, 0}, {0, 0, 0}, round_record::SLOPE, 1, -1);
-  const auto outline = group_list::PointsOf(recording_host::Faces()[8]);
+  const auto outline = node_list::PointsOf(recording_host::Faces()[8]);
   EXPECT_NEAR(outline[0][0], 0, 1e-9);
-  EXPECT_NEAR(group_list::PointOf(recording_host::Faces()[10], 11)[0], -100, 1e-9);
+  EXPECT_NEAR(node_list::PointOf(recording_host::Faces()[10], 11)[0], -100, 1e-9);
 }
 
 TEST_F(InsertionFlow, BlocksAreAllReleased) {

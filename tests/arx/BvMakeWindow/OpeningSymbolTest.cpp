@@ -139,7 +139,7 @@ TEST_F(OpeningSymbolTest, LastLetterLeavesItsLinetypeAndHinge) {
 TEST_F(OpeningSymbolTest, LinesHaveNoColour) {
   Draw("D");
   for (const auto& line : recording_host::Lines())
-    EXPECT_FALSE(group_list::Has(line, 62));
+    EXPECT_FALSE(node_list::Has(line, 62));
 }
 
 }  // namespace

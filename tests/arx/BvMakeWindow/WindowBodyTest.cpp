@@ -14,8 +14,8 @@
 namespace brevanta {
 namespace {
 
-using group_list::GroupList;
-using Point = group_list::Point;
+using node_list::NodeList;
+using Point = node_list::Point;
 using Corners = std::array<Point, 4>;
 
 constexpr double RIGHT_ANGLE = 1.5707963267948966;
@@ -43,13 +43,13 @@ class WindowBodyTest : public testing::Test {
       inner.Append({p[0], p[1], p[2]});
   }
 
-  std::vector<GroupList> Make(double slope = round_record::SLOPE, std::int16_t slopeSide = 1) {
+  std::vector<NodeList> Make(double slope = round_record::SLOPE, std::int16_t slopeSide = 1) {
     MakeWindowBody(maker, outer, inner, slope, slopeSide);
     return recording_host::Faces();
   }
 
-  static void ExpectFace(const GroupList& face, const Corners& corners) {
-    const std::vector<Point> actual = group_list::PointsOf(face);
+  static void ExpectFace(const NodeList& face, const Corners& corners) {
+    const std::vector<Point> actual = node_list::PointsOf(face);
     for (std::size_t k = 0; k < 4; ++k) {
       for (std::size_t axis = 0; axis < 3; ++axis)
         EXPECT_NEAR(actual[k][axis], corners[k][axis], 1e-9) << "corner " << k << " axis " << axis;
@@ -57,15 +57,15 @@ class WindowBodyTest : public testing::Test {
   }
 
   // Four faces from the one outline to the other, all with the same edge flags and no colour.
-  static void ExpectFaces(const std::vector<GroupList>& faces, std::size_t first, const Corners& from,
+  static void ExpectFaces(const std::vector<NodeList>& faces, std::size_t first, const Corners& from,
                           const Corners& to, std::int64_t edges) {
     ASSERT_GE(faces.size(), first + 4);
     for (std::size_t k = 0; k < 4; ++k) {
       SCOPED_TRACE("face " + std::to_string(first + k));
       const std::size_t next = k == 3 ? 0 : k + 1;
       ExpectFace(faces[first + k], {from[k], from[next], to[next], to[k]});
-      EXPECT_EQ(group_list::IntegerOf(faces[first + k], 70), edges);
-      EXPECT_FALSE(group_list::Has(faces[first + k], 62));
+      EXPECT_EQ(node_list::IntegerOf(faces[first + k], 70), edges);
+      EXPECT_FALSE(node_list::Has(faces[first + k], 62));
     }
   }
 
@@ -78,8 +78,8 @@ class WindowBodyTest : public testing::Test {
     }
   }
 
-  static double GlassHeight(const std::vector<GroupList>& faces) {
-    return group_list::PointOf(faces.back(), 10)[2];
+  static double GlassHeight(const std::vector<NodeList>& faces) {
+    return node_list::PointOf(faces.back(), 10)[2];
   }
 
   WindowParams record = round_record::OnSlope();
@@ -103,8 +103,8 @@ TEST_F(WindowBodyTest, GlassIsTheLastFaceInColour4WithAllEdges) {
   const auto faces = Make();
   // 0.02 below the top: (0, -3, 4) + (0, 0.012, -0.016)
   ExpectFace(faces[16], Moved(INNER, -2.988, 3.984));
-  EXPECT_EQ(group_list::IntegerOf(faces[16], 62), 4);
-  EXPECT_EQ(group_list::IntegerOf(faces[16], 70), 0);
+  EXPECT_EQ(node_list::IntegerOf(faces[16], 62), 4);
+  EXPECT_EQ(node_list::IntegerOf(faces[16], 70), 0);
 }
 
 TEST_F(WindowBodyTest, SkirtIsAnOuterBandBelowTheFrame) {

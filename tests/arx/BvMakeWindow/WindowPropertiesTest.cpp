@@ -13,8 +13,8 @@
 namespace brevanta {
 namespace {
 
-using group_list::GroupList;
-using group_list::Point;
+using node_list::NodeList;
+using node_list::Point;
 using Corners = std::array<Point, 4>;
 
 constexpr double PI = 3.141592653589793;
@@ -149,11 +149,11 @@ Body Insert(const Case& c) {
   Body body{};
   if (faces.size() != rings + 9) return body;
   for (std::size_t k = 0; k < 4; ++k) {
-    body.outerFoot[k] = group_list::PointOf(faces[rings + k], 10);
-    body.innerFoot[k] = group_list::PointOf(faces[rings + k], 13);
-    body.outerTop[k] = group_list::PointOf(faces[rings + 4 + k], 10);
-    body.innerTop[k] = group_list::PointOf(faces[rings + 4 + k], 13);
-    body.glass[k] = group_list::PointsOf(faces.back())[k];
+    body.outerFoot[k] = node_list::PointOf(faces[rings + k], 10);
+    body.innerFoot[k] = node_list::PointOf(faces[rings + k], 13);
+    body.outerTop[k] = node_list::PointOf(faces[rings + 4 + k], 10);
+    body.innerTop[k] = node_list::PointOf(faces[rings + 4 + k], 13);
+    body.glass[k] = node_list::PointsOf(faces.back())[k];
   }
   return body;
 }
@@ -230,8 +230,8 @@ TEST(EveryWindow, GlassIsParallelToTheRoofBelowTheTop) {
 
 TEST(EveryWindow, CornersAreAllFinite) {
   ForRandomWindows([](const Case& /*c*/, const Body& /*body*/) {
-    for (const GroupList& entity : recording_host::Entities()) {
-      for (const Point& p : group_list::PointsOf(entity)) {
+    for (const NodeList& entity : recording_host::Entities()) {
+      for (const Point& p : node_list::PointsOf(entity)) {
         EXPECT_TRUE(std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]));
       }
     }
@@ -288,15 +288,15 @@ TEST(EveryWindow, FarFromTheOriginItIsTheSameWindowMoved) {
     const RecordPoint origin = c.record.roofPlanePoints[0];
     MoveRoof(c, -OnGrid(origin.x), -OnGrid(origin.y));
     Insert(c);
-    const std::vector<GroupList>& entities = recording_host::Entities();
-    const std::vector<GroupList> beside(entities.begin(), entities.end());  // the next insertion empties them
+    const std::vector<NodeList>& entities = recording_host::Entities();
+    const std::vector<NodeList> beside(entities.begin(), entities.end());  // the next insertion empties them
     MoveRoof(c, dx, dy);
     Insert(c);
-    const std::vector<GroupList>& moved = recording_host::Entities();
+    const std::vector<NodeList>& moved = recording_host::Entities();
     ASSERT_EQ(beside.size(), moved.size());
     for (std::size_t k = 0; k < beside.size(); ++k) {
-      const auto expected = group_list::PointsOf(beside[k]);
-      const auto actual = group_list::PointsOf(moved[k]);
+      const auto expected = node_list::PointsOf(beside[k]);
+      const auto actual = node_list::PointsOf(moved[k]);
       for (std::size_t corner = 0; corner < expected.size(); ++corner)
         ExpectSame(actual[corner], expected[corner] + Point{dx, dy, 0}, bound);
     }

@@ -163,7 +163,7 @@ TEST_F(CommandsTest, FailedInsertionChangesNoResult) {
 TEST_F(CommandsTest, InsertionTakesTheCommandsUnitFactor) {
   Confirm();
   Brevanta(&context, 10, nullptr, 0);
-  EXPECT_NEAR(group_list::PointOf(recording_host::Faces()[0], 13)[1], -30, 1e-9);  // depth 5, lifted by 50
+  EXPECT_NEAR(node_list::PointOf(recording_host::Faces()[0], 13)[1], -30, 1e-9);  // depth 5, lifted by 50
 }
 
 TEST_F(CommandsTest, EditGivesZeroWithoutTheDialogModule) {
@@ -262,17 +262,17 @@ TEST_F(CommandsTest, MissingResourceModuleIsNeverAskedNorFreed) {
   Brevanta(&context, 1, nullptr, 0);
   EXPECT_THAT(TheWorld().calls, testing::Not(testing::Contains("LoadStringA 60")));
   EXPECT_EQ(std::count(TheWorld().calls.begin(), TheWorld().calls.end(), "FreeLibrary"), 1);
-  EXPECT_EQ(group_list::TextOf(recording_host::Faces()[0], 8), "");
-  EXPECT_EQ(group_list::TextOf(recording_host::Lines()[0], 8), "");
+  EXPECT_EQ(node_list::TextOf(recording_host::Faces()[0], 8), "");
+  EXPECT_EQ(node_list::TextOf(recording_host::Lines()[0], 8), "");
 }
 
 TEST_F(CommandsTest, LayersAreTheStringsOfTheirNumbers) {
   Confirm();
   ThePlay().confirmed->drawOpeningSymbol = 2;
   Brevanta(&context, 1, nullptr, 0);
-  EXPECT_EQ(group_list::TextOf(recording_host::Faces()[0], 8), "LAYER_60");
-  EXPECT_EQ(group_list::TextOf(recording_host::Lines()[0], 8), "LAYER_59");
-  EXPECT_EQ(group_list::TextOf(recording_host::Lines()[8], 8), "LAYER_58");
+  EXPECT_EQ(node_list::TextOf(recording_host::Faces()[0], 8), "LAYER_60");
+  EXPECT_EQ(node_list::TextOf(recording_host::Lines()[0], 8), "LAYER_59");
+  EXPECT_EQ(node_list::TextOf(recording_host::Lines()[8], 8), "LAYER_58");
 }
 
 TEST_F(CommandsTest, HostTableIsLookedUpAfreshForEachWindow) {

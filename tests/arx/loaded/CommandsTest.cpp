@@ -33,7 +33,7 @@ using OutsideCommands = StandAloneHost;
 std::vector<std::string> Layers() {
   std::vector<std::string> layers;
   for (const auto& entity : recording_host::Entities())
-    layers.push_back(group_list::TextOf(entity, 8));
+    layers.push_back(node_list::TextOf(entity, 8));
   return layers;
 }
 

@@ -13,12 +13,12 @@ using namespace window_of_three;  // NOLINT(google-build-using-namespace): its n
 using OutsideEntities = StandAloneHost;
 
 // Up the slope and down again around an outline.
-void AppendAround(const std::string& layer, const Corners& corners, std::vector<GroupList>& lines) {
+void AppendAround(const std::string& layer, const Corners& corners, std::vector<NodeList>& lines) {
   for (std::size_t k = 0; k < 4; ++k)
     lines.push_back(Line(layer, corners[k], corners[(k + 1) % 4]));
 }
 
-std::vector<GroupList> LinesFrom(std::size_t first) {
+std::vector<NodeList> LinesFrom(std::size_t first) {
   const auto lines = recording_host::Lines();
   return {lines.begin() + static_cast<std::ptrdiff_t>(std::min(first, lines.size())), lines.end()};
 }
@@ -52,7 +52,7 @@ TEST_F(OutsideEntities, WithoutFacesOnlyLinesAreMade) {
 
 TEST_F(OutsideEntities, WithoutTheSymbolTheOpeningIsOutlinedAndCrossed) {
   Insert();
-  std::vector<GroupList> expected;
+  std::vector<NodeList> expected;
   AppendAround(OPENING_LAYER, OUTER, expected);  // no layer: the opening is the outer outline
   expected.push_back(Line(OPENING_LAYER, OUTER[1], OUTER[2]));
   expected.push_back(Line(OPENING_LAYER, OUTER[1], OUTER[3]));
@@ -61,14 +61,14 @@ TEST_F(OutsideEntities, WithoutTheSymbolTheOpeningIsOutlinedAndCrossed) {
 }
 
 // The record's switch goes into the extended data of every entity.
-void SetSwitch(std::int64_t value, std::vector<GroupList>& entities) {
-  for (GroupList& entity : entities)
-    entity[entity.size() - 31 + 12] = group_list::Integer(1070, value);
+void SetSwitch(std::int64_t value, std::vector<NodeList>& entities) {
+  for (NodeList& entity : entities)
+    entity[entity.size() - 31 + 12] = node_list::Integer(1070, value);
 }
 
-void SetCode(const std::string& code, std::vector<GroupList>& entities) {
-  for (GroupList& entity : entities)
-    entity[entity.size() - 31 + 11] = group_list::Text(1000, code);
+void SetCode(const std::string& code, std::vector<NodeList>& entities) {
+  for (NodeList& entity : entities)
+    entity[entity.size() - 31 + 11] = node_list::Text(1000, code);
 }
 
 TEST_F(OutsideEntities, WithTheSymbolTheOuterOutlineFollowsIt) {
@@ -76,7 +76,7 @@ TEST_F(OutsideEntities, WithTheSymbolTheOuterOutlineFollowsIt) {
     recording_host::Reset();
     record().drawOpeningSymbol = symbol;
     Insert();
-    std::vector<GroupList> expected;
+    std::vector<NodeList> expected;
     AppendAround(OUTLINE_LAYER, OUTER, expected);
     SetSwitch(symbol, expected);
     EXPECT_EQ(FirstDifference(expected, LinesFrom(10)), "") << symbol;
@@ -87,7 +87,7 @@ TEST_F(OutsideEntities, SymbolStartsWithFrameAndSash) {
   record().drawOpeningSymbol = 1;
   round_record::SetText("", record().openingCode);
   Insert();
-  std::vector<GroupList> expected = {
+  std::vector<NodeList> expected = {
       Line(SYMBOL_LAYER, OUTER[1], OUTER[0]), Line(SYMBOL_LAYER, OUTER[0], OUTER[3]),
       Line(SYMBOL_LAYER, OUTER[3], OUTER[2]), Line(SYMBOL_LAYER, OUTER[2], OUTER[1])};
   AppendAround(SYMBOL_LAYER, INNER, expected);
@@ -101,8 +101,8 @@ TEST_F(OutsideEntities, SkirtLiftsTheSymbolButNotThePlanOutline) {
   record().drawOpeningSymbol = 1;
   record().skirtHeight = 1;
   Insert();
-  std::vector<GroupList> symbol = {Line(SYMBOL_LAYER, SKIRT_OUTER[1], SKIRT_OUTER[0])};
-  std::vector<GroupList> outline = {Line(OUTLINE_LAYER, OUTER[0], OUTER[1])};
+  std::vector<NodeList> symbol = {Line(SYMBOL_LAYER, SKIRT_OUTER[1], SKIRT_OUTER[0])};
+  std::vector<NodeList> outline = {Line(OUTLINE_LAYER, OUTER[0], OUTER[1])};
   SetSwitch(1, symbol);
   SetSwitch(1, outline);
   EXPECT_EQ(FirstDifference(symbol, {recording_host::Lines()[0]}), "");
@@ -180,7 +180,7 @@ TEST_P(OutsideSymbols, HaveTheMarksOfTheirCode) {
   record().drawOpeningSymbol = 1;
   round_record::SetText(GetParam().code, record().openingCode);
   Insert();
-  std::vector<GroupList> expected;
+  std::vector<NodeList> expected;
   for (const Mark& mark : GetParam().marks) {
     const Point& from = Places().at(mark.from);
     const Point& to = Places().at(mark.to);

@@ -97,7 +97,7 @@ TEST_F(ExtensionHost, ResourcesMissingFromItsFolderAreMissing) {
   const HiddenFile hidden(InHostFolder("Brevanta_d.tkr"));
   EXPECT_EQ(Insert(), 1);
   ASSERT_EQ(recording_host::Faces().size(), 17U);
-  EXPECT_EQ(group_list::TextOf(recording_host::Faces()[0], 8), "");
+  EXPECT_EQ(node_list::TextOf(recording_host::Faces()[0], 8), "");
 }
 
 TEST_F(ExtensionHost, NullTableInsertsNothing) {

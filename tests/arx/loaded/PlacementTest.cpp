@@ -12,13 +12,13 @@ class OutsidePlacement : public StandAloneHost {
  protected:
   // An end of a line of the plan outline (7 lines without the symbol) or a corner of the foot ring.
   static Point LineStart(std::size_t line) {
-    return group_list::PointOf(recording_host::Lines().at(line), 10);
+    return node_list::PointOf(recording_host::Lines().at(line), 10);
   }
   static Point OuterFoot(std::size_t corner) {
-    return group_list::PointOf(recording_host::Faces().at(8 + corner), 10);
+    return node_list::PointOf(recording_host::Faces().at(8 + corner), 10);
   }
   static Point InnerFoot(std::size_t corner) {
-    return group_list::PointOf(recording_host::Faces().at(8 + corner), 13);
+    return node_list::PointOf(recording_host::Faces().at(8 + corner), 13);
   }
 
   static void ExpectPoint(const Point& actual, const Point& expected) {
@@ -126,7 +126,7 @@ TEST_F(OutsidePlacement, OppositeRoofIsTheSameTurnedRound) {
   ExpectPoint(OuterFoot(0), {1000, 2000, 0});
   ExpectPoint(OuterFoot(1), {840, 2000, 120});
   ExpectPoint(OuterFoot(3), {1000, 2100, 0});
-  ExpectPoint(group_list::PointOf(recording_host::Faces()[0], 13), {1003, 2000, 4});
+  ExpectPoint(node_list::PointOf(recording_host::Faces()[0], 13), {1003, 2000, 4});
 }
 
 TEST_F(OutsidePlacement, PointsPickedTheOtherWayRoundGiveTheSameWindow) {
@@ -156,7 +156,7 @@ TEST_F(OutsidePlacement, NearlyFlatRoofRunsUpItsSlope) {
 
 TEST_F(OutsidePlacement, HeightOfTheWindowsLowerEdgeIsStoredInDrawingUnits) {
   Insert();
-  EXPECT_EQ(group_list::ToString(recording_host::Faces()[0][9 + 14]), "1040 real 25");
+  EXPECT_EQ(node_list::ToString(recording_host::Faces()[0][9 + 14]), "1040 real 25");
 }
 
 }  // namespace

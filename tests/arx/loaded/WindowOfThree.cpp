@@ -7,11 +7,11 @@
 
 namespace window_of_three {
 
-using group_list::Coordinates;
-using group_list::Integer;
-using group_list::Marker;
-using group_list::Real;
-using group_list::Text;
+using node_list::Coordinates;
+using node_list::Integer;
+using node_list::Marker;
+using node_list::Real;
+using node_list::Text;
 
 brevanta::WindowParams Record() {
   brevanta::WindowParams record{};
@@ -40,7 +40,7 @@ brevanta::WindowParams Record() {
   return record;
 }
 
-GroupList ExtendedData() {
+NodeList ExtendedData() {
   return {Marker(-3),
           Text(1001, "TK_LT_ELEM"),
           Text(1000, "TKBRVA"),
@@ -76,54 +76,54 @@ GroupList ExtendedData() {
 
 namespace {
 
-GroupList WithExtendedData(GroupList entity) {
-  const GroupList data = ExtendedData();
+NodeList WithExtendedData(NodeList entity) {
+  const NodeList data = ExtendedData();
   entity.insert(entity.end(), data.begin(), data.end());
   return entity;
 }
 
-void AppendPoints(const Corners& corners, GroupList& list) {
+void AppendPoints(const Corners& corners, NodeList& list) {
   for (std::size_t k = 0; k < corners.size(); ++k)
     list.push_back(Coordinates(10 + static_cast<int>(k), corners[k][0], corners[k][1], corners[k][2]));
 }
 
 }  // namespace
 
-GroupList Face(const Corners& corners, std::int64_t hiddenEdges) {
-  GroupList face = {Text(0, "3DFACE"), Text(100, "AcDbEntity"), Text(8, BODY_LAYER), Text(100, "AcDbFace")};
+NodeList Face(const Corners& corners, std::int64_t hiddenEdges) {
+  NodeList face = {Text(0, "3DFACE"), Text(100, "AcDbEntity"), Text(8, BODY_LAYER), Text(100, "AcDbFace")};
   AppendPoints(corners, face);
   face.push_back(Integer(70, hiddenEdges));
   return WithExtendedData(face);
 }
 
-GroupList ColouredFace(const Corners& corners, std::int64_t colour) {
-  GroupList face = Face(corners, 0);
+NodeList ColouredFace(const Corners& corners, std::int64_t colour) {
+  NodeList face = Face(corners, 0);
   face.insert(face.begin() + 3, Integer(62, colour));
   return face;
 }
 
-GroupList Line(const std::string& layer, const Point& from, const Point& to) {
+NodeList Line(const std::string& layer, const Point& from, const Point& to) {
   return WithExtendedData({Text(0, "LINE"), Text(100, "AcDbEntity"), Text(8, layer), Text(100, "AcDbLine"),
                            Coordinates(10, from[0], from[1], from[2]), Coordinates(11, to[0], to[1], to[2])});
 }
 
-GroupList LineOfType(const std::string& layer, const std::string& linetype, const Point& from,
-                     const Point& to) {
-  GroupList line = Line(layer, from, to);
+NodeList LineOfType(const std::string& layer, const std::string& linetype, const Point& from,
+                    const Point& to) {
+  NodeList line = Line(layer, from, to);
   line.insert(line.begin() + 3, Text(6, linetype));
   return line;
 }
 
 void AppendBand(const Corners& from, const Corners& to, std::int64_t hiddenEdges,
-                std::vector<GroupList>& faces) {
+                std::vector<NodeList>& faces) {
   for (std::size_t k = 0; k < 4; ++k) {
     const std::size_t next = (k + 1) % 4;
     faces.push_back(Face({from[k], from[next], to[next], to[k]}, hiddenEdges));
   }
 }
 
-std::vector<GroupList> Body() {
-  std::vector<GroupList> faces;
+std::vector<NodeList> Body() {
+  std::vector<NodeList> faces;
   AppendBand(OUTER, OUTER_TOP, 0, faces);
   AppendBand(INNER, INNER_TOP, 0, faces);
   AppendBand(OUTER, INNER, 10, faces);
@@ -132,8 +132,8 @@ std::vector<GroupList> Body() {
   return faces;
 }
 
-std::vector<GroupList> BodyWithSkirt() {
-  std::vector<GroupList> faces;
+std::vector<NodeList> BodyWithSkirt() {
+  std::vector<NodeList> faces;
   AppendBand(OUTER, SKIRT_OUTER, 0, faces);
   AppendBand(SKIRT_OUTER, SKIRT_OUTER_TOP, 0, faces);
   AppendBand(SKIRT_INNER, SKIRT_INNER_TOP, 0, faces);
@@ -143,10 +143,10 @@ std::vector<GroupList> BodyWithSkirt() {
   return faces;
 }
 
-std::string FirstDifference(const std::vector<GroupList>& expected, const std::vector<GroupList>& actual) {
+std::string FirstDifference(const std::vector<NodeList>& expected, const std::vector<NodeList>& actual) {
   const std::size_t common = std::min(expected.size(), actual.size());
   for (std::size_t k = 0; k < common; ++k) {
-    const std::string difference = group_list::FirstDifference(expected[k], actual[k]);
+    const std::string difference = node_list::FirstDifference(expected[k], actual[k]);
     if (!difference.empty()) return "entity " + std::to_string(k + 1) + ", " + difference;
   }
   if (expected.size() == actual.size()) return {};

@@ -6,15 +6,15 @@
 #include <vector>
 
 #include "inc/WindowParams.h"
-#include "tests/support/GroupList.h"
+#include "tests/support/NodeList.h"
 
 // The roof rises 3 in 4 towards +x. Its frame's origin is (1000, 2000), so the local point (x, y, z) is (1000
 // + y, 2000 - x, z) in the drawing, with 10 drawing units a metre. A window of 10 m x 20 m with a frame 1 m
 // wide and 0.5 m deep starts at the origin.
 namespace window_of_three {
 
-using group_list::GroupList;
-using group_list::Point;
+using node_list::NodeList;
+using node_list::Point;
 using Corners = std::array<Point, 4>;
 
 constexpr std::int32_t UNIT_FACTOR = 10;
@@ -44,24 +44,24 @@ constexpr const char* OUTLINE_LAYER = "ROOF_WINDOW_OUTLINE";
 constexpr const char* OPENING_LAYER = "ROOF_WINDOW_OPENING";
 
 // The extended data of Record().
-GroupList ExtendedData();
+NodeList ExtendedData();
 
 // Whole entities with that extended data.
-GroupList Face(const Corners& corners, std::int64_t hiddenEdges);
-GroupList ColouredFace(const Corners& corners, std::int64_t colour);
-GroupList Line(const std::string& layer, const Point& from, const Point& to);
-GroupList LineOfType(const std::string& layer, const std::string& linetype, const Point& from,
-                     const Point& to);
+NodeList Face(const Corners& corners, std::int64_t hiddenEdges);
+NodeList ColouredFace(const Corners& corners, std::int64_t colour);
+NodeList Line(const std::string& layer, const Point& from, const Point& to);
+NodeList LineOfType(const std::string& layer, const std::string& linetype, const Point& from,
+                    const Point& to);
 
 // Four faces from one outline to the other.
 void AppendBand(const Corners& from, const Corners& to, std::int64_t hiddenEdges,
-                std::vector<GroupList>& faces);
+                std::vector<NodeList>& faces);
 
 // The 17 faces without and the 21 with a skirt.
-std::vector<GroupList> Body();
-std::vector<GroupList> BodyWithSkirt();
+std::vector<NodeList> Body();
+std::vector<NodeList> BodyWithSkirt();
 
 // The expected list that the actual entities differ from first, with the difference; empty when none does.
-std::string FirstDifference(const std::vector<GroupList>& expected, const std::vector<GroupList>& actual);
+std::string FirstDifference(const std::vector<NodeList>& expected, const std::vector<NodeList>& actual);
 
 }  // namespace window_of_three

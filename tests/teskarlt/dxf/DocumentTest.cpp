@@ -26,7 +26,7 @@ TEST(Document, Utf8InADrawingOfACodePageIsReadAndWrittenAsUtf8) {
             "ez");
   const std::string layer = drawing.ToCodePage("Krytina \xC5\x99");
   EXPECT_EQ(layer, "Krytina \xF8");
-  const Group groups[] = {{0, "POINT"}, {8, std::string_view(layer)}, {10, Point{}}};
+  const TypedTag groups[] = {{0, "POINT"}, {8, std::string_view(layer)}, {10, Point{}}};
   drawing.AddEntity(groups);
   EXPECT_THAT(drawing.Serialize(), testing::HasSubstr("  8\nKrytina \xC5\x99\n"));
 }

@@ -99,7 +99,7 @@ TEST(NewDrawing, EntitiesCanBeAdded) {
   using namespace std::string_view_literals;
   for (const int version : OFFERED) {
     Document drawing = New(version);
-    const Group groups[] = {
+    const TypedTag groups[] = {
         {0, "POINT"sv}, {100, "AcDbEntity"sv}, {8, "0"sv}, {100, "AcDbPoint"sv}, {10, Point{}}};
     const std::uint64_t handle = drawing.AddEntity(groups);
     EXPECT_NE(Parsed(drawing.Serialize()).FindEntity(handle), nullptr);

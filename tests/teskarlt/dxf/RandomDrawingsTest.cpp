@@ -53,9 +53,9 @@ std::string Damaged(const std::string& good, Random& random) {
 
 void AddPoint(Document& drawing) {
   using namespace std::string_view_literals;
-  const Group groups[] = {{0, "POINT"sv},    {100, "AcDbEntity"sv},  {8, "Roof"sv},
-                          {6, "DASHED"sv},   {100, "AcDbPoint"sv},   {10, Point{1, 2, 3}},
-                          {1001, "TK_LT"sv}, {1070, std::int64_t{1}}};
+  const TypedTag groups[] = {{0, "POINT"sv},    {100, "AcDbEntity"sv},  {8, "Roof"sv},
+                             {6, "DASHED"sv},   {100, "AcDbPoint"sv},   {10, Point{1, 2, 3}},
+                             {1001, "TK_LT"sv}, {1070, std::int64_t{1}}};
   drawing.AddEntity(groups);
 }
 

@@ -10,7 +10,7 @@ namespace teskarlt {
 namespace {
 
 using brevanta::ValueNode;
-using Value = decltype(dxf::Group::value);
+using Value = decltype(dxf::TypedTag::value);
 
 // A value list whose nodes live in the test.
 class List {
@@ -40,11 +40,11 @@ TEST(TagsOf, EachKindOfValueIsTaken) {
   list.Add(40).value.real = 0.5;
   list.Add(70).value.shortInteger = -7;
   list.Add(1071).value.longInteger = 70000;
-  const std::vector<dxf::Group> expected = {{0, std::string_view("LINE")},
-                                            {10, dxf::Point{1, 2, 3}},
-                                            {40, 0.5},
-                                            {70, std::int64_t{-7}},
-                                            {1071, std::int64_t{70000}}};
+  const std::vector<dxf::TypedTag> expected = {{0, std::string_view("LINE")},
+                                               {10, dxf::Point{1, 2, 3}},
+                                               {40, 0.5},
+                                               {70, std::int64_t{-7}},
+                                               {1071, std::int64_t{70000}}};
   EXPECT_EQ(TagsOf(list.Head()), expected);
 }
 

@@ -117,27 +117,27 @@ void Indexer::ReadTables() {
 
 void Indexer::ReadTable() {
   Table table{{}, reader_.TagBegin(), nullptr, {}, {}, {}};
-  bool isInRecord = false;
-  bool isNamed = false;  // the record
-  Tag handle;            // of the record
+  bool isInEntry = false;
+  bool isNamed = false;  // the entry
+  Tag handle;            // of the entry
   while (NextInSection() && !(tag_.code == CODE_TYPE && tag_.value == "ENDTAB")) {
     if (tag_.code == CODE_TYPE) {
-      isInRecord = true;
+      isInEntry = true;
       isNamed = false;
       handle = {};
-    } else if (!isInRecord && tag_.code == CODE_NAME) {
+    } else if (!isInEntry && tag_.code == CODE_NAME) {
       table.name = Trimmed(tag_.value);
-    } else if (!isInRecord && tag_.code == CODE_COUNT) {
+    } else if (!isInEntry && tag_.code == CODE_COUNT) {
       table.count = tag_;
     } else if (tag_.code == CODE_DIMSTYLE_HANDLE ||
-               (tag_.code == CODE_HANDLE && !(isInRecord && SameName(table.name, "DIMSTYLE")))) {
+               (tag_.code == CODE_HANDLE && !(isInEntry && SameName(table.name, "DIMSTYLE")))) {
       // 5 in a dimension style is the name of an arrow block.
       TakeHandle();
-      Tag& owner = isInRecord ? handle : table.handle;
+      Tag& owner = isInEntry ? handle : table.handle;
       if (owner.code == 0) owner = tag_;
-    } else if (isInRecord && !isNamed && tag_.code == CODE_NAME) {
+    } else if (isInEntry && !isNamed && tag_.code == CODE_NAME) {
       isNamed = true;
-      table.records.push_back(tag_.value);
+      table.entries.push_back(tag_.value);
       if (SameName(table.name, "BLOCK_RECORD") && SameName(tag_.value, "*Model_Space"))
         index_.modelSpace = handle;
     }

@@ -36,7 +36,7 @@ struct Table {
   const char* end;                        // of the line before ENDTAB
   Tag handle;                             // code 0 when the table has none
   Tag count;                              // likewise
-  std::vector<std::string_view> records;  // names as they stand in the file
+  std::vector<std::string_view> entries;  // names as they stand in the file
 };
 
 // Views and pointers lie in the source's text.
@@ -48,7 +48,7 @@ struct Index {
   std::size_t paperSpaceEntities = 0;  // of the ENTITIES section
   bool hasEntityHandles = false;       // some entity has a handle
   std::uint64_t largestHandle = 0;     // of all objects, $HANDSEED aside
-  Tag modelSpace;                      // handle of the block record of the model space; code 0 when missing
+  Tag modelSpace;                      // handle of the block entry of the model space; code 0 when missing
 
   const Section* FindSection(std::string_view name) const;
   const Table* FindTable(std::string_view name) const;

@@ -21,11 +21,11 @@ struct Point {
 
 // Texts are bytes of the drawing's code page, without escapes, and stay the caller's; they are read during
 // the call alone. Coordinates in drawing units.
-struct Group {
+struct TypedTag {
   int code = 0;
   std::variant<std::string_view, std::int64_t, double, Point> value;
 
-  bool operator==(const Group&) const = default;
+  bool operator==(const TypedTag&) const = default;
 };
 
 }  // namespace teskarlt::dxf

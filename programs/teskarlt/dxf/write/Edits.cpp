@@ -30,7 +30,7 @@ void AppendBytes(std::string& key, const Plain& value) {
 }
 
 // Equal for equal groups alone.
-void AppendKey(std::string& key, const Group& group) {
+void AppendKey(std::string& key, const TypedTag& group) {
   AppendBytes(key, group.code);
   AppendBytes(key, group.value.index());
   if (const auto* const text = std::get_if<std::string_view>(&group.value)) {
@@ -63,14 +63,14 @@ Edits::Edits(const SourceText& source, const Index& index, const TextCodec& code
       codec_(codec),
       rules_(rules),
       handles_(SeedOf(index, rules)),
-      records_(source, index, codec, rules, handles_),
+      entries_(source, index, codec, rules, handles_),
       groups_(source, index, codec, rules, handles_),
       isRemoved_(index.entities.size()) {}
 
-std::uint64_t Edits::AddEntity(std::span<const Group> groups) {
+std::uint64_t Edits::AddEntity(std::span<const TypedTag> groups) {
   const EditMark mark = Mark();
   try {
-    CheckGroups(groups);
+    CheckTags(groups);
     return AddCheckedEntity(groups);
   } catch (...) {
     Rollback(mark);
@@ -78,7 +78,7 @@ std::uint64_t Edits::AddEntity(std::span<const Group> groups) {
   }
 }
 
-std::uint64_t Edits::AddCheckedEntity(std::span<const Group> groups) {
+std::uint64_t Edits::AddCheckedEntity(std::span<const TypedTag> groups) {
   RequireNames(groups);
   const std::size_t extended = ExtendedDataBegin(groups);
   const std::uint64_t handle = handles_.Take();
@@ -91,12 +91,12 @@ std::uint64_t Edits::AddCheckedEntity(std::span<const Group> groups) {
     if (HasOwners(rules_.version)) WriteReactors(writer, grouping_->reactors);
   }
   if (const std::uint64_t owner = ModelSpaceHandle(); owner != 0) writer.Handle(CODE_OWNER, owner);
-  for (const Group& group : groups.subspan(1, extended - 1)) {
+  for (const TypedTag& group : groups.subspan(1, extended - 1)) {
     if (group.code == CODE_SUBCLASS && !HasSubclassMarkers(rules_.version)) continue;
     if (group.code == CODE_LAYER) {
-      WriteGroup(writer, codec_, {CODE_LAYER, std::string_view(records_.RequireLayer(TextOf(group)))});
+      WriteTag(writer, codec_, {CODE_LAYER, std::string_view(entries_.RequireLayer(TextOf(group)))});
     } else {
-      WriteGroup(writer, codec_, group);
+      WriteTag(writer, codec_, group);
     }
   }
   const std::string_view body = store_.Add(scratch_);
@@ -107,11 +107,11 @@ std::uint64_t Edits::AddCheckedEntity(std::span<const Group> groups) {
 }
 
 // What the entity refers to by name must be in the drawing, else strict programs refuse all of it.
-void Edits::RequireNames(std::span<const Group> groups) {
-  for (const Group& group : groups) {
-    if (group.code == CODE_LAYER) records_.RequireLayer(TextOf(group));
-    if (group.code == CODE_LINETYPE) records_.RequireLinetype(TextOf(group));
-    if (group.code == CODE_XDATA_APPLICATION) records_.RequireApplication(TextOf(group));
+void Edits::RequireNames(std::span<const TypedTag> groups) {
+  for (const TypedTag& group : groups) {
+    if (group.code == CODE_LAYER) entries_.RequireLayer(TextOf(group));
+    if (group.code == CODE_LINETYPE) entries_.RequireLinetype(TextOf(group));
+    if (group.code == CODE_XDATA_APPLICATION) entries_.RequireApplication(TextOf(group));
   }
 }
 
@@ -124,16 +124,16 @@ std::uint64_t Edits::ModelSpaceHandle() const {
                              Quoted(index_.modelSpace.value)));
 }
 
-std::string_view Edits::ExtendedData(std::span<const Group> groups) {
+std::string_view Edits::ExtendedData(std::span<const TypedTag> groups) {
   if (groups.empty()) return {};
   std::string key;
-  for (const Group& group : groups)
+  for (const TypedTag& group : groups)
     AppendKey(key, group);
   if (key == lastKey_) return lastExtendedData_;
   scratch_.clear();
   TagWriter writer(scratch_, rules_.lineEnd);
-  for (const Group& group : groups)
-    if (group.code != CODE_XDATA_MARKER) WriteGroup(writer, codec_, group);
+  for (const TypedTag& group : groups)
+    if (group.code != CODE_XDATA_MARKER) WriteTag(writer, codec_, group);
   lastExtendedData_ = store_.Add(scratch_);
   lastKey_ = std::move(key);
   return lastExtendedData_;
@@ -188,12 +188,12 @@ void Edits::EndGroup(std::string_view name, std::string_view description) {
 }
 
 bool Edits::IsChanged() const {
-  return !added_.empty() || !removed_.empty() || !replaced_.empty() || records_.Count() > 0 ||
+  return !added_.empty() || !removed_.empty() || !replaced_.empty() || entries_.Count() > 0 ||
          groups_.Count() > 0;
 }
 
 EditMark Edits::Mark() const {
-  return {added_.size(),   removed_.size(),       replaced_.size(), records_.Count(),
+  return {added_.size(),   removed_.size(),       replaced_.size(), entries_.Count(),
           groups_.Count(), grouping_.has_value(), handles_.Next()};
 }
 
@@ -205,7 +205,7 @@ void Edits::Rollback(const EditMark& mark) {
   }
   while (replaced_.size() > mark.replacedValues)
     replaced_.pop_back();
-  if (records_.Count() > mark.addedRecords) records_.GoBack(mark.addedRecords);
+  if (entries_.Count() > mark.addedEntries) entries_.GoBack(mark.addedEntries);
   groups_.GoBack(mark.addedGroups);
   if (!mark.isGrouping) grouping_.reset();
   if (grouping_)
@@ -231,7 +231,7 @@ void Edits::AddSeedSplice(std::vector<Splice>& splices) const {
 std::vector<Splice> Edits::Splices() const {
   std::vector<Splice> splices = replaced_;
   AddSeedSplice(splices);
-  records_.AddSplices(splices);
+  entries_.AddSplices(splices);
   std::unordered_set<std::uint64_t> removedHandles;
   for (const std::size_t number : removed_) {
     const Entity& entity = index_.entities[number];

@@ -26,7 +26,7 @@ struct EditMark {
   std::size_t addedTexts;
   std::size_t removedEntities;
   std::size_t replacedValues;
-  std::size_t addedRecords;
+  std::size_t addedEntries;
   std::size_t addedGroups;
   bool isGrouping;
   std::uint64_t nextHandle;
@@ -37,14 +37,14 @@ class Edits {
  public:
   Edits(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules);
 
-  std::uint64_t AddEntity(std::span<const Group> groups);
+  std::uint64_t AddEntity(std::span<const TypedTag> groups);
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
   void ReplaceValue(const Tag& tag, std::string value);
   void BeginGroup(std::span<const Entity* const> replaced);
   void EndGroup(std::string_view name, std::string_view description);
-  NewRecords& Records() { return records_; }
-  const NewRecords& Records() const { return records_; }
+  NewTableEntries& TableEntries() { return entries_; }
+  const NewTableEntries& TableEntries() const { return entries_; }
 
   bool IsChanged() const;
   EditMark Mark() const;
@@ -62,10 +62,10 @@ class Edits {
     std::vector<std::uint64_t> members;          // in ascending order
   };
 
-  std::uint64_t AddCheckedEntity(std::span<const Group> groups);
-  void RequireNames(std::span<const Group> groups);
+  std::uint64_t AddCheckedEntity(std::span<const TypedTag> groups);
+  void RequireNames(std::span<const TypedTag> groups);
   std::uint64_t ModelSpaceHandle() const;
-  std::string_view ExtendedData(std::span<const Group> groups);
+  std::string_view ExtendedData(std::span<const TypedTag> groups);
   std::size_t NumberOf(const Entity& entity) const;
   std::vector<Splice> Splices() const;
   void AddSeedSplice(std::vector<Splice>& splices) const;
@@ -75,7 +75,7 @@ class Edits {
   const TextCodec& codec_;
   const Rules& rules_;
   HandleSeed handles_;
-  NewRecords records_;
+  NewTableEntries entries_;
   NewGroups groups_;
   std::optional<Grouping> grouping_;
 

@@ -1,4 +1,4 @@
-// EntityTags.cpp - the rules for group lists that become entities.
+// EntityTags.cpp - the rules for tag lists that become entities.
 #include "teskarlt/dxf/write/EntityTags.h"
 
 #include <algorithm>
@@ -27,27 +27,27 @@ constexpr std::size_t SIZE_OF_CODE = 2;
 }
 
 template <typename Value>
-const Value& ValueOf(const Group& group, std::string_view kind) {
-  const auto* const value = std::get_if<Value>(&group.value);
-  if (value == nullptr) Refuse(group.code, fmt::format("holds no {}", kind));
+const Value& ValueOf(const TypedTag& tag, std::string_view kind) {
+  const auto* const value = std::get_if<Value>(&tag.value);
+  if (value == nullptr) Refuse(tag.code, fmt::format("holds no {}", kind));
   return *value;
 }
 
 template <typename Integer>
-void CheckRange(const Group& group) {
-  const auto value = ValueOf<std::int64_t>(group, "integer");
+void CheckRange(const TypedTag& tag) {
+  const auto value = ValueOf<std::int64_t>(tag, "integer");
   if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max())
-    Refuse(group.code, fmt::format("holds {}, which is out of its range", value));
+    Refuse(tag.code, fmt::format("holds {}, which is out of its range", value));
 }
 
 void CheckFinite(int code, double value) {
   if (!std::isfinite(value)) Refuse(code, "holds a number that is not finite");
 }
 
-void CheckPoint(const Group& group) {
-  const auto& point = ValueOf<Point>(group, "point");
+void CheckPoint(const TypedTag& tag) {
+  const auto& point = ValueOf<Point>(tag, "point");
   for (const double coordinate : {point.x, point.y, point.z})
-    CheckFinite(group.code, coordinate);
+    CheckFinite(tag.code, coordinate);
 }
 
 void CheckApplication(std::string_view name) {
@@ -58,55 +58,55 @@ void CheckApplication(std::string_view name) {
     Refuse(CODE_XDATA_APPLICATION, fmt::format("holds {}, which is no application name", Quoted(name)));
 }
 
-void CheckText(const Group& group) {
-  const auto text = ValueOf<std::string_view>(group, "text");
-  if (text.find('\0') != std::string_view::npos) Refuse(group.code, "holds a text with a zero byte");
-  if (group.code == CODE_XDATA_APPLICATION) CheckApplication(text);
+void CheckText(const TypedTag& tag) {
+  const auto text = ValueOf<std::string_view>(tag, "text");
+  if (text.find('\0') != std::string_view::npos) Refuse(tag.code, "holds a text with a zero byte");
+  if (tag.code == CODE_XDATA_APPLICATION) CheckApplication(text);
 }
 
-void CheckHandle(const Group& group) {
-  if (group.code == CODE_HANDLE || group.code == CODE_DIMSTYLE_HANDLE || group.code == CODE_OWNER)
-    Refuse(group.code, "is given by the drawing");
-  if (!ParseHandle(ValueOf<std::string_view>(group, "handle"))) Refuse(group.code, "holds no handle");
+void CheckHandle(const TypedTag& tag) {
+  if (tag.code == CODE_HANDLE || tag.code == CODE_DIMSTYLE_HANDLE || tag.code == CODE_OWNER)
+    Refuse(tag.code, "is given by the drawing");
+  if (!ParseHandle(ValueOf<std::string_view>(tag, "handle"))) Refuse(tag.code, "holds no handle");
 }
 
-void CheckValue(const Group& group) {
-  switch (KindOf(group.code)) {
+void CheckValue(const TypedTag& tag) {
+  switch (KindOf(tag.code)) {
     case ValueKind::Text:
-      return CheckText(group);
+      return CheckText(tag);
     case ValueKind::Handle:
-      return CheckHandle(group);
+      return CheckHandle(tag);
     case ValueKind::Point:
-      return CheckPoint(group);
+      return CheckPoint(tag);
     case ValueKind::Real:
-      return CheckFinite(group.code, ValueOf<double>(group, "number"));
+      return CheckFinite(tag.code, ValueOf<double>(tag, "number"));
     case ValueKind::Integer16:
-      return CheckRange<std::int16_t>(group);
+      return CheckRange<std::int16_t>(tag);
     case ValueKind::Integer32:
-      return CheckRange<std::int32_t>(group);
+      return CheckRange<std::int32_t>(tag);
     case ValueKind::Integer64:
-      return CheckRange<std::int64_t>(group);
+      return CheckRange<std::int64_t>(tag);
     case ValueKind::Boolean:
-      return CheckRange<bool>(group);
+      return CheckRange<bool>(tag);
     case ValueKind::None:
-      Refuse(group.code, "is not one that an entity can have");
+      Refuse(tag.code, "is not one that an entity can have");
   }
 }
 
-// Bytes of a group as a binary drawing holds it. A text counts as bytes of the code page.
-std::size_t SizeOf(const Group& group) {
-  if (const auto* const text = std::get_if<std::string_view>(&group.value))
+// Bytes of a tag as a binary drawing holds it. A text counts as bytes of the code page.
+std::size_t SizeOf(const TypedTag& tag) {
+  if (const auto* const text = std::get_if<std::string_view>(&tag.value))
     return SIZE_OF_CODE + text->size() + 1;
-  if (std::holds_alternative<Point>(group.value)) return SIZE_OF_CODE + sizeof(Point);
-  if (std::holds_alternative<double>(group.value)) return SIZE_OF_CODE + sizeof(double);
-  const bool isShort = KindOf(group.code) == ValueKind::Integer16;
+  if (std::holds_alternative<Point>(tag.value)) return SIZE_OF_CODE + sizeof(Point);
+  if (std::holds_alternative<double>(tag.value)) return SIZE_OF_CODE + sizeof(double);
+  const bool isShort = KindOf(tag.code) == ValueKind::Integer16;
   return SIZE_OF_CODE + (isShort ? sizeof(std::int16_t) : sizeof(std::int32_t));
 }
 
-void CheckType(std::span<const Group> groups) {
-  if (groups.empty()) throw Error("the new entity is refused: it has no groups");
-  if (groups[0].code != CODE_TYPE) Refuse(groups[0].code, "stands where its type should be");
-  const auto type = ValueOf<std::string_view>(groups[0], "text");
+void CheckType(std::span<const TypedTag> tags) {
+  if (tags.empty()) throw Error("the new entity is refused: it has no groups");
+  if (tags[0].code != CODE_TYPE) Refuse(tags[0].code, "stands where its type should be");
+  const auto type = ValueOf<std::string_view>(tags[0], "text");
   const bool isGood = !type.empty() && std::all_of(type.begin(), type.end(), [](char byte) {
     return (byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9') || byte == '_';
   });
@@ -116,34 +116,34 @@ void CheckType(std::span<const Group> groups) {
 
 }  // namespace
 
-std::string_view TextOf(const Group& group) {
-  const auto* const text = std::get_if<std::string_view>(&group.value);
+std::string_view TextOf(const TypedTag& tag) {
+  const auto* const text = std::get_if<std::string_view>(&tag.value);
   return text == nullptr ? std::string_view() : *text;
 }
 
-std::size_t ExtendedDataBegin(std::span<const Group> groups) {
-  const auto first = std::find_if(groups.begin(), groups.end(), [](const Group& group) {
-    return group.code >= FIRST_XDATA_CODE || group.code == CODE_XDATA_MARKER;
+std::size_t ExtendedDataBegin(std::span<const TypedTag> tags) {
+  const auto first = std::find_if(tags.begin(), tags.end(), [](const TypedTag& tag) {
+    return tag.code >= FIRST_XDATA_CODE || tag.code == CODE_XDATA_MARKER;
   });
-  return static_cast<std::size_t>(first - groups.begin());
+  return static_cast<std::size_t>(first - tags.begin());
 }
 
-void CheckGroups(std::span<const Group> groups) {
-  CheckType(groups);
-  const std::size_t extended = ExtendedDataBegin(groups);
-  for (const Group& group : groups.subspan(1, extended - 1)) {
-    if (group.code == CODE_TYPE) Refuse(CODE_TYPE, "stands twice");
-    CheckValue(group);
+void CheckTags(std::span<const TypedTag> tags) {
+  CheckType(tags);
+  const std::size_t extended = ExtendedDataBegin(tags);
+  for (const TypedTag& tag : tags.subspan(1, extended - 1)) {
+    if (tag.code == CODE_TYPE) Refuse(CODE_TYPE, "stands twice");
+    CheckValue(tag);
   }
   bool isUnderApplication = false;
   std::size_t size = 0;
-  for (const Group& group : groups.subspan(extended)) {
-    if (group.code == CODE_XDATA_MARKER) continue;
-    if (group.code < FIRST_XDATA_CODE) Refuse(group.code, "stands behind extended data");
-    isUnderApplication = isUnderApplication || group.code == CODE_XDATA_APPLICATION;
-    if (!isUnderApplication) Refuse(group.code, "stands before the name of an application");
-    CheckValue(group);
-    size += SizeOf(group);
+  for (const TypedTag& tag : tags.subspan(extended)) {
+    if (tag.code == CODE_XDATA_MARKER) continue;
+    if (tag.code < FIRST_XDATA_CODE) Refuse(tag.code, "stands behind extended data");
+    isUnderApplication = isUnderApplication || tag.code == CODE_XDATA_APPLICATION;
+    if (!isUnderApplication) Refuse(tag.code, "stands before the name of an application");
+    CheckValue(tag);
+    size += SizeOf(tag);
   }
   if (size > MOST_EXTENDED_DATA) {
     throw Error(
@@ -153,19 +153,18 @@ void CheckGroups(std::span<const Group> groups) {
   }
 }
 
-void WriteGroup(TagWriter& writer, const TextCodec& codec, const Group& group) {
-  if (const auto* const point = std::get_if<Point>(&group.value))
-    return writer.Coordinates(group.code, *point);
-  if (const auto* const real = std::get_if<double>(&group.value)) return writer.Real(group.code, *real);
-  if (const auto* const integer = std::get_if<std::int64_t>(&group.value))
-    return writer.Integer(group.code, *integer);
+void WriteTag(TagWriter& writer, const TextCodec& codec, const TypedTag& tag) {
+  if (const auto* const point = std::get_if<Point>(&tag.value)) return writer.Coordinates(tag.code, *point);
+  if (const auto* const real = std::get_if<double>(&tag.value)) return writer.Real(tag.code, *real);
+  if (const auto* const integer = std::get_if<std::int64_t>(&tag.value))
+    return writer.Integer(tag.code, *integer);
   std::string raw;
-  codec.Encode(TextOf(group), raw);
-  if (group.code == CODE_XDATA_TEXT && raw.size() > LONGEST_EXTENDED_TEXT) {
-    Refuse(group.code, fmt::format("holds a text of {} bytes, and {} is the most that a drawing can hold",
-                                   raw.size(), LONGEST_EXTENDED_TEXT));
+  codec.Encode(TextOf(tag), raw);
+  if (tag.code == CODE_XDATA_TEXT && raw.size() > LONGEST_EXTENDED_TEXT) {
+    Refuse(tag.code, fmt::format("holds a text of {} bytes, and {} is the most that a drawing can hold",
+                                 raw.size(), LONGEST_EXTENDED_TEXT));
   }
-  writer.Text(group.code, raw);
+  writer.Text(tag.code, raw);
 }
 
 }  // namespace teskarlt::dxf

@@ -1,4 +1,4 @@
-// EntityTags.h - checks the groups of a new entity and writes them.
+// EntityTags.h - checks the tags of a new entity and writes them.
 #pragma once
 
 #include <cstddef>
@@ -13,17 +13,17 @@ namespace teskarlt::dxf {
 
 // Throws Error unless the list can become an entity: it starts with its type, every code is one of entities
 // and has a value of its kind and range, numbers are finite, and extended data stand at the end, each under
-// an application. Handle and owner are not among the groups.
-void CheckGroups(std::span<const Group> groups);
+// an application. Handle and owner are not among the tags.
+void CheckTags(std::span<const TypedTag> tags);
 
-// Number of groups before the extended data.
-std::size_t ExtendedDataBegin(std::span<const Group> groups);
+// Number of tags before the extended data.
+std::size_t ExtendedDataBegin(std::span<const TypedTag> tags);
 
-// The text of a group that holds one.
-std::string_view TextOf(const Group& group);
+// The text of a tag that holds one.
+std::string_view TextOf(const TypedTag& tag);
 
-// Writes a group that passed the check; throws Error for
+// Writes a tag that passed the check; throws Error for
 // an extended text that is too long once it is encoded.
-void WriteGroup(TagWriter& writer, const TextCodec& codec, const Group& group);
+void WriteTag(TagWriter& writer, const TextCodec& codec, const TypedTag& tag);
 
 }  // namespace teskarlt::dxf

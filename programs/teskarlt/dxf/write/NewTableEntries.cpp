@@ -55,11 +55,11 @@ std::string AllowedLayerName(std::string_view utf8, int version) {
   return allowed.empty() ? std::string(DEFAULT_LAYER) : allowed;
 }
 
-NewRecords::NewRecords(const SourceText& source, const Index& index, const TextCodec& codec,
-                       const Rules& rules, HandleSeed& handles)
+NewTableEntries::NewTableEntries(const SourceText& source, const Index& index, const TextCodec& codec,
+                                 const Rules& rules, HandleSeed& handles)
     : source_(source), index_(index), codec_(codec), rules_(rules), handles_(handles) {}
 
-const std::string& NewRecords::RequireLayer(std::string_view name) {
+const std::string& NewTableEntries::RequireLayer(std::string_view name) {
   if (const auto known = layers_.find(name); known != layers_.end()) return known->second;
   std::string used(name);
   if (name.empty() || !Has(TableKind::Layer, name)) {
@@ -73,7 +73,7 @@ const std::string& NewRecords::RequireLayer(std::string_view name) {
   return layers_.emplace(name, std::move(used)).first->second;
 }
 
-void NewRecords::RequireLinetype(std::string_view name) {
+void NewTableEntries::RequireLinetype(std::string_view name) {
   if (linetypes_.contains(name)) return;
   if (!IsImplied(name) && !Has(TableKind::Linetype, name)) {
     const bool isDashed = SameName(name, LINETYPE_DASHED);
@@ -84,56 +84,55 @@ void NewRecords::RequireLinetype(std::string_view name) {
   linetypes_.emplace(name, std::string());
 }
 
-void NewRecords::RequireApplication(std::string_view name) {
+void NewTableEntries::RequireApplication(std::string_view name) {
   if (applications_.contains(name)) return;
   if (!Has(TableKind::Application, name)) Add(TableKind::Application, codec_.ToUtf8(name));
   applications_.emplace(name, std::string());
 }
 
-bool NewRecords::Has(TableKind kind, std::string_view name) const {
+bool NewTableEntries::Has(TableKind kind, std::string_view name) const {
   return HasFolded(kind, FoldedName(codec_.ToUtf8(name)));
 }
 
-bool NewRecords::HasFolded(TableKind kind, const std::string& foldedName) const {
+bool NewTableEntries::HasFolded(TableKind kind, const std::string& foldedName) const {
   if (FileNames(kind).contains(foldedName)) return true;
-  return std::any_of(records_.begin(), records_.end(), [&](const Record& record) {
-    return record.kind == kind && record.foldedName == foldedName;
+  return std::any_of(entries_.begin(), entries_.end(), [&](const Entry& entry) {
+    return entry.kind == kind && entry.foldedName == foldedName;
   });
 }
 
-const std::unordered_set<std::string>& NewRecords::FileNames(TableKind kind) const {
+const std::unordered_set<std::string>& NewTableEntries::FileNames(TableKind kind) const {
   const auto [found, isNew] = fileNames_.try_emplace(kind);
   if (!isNew) return found->second;
   for (const Table& table : index_.tables) {
     if (!SameName(table.name, TableName(kind))) continue;
-    for (const std::string_view name : table.records)
+    for (const std::string_view name : table.entries)
       found->second.insert(FoldedName(codec_.Decode(name)));
   }
   return found->second;
 }
 
-void NewRecords::GoBack(std::size_t count) {
-  records_.resize(std::min(count, records_.size()), Record{});
+void NewTableEntries::GoBack(std::size_t count) {
+  entries_.resize(std::min(count, entries_.size()), Entry{});
   layers_.clear();
   linetypes_.clear();
   applications_.clear();
 }
 
-const NewRecords::Record* NewRecords::Opener(TableKind kind) const {
-  const auto found = std::find_if(records_.begin(), records_.end(), [&](const Record& record) {
-    return record.kind == kind && record.opensTable;
-  });
-  return found == records_.end() ? nullptr : &*found;
+const NewTableEntries::Entry* NewTableEntries::Opener(TableKind kind) const {
+  const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                  [&](const Entry& entry) { return entry.kind == kind && entry.opensTable; });
+  return found == entries_.end() ? nullptr : &*found;
 }
 
-// A table comes with the records that every drawing has in it.
-void NewRecords::OpenTable(TableKind kind) {
+// A table comes with the entries that every drawing has in it.
+void NewTableEntries::OpenTable(TableKind kind) {
   const std::uint64_t table = HasSubclassMarkers(rules_.version) ? handles_.Take() : 0;
-  const std::size_t first = records_.size();
+  const std::size_t first = entries_.size();
   const auto addDefault = [&](std::string_view name) {
-    const RecordHead head{rules_.version, TakeRecordHandle(), table};
-    records_.push_back(
-        {kind, FoldedName(name), RecordText(kind, name, head), records_.size() == first, table});
+    const EntryHead head{rules_.version, TakeEntryHandle(), table};
+    entries_.push_back(
+        {kind, FoldedName(name), EntryText(kind, name, head), entries_.size() == first, table});
   };
   if (kind == TableKind::Linetype && HasSubclassMarkers(rules_.version)) {
     addDefault(LINETYPE_BY_BLOCK);
@@ -144,8 +143,8 @@ void NewRecords::OpenTable(TableKind kind) {
   if (kind == TableKind::Application) addDefault(DEFAULT_APPLICATION);
 }
 
-// Handle of the table that a new record goes to; 0 when it has none.
-std::uint64_t NewRecords::TableHandle(TableKind kind) {
+// Handle of the table that a new entry goes to; 0 when it has none.
+std::uint64_t NewTableEntries::TableHandle(TableKind kind) {
   if (const Table* const table = index_.FindTable(TableName(kind)); table != nullptr) {
     if (table->handle.code == 0 || !HasOwners(rules_.version)) return 0;
     if (const auto handle = ParseHandle(table->handle.value)) return *handle;
@@ -158,21 +157,21 @@ std::uint64_t NewRecords::TableHandle(TableKind kind) {
 }
 
 // Records of R12 have no handles.
-std::uint64_t NewRecords::TakeRecordHandle() {
+std::uint64_t NewTableEntries::TakeEntryHandle() {
   return HasSubclassMarkers(rules_.version) ? handles_.Take() : 0;
 }
 
-void NewRecords::Add(TableKind kind, std::string_view utf8Name) {
+void NewTableEntries::Add(TableKind kind, std::string_view utf8Name) {
   const std::uint64_t table = TableHandle(kind);
   std::string foldedName = FoldedName(utf8Name);
   if (HasFolded(kind, foldedName)) return;  // came with the table
-  const RecordHead head{rules_.version, TakeRecordHandle(), table};
+  const EntryHead head{rules_.version, TakeEntryHandle(), table};
   std::string raw;
   codec_.Encode(codec_.ToCodePage(utf8Name), raw);
-  records_.push_back({kind, std::move(foldedName), RecordText(kind, raw, head), false, table});
+  entries_.push_back({kind, std::move(foldedName), EntryText(kind, raw, head), false, table});
 }
 
-std::string NewRecords::RecordText(TableKind kind, std::string_view raw, const RecordHead& head) const {
+std::string NewTableEntries::EntryText(TableKind kind, std::string_view raw, const EntryHead& head) const {
   std::string text;
   TagWriter writer(text, rules_.lineEnd);
   if (kind == TableKind::Layer) {
@@ -187,19 +186,19 @@ std::string NewRecords::RecordText(TableKind kind, std::string_view raw, const R
   return text;
 }
 
-std::string NewRecords::TextsOf(TableKind kind) const {
+std::string NewTableEntries::TextsOf(TableKind kind) const {
   std::string texts;
-  for (const Record& record : records_)
-    if (record.kind == kind) texts += record.text;
+  for (const Entry& entry : entries_)
+    if (entry.kind == kind) texts += entry.text;
   return texts;
 }
 
-std::size_t NewRecords::CountOf(TableKind kind) const {
-  return static_cast<std::size_t>(std::count_if(records_.begin(), records_.end(),
-                                                [&](const Record& record) { return record.kind == kind; }));
+std::size_t NewTableEntries::CountOf(TableKind kind) const {
+  return static_cast<std::size_t>(std::count_if(entries_.begin(), entries_.end(),
+                                                [&](const Entry& entry) { return entry.kind == kind; }));
 }
 
-std::string NewRecords::NewTable(TableKind kind) const {
+std::string NewTableEntries::NewTable(TableKind kind) const {
   std::string text;
   TagWriter writer(text, rules_.lineEnd);
   WriteTableBegin(writer, TableName(kind), {rules_.version, Opener(kind)->table, 0}, CountOf(kind));
@@ -209,7 +208,7 @@ std::string NewRecords::NewTable(TableKind kind) const {
 }
 
 // Where a table goes that the section TABLES lacks.
-const char* NewRecords::PlaceOf(TableKind kind) const {
+const char* NewTableEntries::PlaceOf(TableKind kind) const {
   const Section* const section = index_.FindSection("TABLES");
   const auto next = std::find_if(index_.tables.begin(), index_.tables.end(), [&](const Table& table) {
     return TableRank(table.name) > TableRank(TableName(kind));
@@ -217,7 +216,7 @@ const char* NewRecords::PlaceOf(TableKind kind) const {
   return next == index_.tables.end() ? section->end : next->begin;
 }
 
-void NewRecords::AddSplices(std::vector<Splice>& splices) const {
+void NewTableEntries::AddSplices(std::vector<Splice>& splices) const {
   std::string newTables;  // of a file without the section
   for (const TableKind kind : ALL_KINDS) {
     const std::size_t count = CountOf(kind);
@@ -235,7 +234,7 @@ void NewRecords::AddSplices(std::vector<Splice>& splices) const {
   if (!newTables.empty()) AddSectionSplice(newTables, splices);
 }
 
-void NewRecords::AddCountSplice(const Table& table, std::size_t added, std::vector<Splice>& splices) {
+void NewTableEntries::AddCountSplice(const Table& table, std::size_t added, std::vector<Splice>& splices) {
   const auto old = table.count.code == 0 ? std::nullopt : ParseInteger(table.count.value);
   if (!old) return;
   const char* const begin = table.count.value.data();
@@ -243,7 +242,7 @@ void NewRecords::AddCountSplice(const Table& table, std::size_t added, std::vect
                      Padded(*old + static_cast<std::int64_t>(added), table.count.value.size())});
 }
 
-void NewRecords::AddSectionSplice(const std::string& tables, std::vector<Splice>& splices) const {
+void NewTableEntries::AddSectionSplice(const std::string& tables, std::vector<Splice>& splices) const {
   std::string text;
   TagWriter writer(text, rules_.lineEnd);
   writer.Text(CODE_TYPE, "SECTION");

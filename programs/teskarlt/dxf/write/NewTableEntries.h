@@ -1,4 +1,4 @@
-// NewTableEntries.h - table records that a drawing lacks and gets.
+// NewTableEntries.h - table entries that a drawing lacks and gets.
 #pragma once
 
 #include <cstddef>
@@ -21,12 +21,12 @@
 namespace teskarlt::dxf {
 
 // All references must outlive the object. Names are bytes of the drawing's code page. Throws Error.
-class NewRecords {
+class NewTableEntries {
  public:
-  NewRecords(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules,
-             HandleSeed& handles);
+  NewTableEntries(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules,
+                  HandleSeed& handles);
 
-  // Each adds the record unless the drawing has one of that name. RequireLayer gives the name that the
+  // Each adds the entry unless the drawing has one of that name. RequireLayer gives the name that the
   // drawing uses; the reference is valid until GoBack.
   const std::string& RequireLayer(std::string_view name);
   void RequireLinetype(std::string_view name);
@@ -34,15 +34,15 @@ class NewRecords {
 
   bool Has(TableKind kind, std::string_view name) const;
 
-  // Number of records added so far, and the way back to it.
-  std::size_t Count() const { return records_.size(); }
+  // Number of entries added so far, and the way back to it.
+  std::size_t Count() const { return entries_.size(); }
   void GoBack(std::size_t count);
 
-  // What the records change in the file.
+  // What the entries change in the file.
   void AddSplices(std::vector<Splice>& splices) const;
 
  private:
-  struct Record {
+  struct Entry {
     TableKind kind;
     std::string foldedName;
     std::string text;
@@ -57,12 +57,12 @@ class NewRecords {
 
   bool HasFolded(TableKind kind, const std::string& foldedName) const;
   const std::unordered_set<std::string>& FileNames(TableKind kind) const;
-  const Record* Opener(TableKind kind) const;
+  const Entry* Opener(TableKind kind) const;
   void OpenTable(TableKind kind);
   std::uint64_t TableHandle(TableKind kind);
   void Add(TableKind kind, std::string_view utf8Name);
-  std::string RecordText(TableKind kind, std::string_view raw, const RecordHead& head) const;
-  std::uint64_t TakeRecordHandle();
+  std::string EntryText(TableKind kind, std::string_view raw, const EntryHead& head) const;
+  std::uint64_t TakeEntryHandle();
   const char* PlaceOf(TableKind kind) const;
   static void AddCountSplice(const Table& table, std::size_t added, std::vector<Splice>& splices);
   void AddSectionSplice(const std::string& tables, std::vector<Splice>& splices) const;
@@ -75,7 +75,7 @@ class NewRecords {
   const TextCodec& codec_;
   const Rules& rules_;
   HandleSeed& handles_;
-  std::vector<Record> records_;
+  std::vector<Entry> entries_;
   mutable std::map<TableKind, std::unordered_set<std::string>> fileNames_;  // folded, read when first needed
   // Names that were required since the last GoBack, with those that the drawing uses.
   Names layers_;

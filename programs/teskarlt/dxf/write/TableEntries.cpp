@@ -49,13 +49,13 @@ constexpr Unit UNITS[] = {{1, MILLIMETRES_PER_INCH},
                           {15, 1e4},
                           {16, 1e5}};
 
-void WriteHead(TagWriter& writer, const RecordHead& head) {
+void WriteHead(TagWriter& writer, const EntryHead& head) {
   if (head.handle != 0 && NeedsHandles(head.version)) writer.Handle(CODE_HANDLE, head.handle);
   if (head.owner != 0 && HasOwners(head.version)) writer.Handle(CODE_OWNER, head.owner);
 }
 
-void WriteRecordBegin(TagWriter& writer, std::string_view type, std::string_view subclass,
-                      std::string_view name, const RecordHead& head) {
+void WriteEntryBegin(TagWriter& writer, std::string_view type, std::string_view subclass,
+                     std::string_view name, const EntryHead& head) {
   writer.Text(CODE_TYPE, type);
   WriteHead(writer, head);
   if (HasSubclassMarkers(head.version)) {
@@ -67,8 +67,8 @@ void WriteRecordBegin(TagWriter& writer, std::string_view type, std::string_view
 }
 
 void WriteLinetypeBegin(TagWriter& writer, std::string_view name, std::string_view description,
-                        const RecordHead& head, int dashes, double length) {
-  WriteRecordBegin(writer, "LTYPE", "AcDbLinetypeTableRecord", name, head);
+                        const EntryHead& head, int dashes, double length) {
+  WriteEntryBegin(writer, "LTYPE", "AcDbLinetypeTableRecord", name, head);
   writer.Text(CODE_DESCRIPTION, description);
   writer.Integer(CODE_ALIGNMENT, ALIGNMENT_LETTER);
   writer.Integer(CODE_DASH_COUNT, dashes);
@@ -101,7 +101,7 @@ int TableRank(std::string_view name) {
   return rank;
 }
 
-void WriteTableBegin(TagWriter& writer, std::string_view name, const RecordHead& head, std::size_t count) {
+void WriteTableBegin(TagWriter& writer, std::string_view name, const EntryHead& head, std::size_t count) {
   writer.Text(CODE_TYPE, "TABLE");
   writer.Text(CODE_NAME, name);
   WriteHead(writer, head);
@@ -114,23 +114,23 @@ void WriteTableEnd(TagWriter& writer) {
   writer.Text(CODE_TYPE, "ENDTAB");
 }
 
-void WriteLayer(TagWriter& writer, std::string_view name, const RecordHead& head) {
-  WriteRecordBegin(writer, "LAYER", "AcDbLayerTableRecord", name, head);
+void WriteLayer(TagWriter& writer, std::string_view name, const EntryHead& head) {
+  WriteEntryBegin(writer, "LAYER", "AcDbLayerTableRecord", name, head);
   writer.Integer(CODE_COLOR, COLOR_WHITE);
   writer.Text(CODE_LINETYPE, head.version < VERSION_R13 ? "CONTINUOUS" : LINETYPE_CONTINUOUS);
   if (head.version >= VERSION_R2000) writer.Integer(CODE_LINEWEIGHT, LINEWEIGHT_DEFAULT);
 }
 
-void WriteApplication(TagWriter& writer, std::string_view name, const RecordHead& head) {
-  WriteRecordBegin(writer, "APPID", "AcDbRegAppTableRecord", name, head);
+void WriteApplication(TagWriter& writer, std::string_view name, const EntryHead& head) {
+  WriteEntryBegin(writer, "APPID", "AcDbRegAppTableRecord", name, head);
 }
 
-void WriteSolidLinetype(TagWriter& writer, std::string_view name, const RecordHead& head) {
+void WriteSolidLinetype(TagWriter& writer, std::string_view name, const EntryHead& head) {
   const bool isContinuous = SameName(name, LINETYPE_CONTINUOUS);
   WriteLinetypeBegin(writer, name, isContinuous ? "Solid line" : "", head, 0, 0);
 }
 
-void WriteDashedLinetype(TagWriter& writer, const RecordHead& head, double millimetresPerUnit) {
+void WriteDashedLinetype(TagWriter& writer, const EntryHead& head, double millimetresPerUnit) {
   const double tenths = millimetresPerUnit * TENTHS_PER_MILLIMETRE;
   WriteLinetypeBegin(writer, LINETYPE_DASHED, "Dashed __ __ __ __ __ __ __ __ __ __", head, 2,
                      (DASH_TENTHS + GAP_TENTHS) / tenths);

@@ -1,4 +1,4 @@
-// TableEntries.h - the records that a drawing needs for our entities, as tags.
+// TableEntries.h - the entries that a drawing needs for our entities, as tags.
 #pragma once
 
 #include <cstddef>
@@ -18,8 +18,8 @@ std::string_view TableName(TableKind kind);
 // lower rank stand before it. Unknown tables come last.
 int TableRank(std::string_view name);
 
-// What the head of a table or record holds by version. A handle or owner of 0 is left out.
-struct RecordHead {
+// What the head of a table or entry holds by version. A handle or owner of 0 is left out.
+struct EntryHead {
   int version = 0;
   std::uint64_t handle = 0;
   std::uint64_t owner = 0;
@@ -30,17 +30,17 @@ constexpr std::string_view LINETYPE_BY_LAYER = "ByLayer";
 constexpr std::string_view LINETYPE_CONTINUOUS = "Continuous";
 constexpr std::string_view LINETYPE_DASHED = "DASHED";
 
-// The tags before a table's first record.
-void WriteTableBegin(TagWriter& writer, std::string_view name, const RecordHead& head, std::size_t count);
+// The tags before a table's first entry.
+void WriteTableBegin(TagWriter& writer, std::string_view name, const EntryHead& head, std::size_t count);
 void WriteTableEnd(TagWriter& writer);
 
 // Names are raw texts of the file.
-void WriteLayer(TagWriter& writer, std::string_view name, const RecordHead& head);
-void WriteApplication(TagWriter& writer, std::string_view name, const RecordHead& head);
+void WriteLayer(TagWriter& writer, std::string_view name, const EntryHead& head);
+void WriteApplication(TagWriter& writer, std::string_view name, const EntryHead& head);
 // A linetype without dashes.
-void WriteSolidLinetype(TagWriter& writer, std::string_view name, const RecordHead& head);
+void WriteSolidLinetype(TagWriter& writer, std::string_view name, const EntryHead& head);
 // Dashes of 12.7 mm with gaps of 6.35 mm, in drawing units.
-void WriteDashedLinetype(TagWriter& writer, const RecordHead& head, double millimetresPerUnit);
+void WriteDashedLinetype(TagWriter& writer, const EntryHead& head, double millimetresPerUnit);
 
 // Length of a drawing unit for a value of $INSUNITS; a drawing without units is taken to be in millimetres,
 // or in inches when it is not metric.

@@ -104,7 +104,7 @@ TEST_P(BinaryForm, RemovedEntityLeavesTheBytesOfTheOthers) {
 
 TEST_P(BinaryForm, AddedEntityIsBinary) {
   Document document = Parsed(Ended(WithEntities(GetParam())));
-  const Group groups[] = {{0, "POINT"}, {8, "0"}, {10, Point{1, 2, 0.1}}, {62, std::int64_t{-3}}};
+  const TypedTag groups[] = {{0, "POINT"}, {8, "0"}, {10, Point{1, 2, 0.1}}, {62, std::int64_t{-3}}};
   document.AddEntity(groups);
   Writer point(GetParam());
   const std::size_t begin = point.Out().size();

@@ -11,12 +11,12 @@ namespace {
 using namespace std::string_view_literals;
 
 // A line as the module hands it over.
-std::vector<Group> Line(double length, std::string_view layer = "0") {
+std::vector<TypedTag> Line(double length, std::string_view layer = "0") {
   return {{0, "LINE"sv},       {100, "AcDbEntity"sv}, {8, layer},
           {100, "AcDbLine"sv}, {10, Point{0, 0, 0}},  {11, Point{length, 0, 0}}};
 }
 
-std::vector<Group> WithData(std::vector<Group> groups, std::int64_t number) {
+std::vector<TypedTag> WithData(std::vector<TypedTag> groups, std::int64_t number) {
   groups.insert(groups.end(), {{-3, std::int64_t{0}}, {1001, "TK_LT_ELEM"sv}, {1071, number}});
   return groups;
 }

@@ -1,4 +1,4 @@
-// EntityTagsTest.cpp - group lists that become entities, and those that are refused.
+// EntityTagsTest.cpp - tag lists that become entities, and those that are refused.
 #include <cmath>
 #include <limits>
 #include <vector>
@@ -12,26 +12,26 @@ namespace {
 
 using namespace std::string_view_literals;
 
-Group Whole(int code, std::int64_t value) {
+TypedTag Whole(int code, std::int64_t value) {
   return {code, value};
 }
 
-// Why a LINE with these groups behind its layer is refused.
-std::string Refusal(std::vector<Group> groups) {
-  groups.insert(groups.begin(), {{0, "LINE"sv}, {8, "0"sv}});
-  const std::string message = ErrorOf([&] { CheckGroups(groups); });
+// Why a LINE with these tags behind its layer is refused.
+std::string Refusal(std::vector<TypedTag> tags) {
+  tags.insert(tags.begin(), {{0, "LINE"sv}, {8, "0"sv}});
+  const std::string message = ErrorOf([&] { CheckTags(tags); });
   constexpr std::string_view BEGINNING = "the new entity is refused: ";
   return message.starts_with(BEGINNING) ? message.substr(BEGINNING.size()) : message;
 }
 
-std::string Written(const Group& group) {
+std::string Written(const TypedTag& tag) {
   std::string out;
   TagWriter writer(out, "|");
-  WriteGroup(writer, TextCodec("roof.dxf", "ANSI_1250", false), group);
+  WriteTag(writer, TextCodec("roof.dxf", "ANSI_1250", false), tag);
   return out;
 }
 
-TEST(CheckGroups, FaceWithExtendedDataPasses) {
+TEST(CheckTags, FaceWithExtendedDataPasses) {
   EXPECT_EQ(Refusal({{6, "DASHED"sv},
                      Whole(62, 256),
                      {100, "AcDbLine"sv},
@@ -48,28 +48,28 @@ TEST(CheckGroups, FaceWithExtendedDataPasses) {
             "");
 }
 
-TEST(CheckGroups, EmptyListIsRefused) {
-  EXPECT_EQ(ErrorOf([] { CheckGroups({}); }), "the new entity is refused: it has no groups");
+TEST(CheckTags, EmptyListIsRefused) {
+  EXPECT_EQ(ErrorOf([] { CheckTags({}); }), "the new entity is refused: it has no groups");
 }
 
-TEST(CheckGroups, TypeMustComeFirst) {
-  const std::vector<Group> groups{{8, "0"sv}, {0, "LINE"sv}};
-  EXPECT_EQ(ErrorOf([&] { CheckGroups(groups); }),
+TEST(CheckTags, TypeMustComeFirst) {
+  const std::vector<TypedTag> tags{{8, "0"sv}, {0, "LINE"sv}};
+  EXPECT_EQ(ErrorOf([&] { CheckTags(tags); }),
             "the new entity is refused: group 8 stands where its type should be");
 }
 
-TEST(CheckGroups, TypeMustBeOne) {
+TEST(CheckTags, TypeMustBeOne) {
   for (const auto type : {""sv, "EOF"sv, "ENDSEC"sv, "LINE\n"sv, "line"sv}) {
-    const std::vector<Group> groups{{0, type}};
-    EXPECT_NE(ErrorOf([&] { CheckGroups(groups); }), "") << type;
+    const std::vector<TypedTag> tags{{0, type}};
+    EXPECT_NE(ErrorOf([&] { CheckTags(tags); }), "") << type;
   }
 }
 
-TEST(CheckGroups, SecondTypeIsRefused) {
+TEST(CheckTags, SecondTypeIsRefused) {
   EXPECT_EQ(Refusal({{0, "LINE"sv}}), "group 0 stands twice");
 }
 
-TEST(CheckGroups, UnknownCodesAreRefused) {
+TEST(CheckTags, UnknownCodesAreRefused) {
   for (const int code : {-1, -4, 80, 999, 5001, 1072}) {
     EXPECT_EQ(Refusal({{code, "x"sv}}).find("is not one that an entity can have") != std::string::npos ||
                   Refusal({{code, "x"sv}}).find("stands before") != std::string::npos,
@@ -78,82 +78,82 @@ TEST(CheckGroups, UnknownCodesAreRefused) {
   }
 }
 
-TEST(CheckGroups, ValueOfAnotherKindIsRefused) {
+TEST(CheckTags, ValueOfAnotherKindIsRefused) {
   EXPECT_EQ(Refusal({{10, 1.0}}), "group 10 holds no point");
   EXPECT_EQ(Refusal({{40, "1.0"sv}}), "group 40 holds no number");
   EXPECT_EQ(Refusal({{62, 1.0}}), "group 62 holds no integer");
   EXPECT_EQ(Refusal({Whole(6, 1)}), "group 6 holds no text");
 }
 
-TEST(CheckGroups, NumbersThatAreNotFiniteAreRefused) {
+TEST(CheckTags, NumbersThatAreNotFiniteAreRefused) {
   for (const double value : {std::nan(""), std::numeric_limits<double>::infinity()}) {
     EXPECT_EQ(Refusal({{40, value}}), "group 40 holds a number that is not finite");
     EXPECT_EQ(Refusal({{11, Point{0, 0, value}}}), "group 11 holds a number that is not finite");
   }
 }
 
-TEST(CheckGroups, ShortIntegersHaveSixteenBits) {
+TEST(CheckTags, ShortIntegersHaveSixteenBits) {
   EXPECT_EQ(Refusal({Whole(70, 32767), Whole(62, -32768)}), "");
   EXPECT_EQ(Refusal({Whole(70, 32768)}), "group 70 holds 32768, which is out of its range");
   EXPECT_EQ(Refusal({{1001, "APP"sv}, Whole(1070, -32769)}),
             "group 1070 holds -32769, which is out of its range");
 }
 
-TEST(CheckGroups, LongIntegersHaveThirtyTwoBits) {
+TEST(CheckTags, LongIntegersHaveThirtyTwoBits) {
   EXPECT_EQ(Refusal({{1001, "APP"sv}, Whole(1071, 2147483647)}), "");
   EXPECT_EQ(Refusal({{1001, "APP"sv}, Whole(1071, 2147483648)}),
             "group 1071 holds 2147483648, which is out of its range");
 }
 
-TEST(CheckGroups, HandlesAndOwnersAreTheDrawings) {
+TEST(CheckTags, HandlesAndOwnersAreTheDrawings) {
   EXPECT_EQ(Refusal({{5, "1"sv}}), "group 5 is given by the drawing");
   EXPECT_EQ(Refusal({{330, "1"sv}}), "group 330 is given by the drawing");
 }
 
-TEST(CheckGroups, ExtendedDataNeedAnApplication) {
+TEST(CheckTags, ExtendedDataNeedAnApplication) {
   EXPECT_EQ(Refusal({{1000, "x"sv}}), "group 1000 stands before the name of an application");
   EXPECT_EQ(Refusal({{1001, ""sv}}), "group 1001 holds \"\", which is no application name");
   EXPECT_NE(Refusal({{1001, "A234567890123456789012345678901"sv}}), "no refusal");
   EXPECT_NE(Refusal({{1001, "A2345678901234567890123456789012"sv}}), "");
 }
 
-TEST(CheckGroups, NothingStandsBehindExtendedData) {
+TEST(CheckTags, NothingStandsBehindExtendedData) {
   EXPECT_EQ(Refusal({{1001, "APP"sv}, Whole(70, 1)}), "group 70 stands behind extended data");
 }
 
-TEST(CheckGroups, ZeroByteInATextIsRefused) {
+TEST(CheckTags, ZeroByteInATextIsRefused) {
   EXPECT_EQ(Refusal({{1001, "APP"sv}, {1000, "a\0b"sv}}), "group 1000 holds a text with a zero byte");
 }
 
-TEST(WriteGroup, EachKindOfValue) {
+TEST(WriteTag, EachKindOfValue) {
   EXPECT_EQ(Written({8, "okn\xED"sv}), "  8|okn\xED|");
   EXPECT_EQ(Written({40, 2.0}), " 40|2.0|");
   EXPECT_EQ(Written(Whole(70, -1)), " 70|-1|");
   EXPECT_EQ(Written({10, Point{1, 2, 3}}), " 10|1.0| 20|2.0| 30|3.0|");
 }
 
-TEST(WriteGroup, ExtendedTextOf255BytesFits) {
+TEST(WriteTag, ExtendedTextOf255BytesFits) {
   const std::string text(255, 'x');
   EXPECT_EQ(Written({1000, std::string_view(text)}), "1000|" + text + "|");
 }
 
 // An application's name, which takes 4 bytes here, and numbers that take 10 each.
-std::vector<Group> ExtendedData(std::size_t numbers) {
-  std::vector<Group> groups(numbers + 1, Group{1040, 0.5});
-  groups[0] = {1001, "A"sv};
-  return groups;
+std::vector<TypedTag> ExtendedData(std::size_t numbers) {
+  std::vector<TypedTag> tags(numbers + 1, TypedTag{1040, 0.5});
+  tags[0] = {1001, "A"sv};
+  return tags;
 }
 
-TEST(CheckGroups, ExtendedDataOfNearlySixteenKilobytesPasses) {
+TEST(CheckTags, ExtendedDataOfNearlySixteenKilobytesPasses) {
   EXPECT_EQ(Refusal(ExtendedData(1637)), "");
 }
 
-TEST(CheckGroups, MoreExtendedDataThanAnEntityCanHoldIsRefused) {
+TEST(CheckTags, MoreExtendedDataThanAnEntityCanHoldIsRefused) {
   EXPECT_EQ(Refusal(ExtendedData(1638)),
             "its extended data has 16384 bytes, and 16383 is the most that an entity can hold");
 }
 
-TEST(WriteGroup, ExtendedTextIsCountedAsEncoded) {
+TEST(WriteTag, ExtendedTextIsCountedAsEncoded) {
   const std::string text(200, '^');  // two bytes each in the file
   EXPECT_EQ(ErrorOf([&] {
               Written({1000, std::string_view(text)});

@@ -8,7 +8,7 @@
 namespace teskarlt::dxf {
 namespace {
 
-const std::vector<Group> LINE = {
+const std::vector<TypedTag> LINE = {
     {0, std::string_view("LINE")}, {8, std::string_view("0")}, {10, Point{0, 0, 0}}, {11, Point{1, 0, 0}}};
 
 // Entities A and B, the layer 0, and these objects.

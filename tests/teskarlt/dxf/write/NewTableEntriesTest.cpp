@@ -5,7 +5,7 @@
 namespace teskarlt::dxf {
 namespace {
 
-// A drawing with the three tables, all with the records that every drawing has.
+// A drawing with the three tables, all with the entries that every drawing has.
 std::string WithTables(std::string_view version, std::string_view moreLayers = "",
                        std::string_view header = "") {
   return Tags("  0|SECTION|  2|HEADER|  9|$ACADVER|  1|" + std::string(version) +

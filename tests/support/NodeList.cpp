@@ -1,11 +1,11 @@
-// GroupList.cpp - copies, compares and prints group lists.
-#include "tests/support/GroupList.h"
+// NodeList.cpp - copies, compares and prints group lists.
+#include "tests/support/NodeList.h"
 
 #include <algorithm>
 #include <cmath>
 #include <sstream>
 
-namespace group_list {
+namespace node_list {
 
 namespace {
 
@@ -22,7 +22,7 @@ bool IsShort(int code) {
   return code == 62 || code == 70 || code == 1070;
 }
 
-Group CopyNode(const brevanta::ValueNode& node) {
+Node CopyNode(const brevanta::ValueNode& node) {
   const int code = node.typeCode;
   if (code == -3) return Marker(code);
   if (IsText(code)) return Text(code, node.value.text);
@@ -49,41 +49,41 @@ bool SameValue(const Value& a, const Value& b, double tolerance) {
   return a == b;
 }
 
-const Group* Find(const GroupList& list, int code) {
+const Node* Find(const NodeList& list, int code) {
   const auto found =
-      std::find_if(list.begin(), list.end(), [code](const Group& group) { return group.code == code; });
+      std::find_if(list.begin(), list.end(), [code](const Node& node) { return node.code == code; });
   if (found != list.end()) return &*found;
   ADD_FAILURE() << "no group " << code;
   return nullptr;
 }
 
 template <typename Kind>
-Kind ValueOf(const GroupList& list, int code) {
-  const Group* group = Find(list, code);
-  if (group == nullptr || !std::holds_alternative<Kind>(group->value)) return {};
-  return std::get<Kind>(group->value);
+Kind ValueOf(const NodeList& list, int code) {
+  const Node* node = Find(list, code);
+  if (node == nullptr || !std::holds_alternative<Kind>(node->value)) return {};
+  return std::get<Kind>(node->value);
 }
 
 }  // namespace
 
-GroupList Copy(const brevanta::ValueNode* list) {
-  GroupList groups;
+NodeList Copy(const brevanta::ValueNode* list) {
+  NodeList groups;
   for (; list != nullptr; list = list->next)
     groups.push_back(CopyNode(*list));
   return groups;
 }
 
-std::string ToString(const Group& group) {
+std::string ToString(const Node& node) {
   std::ostringstream out;
   out.precision(17);
-  out << group.code << ' ';
-  if (const auto* text = std::get_if<std::string>(&group.value)) {
+  out << node.code << ' ';
+  if (const auto* text = std::get_if<std::string>(&node.value)) {
     out << '"' << *text << '"';
-  } else if (const auto* point = std::get_if<Point>(&group.value)) {
+  } else if (const auto* point = std::get_if<Point>(&node.value)) {
     out << '(' << (*point)[0] << ", " << (*point)[1] << ", " << (*point)[2] << ')';
-  } else if (const auto* real = std::get_if<double>(&group.value)) {
+  } else if (const auto* real = std::get_if<double>(&node.value)) {
     out << "real " << *real;
-  } else if (const auto* integer = std::get_if<std::int64_t>(&group.value)) {
+  } else if (const auto* integer = std::get_if<std::int64_t>(&node.value)) {
     out << "integer " << *integer;
   } else {
     out << "marker";
@@ -91,7 +91,7 @@ std::string ToString(const Group& group) {
   return out.str();
 }
 
-std::string FirstDifference(const GroupList& expected, const GroupList& actual, double tolerance) {
+std::string FirstDifference(const NodeList& expected, const NodeList& actual, double tolerance) {
   const std::size_t common = std::min(expected.size(), actual.size());
   for (std::size_t i = 0; i < common; ++i) {
     if (expected[i].code == actual[i].code && SameValue(expected[i].value, actual[i].value, tolerance))
@@ -106,28 +106,28 @@ std::string FirstDifference(const GroupList& expected, const GroupList& actual, 
   return {};
 }
 
-testing::AssertionResult Same(const GroupList& expected, const GroupList& actual, double tolerance) {
+testing::AssertionResult Same(const NodeList& expected, const NodeList& actual, double tolerance) {
   const std::string difference = FirstDifference(expected, actual, tolerance);
   return difference.empty() ? testing::AssertionSuccess() : testing::AssertionFailure() << difference;
 }
 
-Point PointOf(const GroupList& list, int code) {
+Point PointOf(const NodeList& list, int code) {
   return ValueOf<Point>(list, code);
 }
 
-std::string TextOf(const GroupList& list, int code) {
+std::string TextOf(const NodeList& list, int code) {
   return ValueOf<std::string>(list, code);
 }
 
-std::int64_t IntegerOf(const GroupList& list, int code) {
+std::int64_t IntegerOf(const NodeList& list, int code) {
   return ValueOf<std::int64_t>(list, code);
 }
 
-bool Has(const GroupList& list, int code) {
-  return std::any_of(list.begin(), list.end(), [code](const Group& group) { return group.code == code; });
+bool Has(const NodeList& list, int code) {
+  return std::any_of(list.begin(), list.end(), [code](const Node& node) { return node.code == code; });
 }
 
-std::vector<Point> PointsOf(const GroupList& list) {
+std::vector<Point> PointsOf(const NodeList& list) {
   const int last = TextOf(list, 0) == "LINE" ? 11 : 13;
   std::vector<Point> points;
   for (int code = 10; code <= last; ++code)
@@ -135,4 +135,4 @@ std::vector<Point> PointsOf(const GroupList& list) {
   return points;
 }
 
-}  // namespace group_list
+}  // namespace node_list
