@@ -90,7 +90,7 @@ TEST(NewDrawing, CountsOfTablesAreThoseOfTheirRecords) {
     for (const Table& table : index.tables) {
       // ByBlock and ByLayer do not count.
       const std::size_t implied = table.name == "LTYPE" && version != VERSION_R12 ? 2 : 0;
-      EXPECT_EQ(ParseInteger(table.count.value), table.records.size() - implied) << table.name;
+      EXPECT_EQ(ParseInteger(table.count.value), table.entries.size() - implied) << table.name;
     }
   }
 }
