@@ -8,7 +8,7 @@
 #include "arx/BvMakeWindow/BvMakeWindow.h"
 #include "arx/exports/DefaultParams.h"
 #include "dialog/Dialog.h"
-#include "geometry/Trigonometry.h"
+#include "geometry/Matrix4.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/NewDrawing.h"
 #include "teskarlt/modules/ModuleSession.h"

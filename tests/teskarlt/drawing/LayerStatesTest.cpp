@@ -17,7 +17,8 @@ dxf::Document WithLayers(const std::string& entries) {
       "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n9\n$DWGCODEPAGE\n3\nANSI_1250\n0\nENDSEC\n"
       "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n70\n1\n" +
           entries +
-          "0\nENDTAB\n0\nTABLE\n2\nSTYLE\n70\n1\n0\nSTYLE\n2\nWALL\n70\n5\n0\nENDTAB\n0\nENDSEC\n0\nEOF\n");
+          "0\nENDTAB\n0\nTABLE\n2\nSTYLE\n70\n1\n0\nSTYLE\n2\nWALL\n70\n5\n0\nENDTAB\n0\nENDSEC\n"
+          "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
 }
 
 std::string Layer(const std::string& name, int flags, int colour) {
@@ -46,7 +47,9 @@ TEST(LayerStates, FlagsSayFrozenAndLocked) {
 }
 
 TEST(LayerStates, NamesAreFoundWithoutRegardToCase) {
-  const LayerStates states(WithLayers(Layer("Roof", 4, 7) + Layer("ST\xD8ECHA", 4, 7)));  // in code page 1250
+  const LayerStates states(WithLayers(Layer("Roof", 4, 7) + Layer("ST\xD8"
+                                                                  "ECHA",
+                                                                  4, 7)));  // in code page 1250
   EXPECT_TRUE(states.Of("rOOF").isLocked);
   EXPECT_TRUE(states.Of("STŘECHA").isLocked);
 }

@@ -252,7 +252,7 @@ TEST(ReadWindow, UndersideOfAScaledRoofIsThatOfAThickerLayer) {
 TEST(ReadWindow, PitchIsTheOneThatIsDrawn) {
   for (const Description description : {Description::Left, Description::MovedAlong}) {
     const WindowReading reading = ReadBack(Changed(Insert().entities, Scale(1, 1, 1.3), description));
-    EXPECT_NEAR(reading.params.pitch, 44.27479218004705, SAME);  // atan(0.975)
+    EXPECT_NEAR(reading.params.pitch, 44.27477570094075, SAME);  // atan(0.975)
     EXPECT_THAT(reading.notes,
                 Contains("its pitch is 44.27 degrees in the drawing and 36.87 by its description"));
     EXPECT_THAT(reading.notes, Contains("its body is not square to its roof"));
