@@ -10,6 +10,7 @@ import subprocess
 import sys
 import time
 
+import line_coverage
 import summary
 import wine
 
@@ -47,6 +48,7 @@ def build(preset):
         log.unlink(missing_ok=True)
         build.done[preset] = (run_logged(["cmake", "--preset", preset, "-DBREVANTA_TESTS=ON"], log) and
                               run_logged(["cmake", "--build", "--preset", preset], log))
+        line_coverage.forget(BUILD / preset)
     return build.done[preset]
 
 
@@ -86,6 +88,23 @@ def unit_tests(preset, results):
             summary.write_failure(results, name, "the program failed outside of its tests")
 
 
+def counted_unit_tests(results):
+    """The unit tests with sanitizers, and which lines they reach; the end-to-end tests then reach more."""
+    unit_tests("asan", results)
+    counted_unit_tests.files = line_coverage.count(ROOT, BUILD / "asan")
+
+
+counted_unit_tests.files = None
+
+
+def coverage(results):
+    if counted_unit_tests.files is None:
+        counted_unit_tests(results)
+    if counted_unit_tests.files is None:
+        return summary.write_failure(results, "coverage", "the lines cannot be counted")
+    line_coverage.report(counted_unit_tests.files, results)
+
+
 def pytest(folder, results, options=(), env=None):
     xml = results / "pytest.xml"
     subprocess.run([*PYTEST, str(ROOT / "tests" / folder), f"--junitxml={xml}", *options], cwd=ROOT,
@@ -121,7 +140,8 @@ SUITES = {
     "windows": lambda results: unit_tests("windows", results),
     "e2e-windows": lambda results: end_to_end("windows", results),
     "rules": rules,
-    "asan": lambda results: unit_tests("asan", results),
+    "asan": counted_unit_tests,
+    "coverage": coverage,
     "e2e-asan": lambda results: end_to_end("asan", results),
     "tidy": tidy,
 }

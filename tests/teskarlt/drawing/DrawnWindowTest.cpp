@@ -175,6 +175,18 @@ TEST(FindWindows, CopyInAnotherOrderStaysWithItsModel) {
             "it has 34 faces and 32 lines, and should have 0, 17 or 21 faces and 16 lines");
 }
 
+TEST(FindWindows, CopyWithALineMoreThanItsModelStaysWithIt) {
+  const Entities model = Insert().entities;
+  const dxf::Document drawing = DrawingOf(Joined(Joined(model, model), {model.back()}));
+  EXPECT_EQ(FindWindows(drawing, UNITS_PER_METRE).size(), 1U);
+}
+
+TEST(FindWindows, CopiesThatLackFacesAsTheirModelDoesStayWithIt) {
+  const Entities damaged = Without(Insert().entities, 0, 5);
+  const dxf::Document drawing = DrawingOf(Joined(damaged, damaged));
+  EXPECT_EQ(FindWindows(drawing, UNITS_PER_METRE).size(), 1U);
+}
+
 TEST(FindWindows, PartOfACopyStaysWithItsModel) {
   const Entities model = Insert().entities;
   const dxf::Document drawing = DrawingOf(Joined(model, Without(model, 32)));

@@ -112,6 +112,15 @@ TEST(ReadWindow, TextsComeBackAsBytesOfTheDrawingsCodePage) {
   EXPECT_STREQ(record.text3, "No. 7");
 }
 
+TEST(ReadWindow, TextThatIsLongerThanItsFieldIsCut) {
+  Entities window = Insert({{"text1", "short"}}).entities;
+  for (node_list::NodeList& entity : window) {
+    for (node_list::Node& node : entity)
+      if (node.value == node_list::Value("short")) node = node_list::Text(1000, std::string(250, 'x'));
+  }
+  EXPECT_EQ(ReadBack(window).params.text1, std::string(brevanta::TEXT_FIELD_SIZE - 1, 'x'));
+}
+
 TEST(ReadWindow, FlatWindowIsReadAsItWasInserted) {
   const InsertedWindow window = Insert({{"heightReference", "0"}}, OnSlopeOf(0));
   const WindowReading reading = ReadBack(window.entities);
@@ -207,10 +216,12 @@ TEST(ReadWindow, MirroredWindowHasItsHingesOnTheOtherSide) {
 }
 
 TEST(ReadWindow, MirroredCodeThatBecomesTooLongIsAnObstacle) {
-  const InsertedWindow window = Insert({{"openingCode", "BICIDBICIE"}});
+  const InsertedWindow window = Insert({{"openingCode", "BICIDBICIE"}, {"widthAnchor", "1"}});
   EXPECT_THAT(ReadBack(window.entities).obstacle, IsEmpty());
-  EXPECT_THAT(ReadBack(Changed(window.entities, Mirror())).obstacle,
-              HasSubstr("no opening code is long enough"));
+  const WindowReading reading = ReadBack(Changed(window.entities, Mirror()));
+  EXPECT_THAT(reading.obstacle, HasSubstr("no opening code is long enough"));
+  EXPECT_EQ(reading.params.widthAnchor, brevanta::ANCHOR_START);  // what was mirrored already is taken back
+  EXPECT_THAT(reading.recovered, IsEmpty());
 }
 
 TEST(ReadWindow, WindowMirroredAlongItsSlopeIsTurnedAndMirrored) {

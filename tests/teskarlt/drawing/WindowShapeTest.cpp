@@ -287,6 +287,15 @@ TEST(WindowShape, FaceThatLeavesTheOthersIsNoticedWithoutASymbol) {
     EXPECT_THAT(RefusedShape(PartChanged(window, face, Move(0, 0, 200))), HasSubstr("moved apart")) << face;
 }
 
+TEST(WindowShape, BodyThatWasMirroredWithinItsFrameIsNoticed) {
+  const Entities window = WindowOf();
+  const Motion aboutItsMiddle = Move(-5000, 0, 0).Then(Mirror()).Then(Move(5000, 0, 0));
+  Entities changed = window;
+  for (std::size_t face = 0; face < 17; ++face)
+    changed = PartChanged(changed, face, aboutItsMiddle);
+  EXPECT_THAT(RefusedShape(changed), HasSubstr("moved apart"));
+}
+
 TEST(WindowShape, OpeningThatIsNotClosedIsNoticed) {
   const Entities window = WindowOf(OPENING_ONLY);
   for (std::size_t line = 0; line < 4; ++line)
