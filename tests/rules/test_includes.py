@@ -29,12 +29,16 @@ PARTS = {
     "terminal": (HOST + "terminal/", {"drawing", "dxf tags", "errors", "geometry", "platform"}),
     "commands": (HOST + "commands/", {"terminal", "catalogue", "check", "preview", "modules", "drawing", "dxf",
                                       "dxf read", "dxf tags", "errors", "inc", "geometry", "platform"}),
+    "external": ("external/", set()),
     "errors": (HOST + "Error", set()),
     "main": (HOST + "main", {"commands", "platform"}),
 }
 # Folders that an include may start from, and the libraries that only the host, tests and benchmarks use.
 INCLUDE_ROOTS = ("", LIBRARY, BREVANTA, "programs/", HOST, "Library16/")
 HOST_LIBRARIES = ("zlib.h", "CLI/", "fmt/", "nlohmann/", "gtest/", "gmock/", "benchmark/")
+# Libraries that take long to compile, and the only sources that pay for them.
+SLOW_LIBRARIES = {"CLI/": {"terminal/Options.cpp"},
+                  "nlohmann/": {"terminal/Json.cpp", "commands/InsertJobs.cpp", "preview/Glb.cpp"}}
 SYSTEM_HEADERS = re.compile(r"<\w+\.h>|<sys/")
 INCLUDE = re.compile(r'^\s*#\s*include\s+(["<])([^">]+)[">]', re.M)
 
@@ -83,6 +87,13 @@ def test_modules_use_the_standard_library_alone():
     assert [pair for pair in included if pair[1].startswith(HOST_LIBRARIES)] == []
     assert [pair for pair in included if SYSTEM_HEADERS.match(f"<{pair[1]}>")
             and not pair[0].startswith("platform/")] == []
+
+
+def test_slow_libraries_stay_behind_narrow_interfaces():
+    for library, sources in SLOW_LIBRARIES.items():
+        including = {str(path).removeprefix(HOST) for path in SHIPPED
+                     if any(name.startswith(library) for _, name in includes(path))}
+        assert including == sources
 
 
 def test_system_differences_stay_in_platform():

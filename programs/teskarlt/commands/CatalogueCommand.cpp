@@ -1,23 +1,19 @@
 // CatalogueCommand.cpp - the subcommand "catalogue": shows a window catalogue.
-#include "teskarlt/commands/CatalogueCommand.h"
-
 #include <memory>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/modules/DataFolder.h"
+#include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct CatalogueOptions {
   std::string file;
@@ -65,15 +61,15 @@ void PrintCatalogue(const Catalogue& catalogue, const std::vector<std::size_t>& 
   Json json;
   json["version"] = JSON_VERSION;
   json["file"] = catalogue.path;
-  json["sections"] = Json::array();
+  json["sections"] = Json::List();
   for (const std::size_t section : sections) {
     Json entry;
     entry["maker"] = CatalogueText(MakerOf(catalogue.sections[section]));
     entry["header"] = CatalogueText(catalogue.sections[section]);
-    entry["items"] = Json::array();
+    entry["items"] = Json::List();
     for (const CatalogueItem* item : ItemsOf(catalogue, section))
-      entry["items"].push_back(ItemJson(*item));
-    json["sections"].push_back(entry);
+      entry["items"].Add(ItemJson(*item));
+    json["sections"].Add(entry);
   }
   PrintJson(json);
 }
@@ -105,19 +101,17 @@ void RunCatalogue(const CatalogueOptions& options) {
 
 }  // namespace
 
-void AddCatalogueCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("catalogue", "Show a window catalogue");
+void AddCatalogueCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("catalogue", "Show a window catalogue");
   const auto options = std::make_shared<CatalogueOptions>();
-  command
-      ->add_option("FILE", options->file,
-                   "the catalogue, or its folder; without it the one in the data folder")
-      ->type_name("");
-  command->add_option("--section", options->section, "show this maker's windows only")->type_name("MAKER");
-  command->add_flag("--json", options->asJson, JSON_HELP);
-  command->footer(
+  command.Argument("FILE", options->file,
+                   "the catalogue, or its folder; without it the one in the data folder");
+  command.Value("--section", options->section, "show this maker's windows only").Named("MAKER");
+  command.Flag("--json", options->asJson, JSON_HELP);
+  command.Footer(
       "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder.\n"
       "Example: teskarlt catalogue examples/BREVANTA.LIB");
-  command->callback([options] { RunCatalogue(*options); });
+  command.Run([options] { RunCatalogue(*options); });
 }
 
 }  // namespace teskarlt

@@ -1,16 +1,13 @@
 // CheckCommand.cpp - the subcommand "check": tells what is wrong with a drawing.
-#include "teskarlt/commands/CheckCommand.h"
-
 #include <memory>
 #include <string>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include "platform/FileOperations.h"
 #include "teskarlt/check/Check.h"
-#include "teskarlt/commands/CommandLine.h"
+#include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -20,8 +17,6 @@ namespace {
 using check::Finding;
 using check::Severity;
 using check::Verdict;
-using Json = nlohmann::ordered_json;
-
 struct CheckOptions {
   std::string file;
   bool asJson = false;
@@ -52,10 +47,10 @@ void PrintVerdictJson(const Verdict& verdict, const std::string& file) {
   json["file"] = file;
   json["errors"] = verdict.errors;
   json["warnings"] = verdict.warnings;
-  json["findings"] = Json::array();
+  json["findings"] = Json::List();
   std::size_t number = 0;
   for (const Finding& finding : verdict.findings)
-    json["findings"].push_back(ToJson(finding, ++number, PlaceName(verdict)));
+    json["findings"].Add(ToJson(finding, ++number, PlaceName(verdict)));
   PrintJson(json);
 }
 
@@ -83,7 +78,7 @@ void PrintVerdict(const Verdict& verdict, const std::string& file) {
 }
 
 // The file layer knows no error of the host's; its own says all that is to say.
-void RunCheck(const CheckOptions& options, int& status) {
+int RunCheck(const CheckOptions& options) {
   const Verdict verdict =
       check::CheckDrawing(dxf::SourceText(options.file, platform::ReadWholeFile(options.file)));
   if (options.asJson) {
@@ -91,17 +86,17 @@ void RunCheck(const CheckOptions& options, int& status) {
   } else {
     PrintVerdict(verdict, options.file);
   }
-  if (verdict.errors > 0) status = EXIT_REFUSED;
+  return verdict.errors > 0 ? EXIT_REFUSED : EXIT_DONE;
 }
 
 }  // namespace
 
-void AddCheckCommand(CLI::App& app, int& status) {
-  CLI::App* command = app.add_subcommand("check", "Tell what strict programs find wrong with a drawing");
+void AddCheckCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("check", "Tell what strict programs find wrong with a drawing");
   const auto options = std::make_shared<CheckOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
-  command->add_flag("--json", options->asJson, JSON_HELP);
-  command->footer(
+  command.Argument("FILE", options->file, "the drawing").Required();
+  command.Flag("--json", options->asJson, JSON_HELP);
+  command.Footer(
       "Each finding comes with its line in the file (in a binary drawing the offset of its byte), a name of\n"
       "its kind and the handle of its object. An error is what makes a strict program refuse or repair the\n"
       "drawing, or a roof window in it impossible to change; a warning is doubtful, though programs are "
@@ -112,7 +107,7 @@ void AddCheckCommand(CLI::App& app, int& status) {
       "Examples:\n"
       "  teskarlt check house.dxf\n"
       "  teskarlt check house.dxf --json");
-  command->callback([options, &status] { RunCheck(*options, status); });
+  command.RunWithStatus([options] { return RunCheck(*options); });
 }
 
 }  // namespace teskarlt

@@ -1,7 +1,6 @@
 // ClosedLayers.cpp - windows on layers that cannot be changed or seen.
 #include "teskarlt/commands/ClosedLayers.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
@@ -9,8 +8,8 @@
 
 namespace teskarlt {
 
-void AddLockedOption(CLI::App& command, bool& isLockedToo) {
-  command.add_flag("--locked", isLockedToo, "change the window though its layer is locked or frozen");
+void AddLockedOption(Subcommand& command, bool& isLockedToo) {
+  command.Flag("--locked", isLockedToo, "change the window though its layer is locked or frozen");
 }
 
 void RefuseClosedLayers(const dxf::Document& drawing, const DrawnWindow& window, bool isLockedToo) {

@@ -6,15 +6,12 @@
 
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/dxf/Document.h"
-
-namespace CLI {
-class App;
-}
+#include "teskarlt/terminal/Options.h"
 
 namespace teskarlt {
 
 // Adds --locked to a command that changes a window. The flag must outlive the parsing.
-void AddLockedOption(CLI::App& command, bool& isLockedToo);
+void AddLockedOption(Subcommand& command, bool& isLockedToo);
 
 // CAD programs let nobody change what lies on a locked or frozen layer; neither do we, unless `isLockedToo`.
 // Throws Error, naming the layer.

@@ -6,21 +6,9 @@
 #include <new>
 #include <system_error>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include "teskarlt/commands/CatalogueCommand.h"
-#include "teskarlt/commands/CheckCommand.h"
-#include "teskarlt/commands/EditCommand.h"
-#include "teskarlt/commands/EraseCommand.h"
-#include "teskarlt/commands/InsertCommand.h"
-#include "teskarlt/commands/ListCommand.h"
-#include "teskarlt/commands/MergeCommand.h"
-#include "teskarlt/commands/NewCommand.h"
-#include "teskarlt/commands/PreviewCommand.h"
-#include "teskarlt/commands/RefitCommand.h"
-#include "teskarlt/commands/RenumberCommand.h"
-#include "teskarlt/commands/RoofsCommand.h"
+#include "teskarlt/commands/Subcommands.h"
 
 namespace teskarlt {
 
@@ -42,27 +30,19 @@ constexpr const char* EXAMPLES =
     "\n"
     "Exit status: 0 done, 1 refused or failed with nothing changed, 2 wrong usage.";
 
-// A command that has done its work and still has to say no sets `status`.
-void AddCommands(CLI::App& app, int& status) {
-  app.require_subcommand(1);
-  app.set_version_flag("-V,--version", VERSION);
-  app.footer(EXAMPLES);
-  app.get_formatter()->column_width(34);
-  app.failure_message([](const CLI::App*, const CLI::Error& error) {
-    return fmt::format("teskarlt: {}; --help tells more\n", error.what());
-  });
-  AddRoofsCommand(app);
-  AddInsertCommand(app);
-  AddEditCommand(app);
-  AddEraseCommand(app);
-  AddListCommand(app);
-  AddRefitCommand(app);
-  AddRenumberCommand(app);
-  AddCheckCommand(app, status);
-  AddPreviewCommand(app);
-  AddNewCommand(app);
-  AddCatalogueCommand(app);
-  AddMergeCommand(app);
+void AddCommands(OptionParser& parser) {
+  AddRoofsCommand(parser);
+  AddInsertCommand(parser);
+  AddEditCommand(parser);
+  AddEraseCommand(parser);
+  AddListCommand(parser);
+  AddRefitCommand(parser);
+  AddRenumberCommand(parser);
+  AddCheckCommand(parser);
+  AddPreviewCommand(parser);
+  AddNewCommand(parser);
+  AddCatalogueCommand(parser);
+  AddMergeCommand(parser);
 }
 
 // What was printed has to arrive: a full disk shows only when the last of it is written.
@@ -74,15 +54,12 @@ void FinishOutput() {
 }  // namespace
 
 int RunCommandLine(const std::vector<std::string>& arguments) {
-  CLI::App app(ABOUT, "teskarlt");
-  int status = EXIT_DONE;
-  AddCommands(app, status);
+  OptionParser parser("teskarlt", ABOUT, VERSION, EXAMPLES);
+  AddCommands(parser);
   try {
-    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    const int status = parser.Run(arguments);
     FinishOutput();
     return status;
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? EXIT_DONE : EXIT_USAGE;
   } catch (const std::bad_alloc&) {
     fmt::print(stderr, "teskarlt: not enough memory for files of this size\n");
     return EXIT_REFUSED;

@@ -1,14 +1,12 @@
 // EditCommand.cpp - the subcommand "edit": changes a roof window.
-#include "teskarlt/commands/EditCommand.h"
-
 #include <algorithm>
 #include <cmath>
 #include <memory>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "teskarlt/commands/ClosedLayers.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowChoice.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/RoofSearch.h"
@@ -97,22 +95,20 @@ void RunEdit(const EditOptions& options) {
 
 }  // namespace
 
-void AddEditCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("edit", "Change a roof window");
+void AddEditCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("edit", "Change a roof window");
   const auto options = std::make_shared<EditOptions>();
-  command->add_option("FILE", options->window.file, "the drawing")->required()->type_name("");
-  command->add_option("NUMBER", options->number, "the window's number, as teskarlt list shows it")
-      ->required()
-      ->type_name("");
-  AddWindowOptions(*command, options->window);
-  AddLockedOption(*command, options->isLockedToo);
-  command->footer(
+  command.Argument("FILE", options->window.file, "the drawing").Required();
+  command.Argument("NUMBER", options->number, "the window's number, as teskarlt list shows it").Required();
+  AddWindowOptions(command, options->window);
+  AddLockedOption(command, options->isLockedToo);
+  command.Footer(
       "What is not given stays as it is; the window keeps its number and, without --at, its place.\n"
       "teskarlt insert --fields lists the fields for --set.\n"
       "Examples:\n"
       "  teskarlt edit house-with-window.dxf 1 --set width=1.14\n"
       "  teskarlt edit house-with-window.dxf 1 --at 4800,1200");
-  command->callback([options] { RunEdit(*options); });
+  command.Run([options] { RunEdit(*options); });
 }
 
 }  // namespace teskarlt

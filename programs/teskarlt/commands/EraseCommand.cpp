@@ -1,17 +1,15 @@
 // EraseCommand.cpp - the subcommand "erase": takes a roof window out of a drawing.
-#include "teskarlt/commands/EraseCommand.h"
-
 #include <memory>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/ClosedLayers.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowChoice.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/modules/WindowModule.h"
+#include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -47,11 +45,11 @@ void RunErase(const EraseOptions& options) {
   const std::string target = options.output.empty() ? options.file : options.output;
   if (!options.dryRun) drawing.Save(target);
   if (options.asJson) {
-    nlohmann::ordered_json json;
+    Json json;
     json["version"] = JSON_VERSION;
     json["number"] = options.number;
     json["erased"] = outcome.erased;
-    json["file"] = options.dryRun ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(target);
+    json["file"] = options.dryRun ? Json(nullptr) : Json(target);
     json["dryRun"] = options.dryRun;
     PrintJson(json);
   } else {
@@ -62,21 +60,19 @@ void RunErase(const EraseOptions& options) {
 
 }  // namespace
 
-void AddEraseCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("erase", "Take a roof window out of a drawing");
+void AddEraseCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("erase", "Take a roof window out of a drawing");
   const auto options = std::make_shared<EraseOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
-  command->add_option("NUMBER", options->number, "the window's number, as teskarlt list shows it")
-      ->required()
-      ->type_name("");
-  command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
-      ->type_name("FILE")
-      ->check(NotEmpty);
-  AddLockedOption(*command, options->isLockedToo);
-  command->add_flag("--dry-run", options->dryRun, "say what would be done and write nothing");
-  command->add_flag("--json", options->asJson, JSON_HELP);
-  command->footer("Example: teskarlt erase house-with-window.dxf 1");
-  command->callback([options] { RunErase(*options); });
+  command.Argument("FILE", options->file, "the drawing").Required();
+  command.Argument("NUMBER", options->number, "the window's number, as teskarlt list shows it").Required();
+  command.Value("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
+      .Named("FILE")
+      .NotEmpty();
+  AddLockedOption(command, options->isLockedToo);
+  command.Flag("--dry-run", options->dryRun, "say what would be done and write nothing");
+  command.Flag("--json", options->asJson, JSON_HELP);
+  command.Footer("Example: teskarlt erase house-with-window.dxf 1");
+  command.Run([options] { RunErase(*options); });
 }
 
 }  // namespace teskarlt

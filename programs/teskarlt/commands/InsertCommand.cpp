@@ -1,13 +1,11 @@
 // InsertCommand.cpp - the subcommand "insert": inserts a roof window.
-#include "teskarlt/commands/InsertCommand.h"
-
 #include <memory>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "inc/RecordFields.h"
 #include "teskarlt/commands/InsertJobs.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowInserter.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/terminal/Report.h"
@@ -33,30 +31,24 @@ void PrintFields() {
 
 }  // namespace
 
-void AddInsertCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("insert", "Insert a roof window");
+void AddInsertCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("insert", "Insert a roof window");
   const auto options = std::make_shared<WindowOptions>();
   const auto jobs = std::make_shared<JobsOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
-  AddWindowOptions(*command, *options);
-  CLI::Option* jobsFile =
+  command.Argument("FILE", options->file, "the drawing").Required();
+  const Option at = AddWindowOptions(command, *options);
+  const Option jobsFile =
       command
-          ->add_option("--jobs", jobs->file,
-                       "many windows: a JSON object a line with \"at\", \"roof-face\", \"roof\", \"window\", "
-                       "\"catalogue\", \"set\"; - reads standard input")
-          ->type_name("FILE")
-          ->check(NotEmpty)
-          ->excludes(command->get_option("--at"));
-  command->add_flag("--keep-going", jobs->keepGoing, "write the other windows when some jobs are refused")
-      ->needs(jobsFile);
-  command->add_flag_callback(
-      "--fields",
-      [] {
-        PrintFields();
-        throw CLI::Success();
-      },
-      "list the fields for --set");
-  command->footer(
+          .Value("--jobs", jobs->file,
+                 "many windows: a JSON object a line with \"at\", \"roof-face\", \"roof\", \"window\", "
+                 "\"catalogue\", \"set\"; - reads standard input")
+          .Named("FILE")
+          .NotEmpty()
+          .Excludes(at);
+  command.Flag("--keep-going", jobs->keepGoing, "write the other windows when some jobs are refused")
+      .Needs(jobsFile);
+  command.FlagInstead("--fields", PrintFields, "list the fields for --set");
+  command.Footer(
       "The window's anchor comes to lie exactly at the point. With --set lowerEdgeHeight=H or\n"
       "upperEdgeHeight=H it is moved up or down the slope until that edge lies at H metres.\n"
       "Examples:\n"
@@ -67,7 +59,7 @@ void AddInsertCommand(CLI::App& app) {
       "  teskarlt insert house.dxf --jobs windows.jsonl --set frameWidth=0.1\n"
       "A line of windows.jsonl; options beside --jobs hold where a line does not say otherwise:\n"
       "  {\"at\": [3000, 2000], \"set\": {\"width\": 0.78, \"openingCode\": \"D\"}}");
-  command->callback([options, jobs] {
+  command.Run([options, jobs] {
     if (jobs->file.empty()) {
       RunInsert(*options);
     } else {

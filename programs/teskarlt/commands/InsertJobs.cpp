@@ -22,7 +22,6 @@ namespace teskarlt {
 namespace {
 
 using nlohmann::json;
-using nlohmann::ordered_json;
 
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::string_view BLANKS = " \t";
@@ -144,8 +143,9 @@ struct Job {
 };
 
 struct JobsReport {
-  ordered_json windows = ordered_json::array();  // filled for --json only
-  ordered_json refused = ordered_json::array();
+  Json windows = Json::List();  // filled for --json only
+  Json refused = Json::List();
+  std::size_t refusedCount = 0;
   std::size_t inserted = 0;
   std::size_t faces = 0;
   std::size_t lines = 0;
@@ -158,9 +158,9 @@ void Count(const Job& job, const InsertedWindow& window, const WindowOptions& de
   report.lines += window.outcome.lines;
   report.layers.insert(window.outcome.layers.begin(), window.outcome.layers.end());
   if (!defaults.asJson) return;
-  ordered_json entry{{"line", job.line}};
-  entry.update(WindowJson(window.outcome, window.face, window.misfits));
-  report.windows.push_back(std::move(entry));
+  Json entry = Json::Object({{"line", job.line}});
+  entry.AddMembers(WindowJson(window.outcome, window.face, window.misfits));
+  report.windows.Add(std::move(entry));
 }
 
 JobsReport RunAll(const std::vector<Job>& jobs, const WindowOptions& defaults, const std::string& file,
@@ -177,7 +177,8 @@ JobsReport RunAll(const std::vector<Job>& jobs, const WindowOptions& defaults, c
     } catch (const Error& error) {
       progress.Clear();
       fmt::print(stderr, "teskarlt: {}:{}: {}\n", file, job.line, error.what());
-      report.refused.push_back({{"line", job.line}, {"message", error.what()}});
+      ++report.refusedCount;
+      report.refused.Add(Json::Object({{"line", job.line}, {"message", error.what()}}));
     }
     progress.Step();
   }
@@ -187,10 +188,10 @@ JobsReport RunAll(const std::vector<Job>& jobs, const WindowOptions& defaults, c
 void Print(const WindowOptions& options, JobsReport& report, bool isSaved) {
   const std::string& target = TargetOf(options);
   if (options.asJson) {
-    ordered_json answer{{"version", JSON_VERSION}};
+    Json answer = Json::Object({{"version", JSON_VERSION}});
     answer["windows"] = std::move(report.windows);
     answer["refused"] = report.refused;
-    answer["file"] = isSaved ? ordered_json(target) : ordered_json(nullptr);
+    answer["file"] = isSaved ? Json(target) : Json(nullptr);
     answer["dryRun"] = options.dryRun;
     PrintJson(answer);
     return;
@@ -233,7 +234,7 @@ void RunInsertJobs(const WindowOptions& defaults, const JobsOptions& options) {
 
   WindowInserter inserter(defaults);
   JobsReport report = RunAll(jobs, defaults, file, inserter);
-  const std::size_t refused = report.refused.size();
+  const std::size_t refused = report.refusedCount;
   const bool isWanted = refused == 0 || (options.keepGoing && report.inserted > 0);
   const bool isSaved = isWanted && !defaults.dryRun;
   WarnOfClosedLayers(inserter.Drawing(), report.layers);

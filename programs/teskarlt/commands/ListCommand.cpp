@@ -1,27 +1,23 @@
 // ListCommand.cpp - the subcommand "list": lists the roof windows of a drawing.
-#include "teskarlt/commands/ListCommand.h"
-
 #include <cmath>
 #include <memory>
 #include <optional>
 #include <set>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include "geometry/Matrix4.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct ListOptions {
   std::string file;
@@ -30,11 +26,11 @@ struct ListOptions {
 };
 
 Json PointJson(const brevanta::RecordPoint& p) {
-  return {p.x, p.y, p.z};
+  return Json::List({p.x, p.y, p.z});
 }
 
 Json PointsJson(const brevanta::RecordPoint (&points)[3]) {
-  return {PointJson(points[0]), PointJson(points[1]), PointJson(points[2])};
+  return Json::List({PointJson(points[0]), PointJson(points[1]), PointJson(points[2])});
 }
 
 // Every field, under its name in the record.
@@ -124,9 +120,9 @@ void PrintRows(const std::vector<Row>& rows, const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
-  json["windows"] = Json::array();
+  json["windows"] = Json::List();
   for (const Row& row : rows)
-    json["windows"].push_back(ToJson(row));
+    json["windows"].Add(ToJson(row));
   PrintJson(json);
 }
 
@@ -182,20 +178,20 @@ void RunList(const ListOptions& options) {
 
 }  // namespace
 
-void AddListCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("list", "List the roof windows of a drawing");
+void AddListCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("list", "List the roof windows of a drawing");
   const auto options = std::make_shared<ListOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
-  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
-  command->add_flag("--json", options->asJson, JSON_HELP);
-  command->footer(
+  command.Argument("FILE", options->file, "the drawing").Required();
+  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  command.Flag("--json", options->asJson, JSON_HELP);
+  command.Footer(
       "Sizes are in metres, the place in drawing units; the direction in which the roof falls is in degrees\n"
       "counter-clockwise from the drawing's x axis. Windows that another program moved, turned, mirrored or\n"
       "scaled are listed as they stand in the drawing, with a note; those that cannot be changed any more "
       "as\n"
       "their descriptions say.\n"
       "Example: teskarlt list house-with-window.dxf --json");
-  command->callback([options] { RunList(*options); });
+  command.Run([options] { RunList(*options); });
 }
 
 }  // namespace teskarlt

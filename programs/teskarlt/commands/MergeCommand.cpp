@@ -1,15 +1,13 @@
 // MergeCommand.cpp - the subcommand "merge": merges one window catalogue into another.
-#include "teskarlt/commands/MergeCommand.h"
-
 #include <memory>
 #include <optional>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include "teskarlt/catalogue/CatalogueMerge.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/modules/WindowModule.h"
+#include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -29,7 +27,7 @@ std::optional<std::string> Given(const std::string& path) {
 }
 
 void PrintReport(const MergeReport& report) {
-  nlohmann::ordered_json json;
+  Json json;
   json["version"] = JSON_VERSION;
   json["target"] = report.target;
   json["newSections"] = report.newSections;
@@ -47,12 +45,12 @@ void PrintRecovery(const Recovery& recovery) {
 
 void RunMerge(const MergeOptions& options) {
   if (options.recover) {
-    if (!options.target.empty()) throw CLI::ValidationError("--recover takes one catalogue");
+    if (!options.target.empty()) throw UsageError("--recover takes one catalogue");
     PrintRecovery(RecoverCatalogue(Given(options.source)));
     return;
   }
-  if (options.source.empty()) throw CLI::RequiredError("SOURCE");
-  if (options.hasTarget && options.target.empty()) throw CLI::ValidationError("the name of TARGET is empty");
+  if (options.source.empty()) throw UsageError("SOURCE is required");
+  if (options.hasTarget && options.target.empty()) throw UsageError("the name of TARGET is empty");
   const WindowModule module;
   const MergeReport report = MergeCatalogues(module, options.source, Given(options.target));
   for (const std::string& warning : report.warnings)
@@ -67,28 +65,25 @@ void RunMerge(const MergeOptions& options) {
 
 }  // namespace
 
-void AddMergeCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("merge", "Merge a window catalogue into another");
+void AddMergeCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("merge", "Merge a window catalogue into another");
   const auto options = std::make_shared<MergeOptions>();
-  command->add_option("SOURCE", options->source, "the catalogue whose windows are added, or its folder")
-      ->type_name("");
-  CLI::Option* target = command->add_option(
-      "TARGET", options->target,
-      "the catalogue that takes them, or its folder; without it the one in the data folder");
-  target->type_name("");
-  command->add_flag(
-      "--recover", options->recover,
-      "bring back what an interrupted merge left of the catalogue SOURCE, or of the data folder's");
-  command->add_flag("--json", options->asJson, JSON_HELP);
-  command->footer(
+  command.Argument("SOURCE", options->source, "the catalogue whose windows are added, or its folder");
+  const Option target =
+      command.Argument("TARGET", options->target,
+                       "the catalogue that takes them, or its folder; without it the one in the data folder");
+  command.Flag("--recover", options->recover,
+               "bring back what an interrupted merge left of the catalogue SOURCE, or of the data folder's");
+  command.Flag("--json", options->asJson, JSON_HELP);
+  command.Footer(
       "A window that the target has already stays as the target has it.\n"
       "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder.\n"
       "Examples:\n"
       "  teskarlt merge update.LIB\n"
       "  teskarlt merge update.LIB catalogues/BREVANTA.LIB\n"
       "  teskarlt merge --recover catalogues/BREVANTA.LIB");
-  command->callback([options, target] {
-    options->hasTarget = target->count() > 0;
+  command.Run([options, target] {
+    options->hasTarget = target.IsGiven();
     RunMerge(*options);
   });
 }

@@ -1,14 +1,12 @@
 // NewCommand.cpp - the subcommand "new": makes an empty drawing.
-#include "teskarlt/commands/NewCommand.h"
-
 #include <map>
 #include <memory>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/NewDrawing.h"
 
@@ -18,6 +16,13 @@ namespace {
 
 const std::map<std::string, int> VERSIONS = {
     {"R12", dxf::VERSION_R12}, {"R2000", dxf::VERSION_R2000}, {"R2018", dxf::VERSION_R2018}};
+
+std::vector<std::string> VersionNames() {
+  std::vector<std::string> names;
+  for (const auto& [name, number] : VERSIONS)
+    names.push_back(name);
+  return names;
+}
 
 struct NewOptions {
   std::string file;
@@ -42,21 +47,20 @@ void RunNew(const NewOptions& options) {
 
 }  // namespace
 
-void AddNewCommand(CLI::App& app) {
-  CLI::App* command =
-      app.add_subcommand("new", "Make an empty drawing with units, layers and linetypes ready");
+void AddNewCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("new", "Make an empty drawing with units, layers and linetypes ready");
   const auto options = std::make_shared<NewOptions>();
-  command->add_option("FILE", options->file, "the drawing to write")->required()->type_name("");
-  command->add_option("--units", options->units, "unit of the drawing, mm, cm, dm or m")
-      ->type_name("UNIT")
-      ->capture_default_str();
-  command->add_option("--dxf-version", options->version, "version of the drawing")
-      ->type_name("VERSION")
-      ->transform(CLI::IsMember(VERSIONS, CLI::ignore_case))
-      ->capture_default_str();
-  command->add_flag("--force", options->force, "replace a file that is there");
-  command->footer("Example: teskarlt new house.dxf --units m");
-  command->callback([options] { RunNew(*options); });
+  command.Argument("FILE", options->file, "the drawing to write").Required();
+  command.Value("--units", options->units, "unit of the drawing, mm, cm, dm or m")
+      .Named("UNIT")
+      .ShowDefault();
+  command.Value("--dxf-version", options->version, "version of the drawing")
+      .Named("VERSION")
+      .OneOfAnyCase(VersionNames())
+      .ShowDefault();
+  command.Flag("--force", options->force, "replace a file that is there");
+  command.Footer("Example: teskarlt new house.dxf --units m");
+  command.Run([options] { RunNew(*options); });
 }
 
 }  // namespace teskarlt

@@ -1,15 +1,13 @@
 // PreviewCommand.cpp - the subcommand "preview": makes a picture or a model of a drawing.
-#include "teskarlt/commands/PreviewCommand.h"
-
 #include <algorithm>
 #include <memory>
 #include <optional>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/preview/Glb.h"
 #include "teskarlt/preview/Page.h"
@@ -36,7 +34,7 @@ struct PreviewOptions {
   std::string view;
   std::string units;
   std::vector<std::string> layers;
-  std::optional<std::int32_t> window;
+  std::optional<int> window;
   std::optional<int> width;
 };
 
@@ -47,17 +45,16 @@ std::string FormatOf(const PreviewOptions& options) {
   for (const char* format : FORMATS) {
     if (dxf::SameName(ending, format)) return format;
   }
-  throw CLI::ValidationError(
-      "-o",
-      fmt::format("the ending of {} names no format; end it in .svg, .png, .html or .glb, or give --format",
-                  options.output));
+  throw UsageError(fmt::format(
+      "-o: the ending of {} names no format; end it in .svg, .png, .html or .glb, or give --format",
+      options.output));
 }
 
 // What a format has no use for is wrong usage.
 void RefuseUnusable(const PreviewOptions& options, const std::string& format) {
   const bool isFlat = format == "svg" || format == "png";
   const auto refuse = [&](const char* option) {
-    throw CLI::ValidationError(option, fmt::format("has no meaning for a .{} file", format));
+    throw UsageError(fmt::format("{}: has no meaning for a .{} file", option, format));
   };
   if (!isFlat && !options.view.empty()) refuse("--view");
   if (!isFlat && options.width) refuse("--width");
@@ -105,31 +102,26 @@ void RunPreview(const PreviewOptions& options) {
 
 }  // namespace
 
-void AddPreviewCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("preview", "Make a picture, a page or a 3D model of a drawing");
+void AddPreviewCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("preview", "Make a picture, a page or a 3D model of a drawing");
   const auto options = std::make_shared<PreviewOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
-  command->add_option("-o,--output", options->output, "the file to write: .svg, .png, .html or .glb")
-      ->required()
-      ->type_name("FILE");
-  command->add_option("--format", options->format, "svg, png, html or glb, whatever the file's ending is")
-      ->type_name("FORMAT")
-      ->check(CLI::IsMember({FORMATS[0], FORMATS[1], FORMATS[2], FORMATS[3]}).description(""));
-  command
-      ->add_option("--view", options->view,
-                   "plan, iso, south, north, east or west; plan for .svg, iso for .png")
-      ->type_name("VIEW")
-      ->check(CLI::IsMember({"plan", "iso", "south", "north", "east", "west"}).description(""));
-  command->add_option("--window", options->window, "zoom to the window with this number")
-      ->type_name("NUMBER");
-  command->add_option("--layer", options->layers, "show this layer only; several may be given")
-      ->type_name("LAYER")
-      ->take_all();
-  command->add_option("--width", options->width, "width of the picture, from 100 to 10000")
-      ->type_name("PIXELS")
-      ->check(CLI::Range(LEAST_WIDTH, GREATEST_WIDTH).description(""));
-  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
-  command->footer(
+  command.Argument("FILE", options->file, "the drawing").Required();
+  command.Value("-o,--output", options->output, "the file to write: .svg, .png, .html or .glb")
+      .Required()
+      .Named("FILE");
+  command.Value("--format", options->format, "svg, png, html or glb, whatever the file's ending is")
+      .Named("FORMAT")
+      .OneOf({std::begin(FORMATS), std::end(FORMATS)});
+  command.Value("--view", options->view, "plan, iso, south, north, east or west; plan for .svg, iso for .png")
+      .Named("VIEW")
+      .OneOf({"plan", "iso", "south", "north", "east", "west"});
+  command.Value("--window", options->window, "zoom to the window with this number").Named("NUMBER");
+  command.Many("--layer", options->layers, "show this layer only; several may be given").Named("LAYER");
+  command.Value("--width", options->width, "width of the picture, from 100 to 10000")
+      .Named("PIXELS")
+      .Within(LEAST_WIDTH, GREATEST_WIDTH);
+  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  command.Footer(
       "A .svg is a drawing with title, scale bar and a group for each layer; a .png is seen from the "
       "south-east;\n"
       "a .html is a page of its own in which the drawing can be turned; a .glb is a model for other "
@@ -138,7 +130,7 @@ void AddPreviewCommand(CLI::App& app) {
       "  teskarlt preview house.dxf -o plan.svg\n"
       "  teskarlt preview house.dxf -o south.svg --view south\n"
       "  teskarlt preview house.dxf -o window.png --window 3");
-  command->callback([options] { RunPreview(*options); });
+  command.Run([options] { RunPreview(*options); });
 }
 
 }  // namespace teskarlt

@@ -1,19 +1,16 @@
 // RefitCommand.cpp - the subcommand "refit": puts windows back onto roofs that have changed.
-#include "teskarlt/commands/RefitCommand.h"
-
 #include <algorithm>
 #include <cmath>
 #include <memory>
 #include <set>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/ClosedLayers.h"
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowChoice.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/RoofSearch.h"
@@ -21,6 +18,7 @@
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/drawing/WindowShape.h"
 #include "teskarlt/modules/WindowModule.h"
+#include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -29,8 +27,6 @@ namespace {
 
 using brevanta::RecordPoint;
 using brevanta::WindowParams;
-using Json = nlohmann::ordered_json;
-
 constexpr const char* KEEP_PLAN = "plan";
 constexpr const char* KEEP_HEIGHT = "height";
 
@@ -202,9 +198,9 @@ Json ToJson(const Refitted& window) {
   Json json;
   json["number"] = window.after.markerValue;
   json["face"] = window.face;
-  json["pitch"] = {{"from", window.before.pitch}, {"to", window.after.pitch}};
+  json["pitch"] = Json::Object({{"from", window.before.pitch}, {"to", window.after.pitch}});
   for (const auto& [name, params] : {std::pair{"from", &window.before}, std::pair{"to", &window.after}})
-    json["place"][name] = {params->storedPoint.x, params->storedPoint.y, params->storedPoint.z};
+    json["place"][name] = Json::List({params->storedPoint.x, params->storedPoint.y, params->storedPoint.z});
   json["shift"] = Shift(window);
   json["rise"] = Rise(window);
   json["warnings"] = window.misfits;
@@ -212,14 +208,14 @@ Json ToJson(const Refitted& window) {
 }
 
 void PrintJsonReport(const RefitOptions& options, const RefitReport& report, bool isSaved) {
-  Json json{{"version", JSON_VERSION}};
-  json["windows"] = Json::array();
+  Json json = Json::Object({{"version", JSON_VERSION}});
+  json["windows"] = Json::List();
   for (const Refitted& window : report.refitted)
-    json["windows"].push_back(ToJson(window));
+    json["windows"].Add(ToJson(window));
   json["fitting"] = report.fitting;
-  json["problems"] = Json::array();
+  json["problems"] = Json::List();
   for (const Problem& problem : report.problems)
-    json["problems"].push_back({{"number", problem.number}, {"message", problem.message}});
+    json["problems"].Add(Json::Object({{"number", problem.number}, {"message", problem.message}}));
   json["file"] = isSaved ? Json(TargetOf(options.window)) : Json(nullptr);
   json["dryRun"] = options.window.dryRun;
   PrintJson(json);
@@ -268,29 +264,28 @@ void RunRefit(const RefitOptions& options) {
 
 }  // namespace
 
-void AddRefitCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("refit", "Put windows back onto roofs that have changed");
+void AddRefitCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("refit", "Put windows back onto roofs that have changed");
   const auto options = std::make_shared<RefitOptions>();
   WindowOptions& window = options->window;
-  command->add_option("FILE", window.file, "the drawing")->required()->type_name("");
-  command->add_option("NUMBER", options->numbers, "only these windows; without any, all")->type_name("...");
+  command.Argument("FILE", window.file, "the drawing").Required();
+  command.Arguments("NUMBER", options->numbers, "only these windows; without any, all");
   command
-      ->add_option("--keep", options->keep,
-                   "what stays of a window's place: its point in the plan, or the height of its lower edge")
-      ->type_name("plan|height")
-      ->check(CLI::IsMember({KEEP_PLAN, KEEP_HEIGHT}))
-      ->capture_default_str();
-  command->add_flag("--keep-going", options->keepGoing,
-                    "write the others when some windows cannot be refitted");
-  AddLockedOption(*command, options->isLockedToo);
-  command->add_option("-o,--output", window.output, "the drawing to write; without it FILE is replaced")
-      ->type_name("FILE")
-      ->check(NotEmpty);
-  command->add_option("--units", window.units, UNITS_HELP)->type_name("UNIT");
-  command->add_flag("--strict", window.isStrict, "refuse when a window would overlap another");
-  command->add_flag("--dry-run", window.dryRun, "say what would be done and write nothing");
-  command->add_flag("--json", window.asJson, JSON_HELP);
-  command->footer(
+      .Value("--keep", options->keep,
+             "what stays of a window's place: its point in the plan, or the height of its lower edge")
+      .Named("plan|height")
+      .OneOfListed({KEEP_PLAN, KEEP_HEIGHT})
+      .ShowDefault();
+  command.Flag("--keep-going", options->keepGoing, "write the others when some windows cannot be refitted");
+  AddLockedOption(command, options->isLockedToo);
+  command.Value("-o,--output", window.output, "the drawing to write; without it FILE is replaced")
+      .Named("FILE")
+      .NotEmpty();
+  command.Value("--units", window.units, UNITS_HELP).Named("UNIT");
+  command.Flag("--strict", window.isStrict, "refuse when a window would overlap another");
+  command.Flag("--dry-run", window.dryRun, "say what would be done and write nothing");
+  command.Flag("--json", window.asJson, JSON_HELP);
+  command.Footer(
       "A window whose roof face was moved or has another pitch since is inserted again on the face that now\n"
       "lies over or under its place, with its number and all its values; of several faces, on the one "
       "nearest\n"
@@ -298,7 +293,7 @@ void AddRefitCommand(CLI::App& app) {
       "Examples:\n"
       "  teskarlt refit house.dxf --dry-run\n"
       "  teskarlt refit house.dxf 3 4 --keep height");
-  command->callback([options] { RunRefit(*options); });
+  command.Run([options] { RunRefit(*options); });
 }
 
 }  // namespace teskarlt

@@ -1,23 +1,19 @@
 // RenumberCommand.cpp - the subcommand "renumber": gives copies of roof windows numbers of their own.
-#include "teskarlt/commands/RenumberCommand.h"
-
 #include <memory>
 #include <set>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct RenumberOptions {
   std::string file;
@@ -56,13 +52,13 @@ void Store(const NewNumber& change, dxf::Document& drawing) {
 
 void Print(const RenumberOptions& options, const std::vector<NewNumber>& changes, const std::string& target) {
   if (options.asJson) {
-    Json json{{"version", JSON_VERSION}};
-    json["windows"] = Json::array();
+    Json json = Json::Object({{"version", JSON_VERSION}});
+    json["windows"] = Json::List();
     for (const auto& [window, number, place] : changes) {
-      json["windows"].push_back({{"from", window.number},
-                                 {"to", number},
-                                 {"place", {place.x, place.y, place.z}},
-                                 {"entities", window.entities.size()}});
+      json["windows"].Add(Json::Object({{"from", window.number},
+                                        {"to", number},
+                                        {"place", Json::List({place.x, place.y, place.z})},
+                                        {"entities", window.entities.size()}}));
     }
     json["file"] = options.dryRun || changes.empty() ? Json(nullptr) : Json(target);
     json["dryRun"] = options.dryRun;
@@ -97,21 +93,21 @@ void RunRenumber(const RenumberOptions& options) {
 
 }  // namespace
 
-void AddRenumberCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("renumber", "Give copies of roof windows numbers of their own");
+void AddRenumberCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("renumber", "Give copies of roof windows numbers of their own");
   const auto options = std::make_shared<RenumberOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
-  command->add_option("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
-      ->type_name("FILE")
-      ->check(NotEmpty);
-  command->add_flag("--dry-run", options->dryRun, "say what would be done and write nothing");
-  command->add_flag("--json", options->asJson, JSON_HELP);
-  command->footer(
+  command.Argument("FILE", options->file, "the drawing").Required();
+  command.Value("-o,--output", options->output, "the drawing to write; without it FILE is replaced")
+      .Named("FILE")
+      .NotEmpty();
+  command.Flag("--dry-run", options->dryRun, "say what would be done and write nothing");
+  command.Flag("--json", options->asJson, JSON_HELP);
+  command.Footer(
       "A window that was copied in a CAD program bears the number of its model, and edit and erase know\n"
       "windows by their numbers. The first window of a number keeps it, all others get free ones; nothing\n"
       "else of them changes.\n"
       "Example: teskarlt renumber house-with-copies.dxf");
-  command->callback([options] { RunRenumber(*options); });
+  command.Run([options] { RunRenumber(*options); });
 }
 
 }  // namespace teskarlt

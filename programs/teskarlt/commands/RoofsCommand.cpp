@@ -1,15 +1,13 @@
 // RoofsCommand.cpp - the subcommand "roofs": lists the roof faces of a drawing.
-#include "teskarlt/commands/RoofsCommand.h"
-
 #include <algorithm>
 #include <memory>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
+#include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -29,17 +27,17 @@ std::pair<double, double> HeightRange(const RoofFace& face, double unitFactor) {
   return {low->z / unitFactor, high->z / unitFactor};
 }
 
-nlohmann::ordered_json ToJson(const RoofFace& face, double unitFactor) {
-  nlohmann::ordered_json json;
+Json ToJson(const RoofFace& face, double unitFactor) {
+  Json json;
   json["face"] = face.name;
   json["type"] = face.type;
   json["layer"] = face.layer;
   json["pitch"] = Pitch(face);
   const std::optional<double> fall = FallDirection(face);
-  json["fallDirection"] = fall ? nlohmann::ordered_json(*fall) : nlohmann::ordered_json(nullptr);
+  json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
   json["area"] = Area(face) / (unitFactor * unitFactor);
   for (const geometry::Vec3& corner : face.corners)
-    json["corners"].push_back({corner.x, corner.y, corner.z});
+    json["corners"].Add(Json::List({corner.x, corner.y, corner.z}));
   return json;
 }
 
@@ -54,17 +52,17 @@ void TellOfWarped(const std::vector<RoofFace>& warped, const DrawingUnit& unit) 
 }
 
 void PrintRoofs(const RoofFaces& faces, const DrawingUnit& unit) {
-  nlohmann::ordered_json json;
+  Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
   json["unitFactor"] = unit.perMetre;
-  json["roofs"] = nlohmann::ordered_json::array();
+  json["roofs"] = Json::List();
   for (const RoofFace& face : faces.planar)
-    json["roofs"].push_back(ToJson(face, unit.perMetre));
-  json["warped"] = nlohmann::ordered_json::array();
+    json["roofs"].Add(ToJson(face, unit.perMetre));
+  json["warped"] = Json::List();
   for (const RoofFace& face : faces.warped) {
-    json["warped"].push_back(
-        {{"face", face.name}, {"layer", face.layer}, {"offPlane", Warp(face) / unit.perMetre}});
+    json["warped"].Add(
+        Json::Object({{"face", face.name}, {"layer", face.layer}, {"offPlane", Warp(face) / unit.perMetre}}));
   }
   PrintJson(json);
 }
@@ -101,18 +99,18 @@ void RunRoofs(const RoofsOptions& options) {
 
 }  // namespace
 
-void AddRoofsCommand(CLI::App& app) {
-  CLI::App* command = app.add_subcommand("roofs", "List the faces that can take a roof window");
+void AddRoofsCommand(OptionParser& parser) {
+  Subcommand command = parser.Add("roofs", "List the faces that can take a roof window");
   const auto options = std::make_shared<RoofsOptions>();
-  command->add_option("FILE", options->file, "the drawing")->required()->type_name("");
-  command->add_option("--units", options->units, UNITS_HELP)->type_name("UNIT");
-  command->add_flag("--json", options->asJson, JSON_HELP);
-  command->footer(
+  command.Argument("FILE", options->file, "the drawing").Required();
+  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  command.Flag("--json", options->asJson, JSON_HELP);
+  command.Footer(
       "A face is named by the handle of its entity. Its pitch is measured from the horizontal; the "
       "direction\n"
       "in which it falls counter-clockwise from the drawing's x axis.\n"
       "Example: teskarlt roofs house.dxf");
-  command->callback([options] { RunRoofs(*options); });
+  command.Run([options] { RunRoofs(*options); });
 }
 
 }  // namespace teskarlt

@@ -1,9 +1,7 @@
 // WindowOptions.cpp - what the command lines that insert and change a window have in common.
 #include "teskarlt/commands/WindowOptions.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 #include "inc/RecordFields.h"
 #include "teskarlt/Error.h"
@@ -89,17 +87,16 @@ const RoofFace& ChooseFace(const WindowOptions& options, const WindowRequest& re
                           PlanExtents(faces)));
 }
 
-nlohmann::ordered_json ToJson(const WindowOptions& options, const CommandOutcome& outcome,
-                              const RoofFace* face, const std::vector<std::string>& misfits,
-                              const WindowReading* edited, const std::string& target) {
-  nlohmann::ordered_json json;
+Json ToJson(const WindowOptions& options, const CommandOutcome& outcome, const RoofFace* face,
+            const std::vector<std::string>& misfits, const WindowReading* edited, const std::string& target) {
+  Json json;
   json["version"] = JSON_VERSION;
-  json.update(WindowJson(outcome, face, misfits));
+  json.AddMembers(WindowJson(outcome, face, misfits));
   if (edited != nullptr) {
     json["sources"] = SourcesJson(*edited);
     json["notes"] = edited->notes;
   }
-  json["file"] = options.dryRun ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(target);
+  json["file"] = options.dryRun ? Json(nullptr) : Json(target);
   json["dryRun"] = options.dryRun;
   return json;
 }
@@ -129,40 +126,37 @@ void WarnOfOtherUnit(const WindowOptions& options, const dxf::Document& drawing,
 
 }  // namespace
 
-void AddWindowOptions(CLI::App& command, WindowOptions& options) {
+Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
+  const Option at =
+      command.Value("--at", options.at, "the place in the drawing; the uppermost roof face over it is taken")
+          .Named("X,Y");
+  const Option roofFace =
+      command.Value("--roof-face", options.roofFace, "name of the roof face, as teskarlt roofs lists it")
+          .Named("FACE");
+  command.Values("--roof", 3, options.roof, "three points of the roof's plane")
+      .Named("X,Y,Z")
+      .Excludes(roofFace);
+  const Option window =
+      command.Value("--window", options.window, "a catalogue's window, whose sizes and texts are taken")
+          .Named("MAKER/KEY")
+          .NotEmpty();
   command
-      .add_option("--at", options.at, "the place in the drawing; the uppermost roof face over it is taken")
-      ->type_name("X,Y");
-  CLI::Option* roofFace =
-      command
-          .add_option("--roof-face", options.roofFace, "name of the roof face, as teskarlt roofs lists it")
-          ->type_name("FACE");
-  command.add_option("--roof", options.roof, "three points of the roof's plane")
-      ->type_name("X,Y,Z")
-      ->expected(3)
-      ->excludes(roofFace);
-  CLI::Option* window =
-      command.add_option("--window", options.window, "a catalogue's window, whose sizes and texts are taken")
-          ->type_name("MAKER/KEY")
-          ->check(NotEmpty);
-  command
-      .add_option("--catalogue", options.catalogue,
-                  "the catalogue, or its folder; without it the one in the data folder")
-      ->type_name("FILE")
-      ->check(NotEmpty)
-      ->needs(window);
-  command.add_option("--set", options.settings, "a value of the window, as often as needed")
-      ->type_name("FIELD=VALUE")
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  command.add_option("-o,--output", options.output, "the drawing to write; without it FILE is replaced")
-      ->type_name("FILE")
-      ->check(NotEmpty);
-  command.add_option("--units", options.units, UNITS_HELP)->type_name("UNIT");
-  command.add_flag("--strict", options.isStrict,
-                   "refuse a window that overlaps another or does not lie on a roof face");
-  command.add_flag("--dry-run", options.dryRun, "say what would be done and write nothing");
-  command.add_flag("--json", options.asJson, JSON_HELP);
+      .Value("--catalogue", options.catalogue,
+             "the catalogue, or its folder; without it the one in the data folder")
+      .Named("FILE")
+      .NotEmpty()
+      .Needs(window);
+  command.Repeated("--set", options.settings, "a value of the window, as often as needed")
+      .Named("FIELD=VALUE");
+  command.Value("-o,--output", options.output, "the drawing to write; without it FILE is replaced")
+      .Named("FILE")
+      .NotEmpty();
+  command.Value("--units", options.units, UNITS_HELP).Named("UNIT");
+  command.Flag("--strict", options.isStrict,
+               "refuse a window that overlaps another or does not lie on a roof face");
+  command.Flag("--dry-run", options.dryRun, "say what would be done and write nothing");
+  command.Flag("--json", options.asJson, JSON_HELP);
+  return at;
 }
 
 const DrawingUnit& TakeUnit(const WindowOptions& options, dxf::Document& drawing) {
@@ -206,14 +200,14 @@ void BoundByFace(const RoofFace& face, const std::vector<RoofFace>& faces, doubl
   request.isBounded = true;
 }
 
-nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace* face,
-                                  const std::vector<std::string>& misfits) {
+Json WindowJson(const CommandOutcome& outcome, const RoofFace* face,
+                const std::vector<std::string>& misfits) {
   const brevanta::WindowParams& window = *outcome.confirmed;
-  nlohmann::ordered_json json;
+  Json json;
   json["number"] = window.markerValue;
-  json["face"] = face == nullptr ? nlohmann::ordered_json(nullptr) : nlohmann::ordered_json(face->name);
+  json["face"] = face == nullptr ? Json(nullptr) : Json(face->name);
   json["pitch"] = window.pitch;
-  json["place"] = {window.storedPoint.x, window.storedPoint.y, window.storedPoint.z};
+  json["place"] = Json::List({window.storedPoint.x, window.storedPoint.y, window.storedPoint.z});
   json["lowerEdgeHeight"] = window.lowerEdgeHeight;
   json["unitFactor"] = window.unitFactor;
   json["faces"] = outcome.faces;
@@ -222,8 +216,8 @@ nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace*
   return json;
 }
 
-nlohmann::ordered_json SourcesJson(const WindowReading& reading) {
-  nlohmann::ordered_json json = nlohmann::ordered_json::object();
+Json SourcesJson(const WindowReading& reading) {
+  Json json = Json::Object();
   for (const std::string& field : reading.recovered)
     json[field] = "geometry";
   for (const std::string& field : reading.defaults)
@@ -256,10 +250,6 @@ void RefuseMisfits(const WindowOptions& options, const std::vector<std::string>&
 void WarnOfMisfits(std::string_view place, std::int32_t number, const std::vector<std::string>& misfits) {
   if (misfits.empty()) return;
   fmt::print(stderr, "teskarlt: {}warning: window {}: {}\n", place, number, fmt::join(misfits, " and "));
-}
-
-std::string NotEmpty(const std::string& name) {
-  return name.empty() ? "the name is empty" : "";
 }
 
 }  // namespace teskarlt

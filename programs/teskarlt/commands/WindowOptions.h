@@ -6,18 +6,14 @@
 #include <string_view>
 #include <vector>
 
-#include <nlohmann/json_fwd.hpp>
-
 #include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/modules/ModuleSession.h"
-
-namespace CLI {
-class App;
-}
+#include "teskarlt/terminal/Json.h"
+#include "teskarlt/terminal/Options.h"
 
 namespace teskarlt {
 
@@ -36,8 +32,8 @@ struct WindowOptions {
   bool asJson = false;
 };
 
-// Adds --at and all options behind it to the command. The options must outlive the parsing.
-void AddWindowOptions(CLI::App& command, WindowOptions& options);
+// Adds --at, which it gives, and all options behind it to the command. The options must outlive the parsing.
+Option AddWindowOptions(Subcommand& command, WindowOptions& options);
 
 // The drawing's unit, with a warning where the user's word contradicts the header; the drawing counts with
 // it.
@@ -61,15 +57,14 @@ void BoundByFace(const RoofFace& face, const std::vector<RoofFace>& faces, doubl
                  WindowRequest& request);
 
 // The window that came into the drawing, for programs; `face` is null where the user gave the plane.
-nlohmann::ordered_json WindowJson(const CommandOutcome& outcome, const RoofFace* face,
-                                  const std::vector<std::string>& misfits);
+Json WindowJson(const CommandOutcome& outcome, const RoofFace* face, const std::vector<std::string>& misfits);
 
 // The file that is written.
 const std::string& TargetOf(const WindowOptions& options);
 
 // For programs: of the fields that are not as the description says, or not in it, where their values come
 // from.
-nlohmann::ordered_json SourcesJson(const WindowReading& reading);
+Json SourcesJson(const WindowReading& reading);
 
 // What WindowFit tells of a window: with --strict throws Error for it.
 void RefuseMisfits(const WindowOptions& options, const std::vector<std::string>& misfits);
@@ -81,8 +76,5 @@ void WarnOfMisfits(std::string_view place, std::int32_t number, const std::vecto
 void SaveAndReport(const WindowOptions& options, const dxf::Document& drawing, const CommandOutcome& outcome,
                    const RoofFace* face, const std::vector<std::string>& misfits,
                    const WindowReading* edited = nullptr);
-
-// For options that name something: an empty name comes of a shell variable that is not set.
-std::string NotEmpty(const std::string& name);
 
 }  // namespace teskarlt

@@ -6,6 +6,7 @@
 
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"
+#include "geometry/Vectors.h"
 
 namespace teskarlt {
 
@@ -15,24 +16,6 @@ using geometry::Vec3;
 
 constexpr double VERTICAL_LIMIT = 1e-4;  // of the unit normal's z; the module takes no steeper roof
 constexpr double FLAT_LIMIT = 1e-4;      // of the unit normal's plan length
-
-Vec3 Sub(const Vec3& a, const Vec3& b) {
-  Vec3 d{};
-  geometry::VecSub(a, b, d);
-  return d;
-}
-
-// Newell's method (M. Newell, 1972): twice the area times the normal, for any planar polygon, taken from the
-// first corner so that a place far from the origin costs no precision.
-Vec3 AreaVector(const std::vector<Vec3>& corners) {
-  Vec3 sum{};
-  for (std::size_t i = 1; i + 1 < corners.size(); ++i) {
-    Vec3 part{};
-    geometry::VecCross(Sub(corners[i], corners[0]), Sub(corners[i + 1], corners[0]), part);
-    geometry::VecAdd(sum, part, sum);
-  }
-  return sum;
-}
 
 bool Coincide(const Vec3& a, const Vec3& b) {
   return a.x == b.x && a.y == b.y && a.z == b.z;
@@ -49,7 +32,7 @@ std::vector<Vec3> WithoutRepeats(const std::vector<Vec3>& corners) {
 }
 
 double DistanceFromPlane(const RoofFace& face, const Vec3& p) {
-  return geometry::VecDot(face.normal, Sub(p, face.corners[0]));
+  return geometry::VecDot(face.normal, Difference(p, face.corners[0]));
 }
 
 bool OnPlanEdge(const Vec3& a, const Vec3& b, double x, double y) {
@@ -85,7 +68,7 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, double to
   const Vec3 area = AreaVector(face.corners);
   const double twiceArea = geometry::VecLength(area);
   if (!(twiceArea > tolerance * tolerance)) return std::nullopt;
-  geometry::VecScale(area, (area.z < 0 ? -1.0 : 1.0) / twiceArea, face.normal);
+  face.normal = Scaled(area, (area.z < 0 ? -1.0 : 1.0) / twiceArea);
   if (face.normal.z < VERTICAL_LIMIT) return std::nullopt;
   return face;
 }

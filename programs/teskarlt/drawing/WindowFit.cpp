@@ -12,6 +12,8 @@
 #include "geometry/PlanCover.h"
 #include "geometry/RoofPlane.h"
 #include "geometry/Trigonometry.h"
+#include "geometry/Vectors.h"
+#include "inc/RecordPoints.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/drawing/WindowShape.h"
@@ -26,23 +28,12 @@ using geometry::Vec3;
 
 constexpr double PERCENT = 100.0;
 
-Vec3 Minus(const Vec3& a, const Vec3& b) {
-  Vec3 difference{};
-  geometry::VecSub(a, b, difference);
-  return difference;
-}
-
-Vec3 ToVec3(const RecordPoint& p) {
-  return {p.x, p.y, p.z};
-}
-
 bool FitPlane(const RecordPoint (&points)[3], std::int32_t unitFactor) {
   return geometry::FitRoofPlane(ToVec3(points[0]), ToVec3(points[1]), ToVec3(points[2]), unitFactor) == 1;
 }
 
 Vec3 UnitNormal(const Outline& outline) {
-  Vec3 normal{};
-  geometry::VecCross(Minus(outline[3], outline[0]), Minus(outline[1], outline[0]), normal);
+  Vec3 normal = Cross(Difference(outline[3], outline[0]), Difference(outline[1], outline[0]));
   geometry::VecNormalize(normal, normal);
   return normal;
 }
@@ -51,7 +42,7 @@ Vec3 UnitNormal(const Outline& outline) {
 std::pair<double, double> Reach(const Outline& outline, const Vec3& origin, const Vec3& direction) {
   std::array<double, 4> along{};
   std::transform(outline.begin(), outline.end(), along.begin(),
-                 [&](const Vec3& corner) { return geometry::VecDot(Minus(corner, origin), direction); });
+                 [&](const Vec3& corner) { return geometry::VecDot(Difference(corner, origin), direction); });
   const auto [least, most] = std::minmax_element(along.begin(), along.end());
   return {*least, *most};
 }
@@ -74,7 +65,7 @@ template <typename Corners>
 geometry::PlanPolygon PlanOf(const Corners& corners, const Vec3& origin) {
   geometry::PlanPolygon plan;
   for (const Vec3& corner : corners)
-    plan.push_back(Minus(corner, origin));
+    plan.push_back(Difference(corner, origin));
   return plan;
 }
 
@@ -125,8 +116,7 @@ bool Overlap(const Outline& a, const Outline& b, double tolerance) {
   if (!LiesInPlane(b, a[0], UnitNormal(a), tolerance)) return false;
   // Windows of one plane have parallel edges: each lower edge is horizontal.
   for (const std::size_t neighbour : {std::size_t{1}, std::size_t{3}}) {
-    Vec3 direction{};
-    geometry::VecNormalize(Minus(a[neighbour], a[0]), direction);
+    const Vec3 direction = Unit(Difference(a[neighbour], a[0]));
     const auto [leastA, mostA] = Reach(a, a[0], direction);
     const auto [leastB, mostB] = Reach(b, a[0], direction);
     if (std::min(mostA, mostB) - std::max(leastA, leastB) <= tolerance) return false;
@@ -137,7 +127,7 @@ bool Overlap(const Outline& a, const Outline& b, double tolerance) {
 const RoofFace* FaceUnder(const WindowParams& window, const std::vector<RoofFace>& faces, double tolerance) {
   const auto isUnder = [&](const RoofFace& face) {
     const auto liesInIt = [&](const RecordPoint& point) {
-      return std::abs(geometry::VecDot(face.normal, Minus(ToVec3(point), face.corners[0]))) <= tolerance;
+      return std::abs(geometry::VecDot(face.normal, Difference(ToVec3(point), face.corners[0]))) <= tolerance;
     };
     return std::all_of(std::begin(window.roofPlanePoints), std::end(window.roofPlanePoints), liesInIt) &&
            HeightOver(face, window.storedPoint.x, window.storedPoint.y).has_value();
@@ -150,7 +140,7 @@ double CoveredPart(const Outline& outline, const std::vector<RoofFace>& faces, d
   const Vec3& origin = outline[0];
   std::vector<geometry::PlanPolygon> polygons;
   for (const RoofFace& face : faces) {
-    const double first = geometry::VecDot(Minus(origin, face.corners[0]), face.normal);  // most go here
+    const double first = geometry::VecDot(Difference(origin, face.corners[0]), face.normal);  // most go here
     if (std::abs(first) <= tolerance && LiesInPlane(outline, face.corners[0], face.normal, tolerance))
       polygons.push_back(PlanOf(face.corners, origin));
   }

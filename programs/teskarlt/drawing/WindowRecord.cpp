@@ -12,7 +12,9 @@
 
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"
+#include "geometry/Vectors.h"
 #include "inc/EdgeHeights.h"
+#include "inc/RecordPoints.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/drawing/WindowShape.h"
@@ -28,25 +30,6 @@ using geometry::Vec3;
 constexpr double SAME_LENGTH = 0.001;  // metres
 constexpr double SAME_ANGLE = 0.01;    // degrees
 constexpr double ROUNDING = 1e6;       // sizes out of the geometry are whole micrometres
-
-Vec3 ToVec3(const RecordPoint& p) {
-  return {p.x, p.y, p.z};
-}
-
-RecordPoint ToRecordPoint(const Vec3& v) {
-  return {v.x, v.y, v.z};
-}
-
-double Distance(const Vec3& a, const Vec3& b) {
-  Vec3 d{};
-  geometry::VecSub(b, a, d);
-  return geometry::VecLength(d);
-}
-
-// The point `distance` along `direction` from p.
-Vec3 Moved(const Vec3& p, const Vec3& direction, double distance) {
-  return {p.x + direction.x * distance, p.y + direction.y * distance, p.z + direction.z * distance};
-}
 
 template <std::size_t SIZE>
 void StoreText(const dxf::Document& drawing, const std::string& utf8, char (&field)[SIZE]) {
@@ -139,9 +122,7 @@ class Reconciliation {
   bool LiesOnRoof(const RecordPoint (&plane)[3]) const {
     const Vec3 normal = shape_.Normal();
     return std::all_of(std::begin(plane), std::end(plane), [&](const RecordPoint& point) {
-      Vec3 offset{};
-      geometry::VecSub(ToVec3(point), shape_.outline[0], offset);
-      return std::abs(geometry::VecDot(normal, offset)) <= SAME_LENGTH * factor_;
+      return std::abs(VecDot(normal, Difference(ToVec3(point), shape_.outline[0]))) <= SAME_LENGTH * factor_;
     });
   }
 
@@ -162,8 +143,9 @@ class Reconciliation {
     constexpr std::size_t CORNERS[] = {0, 1, 3};
     for (std::size_t i = 0; i < std::size(CORNERS); ++i) {
       const Vec3& corner = shape_.outline[CORNERS[i]];
-      params_.roofPlanePoints[i] = ToRecordPoint(corner);
-      params_.secondPlanePoints[i] = ToRecordPoint(Moved(corner, down, -params_.layerThickness * factor_));
+      params_.roofPlanePoints[i] = brevanta::ToRecordPoint(corner);
+      params_.secondPlanePoints[i] =
+          brevanta::ToRecordPoint(Moved(corner, down, -params_.layerThickness * factor_));
     }
     reading_.recovered.emplace_back("roofPlanePoints");
     reading_.recovered.emplace_back("secondPlanePoints");
@@ -181,11 +163,9 @@ class Reconciliation {
   // Of a scaled window the second plane still is the underside, of a thicker layer.
   void TakeThickness() {
     std::array<double, 3> depths{};
-    for (std::size_t i = 0; i < depths.size(); ++i) {
-      Vec3 offset{};
-      geometry::VecSub(shape_.outline[0], ToVec3(params_.secondPlanePoints[i]), offset);
-      depths[i] = geometry::VecDot(shape_.Normal(), offset);
-    }
+    for (std::size_t i = 0; i < depths.size(); ++i)
+      depths[i] =
+          VecDot(shape_.Normal(), Difference(shape_.outline[0], ToVec3(params_.secondPlanePoints[i])));
     const auto [least, most] = std::minmax_element(depths.begin(), depths.end());
     if (*most - *least > SAME_LENGTH * factor_ || *least <= 0) return;
     TakeLength("layerThickness", "deep in its roof", depths[0], params_.layerThickness);
@@ -223,7 +203,7 @@ class Reconciliation {
     reading_.notes.push_back(
         fmt::format("it stands {:g} m from the place in its description",
                     std::round(Distance(anchor, stored) / factor_ / SAME_LENGTH) * SAME_LENGTH));
-    params_.storedPoint = ToRecordPoint(anchor);
+    params_.storedPoint = brevanta::ToRecordPoint(anchor);
     reading_.recovered.emplace_back("storedPoint");
     params_.lowerEdgeHeight = anchor.z / factor_;
     reading_.recovered.emplace_back("lowerEdgeHeight");
@@ -231,9 +211,7 @@ class Reconciliation {
 
   // The offset is what lies between the anchor and the lower edge, where the anchor is still below the edge.
   Vec3 TakeSlopeOffset(const Vec3& edge, const Vec3& stored) {
-    Vec3 between{};
-    geometry::VecSub(edge, stored, between);
-    const double offset = geometry::VecDot(between, shape_.Up());
+    const double offset = VecDot(Difference(edge, stored), shape_.Up());
     if (IsNear(Moved(stored, shape_.Up(), offset), edge)) {
       params_.slopeOffset = std::round(offset / factor_ * ROUNDING) / ROUNDING;
       reading_.recovered.emplace_back("slopeOffset");
@@ -306,20 +284,14 @@ bool HasOwnSecondPlane(const WindowParams& params, double tolerance) {
 }
 
 bool IsUnderside(const WindowParams& params, double tolerance) {
-  const auto point = [](const brevanta::RecordPoint& p) { return Vec3{p.x, p.y, p.z}; };
   const auto& roof = params.roofPlanePoints;
-  Vec3 along{};
-  Vec3 across{};
+  const Vec3 along = Difference(ToVec3(roof[1]), ToVec3(roof[0]));
+  const Vec3 across = Difference(ToVec3(roof[2]), ToVec3(roof[0]));
   Vec3 normal{};
-  geometry::VecSub(point(roof[1]), point(roof[0]), along);
-  geometry::VecSub(point(roof[2]), point(roof[0]), across);
-  geometry::VecCross(along, across, normal);
-  if (geometry::VecNormalize(normal, normal) != 0) return false;
-  geometry::VecScale(normal, (normal.z < 0 ? 1.0 : -1.0) * params.layerThickness * params.unitFactor, normal);
+  if (VecNormalize(Cross(along, across), normal) != 0) return false;
+  const Vec3 down = Scaled(normal, (normal.z < 0 ? 1.0 : -1.0) * params.layerThickness * params.unitFactor);
   for (int i = 0; i < 3; ++i) {
-    Vec3 lowered{};
-    geometry::VecAdd(point(roof[i]), normal, lowered);
-    if (Distance(lowered, point(params.secondPlanePoints[i])) > tolerance) return false;
+    if (Distance(Sum(ToVec3(roof[i]), down), ToVec3(params.secondPlanePoints[i])) > tolerance) return false;
   }
   return true;
 }

@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "geometry/Matrix4.h"
+#include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -30,27 +31,6 @@ constexpr std::size_t FIRST_FACE_OF_RING = 8;
 constexpr double SAME_PLACE = 1e-3;      // metres; parts that are farther apart do not belong together
 constexpr double SAME_DIRECTION = 1e-4;  // sine of the angle
 constexpr double STEEPEST = 1e-6;        // least upward part of a roof's normal
-
-Vec3 Minus(const Vec3& a, const Vec3& b) {
-  Vec3 difference{};
-  geometry::VecSub(a, b, difference);
-  return difference;
-}
-
-double Distance(const Vec3& a, const Vec3& b) {
-  return geometry::VecLength(Minus(b, a));
-}
-
-Vec3 Unit(const Vec3& v) {
-  Vec3 unit{};
-  geometry::VecNormalize(v, unit);
-  return unit;
-}
-
-// The point `distance` along `direction` from p.
-Vec3 Moved(const Vec3& p, const Vec3& direction, double distance) {
-  return {p.x + direction.x * distance, p.y + direction.y * distance, p.z + direction.z * distance};
-}
 
 // The points 10 to 13 of an entity, those that are missing at the origin.
 Corners PointsOf(const dxf::Document& drawing, const dxf::Entity& entity) {
@@ -80,9 +60,7 @@ class ShapeReader {
     CheckRectangle(shape.outline);
     shape.length = Distance(shape.outline[0], shape.outline[1]);
     shape.width = Distance(shape.outline[0], shape.outline[3]);
-    Vec3 normal{};
-    geometry::VecCross(shape.Across(), shape.Up(), normal);
-    shape.isMirrored = normal.z < 0;
+    shape.isMirrored = Cross(shape.Across(), shape.Up()).z < 0;
     CheckStand(shape);
     TakeBody(shape);
     TakeFrame(shape);
@@ -130,7 +108,7 @@ class ShapeReader {
   Corners OutlineOfOpening() const {
     const Corners opening = Chain(0);
     const Corners& topEdge = lines_[TOP_EDGE_OF_OPENING];
-    const Vec3 up = Unit(Minus(opening[1], opening[0]));
+    const Vec3 up = Unit(Difference(opening[1], opening[0]));
     const double length = Distance(opening[0], opening[1]) - Lengthening(up);
     return {Moved(topEdge[0], up, -length), topEdge[0], topEdge[1], Moved(topEdge[1], up, -length)};
   }
@@ -138,9 +116,8 @@ class ShapeReader {
   // How far the opening lies below the window, square to the roof.
   double Depth() const {
     const Corners& topEdge = lines_[TOP_EDGE_OF_OPENING];
-    Vec3 normal{};
-    geometry::VecCross(Minus(lines_[0][1], lines_[0][0]), Minus(topEdge[1], topEdge[0]), normal);
-    return std::abs(geometry::VecDot(Unit(normal), Minus(topEdge[0], lines_[0][0])));
+    const Vec3 normal = Cross(Difference(lines_[0][1], lines_[0][0]), Difference(topEdge[1], topEdge[0]));
+    return std::abs(geometry::VecDot(Unit(normal), Difference(topEdge[0], lines_[0][0])));
   }
 
   // How much longer than the window its opening is: where it is cut at the lower or upper edge.
@@ -155,12 +132,12 @@ class ShapeReader {
   }
 
   void CheckRectangle(const Corners& outline) const {
-    const Vec3 up = Minus(outline[1], outline[0]);
-    const Vec3 across = Minus(outline[3], outline[0]);
+    const Vec3 up = Difference(outline[1], outline[0]);
+    const Vec3 across = Difference(outline[3], outline[0]);
     const double size = geometry::VecLength(up) * geometry::VecLength(across);
     if (!(size > 0.0)) Fail("it was squeezed to a line");
-    const Vec3 opposite{outline[1].x + across.x, outline[1].y + across.y, outline[1].z + across.z};
-    if (!IsNear(outline[2], opposite) || std::abs(geometry::VecDot(up, across)) > SAME_DIRECTION * size)
+    if (!IsNear(outline[2], Sum(outline[1], across)) ||
+        std::abs(geometry::VecDot(up, across)) > SAME_DIRECTION * size)
       Fail("it is no rectangle any more");
   }
 
@@ -181,15 +158,15 @@ class ShapeReader {
     if (!HasSymbol()) shape.layerThickness = Depth();
     if (faces_.empty()) {
       if (!HasSymbol()) return;
-      const Vec3 rise = Minus(lines_[0][1], shape.outline[0]);  // the symbol lies where the frame begins
+      const Vec3 rise = Difference(lines_[0][1], shape.outline[0]);  // the symbol lies where the frame begins
       shape.skirtHeight = geometry::VecDot(normal, rise);
       shape.isLeaning = Leans(rise, *shape.skirtHeight);
       return;
     }
     const Corners& wall = faces_[skirtFaces_];  // from the foot up
-    const Vec3 rise = Minus(wall[3], wall[0]);
+    const Vec3 rise = Difference(wall[3], wall[0]);
     shape.frameDepth = geometry::VecDot(normal, rise);
-    shape.skirtHeight = geometry::VecDot(normal, Minus(wall[0], shape.outline[0]));
+    shape.skirtHeight = geometry::VecDot(normal, Difference(wall[0], shape.outline[0]));
     if (*shape.frameDepth < 0) Fail("it stands upside down");
     shape.isLeaning = Leans(rise, *shape.frameDepth);
   }
@@ -203,7 +180,7 @@ class ShapeReader {
   void CheckParts(const WindowShape& shape) const {
     if (shape.isLeaning) return;
     const auto isWithin = [&](const Vec3& point, double height) {
-      const Vec3 offset = Minus(point, shape.outline[0]);
+      const Vec3 offset = Difference(point, shape.outline[0]);
       const auto reaches = [&](const Vec3& direction, double most) {
         const double along = geometry::VecDot(direction, offset);
         return along >= -tolerance_ && along <= most + tolerance_;
@@ -226,7 +203,7 @@ class ShapeReader {
     if (!HasSymbol() && faces_.empty()) return;
     const Vec3& corner =
         HasSymbol() ? lines_[FIRST_LINE_OF_SASH][0] : faces_[skirtFaces_ + FIRST_FACE_OF_RING][3];
-    const Vec3 diagonal = Minus(corner, shape.outline[0]);
+    const Vec3 diagonal = Difference(corner, shape.outline[0]);
     const double side = geometry::VecDot(diagonal, shape.Across());
     const double bottom = geometry::VecDot(diagonal, shape.Up());
     if (std::abs(side - bottom) <= tolerance_) shape.frameWidth = (side + bottom) / 2;
@@ -242,18 +219,16 @@ class ShapeReader {
 }  // namespace
 
 Vec3 WindowShape::Across() const {
-  return Unit(Minus(outline[3], outline[0]));
+  return Unit(Difference(outline[3], outline[0]));
 }
 
 Vec3 WindowShape::Up() const {
-  return Unit(Minus(outline[1], outline[0]));
+  return Unit(Difference(outline[1], outline[0]));
 }
 
 Vec3 WindowShape::Normal() const {
-  Vec3 normal{};
-  geometry::VecCross(Across(), Up(), normal);
-  if (isMirrored) geometry::VecScale(normal, -1.0, normal);
-  return Unit(normal);
+  const Vec3 normal = Cross(Across(), Up());
+  return Unit(isMirrored ? Scaled(normal, -1.0) : normal);
 }
 
 double WindowShape::Pitch() const {

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 namespace teskarlt {
 
@@ -18,8 +17,8 @@ std::size_t Width(const std::string& text) {
 
 }  // namespace
 
-void PrintJson(const nlohmann::ordered_json& json) {
-  fmt::print("{}\n", json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
+void PrintJson(const Json& json) {
+  fmt::print("{}\n", json.Text());
 }
 
 Table::Table(std::vector<std::string> headings) : rows_{std::move(headings)} {}

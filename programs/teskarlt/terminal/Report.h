@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <nlohmann/json_fwd.hpp>
+#include "teskarlt/terminal/Json.h"
 
 namespace teskarlt {
 
@@ -14,8 +14,8 @@ constexpr int JSON_VERSION = 1;
 constexpr const char* UNITS_HELP = "unit of the drawing, mm, cm, dm or m, in place of what its header says";
 constexpr const char* JSON_HELP = "print JSON, for programs";
 
-// To standard output; bytes that are no UTF-8, as file names may hold them, become U+FFFD.
-void PrintJson(const nlohmann::ordered_json& json);
+// To standard output.
+void PrintJson(const Json& json);
 
 // A table in aligned columns for people; the texts are UTF-8.
 class Table {

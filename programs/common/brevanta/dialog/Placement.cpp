@@ -9,7 +9,9 @@
 #include "geometry/PlanCover.h"
 #include "geometry/RoofPlane.h"
 #include "geometry/Trigonometry.h"
+#include "geometry/Vectors.h"
 #include "inc/EdgeHeights.h"
+#include "inc/RecordPoints.h"
 
 namespace brevanta {
 
@@ -22,10 +24,6 @@ using geometry::Vec3;
 
 constexpr double PITCH_TOLERANCE = 0.01;  // degrees, between a pitch that the user gives and the roof's own
 constexpr double COVER_TOLERANCE = 1e-6;  // of the window's area, for what lies on the edge of a face
-
-Vec3 ToVec3(const RecordPoint& p) {
-  return {p.x, p.y, p.z};
-}
 
 bool FitPlane(const RecordPoint (&points)[3], std::int32_t unitFactor) {
   return geometry::FitRoofPlane(ToVec3(points[0]), ToVec3(points[1]), ToVec3(points[2]), unitFactor) == 1;
@@ -77,12 +75,9 @@ bool UsesSecondPlane(const WindowParams& record) {
 // thickness along its normal.
 void FitSecondPlane(const Answers& answers, WindowParams& record) {
   if (!answers.Has("secondPlanePoints")) {
-    Vec3 down{};
-    geometry::VecScale(roofPlane.normal, -record.layerThickness * record.unitFactor, down);
-    for (int i = 0; i < 3; ++i) {
-      const RecordPoint& p = record.roofPlanePoints[i];
-      record.secondPlanePoints[i] = {p.x + down.x, p.y + down.y, p.z + down.z};
-    }
+    const Vec3 down = Scaled(roofPlane.normal, -record.layerThickness * record.unitFactor);
+    for (int i = 0; i < 3; ++i)
+      record.secondPlanePoints[i] = ToRecordPoint(Sum(ToVec3(record.roofPlanePoints[i]), down));
   }
   if (!UsesSecondPlane(record)) return;
   if (!FitPlane(record.secondPlanePoints, record.unitFactor)) {
@@ -110,7 +105,7 @@ void TakePoint(const DialogServices& services, const Answers& answers, WindowPar
   Vec3 local{};
   geometry::WorldToRoof({xy[0], xy[1], 0.0}, local);
   local = OntoPlane(local);
-  record.insertionPoint = {local.x, local.y, local.z};
+  record.insertionPoint = ToRecordPoint(local);
 }
 
 // Where the module will find the window's anchor: moved by `pickOffset`, on the plane. Local.
@@ -223,7 +218,7 @@ void PlaceWindow(const DialogServices& services, const Answers& answers, WindowP
   if (!answers.Has("storedPoint")) {
     Vec3 world{};
     geometry::RoofToWorld(anchor, world);
-    record.storedPoint = {world.x, world.y, world.z};
+    record.storedPoint = ToRecordPoint(world);
   }
 }
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "dialog/Refusal.h"
+#include "geometry/Vectors.h"
+#include "inc/RecordPoints.h"
 
 namespace brevanta {
 
@@ -11,25 +13,9 @@ namespace {
 
 using geometry::Vec3;
 
-RecordPoint ToRecordPoint(const Vec3& v) {
-  return {v.x, v.y, v.z};
-}
-
-double Distance(const Vec3& a, const Vec3& b) {
-  Vec3 d{};
-  geometry::VecSub(b, a, d);
-  return geometry::VecLength(d);
-}
-
 // Twice the area of the triangle.
 double Spread(const Vec3& a, const Vec3& b, const Vec3& c) {
-  Vec3 ab{};
-  Vec3 ac{};
-  Vec3 normal{};
-  geometry::VecSub(b, a, ab);
-  geometry::VecSub(c, a, ac);
-  geometry::VecCross(ab, ac, normal);
-  return geometry::VecLength(normal);
+  return geometry::VecLength(Cross(Difference(b, a), Difference(c, a)));
 }
 
 // The corner for which the measure is largest.

@@ -12,6 +12,7 @@
 #include "geometry/RoofPlane.h"
 #include "geometry/Trigonometry.h"
 #include "inc/EdgeHeights.h"
+#include "inc/RecordPoints.h"
 #include "platform/GcGeVector3d.h"
 
 namespace brevanta {
@@ -23,10 +24,6 @@ using geometry::Vec3;
 
 constexpr std::int32_t WIDTH_ALONG_X = 1;
 constexpr std::int32_t KEEP_BATCH = 1;
-
-Vec3 ToVec3(const RecordPoint& p) {
-  return {p.x, p.y, p.z};
-}
 
 bool FitPlane(const RecordPoint (&points)[3], std::int32_t unitFactor) {
   return geometry::FitRoofPlane(ToVec3(points[0]), ToVec3(points[1]), ToVec3(points[2]), unitFactor) == 1;

@@ -1,0 +1,60 @@
+// Json.h - an answer for programs: a value that is built up and printed.
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace teskarlt {
+
+// Null, a truth value, a number, a text in UTF-8, a list, or an object whose members keep their order.
+class Json {
+ public:
+  using Items = std::vector<Json>;
+  using Members = std::vector<std::pair<std::string, Json>>;
+
+  Json(std::nullptr_t = nullptr) {}  // NOLINT(google-explicit-constructor): values are written as they are
+  template <typename Value>
+  requires std::integral<Value> Json(Value value) {  // NOLINT(google-explicit-constructor)
+    if constexpr (std::same_as<Value, bool>) {
+      value_ = value;
+    } else if constexpr (std::signed_integral<Value>) {
+      value_ = std::int64_t{value};
+    } else {
+      value_ = std::uint64_t{value};
+    }
+  }
+  Json(double value) : value_(value) {}                            // NOLINT(google-explicit-constructor)
+  Json(std::string_view text) : value_(std::string(text)) {}       // NOLINT(google-explicit-constructor)
+  Json(const std::string& text) : Json(std::string_view(text)) {}  // NOLINT(google-explicit-constructor)
+  Json(const char* text) : Json(std::string_view(text)) {}         // NOLINT(google-explicit-constructor)
+  Json(const std::vector<std::string>& texts);                     // NOLINT(google-explicit-constructor)
+
+  static Json List(std::initializer_list<Json> items = {});
+  static Json Object(std::initializer_list<std::pair<const char*, Json>> members = {});
+
+  // The member of that name, null until a value is given to it. Makes an object of null.
+  Json& operator[](std::string_view name);
+  // Puts the members of another object behind those of this one. Makes an object of null.
+  void AddMembers(const Json& object);
+  // Puts an item behind the others of a list. Makes a list of null.
+  void Add(Json item);
+
+  // Lines with two blanks a level, without a line end at the end. Bytes that are no UTF-8, as file names may
+  // hold them, become U+FFFD.
+  std::string Text() const;
+
+  using Value =
+      std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string, Items, Members>;
+  const Value& Get() const { return value_; }
+
+ private:
+  Value value_ = nullptr;
+};
+
+}  // namespace teskarlt
