@@ -7,6 +7,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/check/Values.h"
+#include "teskarlt/dxf/tags/Codes.h"
 
 namespace teskarlt::check {
 namespace {
@@ -51,7 +52,7 @@ bool HasUndefinedBytes(const platform::CodePage& page, std::string_view bytes) {
 void Texts::Take(const Object& object) {
   for (const Tag& tag : object.tags) {
     if (KindOfCode(tag.code) != dxf::ValueKind::Text) continue;
-    if (tag.code < dxf::CODE_XDATA_TEXT) CheckLength(object, tag);
+    if (!dxf::IsExtendedData(tag.code)) CheckLength(object, tag);
     if (!IsAscii(tag.value)) CheckBytes(object, tag);
   }
 }

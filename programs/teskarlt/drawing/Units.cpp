@@ -7,7 +7,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/NewDrawing.h"
+#include "teskarlt/dxf/tags/Units.h"
 
 namespace teskarlt {
 
@@ -16,7 +16,7 @@ namespace {
 constexpr std::array UNITS = {
     DrawingUnit{dxf::UNITS_MILLIMETRES, "mm", 1000},
     DrawingUnit{dxf::UNITS_CENTIMETRES, "cm", 100},
-    DrawingUnit{14, "dm", 10},
+    DrawingUnit{dxf::UNITS_DECIMETRES, "dm", 10},
     DrawingUnit{dxf::UNITS_METRES, "m", 1},
 };
 

@@ -1,8 +1,11 @@
 // DrawnWindowTest.cpp - windows read back from the extended data of their entities.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "tests/teskarlt/drawing/Drawings.h"
+#include "tests/teskarlt/drawing/InsertedWindow.h"
 
 namespace teskarlt {
 namespace {
@@ -132,6 +135,117 @@ TEST(FindWindows, ForeignDataBesideOursDoesNotMatter) {
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_TRUE(windows[0].isComplete);
   EXPECT_EQ(windows[0].params.length, 1.4);
+}
+
+// --- Copies that other programs made ---
+
+Entities Joined(Entities first, const Entities& second) {
+  first.insert(first.end(), second.begin(), second.end());
+  return first;
+}
+
+TEST(FindWindows, CopiesBehindTheirModelAreWindowsOfTheirOwn) {
+  const Entities model = Insert().entities;  // 17 faces, 16 lines
+  const dxf::Document drawing =
+      DrawingOf(Joined(Joined(model, Changed(model, Move(2000, 0, 0))), Changed(model, Move(4000, 0, 0))));
+  const auto windows = FindWindows(drawing, UNITS_PER_METRE);
+  ASSERT_EQ(windows.size(), 3U);
+  for (std::size_t i = 0; i < windows.size(); ++i) {
+    EXPECT_EQ(windows[i].faces, 17U);
+    EXPECT_EQ(windows[i].entities.size(), 33U);
+    EXPECT_NEAR(ShapeOf(drawing, windows[i]).outline[0].x, 4500 + 2000 * static_cast<double>(i), 1e-6);
+  }
+}
+
+TEST(FindWindows, CopiesOfWindowsWithoutFacesAreTold) {
+  const Entities model = Insert({{"bodyAsFaces", "0"}, {"drawOpeningSymbol", "0"}}).entities;
+  const dxf::Document drawing = DrawingOf(Joined(model, Changed(model, Move(2000, 0, 0))));
+  EXPECT_EQ(FindWindows(drawing, UNITS_PER_METRE).size(), 2U);
+}
+
+TEST(FindWindows, CopyInAnotherOrderStaysWithItsModel) {
+  const Entities model = Insert().entities;
+  Entities copy = Changed(model, Move(2000, 0, 0));
+  std::reverse(copy.begin(), copy.end());
+  const dxf::Document drawing = DrawingOf(Joined(model, copy));
+  const auto windows = FindWindows(drawing, UNITS_PER_METRE);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_TRUE(HasMoreThanOneWindow(windows[0]));
+  EXPECT_EQ(EntityMismatch(windows[0]),
+            "it has 34 faces and 32 lines, and should have 0, 17 or 21 faces and 16 lines");
+}
+
+TEST(FindWindows, PartOfACopyStaysWithItsModel) {
+  const Entities model = Insert().entities;
+  const dxf::Document drawing = DrawingOf(Joined(model, Without(model, 32)));
+  const auto windows = FindWindows(drawing, UNITS_PER_METRE);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_TRUE(HasMoreThanOneWindow(windows[0]));
+}
+
+TEST(FindWindows, WindowsComeInTheOrderOfTheirFirstEntities) {
+  const Entities first = Insert({{"markerValue", "2"}}).entities;
+  const Entities second = Insert({{"markerValue", "1"}}).entities;
+  // The first window's copy lies behind the second window.
+  const dxf::Document drawing = DrawingOf(Joined(Joined(first, second), Changed(first, Move(2000, 0, 0))));
+  std::vector<std::int32_t> numbers;
+  for (const DrawnWindow& window : FindWindows(drawing, UNITS_PER_METRE))
+    numbers.push_back(window.number);
+  EXPECT_EQ(numbers, (std::vector<std::int32_t>{2, 1, 2}));
+}
+
+// --- Counts of entities ---
+
+TEST(EntityMismatch, EveryWindowOfTheModuleIsWhole) {
+  for (const char* code : {"", "B", "C", "D", "E", "BCDE", "EIREOL"}) {
+    for (const char* symbol : {"0", "1"}) {
+      const dxf::Document drawing =
+          DrawingOf(Insert({{"openingCode", code}, {"drawOpeningSymbol", symbol}}).entities);
+      EXPECT_EQ(EntityMismatch(FindWindows(drawing, UNITS_PER_METRE).at(0)), "") << code << symbol;
+    }
+  }
+}
+
+TEST(EntityMismatch, SkirtAndMissingFacesAreWhole) {
+  for (const Answers& answers : {Answers{{"skirtHeight", "0.1"}}, Answers{{"bodyAsFaces", "0"}}}) {
+    const dxf::Document drawing = DrawingOf(Insert(answers).entities);
+    EXPECT_EQ(EntityMismatch(FindWindows(drawing, UNITS_PER_METRE).at(0)), "");
+  }
+}
+
+TEST(HasMoreThanOneWindow, OneWindowHasNot) {
+  const dxf::Document whole = DrawingOf(Insert({{"skirtHeight", "0.1"}}).entities);
+  EXPECT_FALSE(HasMoreThanOneWindow(FindWindows(whole, UNITS_PER_METRE).at(0)));
+}
+
+// --- Single entities ---
+
+TEST(NumberTagOf, IsWhereTheNumberStands) {
+  const dxf::Document drawing = Drawing("", Line(Element(70000) + Description()) + Line(""));
+  EXPECT_EQ(NumberTagOf(drawing, drawing.Entities()[0]).value().value, "70000");
+  EXPECT_FALSE(NumberTagOf(drawing, drawing.Entities()[1]).has_value());
+}
+
+TEST(NumberTagOf, NumberBeforeTheMarkIsNotTheWindows) {
+  const dxf::Document drawing = Drawing("", Line("1001\nTK_LT_ELEM\n1071\n5\n1000\nTKBRVA\n"));
+  EXPECT_FALSE(NumberTagOf(drawing, drawing.Entities()[0]).has_value());
+}
+
+TEST(IsWindowEntity, OnlyTheMarkOfTheElementCounts) {
+  const dxf::Document drawing = Drawing(
+      "", Line(Element(1)) + Line(Description()) + Line("1001\nTK_LT_DESC\n1000\nTKBRVA\n") + Line(""));
+  std::vector<bool> are;
+  for (const dxf::Entity& entity : drawing.Entities())
+    are.push_back(IsWindowEntity(drawing, entity));
+  EXPECT_EQ(are, (std::vector<bool>{true, false, false, false}));
+}
+
+TEST(FindWindows, OtherEntitiesWithAWindowsDataAreNoParts) {
+  const std::string text = "0\nTEXT\n8\n0\n10\n0.0\n20\n0.0\n40\n1.0\n1\nnote\n" + Element(1) + Description();
+  const dxf::Document drawing = Drawing("", Line(Element(1) + Description()) + text);
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].entities.size(), 1U);
 }
 
 }  // namespace

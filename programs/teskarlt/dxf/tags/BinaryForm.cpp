@@ -11,7 +11,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/tags/Tag.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::dxf {
@@ -26,7 +27,6 @@ constexpr int LONG_CODE_FOLLOWS = 255;
 constexpr std::size_t LONGEST_CHUNK = 255;
 constexpr std::size_t LONGEST_NUMBER = 64;
 constexpr int HEXADECIMAL = 16;
-constexpr std::string_view END = "EOF";
 
 enum class Form { Unknown, Text, Chunk, Real, Integer8, Integer16, Integer32, Integer64 };
 
@@ -277,7 +277,7 @@ bool BinaryReader::Next(BinaryTag& tag) {
   } else {
     tag.value = Take(SizeOf(form));
   }
-  isAtEnd_ = tag.code == CODE_TYPE && tag.value == END;
+  isAtEnd_ = tag.code == CODE_TYPE && tag.value == TYPE_FILE_END;
   return true;
 }
 
