@@ -10,6 +10,7 @@ import subprocess
 import sys
 import time
 
+import kept
 import line_coverage
 import summary
 import wine
@@ -46,7 +47,7 @@ def build(preset):
     if preset not in build.done:
         log = BUILD / f"{preset}.log"
         log.unlink(missing_ok=True)
-        build.done[preset] = (run_logged(["cmake", "--preset", preset, "-DBREVANTA_TESTS=ON"], log) and
+        build.done[preset] = (run_logged(["cmake", "--preset", preset], log) and
                               run_logged(["cmake", "--build", "--preset", preset], log))
         line_coverage.forget(BUILD / preset)
     return build.done[preset]
@@ -116,7 +117,7 @@ def pytest(folder, results, options=(), env=None):
 def end_to_end(preset, results):
     if not build(preset):
         return summary.write_failure(results, "build", f"preset {preset} does not build")
-    pytest("e2e", results, ["--build", preset], environment(preset))
+    pytest("e2e", results, ["--build", preset, "-n", str(os.cpu_count())], environment(preset))
 
 
 def rules(results):
@@ -134,16 +135,24 @@ def tidy(results):
         summary.write_failure(results, "tidy", "clang-tidy ended without results")
 
 
+class Suite:
+    """`run` puts result files into the folder that it is given. The results depend on the programs of `presets` and the
+    sources alone."""
+
+    def __init__(self, run, *presets):
+        self.run, self.presets = run, presets
+
+
 SUITES = {
-    "linux": lambda results: unit_tests("linux", results),
-    "e2e": lambda results: end_to_end("linux", results),
-    "windows": lambda results: unit_tests("windows", results),
-    "e2e-windows": lambda results: end_to_end("windows", results),
-    "rules": rules,
-    "asan": counted_unit_tests,
-    "coverage": coverage,
-    "e2e-asan": lambda results: end_to_end("asan", results),
-    "tidy": tidy,
+    "linux": Suite(lambda results: unit_tests("linux", results), "linux"),
+    "e2e": Suite(lambda results: end_to_end("linux", results), "linux"),
+    "rules": Suite(rules, "linux", "windows"),
+    "windows": Suite(lambda results: unit_tests("windows", results), "windows"),
+    "e2e-windows": Suite(lambda results: end_to_end("windows", results), "windows"),
+    "asan": Suite(counted_unit_tests, "asan"),
+    "coverage": Suite(coverage, "asan"),
+    "e2e-asan": Suite(lambda results: end_to_end("asan", results), "asan"),
+    "tidy": Suite(tidy, "linux", "windows"),
 }
 QUICK = ["linux", "e2e"]
 
@@ -152,12 +161,30 @@ def arguments():
     parser = argparse.ArgumentParser(prog="./test", description="Builds everything and runs every test.")
     parser.add_argument("suites", nargs="*", metavar="SUITE", help=", ".join(SUITES))
     parser.add_argument("--quick", action="store_true", help="native build only: " + " ".join(QUICK))
+    parser.add_argument("--anew", action="store_true", help="run also what passed before and has not changed since")
     parser.add_argument("--list", action="store_true", help="show the suites")
     given = parser.parse_args()
     unknown = [name for name in given.suites if name not in SUITES]
     if unknown:
         parser.error(f"no such suite: {' '.join(unknown)} (there are: {' '.join(SUITES)})")
     return given
+
+
+def run_suite(name, is_kept):
+    """Runs a suite, or takes its results from an earlier run of the same programs and sources."""
+    say(f"== {name}")
+    started = time.monotonic()
+    suite, results = SUITES[name], RESULTS / name
+    results.mkdir(parents=True)
+    all_built = all([build(preset) for preset in suite.presets])
+    key = kept.key(name, suite.presets) if all_built else None
+    if is_kept and key and kept.restore(key, results):
+        say(f"{name}: {summary.line(summary.count(results))}, kept from an earlier run of the same")
+        return
+    suite.run(results)
+    if key:
+        kept.keep(key, results)
+    say(f"{name}: {summary.line(summary.count(results))} in {time.monotonic() - started:.0f} s")
 
 
 def main():
@@ -170,12 +197,7 @@ def main():
     shutil.rmtree(RESULTS, ignore_errors=True)
     try:
         for name in chosen:
-            say(f"== {name}")
-            started = time.monotonic()
-            results = RESULTS / name
-            results.mkdir(parents=True)
-            SUITES[name](results)
-            say(f"{name}: {summary.line(summary.count(results))} in {time.monotonic() - started:.0f} s")
+            run_suite(name, is_kept=not given.anew)
     finally:
         wine.stop(BUILD)
     return summary.report(RESULTS, chosen)

@@ -8,6 +8,7 @@
 
 #include "geometry/Intersections.h"
 #include "geometry/Trigonometry.h"
+#include "geometry/Vectors.h"
 
 namespace geometry {
 
@@ -20,24 +21,20 @@ namespace {
 constexpr double SINGULAR_VOLUME = 1e-14;
 
 // Two edges from corner `first` on span the normal; true when it reaches the tolerance.
-bool NormalFrom(int first) {
-  const Vec3& a = roofPlane.corners[first];
-  const Vec3& b = roofPlane.corners[(first + 1) % 4];
-  const Vec3& c = roofPlane.corners[(first + 2) % 4];
-  Vec3 d1{};
-  Vec3 d2{};
-  VecSub(a, b, d1);
-  VecSub(b, c, d2);
-  VecCross(d1, d2, roofPlane.normal);
-  return VecLength(roofPlane.normal) >= KernelTolerance;
+bool NormalFrom(int first, RoofPlane& plane) {
+  const Vec3& a = plane.corners[first];
+  const Vec3& b = plane.corners[(first + 1) % 4];
+  const Vec3& c = plane.corners[(first + 2) % 4];
+  plane.normal = Cross(Difference(a, b), Difference(b, c));
+  return VecLength(plane.normal) >= KernelTolerance;
 }
 
 // A normal that only the fourth attempt finds is rejected too.
-bool FindNormal() {
+bool FindNormal(RoofPlane& plane) {
   int attempts = 0;
   bool found = false;
   while (!found && attempts < 4)
-    found = NormalFrom(attempts++);
+    found = NormalFrom(attempts++, plane);
   return attempts < 4;
 }
 
@@ -47,19 +44,37 @@ double SlopeDirection(const Vec3& normal) {
   return horizontal ? 0.0 : ArcTangent2(-normal.x, -normal.y);
 }
 
-void SetFrame(double angle, const Vec3& origin) {
+void SetFrame(double angle, const Vec3& origin, RoofPlane& plane) {
   Matrix4 turn{};
   Matrix4 shift{};
   MatRotationZ(angle, turn);
   MatTranslation({-origin.x, -origin.y, -origin.z}, shift);
-  MatMultiply(turn, shift, roofPlane.worldToLocal);
+  MatMultiply(turn, shift, plane.worldToLocal);
   MatRotationZ(-angle, turn);
   MatTranslation(origin, shift);
-  MatMultiply(shift, turn, roofPlane.localToWorld);
+  MatMultiply(shift, turn, plane.localToWorld);
 }
 
 void OrderAlongX(Vec3& left, Vec3& right) {
   if (left.x > right.x) std::swap(left, right);
+}
+
+// False where RoofPlaneThrough gives none, with corners and normal overwritten.
+bool Fit(const Vec3& p1, const Vec3& p2, const Vec3& p3, RoofPlane& plane) {
+  const Vec3 picked[4] = {p1, p2, p3, p3};  // the points may be the plane's own corners
+  plane.isHorizontal = 0;
+  std::copy(std::begin(picked), std::end(picked), plane.corners);
+  if (!FindNormal(plane)) return false;
+  VecNormalize(plane.normal, plane.normal);
+  if (plane.normal.z < 0.0) VecScale(plane.normal, -1.0, plane.normal);
+
+  SetFrame(SlopeDirection(plane.normal), {picked[2].x, picked[2].y, plane.originZ}, plane);
+  for (int i = 0; i < 3; ++i)
+    plane.localCorners[i] = ToLocal(plane, plane.corners[i]);
+  MatTransformVector(plane.worldToLocal, plane.normal, plane.localNormal);
+  OrderAlongX(plane.localCorners[0], plane.localCorners[1]);
+  OrderAlongX(plane.localCorners[3], plane.localCorners[2]);
+  return true;
 }
 
 bool LiesAlongX(const Vec3& n) {
@@ -73,16 +88,14 @@ bool LiesAlongZ(const Vec3& n) {
 }
 
 // The normal without its size, which may be anything.
-Vec3 Scaled(const Vec3& n) {
+Vec3 OfSizeOne(const Vec3& n) {
   const double largest = std::max({std::abs(n.x), std::abs(n.y), std::abs(n.z)});
   return {n.x / largest, n.y / largest, n.z / largest};
 }
 
 // False when the normals lie in one plane but for rounding, and when one of them is not finite.
 bool Independent(const Vec3& nA, const Vec3& nB, const Vec3& nC) {
-  Vec3 cross{};
-  VecCross(Scaled(nA), Scaled(nB), cross);
-  return std::abs(VecDot(cross, Scaled(nC))) > SINGULAR_VOLUME;
+  return std::abs(VecDot(Cross(OfSizeOne(nA), OfSizeOne(nB)), OfSizeOne(nC))) > SINGULAR_VOLUME;
 }
 
 Vec3 AuxiliaryNormal(const Vec3& nA, const Vec3& nB) {
@@ -94,22 +107,42 @@ Vec3 AuxiliaryNormal(const Vec3& nA, const Vec3& nB) {
 
 }  // namespace
 
-int FitRoofPlane(const Vec3& p1, const Vec3& p2, const Vec3& p3, std::int32_t /*unitFactor*/) {
-  RoofPlane& plane = roofPlane;
-  const Vec3 picked[4] = {p1, p2, p3, p3};  // the points may be the last fit's own corners
-  plane.isHorizontal = 0;
-  std::copy(std::begin(picked), std::end(picked), plane.corners);
-  if (!FindNormal()) return 0;
-  VecNormalize(plane.normal, plane.normal);
-  if (plane.normal.z < 0.0) VecScale(plane.normal, -1.0, plane.normal);
+std::optional<RoofPlane> RoofPlaneThrough(const Vec3& p1, const Vec3& p2, const Vec3& p3) {
+  RoofPlane plane{};
+  if (!Fit(p1, p2, p3, plane)) return std::nullopt;
+  return plane;
+}
 
-  SetFrame(SlopeDirection(plane.normal), {picked[2].x, picked[2].y, plane.originZ});
-  for (int i = 0; i < 3; ++i)
-    WorldToRoof(plane.corners[i], plane.localCorners[i]);
-  MatTransformVector(plane.worldToLocal, plane.normal, plane.localNormal);
-  OrderAlongX(plane.localCorners[0], plane.localCorners[1]);
-  OrderAlongX(plane.localCorners[3], plane.localCorners[2]);
-  return 1;
+Vec3 ToWorld(const RoofPlane& plane, const Vec3& local) {
+  Vec3 world{};
+  MatTransformPoint(plane.localToWorld, local, world);
+  return world;
+}
+
+Vec3 ToLocal(const RoofPlane& plane, const Vec3& world) {
+  Vec3 local{};
+  MatTransformPoint(plane.worldToLocal, world, local);
+  return local;
+}
+
+double SlopeAngle(const RoofPlane& plane) {
+  return std::abs(ArcTangent(plane.localNormal.y / plane.localNormal.z));
+}
+
+Vec3 PointOver(const RoofPlane& plane, const Vec3& p) {
+  Vec3 onPlane = p;
+  ProjectAlong(p, {0, 0, 1}, plane.localCorners[0], plane.localNormal, onPlane);
+  return onPlane;
+}
+
+Vec3 PointAtHeight(const RoofPlane& plane, const Vec3& onPlane, double z) {
+  Vec3 slid = onPlane;
+  ProjectAlong({onPlane.x, onPlane.y, z}, {0, 1, 0}, onPlane, plane.localNormal, slid);
+  return slid;
+}
+
+int FitRoofPlane(const Vec3& p1, const Vec3& p2, const Vec3& p3, std::int32_t /*unitFactor*/) {
+  return Fit(p1, p2, p3, roofPlane) ? 1 : 0;
 }
 
 void RoofToWorld(const Vec3& p, Vec3& out) {

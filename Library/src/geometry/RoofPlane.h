@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "geometry/Matrix4.h"
 #include "geometry/Vec3.h"
@@ -24,13 +25,31 @@ struct RoofPlane {
   Matrix4 localToWorld;  // the placement matrix
 };
 
+// The plane through three points in drawing coordinates, in either direction of picking; none when
+// (p1 - p2) x (p2 - p3) is shorter than the tolerance or not a number. Points so far away that the product
+// overflows give a frame of NaN.
+std::optional<RoofPlane> RoofPlaneThrough(const Vec3& p1, const Vec3& p2, const Vec3& p3);
+
+// The point from the plane's local frame to drawing coordinates, and back.
+Vec3 ToWorld(const RoofPlane& plane, const Vec3& local);
+Vec3 ToLocal(const RoofPlane& plane, const Vec3& world);
+
+// The plane's angle to the horizontal in radians, from 0 to pi / 2.
+double SlopeAngle(const RoofPlane& plane);
+
+// The plane's point straight above or below p; p itself where the plane is vertical. Local coordinates.
+Vec3 PointOver(const RoofPlane& plane, const Vec3& p);
+
+// The plane's point of the height z that lies straight up or down the slope from `onPlane`; `onPlane` itself
+// where the plane is too flat for that. Local coordinates.
+Vec3 PointAtHeight(const RoofPlane& plane, const Vec3& onPlane, double z);
+
 // The module-wide instance: zeroed at load, overwritten by each fit, never reset. One command thread uses it.
 extern RoofPlane roofPlane;
 
-// Fits the plane through three points in drawing coordinates, in either direction of picking. Gives 1; or 0,
-// with the state partly overwritten (corners and normal), when (p1 - p2) x (p2 - p3) is shorter than the
-// tolerance or not a number. Points so far away that the product overflows give 1 and a frame of NaN.
-// `unitFactor` has no effect.
+// Fits the module-wide instance as RoofPlaneThrough does, but for the third and fourth local corner, with
+// which the last fit's fourth one may be exchanged. Gives 1; or 0, with the state partly overwritten (corners
+// and normal), where that gives none. `unitFactor` has no effect.
 int FitRoofPlane(const Vec3& p1, const Vec3& p2, const Vec3& p3, std::int32_t unitFactor);
 
 // The point from the local frame to drawing coordinates and back, by the last fit. `out` may be p.

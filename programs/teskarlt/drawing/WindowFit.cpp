@@ -28,10 +28,6 @@ using geometry::Vec3;
 
 constexpr double PERCENT = 100.0;
 
-bool FitPlane(const RecordPoint (&points)[3], std::int32_t unitFactor) {
-  return geometry::FitRoofPlane(ToVec3(points[0]), ToVec3(points[1]), ToVec3(points[2]), unitFactor) == 1;
-}
-
 Vec3 UnitNormal(const Outline& outline) {
   Vec3 normal = Cross(Difference(outline[3], outline[0]), Difference(outline[1], outline[0]));
   geometry::VecNormalize(normal, normal);
@@ -84,14 +80,14 @@ Outline OutlineOf(const WindowParams& record) {
   const double factor = record.unitFactor;
   const double depth = record.layerThickness * factor;
   const bool usesSecondPlane = UsesSecondPlane(record);
-  FitPlane(usesSecondPlane ? record.secondPlanePoints : record.roofPlanePoints, record.unitFactor);
-  const Vec3& normal = geometry::roofPlane.localNormal;
-  const double slope = std::abs(geometry::ArcTangent(normal.y / normal.z));
+  const geometry::RoofPlane plane =
+      PlaneThrough(usesSecondPlane ? record.secondPlanePoints : record.roofPlanePoints)
+          .value_or(geometry::RoofPlane{});
+  const double slope = SlopeAngle(plane);
   const double sine = geometry::Sine(slope);
   const double cosine = geometry::Cosine(slope);
 
-  Vec3 start{};
-  geometry::WorldToRoof(ToVec3(record.storedPoint), start);
+  Vec3 start = ToLocal(plane, ToVec3(record.storedPoint));
   const double width = record.width * factor;
   if (record.widthAnchor == brevanta::ANCHOR_CENTRE) start.x -= width / 2;
   if (record.widthAnchor == brevanta::ANCHOR_END) start.x -= width;
@@ -108,7 +104,7 @@ Outline OutlineOf(const WindowParams& record) {
   const Vec3 top{start.x, start.y + length * cosine, start.z + length * sine};
   Outline outline{start, top, Vec3{top.x + width, top.y, top.z}, Vec3{start.x + width, start.y, start.z}};
   for (Vec3& corner : outline)
-    geometry::RoofToWorld(corner, corner);
+    corner = ToWorld(plane, corner);
   return outline;
 }
 

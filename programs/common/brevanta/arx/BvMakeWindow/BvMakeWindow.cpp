@@ -40,23 +40,6 @@ std::int16_t SlopeSign(const Vec3& normal) {
   return falls ? std::int16_t{-1} : std::int16_t{1};
 }
 
-// The roof's point vertically above or below p.
-Vec3 DropOntoRoof(const Vec3& p) {
-  Vec3 dropped = p;
-  geometry::ProjectAlong(p, {0, 0, 1.0}, geometry::roofPlane.localCorners[0], geometry::roofPlane.localNormal,
-                         dropped);
-  return dropped;
-}
-
-// The roof's point straight up or down the slope from `onRoof` whose height is `height`; `onRoof` itself
-// where the roof is too flat for that.
-Vec3 SlideToHeight(const Vec3& onRoof, double height) {
-  Vec3 slid = onRoof;
-  geometry::ProjectAlong({onRoof.x, onRoof.y, height}, {0, 1.0, 0}, onRoof, geometry::roofPlane.localNormal,
-                         slid);
-  return slid;
-}
-
 GcGePoint3d ToPoint3d(const Vec3& v) {
   return {v.x, v.y, v.z};
 }
@@ -96,15 +79,16 @@ std::int32_t CbvMakeWindow::Make(WindowParams* record, std::int32_t factor) {
     if (!FitPlane(record->secondPlanePoints, record->unitFactor)) return MAKE_FAILED;
   }
 
-  const Vec3 normal = geometry::roofPlane.localNormal;
+  const geometry::RoofPlane& plane = geometry::roofPlane;
+  const Vec3& normal = plane.localNormal;
   if (std::abs(normal.z) < KernelTolerance) return MAKE_FAILED;
   const std::int16_t slopeSign = SlopeSign(normal);
-  const double slopeAngle = std::abs(geometry::ArcTangent(normal.y / normal.z));
+  const double slopeAngle = SlopeAngle(plane);
 
-  const Vec3 roofPoint = DropOntoRoof(ToVec3(record->insertionPoint));
+  const Vec3 roofPoint = PointOver(plane, ToVec3(record->insertionPoint));
   Vec3 point = roofPoint;
   if (slopeAngle > KernelTolerance && record->placeByHeight == 1) {
-    point = SlideToHeight(roofPoint, Scaled(record->lowerEdgeHeight));
+    point = PointAtHeight(plane, roofPoint, Scaled(record->lowerEdgeHeight));
   }
   BuildWindow(ToPoint3d(point), ToPoint3d(roofPoint), slopeAngle, slopeSign, WIDTH_ALONG_X);
   return MAKE_DONE;
