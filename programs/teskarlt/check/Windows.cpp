@@ -17,6 +17,7 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
