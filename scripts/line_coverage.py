@@ -1,7 +1,8 @@
 # line_coverage.py - the lines that the unit tests reach: counts them by folder and names those that are missing.
-"""The build with sanitizers counts: its tests run anyway, so that counting costs neither a build nor a run of its own,
-a sixth more time to compile and nothing that can be measured to run. What the end-to-end tests reach does not count;
-a folder's own tests shall."""
+"""A build of its own counts, without optimisation and sanitizers; with a warm compiler cache it costs little more than
+one more run of the tests. Counting in the build with sanitizers would spare that, but a program that is built anew finds
+the counts of the one before it and says so on standard error, which tests compare. What the end-to-end tests reach does
+not count: a folder's own tests shall."""
 import collections
 import json
 import subprocess
@@ -19,7 +20,7 @@ DEMANDED = {
     "programs/teskarlt/drawing": 95,
     "programs/teskarlt/dxf": 95,
     "programs/teskarlt/windows": 95,
-    # Through the program, by the end-to-end tests: the numbers are only shown.
+    # Tested through the program, by the end-to-end tests: these shares are only shown.
     "programs/teskarlt/check": 0,
     "programs/teskarlt/commands": 0,
     "programs/teskarlt/modules": 0,
@@ -31,7 +32,7 @@ Lines = collections.namedtuple("Lines", "reached missing")  # numbers
 
 
 def forget(build):
-    """Throws away the counts of a build folder; those of an earlier build do not fit this one."""
+    """Throws away the counts that a build folder holds of earlier runs."""
     for counts in build.rglob("*.gcda"):
         counts.unlink()
 

@@ -49,7 +49,6 @@ def build(preset):
         log.unlink(missing_ok=True)
         build.done[preset] = (run_logged(["cmake", "--preset", preset], log) and
                               run_logged(["cmake", "--build", "--preset", preset], log))
-        line_coverage.forget(BUILD / preset)
     return build.done[preset]
 
 
@@ -89,21 +88,14 @@ def unit_tests(preset, results):
             summary.write_failure(results, name, "the program failed outside of its tests")
 
 
-def counted_unit_tests(results):
-    """The unit tests with sanitizers, and which lines they reach; the end-to-end tests then reach more."""
-    unit_tests("asan", results)
-    counted_unit_tests.files = line_coverage.count(ROOT, BUILD / "asan")
-
-
-counted_unit_tests.files = None
-
-
 def coverage(results):
-    if counted_unit_tests.files is None:
-        counted_unit_tests(results)
-    if counted_unit_tests.files is None:
+    """The unit tests in the build that counts the lines that they reach, and whether those are enough."""
+    line_coverage.forget(BUILD / "coverage")
+    unit_tests("coverage", results)
+    files = line_coverage.count(ROOT, BUILD / "coverage")
+    if files is None:
         return summary.write_failure(results, "coverage", "the lines cannot be counted")
-    line_coverage.report(counted_unit_tests.files, results)
+    line_coverage.report(files, results)
 
 
 def pytest(folder, results, options=(), env=None):
@@ -149,8 +141,8 @@ SUITES = {
     "rules": Suite(rules, "linux", "windows"),
     "windows": Suite(lambda results: unit_tests("windows", results), "windows"),
     "e2e-windows": Suite(lambda results: end_to_end("windows", results), "windows"),
-    "asan": Suite(counted_unit_tests, "asan"),
-    "coverage": Suite(coverage, "asan"),
+    "asan": Suite(lambda results: unit_tests("asan", results), "asan"),
+    "coverage": Suite(coverage, "coverage"),
     "e2e-asan": Suite(lambda results: end_to_end("asan", results), "asan"),
     "tidy": Suite(tidy, "linux", "windows"),
 }
