@@ -17,6 +17,7 @@
 #include "teskarlt/preview/Curves.h"
 #include "teskarlt/preview/Record.h"
 #include "teskarlt/preview/Styles.h"
+#include "window/Parts.h"
 
 namespace teskarlt::preview {
 
@@ -31,7 +32,6 @@ constexpr int CODE_INVISIBLE = 60;
 constexpr int CODE_NUMBER = 62;
 constexpr int CODE_TRUE_COLOUR = 420;
 constexpr int CODE_LINETYPE_SCALE = 48;
-constexpr std::int64_t GLASS_NUMBER = 4;  // the module's colour for a pane
 
 // How an entity looks, after ByLayer and ByBlock.
 struct Look {
@@ -211,7 +211,8 @@ void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const Record& re
     Surface surface{face.corners, face.hiddenEdges, LayerIndex(look.layer), look.colour,
                     false,        placement.window};
     Show(surface.corners, placement);
-    if (placement.window != NO_WINDOW && record.Integer(CODE_NUMBER, COLOUR_BY_LAYER) == GLASS_NUMBER) {
+    if (placement.window != NO_WINDOW &&
+        record.Integer(CODE_NUMBER, COLOUR_BY_LAYER) == brevanta::GLASS_COLOUR) {
       surface.isGlass = true;
       const Vec3 normal = NormalOf(surface.corners);
       const double sign = normal.z < 0 ? -1 : 1;
