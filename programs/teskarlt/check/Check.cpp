@@ -21,6 +21,8 @@
 #include "teskarlt/check/Windows.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/dxf/read/FileKind.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
@@ -29,16 +31,17 @@ namespace {
 constexpr std::string_view VERSION_PREFIX = "AC";
 
 // From R2000 on. Programs do without CLASSES when the drawing holds nothing that needs it.
-constexpr std::string_view REQUIRED_SECTIONS[] = {"HEADER", "TABLES", "BLOCKS", "OBJECTS"};
+constexpr std::string_view REQUIRED_SECTIONS[] = {dxf::SECTION_HEADER, dxf::SECTION_TABLES,
+                                                  dxf::SECTION_BLOCKS, dxf::SECTION_OBJECTS};
 
 void TakeVariable(std::string_view name, const dxf::Tag& value, Header& header) {
-  if (name == "$ACADVER" && value.value.starts_with(VERSION_PREFIX)) {
+  if (name == dxf::VARIABLE_VERSION && value.value.starts_with(VERSION_PREFIX)) {
     const auto number = dxf::ParseInteger(value.value.substr(VERSION_PREFIX.size()));
     header.version = std::max(static_cast<int>(number.value_or(dxf::VERSION_R12)), dxf::VERSION_R12);
     header.saysVersion = true;
-  } else if (name == "$DWGCODEPAGE") {
+  } else if (name == dxf::VARIABLE_CODE_PAGE) {
     header.codePage = dxf::Trimmed(value.value);
-  } else if (name == "$HANDSEED") {
+  } else if (name == dxf::VARIABLE_HANDLE_SEED) {
     header.handleSeed = value;
   }
 }
@@ -82,7 +85,7 @@ class Checks {
     if (object.place == Place::Section) {
       sections_.push_back(object.section);
       sectionsEnd_ = object.Begin();
-      if (dxf::SameName(object.section, "HEADER")) header_ = ReadHeader(object);
+      if (dxf::SameName(object.section, dxf::SECTION_HEADER)) header_ = ReadHeader(object);
     }
     CheckValues(object, findings_);
     texts_.Take(object);

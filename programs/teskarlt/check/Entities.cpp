@@ -3,22 +3,14 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
 namespace {
 
 using dxf::Tag;
-
-constexpr int CODE_CONTROL = 102;
-constexpr int CODE_X = 10;
-constexpr int CODE_HAS_ATTRIBUTES = 66;
-constexpr int CODE_FLAGS = 70;
-constexpr int CODE_FIRST_INDEX = 71;
-constexpr int CODE_LAST_INDEX = 74;
-constexpr int CODE_VERTEX_COUNT = 90;
-constexpr std::int64_t FLAG_FACE_MESH = 64;  // of a POLYLINE, and of a VERTEX that is a point of one
-constexpr std::int64_t FLAG_FACE_RECORD = 128;
 
 std::int64_t IntegerOf(const Object& object, int code) {
   const Tag* const tag = FindTag(object, code);
@@ -29,22 +21,22 @@ std::int64_t IntegerOf(const Object& object, int code) {
 
 void Entities::Take(const Object& object) {
   if (object.place == Place::SectionEnd || object.place == Place::Section) CloseSequence();
-  if (object.type != "XRECORD") CheckControlGroups(object);
+  if (object.type != dxf::TYPE_XRECORD) CheckControlGroups(object);
   if (object.IsEntity()) TakeEntity(object);
 }
 
 void Entities::TakeEntity(const Object& object) {
   const std::string_view type = object.type;
-  if (type == "VERTEX" || type == "ATTRIB" || type == "SEQEND") {
+  if (dxf::IsPartType(type)) {
     TakePart(object);
   } else {
     CloseSequence();
-    if (type == "POLYLINE") {
+    if (type == dxf::TYPE_POLYLINE) {
       sequence_ = {object.Begin(), object.number, true,
-                   (IntegerOf(object, CODE_FLAGS) & FLAG_FACE_MESH) != 0};
-    } else if (type == "INSERT" && IntegerOf(object, CODE_HAS_ATTRIBUTES) == 1) {
+                   (IntegerOf(object, dxf::CODE_POLYLINE_FLAGS) & dxf::POLYLINE_POLYFACE_MESH) != 0};
+    } else if (type == dxf::TYPE_INSERT && IntegerOf(object, dxf::CODE_INSERT_HAS_ATTRIBUTES) == 1) {
       sequence_ = {object.Begin(), object.number, false};
-    } else if (type == "LWPOLYLINE") {
+    } else if (type == dxf::TYPE_LWPOLYLINE) {
       CheckVertexCount(object);
     }
   }
@@ -55,8 +47,8 @@ void Entities::TakeEntity(const Object& object) {
 }
 
 void Entities::TakePart(const Object& object) {
-  const bool isVertex = object.type == "VERTEX";
-  const bool isEnd = object.type == "SEQEND";
+  const bool isVertex = object.type == dxf::TYPE_VERTEX;
+  const bool isEnd = object.type == dxf::TYPE_SEQUENCE_END;
   if (sequence_.place == nullptr || (!isEnd && isVertex != sequence_.isPolyline)) {
     findings_.Error(Kind::PartOutside, object.Begin(),
                     fmt::format("the {} does not follow {}", object.type,
@@ -72,13 +64,13 @@ void Entities::TakePart(const Object& object) {
 }
 
 void Entities::TakeVertex(const Object& object) {
-  const std::int64_t flags = IntegerOf(object, CODE_FLAGS);
-  if ((flags & FLAG_FACE_RECORD) == 0 || (flags & FLAG_FACE_MESH) != 0) {
+  const std::int64_t flags = IntegerOf(object, dxf::CODE_VERTEX_FLAGS);
+  if ((flags & dxf::VERTEX_OF_POLYFACE) == 0 || (flags & dxf::VERTEX_OF_MESH) != 0) {
     ++sequence_.vertices;
     return;
   }
   for (const Tag& tag : object.Own()) {
-    if (tag.code < CODE_FIRST_INDEX || tag.code > CODE_LAST_INDEX) continue;
+    if (tag.code < dxf::CODE_FIRST_FACE_VERTEX || tag.code > dxf::CODE_LAST_FACE_VERTEX) continue;
     faces_.push_back({dxf::ParseInteger(tag.value).value_or(0), tag.value.data(), object.number});
   }
 }
@@ -96,11 +88,11 @@ void Entities::CheckFaces() {
 }
 
 void Entities::CheckVertexCount(const Object& object) {
-  const Tag* const count = FindTag(object, CODE_VERTEX_COUNT);
+  const Tag* const count = FindTag(object, dxf::CODE_LWPOLYLINE_COUNT);
   if (count == nullptr) return;
   std::int64_t vertices = 0;
   for (const Tag& tag : object.Own())
-    if (tag.code == CODE_X) ++vertices;
+    if (tag.code == dxf::CODE_VERTEX_POINT) ++vertices;
   if (dxf::ParseInteger(count->value).value_or(vertices) == vertices) return;
   findings_.Error(Kind::VertexCount, count->value.data(),
                   fmt::format("the LWPOLYLINE says that it has {} vertices and has {}",
@@ -122,7 +114,7 @@ void Entities::CloseSequence() {
 void Entities::CheckControlGroups(const Object& object) {
   const Tag* open = nullptr;
   for (const Tag& tag : object.Own()) {
-    if (tag.code != CODE_CONTROL) continue;
+    if (tag.code != dxf::CODE_CONTROL) continue;
     const bool opens = tag.value.starts_with('{');
     if (opens == (open != nullptr)) {
       findings_.Error(

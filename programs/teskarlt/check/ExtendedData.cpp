@@ -6,6 +6,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/check/Values.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TypedTag.h"
 
 namespace teskarlt::check {
@@ -15,8 +17,6 @@ using dxf::Quoted;
 using dxf::Tag;
 using dxf::ValueKind;
 
-constexpr int CODE_BRACE = 1002;
-constexpr int CODE_BINARY = 1004;
 // Bytes of one entity, over all applications.
 constexpr std::size_t MOST_BYTES = 16383;
 
@@ -34,7 +34,7 @@ std::size_t SizeOf(const Tag& tag) {
     case ValueKind::Handle:
       return CODE_SIZE + sizeof(std::uint64_t);
     default:
-      return CODE_SIZE + (tag.code == CODE_BINARY ? tag.value.size() / 2 : tag.value.size() + 1);
+      return CODE_SIZE + (tag.code == dxf::CODE_XDATA_BINARY ? tag.value.size() / 2 : tag.value.size() + 1);
   }
 }
 
@@ -61,7 +61,7 @@ class ExtendedData {
     if (tag.code == dxf::CODE_XDATA_APPLICATION) {
       CloseBraces();
       TakeApplication(tag);
-    } else if (tag.code < dxf::CODE_XDATA_TEXT) {
+    } else if (!dxf::IsExtendedData(tag.code)) {
       if (!isOutOfOrder_) {
         Error(Kind::ExtendedOrder, tag,
               fmt::format("the group {} stands behind extended data, which end an object", tag.code));
@@ -75,7 +75,7 @@ class ExtendedData {
       }
       isNameless_ = true;
     }
-    if (tag.code == CODE_BRACE) TakeBrace(tag);
+    if (tag.code == dxf::CODE_XDATA_BRACE) TakeBrace(tag);
     TakePoint(tag);
     if (tag.code == dxf::CODE_XDATA_TEXT && tag.value.size() > dxf::LONGEST_EXTENDED_TEXT) {
       Error(Kind::ExtendedTextLength, tag,
@@ -107,7 +107,7 @@ class ExtendedData {
       Error(Kind::ExtendedPoint, *point_,
             fmt::format("the group {} of this point should follow, not {}", wanted_, tag.code));
     }
-    if (isPoint && tag.code >= dxf::CODE_XDATA_TEXT) {
+    if (isPoint && dxf::IsExtendedData(tag.code)) {
       point_ = &tag;
       wanted_ = tag.code + NEXT_COORDINATE;
     } else {
@@ -160,7 +160,7 @@ class ExtendedData {
 
 void CheckExtendedData(const Object& object, Findings& findings) {
   // The values of an XRECORD are whatever its application likes.
-  if (object.Extended().empty() || object.type == "XRECORD") return;
+  if (object.Extended().empty() || object.type == dxf::TYPE_XRECORD) return;
   ExtendedData(object, findings).Check();
 }
 

@@ -5,25 +5,14 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
 namespace {
 
 using dxf::Tag;
-
-constexpr int CODE_CONTROL = 102;
-constexpr int CODE_SORTED_ENTITY = 331;
-constexpr int CODE_GROUP_MEMBER = 340;
-constexpr int CODE_SOFT_ENTRY = 350;
-constexpr int CODE_HARD_ENTRY = 360;
-constexpr int CODE_PLOT_STYLE = 390;
-constexpr std::string_view REACTORS = "{ACAD_REACTORS";
-constexpr std::string_view EXTENSION_DICTIONARY = "{ACAD_XDICTIONARY";
-
-bool IsPart(std::string_view type) {
-  return type == "VERTEX" || type == "ATTRIB" || type == "SEQEND";
-}
 
 bool HasHandle(Place place) {
   return place == Place::Table || place == Place::TableEntry || place == Place::BlockEntity ||
@@ -41,8 +30,8 @@ void Handles::Take(const Object& object) {
 Handles::Role Handles::RoleOf(const Object& object) {
   if (object.place == Place::Table) return Role::Table;
   if (object.place == Place::TableEntry)
-    return object.type == "BLOCK_RECORD" ? Role::BlockRecord : Role::Plain;
-  return object.type == "POLYLINE" || object.type == "INSERT" ? Role::Sequence : Role::Plain;
+    return object.type == dxf::TABLE_BLOCKS ? Role::BlockRecord : Role::Plain;
+  return object.type == dxf::TYPE_POLYLINE || object.type == dxf::TYPE_INSERT ? Role::Sequence : Role::Plain;
 }
 
 void Handles::TakeHandle(const Object& object) {
@@ -61,13 +50,13 @@ void Handles::TakeReferences(const Object& object) {
   const Tag* owner = nullptr;
   bool isInHead = true;  // before the class markers
   for (const Tag& tag : object.Own()) {
-    if (tag.code == CODE_CONTROL) {
+    if (tag.code == dxf::CODE_CONTROL) {
       control = tag.value.starts_with('{') ? dxf::Trimmed(tag.value) : std::string_view();
     } else if (tag.code == dxf::CODE_SUBCLASS) {
       isInHead = false;
     } else if (isInHead && owner == nullptr && tag.code == dxf::CODE_OWNER && control.empty()) {
       owner = &tag;
-    } else if (tag.code >= dxf::CODE_OWNER && tag.code <= CODE_PLOT_STYLE) {
+    } else if (tag.code >= dxf::CODE_OWNER && tag.code <= dxf::CODE_PLOT_STYLE) {
       TakeReference(object, tag, control);
     }
   }
@@ -86,7 +75,7 @@ void Handles::TakeReferences(const Object& object) {
 Handles::Use Handles::OwnerUse(const Object& object) {
   if (object.place == Place::TableEntry) return Use::EntryOwner;
   if (object.place == Place::Object) return Use::ObjectOwner;
-  return IsPart(object.type) ? Use::PartOwner : Use::EntityOwner;
+  return dxf::IsPartType(object.type) ? Use::PartOwner : Use::EntityOwner;
 }
 
 void Handles::TakeOwner(const Object& object, const Tag& owner) {
@@ -99,20 +88,20 @@ void Handles::TakeOwner(const Object& object, const Tag& owner) {
 }
 
 void Handles::TakeReference(const Object& object, const Tag& tag, std::string_view control) {
-  if (control == REACTORS) {
-    if (tag.code == dxf::CODE_OWNER) Refer(object, tag, Use::Reactor);
-  } else if (control == EXTENSION_DICTIONARY) {
-    if (tag.code == CODE_HARD_ENTRY) Refer(object, tag, Use::ExtensionDictionary);
+  if (control == dxf::REACTORS_BEGIN) {
+    if (tag.code == dxf::CODE_REACTOR) Refer(object, tag, Use::Reactor);
+  } else if (control == dxf::EXTENSION_DICTIONARY_BEGIN) {
+    if (tag.code == dxf::CODE_EXTENSION_DICTIONARY) Refer(object, tag, Use::ExtensionDictionary);
   } else if (object.place == Place::Object) {
-    if (tag.code == CODE_GROUP_MEMBER && object.type == "GROUP") {
+    if (tag.code == dxf::CODE_GROUP_MEMBER && object.type == dxf::TYPE_GROUP) {
       Refer(object, tag, Use::GroupMember);
-    } else if (tag.code == CODE_SORTED_ENTITY && object.type == "SORTENTSTABLE") {
+    } else if (tag.code == dxf::CODE_SORTED_ENTITY && object.type == dxf::TYPE_SORT_TABLE) {
       Refer(object, tag, Use::DrawOrder);
-    } else if ((tag.code == CODE_SOFT_ENTRY || tag.code == CODE_HARD_ENTRY) &&
-               (object.type == "DICTIONARY" || object.type == "ACDBDICTIONARYWDFLT")) {
+    } else if ((tag.code == dxf::CODE_SOFT_OWNED || tag.code == dxf::CODE_HARD_OWNED) &&
+               dxf::IsDictionaryType(object.type)) {
       Refer(object, tag, Use::DictionaryEntry);
     }
-  } else if (tag.code == CODE_PLOT_STYLE && (object.type == "LAYER" || object.IsEntity())) {
+  } else if (tag.code == dxf::CODE_PLOT_STYLE && (object.type == dxf::TABLE_LAYERS || object.IsEntity())) {
     Refer(object, tag, Use::PlotStyle);
   }
 }

@@ -5,14 +5,12 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
 namespace {
-
-constexpr int CODE_DASH_COUNT = 73;
-constexpr int CODE_DASH = 49;
-constexpr int CODE_DASH_TYPE = 74;
 
 std::int64_t CountOf(const Object& object, int code) {
   const auto own = object.Own();
@@ -22,17 +20,17 @@ std::int64_t CountOf(const Object& object, int code) {
 }  // namespace
 
 void CheckLinetype(const Object& object, const Header& header, Findings& findings) {
-  if (object.place != Place::TableEntry || object.type != "LTYPE") return;
-  const std::int64_t dashes = CountOf(object, CODE_DASH);
-  const dxf::Tag* const count = FindTag(object, CODE_DASH_COUNT);
+  if (object.place != Place::TableEntry || object.type != dxf::TABLE_LINETYPES) return;
+  const std::int64_t dashes = CountOf(object, dxf::CODE_DASH);
+  const dxf::Tag* const count = FindTag(object, dxf::CODE_DASH_COUNT);
   if (count != nullptr && dxf::ParseInteger(count->value).value_or(dashes) != dashes) {
     findings.Error(
         Kind::LinetypePattern, count->value.data(),
         fmt::format("the linetype says that it has {} dashes and has {}", dxf::Trimmed(count->value), dashes),
         object.number);
   }
-  if (header.version < dxf::VERSION_R13 || CountOf(object, CODE_DASH_TYPE) >= dashes) return;
-  findings.Error(Kind::LinetypePattern, FindTag(object, CODE_DASH)->value.data(),
+  if (header.version < dxf::VERSION_R13 || CountOf(object, dxf::CODE_DASH_KIND) >= dashes) return;
+  findings.Error(Kind::LinetypePattern, FindTag(object, dxf::CODE_DASH)->value.data(),
                  "the linetype does not say for each dash what it is made of (group 74)", object.number);
 }
 

@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {

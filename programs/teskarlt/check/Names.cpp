@@ -7,6 +7,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
@@ -16,9 +18,6 @@ using dxf::Quoted;
 using dxf::SameName;
 using dxf::Tag;
 
-constexpr int CODE_DIMENSION_STYLE = 3;
-constexpr int CODE_TEXT_STYLE = 7;
-
 // Of each space, in the order of the enumeration.
 struct SpaceInfo {
   std::string_view table;
@@ -27,13 +26,13 @@ struct SpaceInfo {
 };
 
 constexpr SpaceInfo SPACES[] = {
-    {"LAYER", "layer", Kind::LayerUndefined},
-    {"LTYPE", "linetype", Kind::LinetypeUndefined},
-    {"STYLE", "text style", Kind::TextStyleUndefined},
-    {"DIMSTYLE", "dimension style", Kind::DimensionStyleUndefined},
+    {dxf::TABLE_LAYERS, "layer", Kind::LayerUndefined},
+    {dxf::TABLE_LINETYPES, "linetype", Kind::LinetypeUndefined},
+    {dxf::TABLE_TEXT_STYLES, "text style", Kind::TextStyleUndefined},
+    {dxf::TABLE_DIMENSION_STYLES, "dimension style", Kind::DimensionStyleUndefined},
     {"", "block", Kind::BlockUndefined},
-    {"BLOCK_RECORD", "block", Kind::BlockUndefined},
-    {"APPID", "application", Kind::ApplicationUndefined},
+    {dxf::TABLE_BLOCKS, "block", Kind::BlockUndefined},
+    {dxf::TABLE_APPLICATIONS, "application", Kind::ApplicationUndefined},
 };
 
 struct Required {
@@ -43,18 +42,18 @@ struct Required {
 
 // From R2000 on.
 constexpr Required REQUIRED[] = {
-    {"VPORT", ""},
-    {"LTYPE", "ByBlock"},
-    {"LTYPE", "ByLayer"},
-    {"LTYPE", "Continuous"},
-    {"LAYER", "0"},
-    {"STYLE", "Standard"},
-    {"VIEW", ""},
-    {"UCS", ""},
-    {"APPID", "ACAD"},
-    {"DIMSTYLE", "Standard"},
-    {"BLOCK_RECORD", "*Model_Space"},
-    {"BLOCK_RECORD", "*Paper_Space"},
+    {dxf::TABLE_VIEWPORTS, ""},
+    {dxf::TABLE_LINETYPES, dxf::LINETYPE_BY_BLOCK},
+    {dxf::TABLE_LINETYPES, dxf::LINETYPE_BY_LAYER},
+    {dxf::TABLE_LINETYPES, dxf::LINETYPE_CONTINUOUS},
+    {dxf::TABLE_LAYERS, dxf::DEFAULT_LAYER},
+    {dxf::TABLE_TEXT_STYLES, dxf::DEFAULT_STYLE},
+    {dxf::TABLE_VIEWS, ""},
+    {dxf::TABLE_COORDINATE_SYSTEMS, ""},
+    {dxf::TABLE_APPLICATIONS, dxf::DEFAULT_APPLICATION},
+    {dxf::TABLE_DIMENSION_STYLES, dxf::DEFAULT_STYLE},
+    {dxf::TABLE_BLOCKS, dxf::BLOCK_MODEL_SPACE},
+    {dxf::TABLE_BLOCKS, dxf::BLOCK_PAPER_SPACE},
 };
 
 constexpr std::size_t LONGEST_OLD_NAME = 31;  // bytes; before R2000
@@ -65,13 +64,18 @@ constexpr std::string_view FORBIDDEN_IN_NAMES = "<>/\\\":;?*,=`";
 // Names that a drawing has whether or not its tables say so. What a version wants in them is told once, as a
 // missing record, and not with every use.
 constexpr Required IMPLIED[] = {
-    {"LAYER", "0"},        {"LTYPE", "BYLAYER"},     {"LTYPE", "BYBLOCK"}, {"LTYPE", "CONTINUOUS"},
-    {"STYLE", "STANDARD"}, {"DIMSTYLE", "STANDARD"}, {"APPID", "ACAD"},
+    {dxf::TABLE_LAYERS, dxf::DEFAULT_LAYER},
+    {dxf::TABLE_LINETYPES, dxf::LINETYPE_BY_LAYER},
+    {dxf::TABLE_LINETYPES, dxf::LINETYPE_BY_BLOCK},
+    {dxf::TABLE_LINETYPES, dxf::LINETYPE_CONTINUOUS},
+    {dxf::TABLE_TEXT_STYLES, dxf::DEFAULT_STYLE},
+    {dxf::TABLE_DIMENSION_STYLES, dxf::DEFAULT_STYLE},
+    {dxf::TABLE_APPLICATIONS, dxf::DEFAULT_APPLICATION},
 };
 
 bool IsImplied(std::string_view table, std::string_view folded) {
   return std::any_of(std::begin(IMPLIED), std::end(IMPLIED), [&](const Required& implied) {
-    return implied.table == table && implied.record == folded;
+    return implied.table == table && SameName(implied.record, folded);
   });
 }
 
@@ -86,8 +90,9 @@ std::string Folded(const dxf::TextCodec& codec, std::string_view raw) {
 
 // Records that the big programs do not count in the head of their table.
 bool IsUncounted(std::string_view name) {
-  constexpr std::string_view PAPER_SPACES = "*Paper_Space";  // some have a number behind it
-  return SameName(name, "ByLayer") || SameName(name, "ByBlock") || SameName(name, "*Model_Space") ||
+  constexpr std::string_view PAPER_SPACES = dxf::BLOCK_PAPER_SPACE;  // some have a number behind it
+  return SameName(name, dxf::LINETYPE_BY_LAYER) || SameName(name, dxf::LINETYPE_BY_BLOCK) ||
+         SameName(name, dxf::BLOCK_MODEL_SPACE) ||
          SameName(name.substr(0, PAPER_SPACES.size()), PAPER_SPACES);
 }
 
@@ -115,11 +120,12 @@ bool IsAllowedName(std::string_view name, int version) {
 }
 
 bool HasTextStyle(std::string_view type) {
-  return type == "TEXT" || type == "MTEXT" || type == "ATTRIB" || type == "ATTDEF";
+  return type == dxf::TYPE_TEXT || type == dxf::TYPE_MTEXT || type == dxf::TYPE_ATTRIBUTE ||
+         type == dxf::TYPE_ATTRIBUTE_DEFINITION;
 }
 
 bool HasDimensionStyle(std::string_view type) {
-  return type == "DIMENSION" || type == "LEADER" || type == "TOLERANCE";
+  return type == dxf::TYPE_DIMENSION || type == dxf::TYPE_LEADER || type == dxf::TYPE_TOLERANCE;
 }
 
 }  // namespace
@@ -127,7 +133,7 @@ bool HasDimensionStyle(std::string_view type) {
 void Names::Take(const Object& object) {
   switch (object.place) {
     case Place::SectionEnd:
-      if (SameName(object.section, "TABLES")) tablesEnd_ = object.Begin();
+      if (SameName(object.section, dxf::SECTION_TABLES)) tablesEnd_ = object.Begin();
       break;
     case Place::Table:
       TakeTable(object);
@@ -153,7 +159,7 @@ void Names::Take(const Object& object) {
 }
 
 void Names::TakeTable(const Object& object) {
-  const Tag* const count = FindTag(object, dxf::CODE_COUNT);
+  const Tag* const count = FindTag(object, dxf::CODE_TABLE_COUNT);
   tables_.push_back({object.table, object.Begin(), count == nullptr ? Tag() : *count});
 }
 
@@ -174,15 +180,15 @@ void Names::TakeRecord(const Object& object) {
   for (int i = 0; i < SpaceCount; ++i)
     if (SameName(SPACES[i].table, table.name)) defined_[static_cast<std::size_t>(i)].push_back(name->value);
   CheckRecordName(object, *name);
-  if (SameName(table.name, "LAYER")) {
+  if (SameName(table.name, dxf::TABLE_LAYERS)) {
     if (const Tag* const linetype = FindTag(object, dxf::CODE_LINETYPE)) Use(Linetype, object, *linetype);
-  } else if (SameName(table.name, "BLOCK_RECORD")) {
+  } else if (SameName(table.name, dxf::TABLE_BLOCKS)) {
     Use(Block, object, *name);
   }
 }
 
 void Names::CheckRecordName(const Object& object, const Tag& name) {
-  if (!SameName(object.table, "LAYER") && !SameName(object.table, "LTYPE")) return;
+  if (!SameName(object.table, dxf::TABLE_LAYERS) && !SameName(object.table, dxf::TABLE_LINETYPES)) return;
   const std::size_t longest = header_.version < dxf::VERSION_R2000 ? LONGEST_OLD_NAME : LONGEST_NAME;
   const bool isForbidden = !IsAllowedName(name.value, header_.version);
   if (!isForbidden && !name.value.empty() && name.value.size() <= longest) return;
@@ -194,7 +200,7 @@ void Names::CheckRecordName(const Object& object, const Tag& name) {
 }
 
 void Names::TakeBlockNames(const Object& object) {
-  if (object.type != "BLOCK") return;
+  if (object.type != dxf::TYPE_BLOCK) return;
   const Tag* const name = FindTag(object, dxf::CODE_NAME);
   if (name == nullptr) return;
   defined_[Block].push_back(name->value);
@@ -204,15 +210,15 @@ void Names::TakeBlockNames(const Object& object) {
 void Names::TakeEntityNames(const Object& object) {
   const bool hasStyle = HasTextStyle(object.type);
   const bool hasDimensionStyle = HasDimensionStyle(object.type);
-  const bool hasBlock = object.type == "INSERT" || object.type == "DIMENSION";
+  const bool hasBlock = object.type == dxf::TYPE_INSERT || object.type == dxf::TYPE_DIMENSION;
   for (const Tag& tag : object.Own()) {
     if (tag.code == dxf::CODE_LAYER) {
       Use(Layer, object, tag);
     } else if (tag.code == dxf::CODE_LINETYPE) {
       Use(Linetype, object, tag);
-    } else if (hasStyle && tag.code == CODE_TEXT_STYLE) {
+    } else if (hasStyle && tag.code == dxf::CODE_TEXT_STYLE) {
       Use(TextStyle, object, tag);
-    } else if (hasDimensionStyle && tag.code == CODE_DIMENSION_STYLE) {
+    } else if (hasDimensionStyle && tag.code == dxf::CODE_DIMENSION_STYLE) {
       Use(DimensionStyle, object, tag);
     } else if (hasBlock && tag.code == dxf::CODE_NAME) {
       Use(Block, object, tag);
@@ -221,7 +227,7 @@ void Names::TakeEntityNames(const Object& object) {
 }
 
 void Names::TakeApplications(const Object& object) {
-  if (object.type == "XRECORD") return;
+  if (object.type == dxf::TYPE_XRECORD) return;
   for (const Tag& tag : object.Extended())
     if (tag.code == dxf::CODE_XDATA_APPLICATION) Use(Application, object, tag);
 }

@@ -5,7 +5,9 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/Error.h"
 #include "teskarlt/check/Values.h"
+#include "teskarlt/dxf/tags/Codes.h"
 
 namespace teskarlt::check {
 namespace {
@@ -50,7 +52,7 @@ bool HasUndefinedBytes(const platform::CodePage& page, std::string_view bytes) {
 void Texts::Take(const Object& object) {
   for (const Tag& tag : object.tags) {
     if (KindOfCode(tag.code) != dxf::ValueKind::Text) continue;
-    if (tag.code < dxf::CODE_XDATA_TEXT) CheckLength(object, tag);
+    if (!dxf::IsExtendedData(tag.code)) CheckLength(object, tag);
     if (!IsAscii(tag.value)) CheckBytes(object, tag);
   }
 }
@@ -97,7 +99,7 @@ bool Texts::FindPage(const Tag& tag) {
   if (page_ || isPageUnknown_) return page_.has_value();
   try {
     if (const auto number = platform::CodePageNumber(header_.codePage)) page_.emplace(*number);
-  } catch (const platform::CodePageError&) {
+  } catch (const Error&) {
     page_.reset();  // known by name, but not to this system
   }
   isPageUnknown_ = !page_;

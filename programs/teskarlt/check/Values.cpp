@@ -9,6 +9,9 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
+
 namespace teskarlt::check {
 namespace {
 
@@ -19,7 +22,6 @@ using dxf::ValueKind;
 constexpr int LARGEST_CODE = 1071;
 constexpr int CODE_FIRST_BINARY = 310;
 constexpr int CODE_LAST_BINARY = 319;
-constexpr int CODE_XDATA_BINARY = 1004;
 // 127 bytes as hexadecimal digits.
 constexpr std::size_t LONGEST_BINARY = 254;
 
@@ -78,13 +80,13 @@ class ObjectValues {
 
   void CheckHandle(const Tag& tag) const {
     const bool isArrowName = tag.code == dxf::CODE_HANDLE && object_.place == Place::TableEntry &&
-                             dxf::SameName(object_.table, "DIMSTYLE");
+                             dxf::SameName(object_.table, dxf::TABLE_DIMENSION_STYLES);
     if (!isArrowName && !dxf::ParseHandle(tag.value))
       Error(Kind::HandleValue, tag, "is not a handle of 1 to 16 hexadecimal digits");
   }
 
   void CheckBinary(const Tag& tag) const {
-    const bool isExtended = tag.code == CODE_XDATA_BINARY;
+    const bool isExtended = tag.code == dxf::CODE_XDATA_BINARY;
     if (!isExtended && (tag.code < CODE_FIRST_BINARY || tag.code > CODE_LAST_BINARY)) return;
     const std::string_view digits = dxf::Trimmed(tag.value);
     if (digits.size() % 2 != 0 || !std::all_of(digits.begin(), digits.end(),

@@ -6,6 +6,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
@@ -16,8 +18,6 @@ using dxf::CODE_TYPE;
 using dxf::Quoted;
 using dxf::SameName;
 using dxf::Tag;
-
-constexpr int FIRST_EXTENDED_CODE = dxf::CODE_XDATA_TEXT;
 
 std::string_view NameOf(const std::vector<Tag>& tags) {
   const auto name =
@@ -30,11 +30,11 @@ struct SectionPlace {
   Place place;
 };
 
-constexpr SectionPlace SECTION_PLACES[] = {{"CLASSES", Place::Class},
-                                           {"TABLES", Place::TableEntry},
-                                           {"BLOCKS", Place::BlockEntity},
-                                           {"ENTITIES", Place::Entity},
-                                           {"OBJECTS", Place::Object}};
+constexpr SectionPlace SECTION_PLACES[] = {{dxf::SECTION_CLASSES, Place::Class},
+                                           {dxf::SECTION_TABLES, Place::TableEntry},
+                                           {dxf::SECTION_BLOCKS, Place::BlockEntity},
+                                           {dxf::SECTION_ENTITIES, Place::Entity},
+                                           {dxf::SECTION_OBJECTS, Place::Object}};
 
 Place PlaceInSection(std::string_view section) {
   for (const SectionPlace& known : SECTION_PLACES)
@@ -46,10 +46,11 @@ bool IsBlank(char byte) {
   return byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n' || byte == '\x1A';
 }
 
-// A record of DIMSTYLE has its handle under a code of its own, 5 being the name of an arrow's block.
+// An entry of DIMSTYLE has its handle under a code of its own, 5 being the name of an arrow's block.
 int HandleCode(const Object& object) {
-  return object.place == Place::TableEntry && SameName(object.table, "DIMSTYLE") ? dxf::CODE_DIMSTYLE_HANDLE
-                                                                                 : dxf::CODE_HANDLE;
+  return object.place == Place::TableEntry && SameName(object.table, dxf::TABLE_DIMENSION_STYLES)
+             ? dxf::CODE_DIMSTYLE_HANDLE
+             : dxf::CODE_HANDLE;
 }
 
 }  // namespace
@@ -66,7 +67,7 @@ bool Walk::Next(Object& object) {
     return false;
   }
   Describe(object);
-  if (object.type != "EOF") return true;
+  if (object.type != dxf::TYPE_FILE_END) return true;
   CloseSection();
   Finish();
   return false;
@@ -78,7 +79,7 @@ bool Walk::ReadTags() {
   isStart_ = false;
   if (!hasNext_) return false;
   tags_.push_back(next_);
-  if (next_.code == CODE_TYPE && next_.value == "EOF") return true;
+  if (next_.code == CODE_TYPE && next_.value == dxf::TYPE_FILE_END) return true;
   while ((hasNext_ = ReadTag(next_)) && next_.code != CODE_TYPE)
     tags_.push_back(next_);
   return true;
@@ -115,7 +116,7 @@ void Walk::ReportBadTag() {
 }
 
 void Walk::Finish() {
-  const bool isEnded = !tags_.empty() && tags_.front().value == "EOF";
+  const bool isEnded = !tags_.empty() && tags_.front().value == dxf::TYPE_FILE_END;
   const char* const last = &source_.Text().back();
   if (isEnded) {
     CheckBehindEnd();
@@ -123,7 +124,7 @@ void Walk::Finish() {
     findings_.Error(Kind::EndMissing, last, "the file is cut short: EOF is missing at its end");
   }
   if (std::none_of(sections_.begin(), sections_.end(),
-                   [](std::string_view name) { return SameName(name, "ENTITIES"); })) {
+                   [](std::string_view name) { return SameName(name, dxf::SECTION_ENTITIES); })) {
     findings_.Error(Kind::SectionMissing, isEnded ? tags_.front().value.data() : last,
                     "the section ENTITIES is missing");
   }
@@ -148,15 +149,15 @@ void Walk::Describe(Object& object) {
         fmt::format("a section should begin here, not {} (group {})", Quoted(first.value), first.code));
   } else {
     object.type = first.value;
-    if (object.type == "SECTION") {
+    if (object.type == dxf::TYPE_SECTION) {
       object.place = EnterSection();
-    } else if (object.type == "ENDSEC") {
+    } else if (object.type == dxf::TYPE_SECTION_END) {
       object.place = LeaveSection();
-    } else if (object.type == "TABLE" && inside_ == Place::TableEntry) {
+    } else if (object.type == dxf::TYPE_TABLE && inside_ == Place::TableEntry) {
       object.place = EnterTable();
-    } else if (object.type == "ENDTAB" && inside_ == Place::TableEntry) {
+    } else if (object.type == dxf::TYPE_TABLE_END && inside_ == Place::TableEntry) {
       object.place = LeaveTable();
-    } else if (object.type != "EOF") {
+    } else if (object.type != dxf::TYPE_FILE_END) {
       object.place = PlaceInside();
     }
   }
@@ -165,8 +166,8 @@ void Walk::Describe(Object& object) {
   if (object.place == Place::SectionEnd) section_ = {};
   if (object.place == Place::TableEnd) table_ = {};
   object.tags = tags_;
-  const auto extended = std::find_if(tags_.begin(), tags_.end(),
-                                     [](const Tag& tag) { return tag.code >= FIRST_EXTENDED_CODE; });
+  const auto extended =
+      std::find_if(tags_.begin(), tags_.end(), [](const Tag& tag) { return dxf::IsExtendedData(tag.code); });
   object.ownTags = static_cast<std::size_t>(extended - tags_.begin());
   if (object.place == Place::Section) return;
   object.handle = FindTag(object, HandleCode(object));
@@ -230,13 +231,13 @@ Place Walk::PlaceInside() {
 
 void Walk::FollowBlock() {
   const Tag& first = tags_.front();
-  if (first.value == "BLOCK") {
+  if (first.value == dxf::TYPE_BLOCK) {
     CloseBlock();
     blockBegin_ = first.value.data();
   } else if (blockBegin_ == nullptr) {
     findings_.Error(Kind::BlockOpen, first.value.data(),
                     fmt::format("{} stands outside of the blocks", Quoted(first.value)));
-  } else if (first.value == "ENDBLK") {
+  } else if (first.value == dxf::TYPE_BLOCK_END) {
     blockBegin_ = nullptr;
   }
 }

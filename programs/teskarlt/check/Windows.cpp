@@ -16,6 +16,7 @@
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "window/Parts.h"
 

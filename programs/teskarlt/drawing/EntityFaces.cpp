@@ -3,6 +3,8 @@
 
 #include <cstdlib>
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
@@ -10,16 +12,6 @@ namespace teskarlt {
 namespace {
 
 using geometry::Vec3;
-
-// Bits of a polyline's and a vertex's group 70.
-constexpr std::int64_t CLOSED = 1;
-constexpr std::int64_t POLYLINE_3D = 8;
-constexpr std::int64_t POLYGON_MESH = 16;
-constexpr std::int64_t CLOSED_ACROSS = 32;
-constexpr std::int64_t POLYFACE_MESH = 64;
-constexpr std::int64_t VERTEX_SPLINE_FRAME = 16;
-constexpr std::int64_t VERTEX_OF_MESH = 64;
-constexpr std::int64_t VERTEX_OF_POLYFACE = 128;
 
 constexpr std::uint32_t ALL_EDGES = 15;  // of a 3D face: group 70 hides edge k by its bit k
 
@@ -54,9 +46,9 @@ std::vector<Shape> ReadShapes(const dxf::Document& drawing, const dxf::Entity& e
   bool isShape = true;
   for (dxf::Tag tag; reader.Next(tag);) {
     if (tag.code == dxf::CODE_TYPE) {
-      isShape = shapes.empty() || dxf::SameName(dxf::Trimmed(tag.value), "VERTEX");
+      isShape = shapes.empty() || dxf::SameName(dxf::Trimmed(tag.value), dxf::TYPE_VERTEX);
       if (isShape) shapes.emplace_back();
-    } else if (isShape && tag.code < dxf::CODE_XDATA_TEXT) {
+    } else if (isShape && !dxf::IsExtendedData(tag.code)) {
       TakeTag(drawing, reader, tag, shapes.back());
     }
   }
@@ -90,8 +82,8 @@ std::vector<FaceCorners> FacesOfPolyface(const std::vector<Shape>& shapes) {
   std::vector<FaceCorners> faces;
   for (std::size_t i = 1; i < shapes.size(); ++i) {
     const Shape& vertex = shapes[i];
-    if ((vertex.flags & VERTEX_OF_POLYFACE) == 0) continue;
-    if ((vertex.flags & VERTEX_OF_MESH) != 0) {
+    if ((vertex.flags & dxf::VERTEX_OF_POLYFACE) == 0) continue;
+    if ((vertex.flags & dxf::VERTEX_OF_MESH) != 0) {
       vertices.push_back(vertex.points[0]);
       continue;
     }
@@ -106,7 +98,7 @@ std::vector<FaceCorners> FacesOfPolygonMesh(const std::vector<Shape>& shapes) {
   const std::int64_t columns = shapes[0].count[1];
   std::vector<Vec3> vertices;
   for (std::size_t i = 1; i < shapes.size(); ++i) {
-    if ((shapes[i].flags & VERTEX_SPLINE_FRAME) == 0) vertices.push_back(shapes[i].points[0]);
+    if ((shapes[i].flags & dxf::VERTEX_SPLINE_FRAME) == 0) vertices.push_back(shapes[i].points[0]);
   }
   const auto count = static_cast<std::int64_t>(vertices.size());
   if (rows < 2 || columns < 2 || rows > count || columns > count || rows * columns != count) return {};
@@ -114,8 +106,8 @@ std::vector<FaceCorners> FacesOfPolygonMesh(const std::vector<Shape>& shapes) {
     return vertices[static_cast<std::size_t>((row % rows) * columns + column % columns)];
   };
   std::vector<FaceCorners> faces;
-  const std::int64_t rowSteps = (flags & CLOSED) != 0 ? rows : rows - 1;
-  const std::int64_t columnSteps = (flags & CLOSED_ACROSS) != 0 ? columns : columns - 1;
+  const std::int64_t rowSteps = (flags & dxf::POLYLINE_CLOSED) != 0 ? rows : rows - 1;
+  const std::int64_t columnSteps = (flags & dxf::POLYLINE_CLOSED_ACROSS) != 0 ? columns : columns - 1;
   for (std::int64_t row = 0; row < rowSteps; ++row) {
     for (std::int64_t column = 0; column < columnSteps; ++column) {
       faces.push_back({{vertex(row, column), vertex(row, column + 1), vertex(row + 1, column + 1),
@@ -128,7 +120,7 @@ std::vector<FaceCorners> FacesOfPolygonMesh(const std::vector<Shape>& shapes) {
 std::vector<FaceCorners> FacesOfPolyline(const std::vector<Shape>& shapes) {
   FaceCorners face;
   for (std::size_t i = 1; i < shapes.size(); ++i) {
-    if ((shapes[i].flags & VERTEX_SPLINE_FRAME) == 0) face.corners.push_back(shapes[i].points[0]);
+    if ((shapes[i].flags & dxf::VERTEX_SPLINE_FRAME) == 0) face.corners.push_back(shapes[i].points[0]);
   }
   return {face};
 }
@@ -136,14 +128,16 @@ std::vector<FaceCorners> FacesOfPolyline(const std::vector<Shape>& shapes) {
 }  // namespace
 
 EntityFaces FacesOf(const dxf::Document& drawing, const dxf::Entity& entity) {
-  const bool isFace = dxf::SameName(entity.type, "3DFACE");
-  if (!isFace && !dxf::SameName(entity.type, "POLYLINE")) return {};
+  const bool isFace = dxf::SameName(entity.type, dxf::TYPE_FACE);
+  if (!isFace && !dxf::SameName(entity.type, dxf::TYPE_POLYLINE)) return {};
   const std::vector<Shape> shapes = ReadShapes(drawing, entity);
   const Shape& own = shapes[0];
   if (isFace) return {"3DFACE", own.layer, FacesOf3dFace(own)};
-  if ((own.flags & POLYFACE_MESH) != 0) return {"POLYFACE MESH", own.layer, FacesOfPolyface(shapes)};
-  if ((own.flags & POLYGON_MESH) != 0) return {"POLYGON MESH", own.layer, FacesOfPolygonMesh(shapes)};
-  const bool closed3d = (own.flags & POLYLINE_3D) != 0 && (own.flags & CLOSED) != 0;
+  if ((own.flags & dxf::POLYLINE_POLYFACE_MESH) != 0)
+    return {"POLYFACE MESH", own.layer, FacesOfPolyface(shapes)};
+  if ((own.flags & dxf::POLYLINE_POLYGON_MESH) != 0)
+    return {"POLYGON MESH", own.layer, FacesOfPolygonMesh(shapes)};
+  const bool closed3d = (own.flags & dxf::POLYLINE_3D) != 0 && (own.flags & dxf::POLYLINE_CLOSED) != 0;
   if (closed3d) return {"3D POLYLINE", own.layer, FacesOfPolyline(shapes)};
   return {};
 }

@@ -1,35 +1,28 @@
 // LayerStates.cpp - reads the table of layers.
 #include "teskarlt/drawing/LayerStates.h"
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 
 namespace teskarlt {
 
-namespace {
-
-constexpr int CODE_FLAGS = 70;
-constexpr int CODE_COLOUR = 62;  // negative: the layer is off
-constexpr std::int64_t FROZEN = 1;
-constexpr std::int64_t LOCKED = 4;
-
-}  // namespace
-
 LayerStates::LayerStates(const dxf::Document& drawing) {
-  dxf::TagReader reader(drawing.Source(), drawing.SectionText("TABLES"));
+  dxf::TagReader reader(drawing.Source(), drawing.SectionText(dxf::SECTION_TABLES));
   bool isLayer = false;
   LayerState* layer = nullptr;
   for (dxf::Tag tag; reader.Next(tag);) {
     if (tag.code == dxf::CODE_TYPE) {
-      isLayer = dxf::SameName(tag.value, "LAYER");
+      isLayer = dxf::SameName(tag.value, dxf::TABLE_LAYERS);
       layer = nullptr;
     } else if (isLayer && layer == nullptr && tag.code == dxf::CODE_NAME) {
       layer = &states_[dxf::FoldedName(drawing.Text(tag))];
-    } else if (layer != nullptr && tag.code == CODE_FLAGS) {
+    } else if (layer != nullptr && tag.code == dxf::CODE_LAYER_FLAGS) {
       const std::int64_t flags = dxf::ParseInteger(tag.value).value_or(0);
-      layer->isFrozen = (flags & FROZEN) != 0;
-      layer->isLocked = (flags & LOCKED) != 0;
-    } else if (layer != nullptr && tag.code == CODE_COLOUR) {
+      layer->isFrozen = (flags & dxf::LAYER_FROZEN) != 0;
+      layer->isLocked = (flags & dxf::LAYER_LOCKED) != 0;
+    } else if (layer != nullptr && tag.code == dxf::CODE_COLOUR) {
       layer->isOff = dxf::ParseInteger(tag.value).value_or(0) < 0;
     }
   }

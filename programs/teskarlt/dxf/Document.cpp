@@ -10,6 +10,7 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/dxf/tags/Version.h"
@@ -29,14 +30,14 @@ std::string_view VariableText(const Index& index, std::string_view name) {
 
 // Versions before R12 have names with a point; their rules are those of R12.
 int VersionOf(const Index& index) {
-  std::string_view name = VariableText(index, "$ACADVER");
+  std::string_view name = VariableText(index, VARIABLE_VERSION);
   if (!name.starts_with(VERSION_PREFIX)) return VERSION_R12;
   name.remove_prefix(VERSION_PREFIX.size());
   return std::max(static_cast<int>(ParseInteger(name).value_or(VERSION_R12)), VERSION_R12);
 }
 
 std::string_view CodePageOf(const Index& index) {
-  const std::string_view name = VariableText(index, "$DWGCODEPAGE");
+  const std::string_view name = VariableText(index, VARIABLE_CODE_PAGE);
   return name.empty() ? DEFAULT_CODE_PAGE : name;
 }
 
@@ -48,7 +49,7 @@ std::string_view LineEndOf(std::string_view text) {
 // Old drawings have handles when $HANDLING says so, or else when their entities have some.
 bool UsesHandles(const Index& index, int version) {
   if (NeedsHandles(version)) return true;
-  const auto handling = ParseInteger(VariableText(index, "$HANDLING"));
+  const auto handling = ParseInteger(VariableText(index, VARIABLE_HANDLING));
   return handling ? *handling == 1 : index.hasEntityHandles;
 }
 
@@ -77,21 +78,11 @@ Rules RulesOf(const SourceText& source, const Index& index) {
   Rules rules;
   rules.version = VersionOf(index);
   rules.lineEnd = LineEndOf(source.Text());
-  rules.units = UnitsOf(ParseInteger(VariableText(index, "$INSUNITS")).value_or(0));
-  rules.isMetric =
-      ParseInteger(VariableText(index, "$MEASUREMENT")).value_or(MEASUREMENT_METRIC) == MEASUREMENT_METRIC;
+  rules.units = UnitsOf(ParseInteger(VariableText(index, VARIABLE_UNITS)).value_or(0));
+  rules.isMetric = ParseInteger(VariableText(index, VARIABLE_MEASUREMENT)).value_or(MEASUREMENT_METRIC) ==
+                   MEASUREMENT_METRIC;
   rules.usesHandles = UsesHandles(index, rules.version);
   return rules;
-}
-
-// The file layer knows no error of the host's.
-template <typename Work>
-auto WithHostErrors(Work work) {
-  try {
-    return work();
-  } catch (const platform::FileError& error) {
-    throw Error(error.what());
-  }
 }
 
 }  // namespace
@@ -119,10 +110,8 @@ Document& Document::operator=(Document&&) noexcept = default;
 Document::~Document() = default;
 
 Document Document::Load(const std::string& path) {
-  return WithHostErrors([&] {
-    const platform::FileState file = platform::StateOfFile(path);
-    return Document(std::make_unique<State>(SourceText(path, platform::ReadWholeFile(path)), file));
-  });
+  const platform::FileState file = platform::StateOfFile(path);
+  return Document(std::make_unique<State>(SourceText(path, platform::ReadWholeFile(path)), file));
 }
 
 Document Document::FromText(const std::string& name, std::string_view text) {
@@ -153,7 +142,7 @@ std::string_view Document::CodePageName() const {
 }
 
 int Document::Units() const {
-  const auto units = HeaderVariable("$INSUNITS");
+  const auto units = HeaderVariable(VARIABLE_UNITS);
   return units ? UnitsOf(TagReader(Source(), {}).Integer(*units)) : 0;
 }
 
@@ -264,19 +253,17 @@ void Document::Rollback(const EditMark& mark) {
 }
 
 void Document::Save(const std::string& path) const {
-  WithHostErrors([&] {
-    const bool isLoadedFile = state_->file.exists && IsSameFile(path, FileName());
-    const auto refuseIfChanged = [&] {
-      if (isLoadedFile && platform::StateOfFile(path) != state_->file)
-        state_->source.Fail("was changed by another program meanwhile; nothing is written");
-    };
-    refuseIfChanged();
-    platform::FileReplacement file(path);
-    state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
-    refuseIfChanged();  // large drawings take a while
-    file.Commit();
-    if (isLoadedFile) state_->file = platform::StateOfFile(path);
-  });
+  const bool isLoadedFile = state_->file.exists && IsSameFile(path, FileName());
+  const auto refuseIfChanged = [&] {
+    if (isLoadedFile && platform::StateOfFile(path) != state_->file)
+      state_->source.Fail("was changed by another program meanwhile; nothing is written");
+  };
+  refuseIfChanged();
+  platform::FileReplacement file(path);
+  state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
+  refuseIfChanged();  // large drawings take a while
+  file.Commit();
+  if (isLoadedFile) state_->file = platform::StateOfFile(path);
 }
 
 std::string Document::Serialize() const {

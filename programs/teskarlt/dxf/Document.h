@@ -99,8 +99,8 @@ class Document {
   // `name` is that of a new group; when it is taken, a number is put behind it. Both are ASCII.
   void EndGroup(std::string_view name, std::string_view description);
 
-  // Adds the record when the drawing has none of that name; an existing one stays as it is. Names are bytes
-  // of the drawing's code page. RequireLayer gives the name that the drawing uses: characters that the
+  // Adds the table entry when the drawing has none of that name; an existing one stays as it is. Names are
+  // bytes of the drawing's code page. RequireLayer gives the name that the drawing uses: characters that the
   // version does not allow become "_", an R12 name is in capitals and cut at 31 characters.
   std::string RequireLayer(std::string_view name);
   // "DASHED" and "CONTINUOUS" are known.

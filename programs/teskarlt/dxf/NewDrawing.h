@@ -4,17 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "teskarlt/dxf/tags/Units.h"
 #include "teskarlt/dxf/tags/Version.h"
 
 namespace teskarlt::dxf {
-
-// Values of $INSUNITS.
-constexpr int UNITS_NONE = 0;
-constexpr int UNITS_INCHES = 1;
-constexpr int UNITS_FEET = 2;
-constexpr int UNITS_MILLIMETRES = 4;
-constexpr int UNITS_CENTIMETRES = 5;
-constexpr int UNITS_METRES = 6;
 
 // The code page of drawings made here.
 constexpr const char* NEW_DRAWING_CODE_PAGE = "ANSI_1250";

@@ -8,7 +8,7 @@
 
 #include "inc/ValueList.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/tags/Tag.h"
+#include "teskarlt/dxf/tags/Codes.h"
 
 namespace teskarlt {
 

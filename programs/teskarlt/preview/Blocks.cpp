@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/preview/Curves.h"
@@ -15,10 +17,6 @@ using geometry::Matrix4;
 using geometry::Vec3;
 
 constexpr std::int64_t MOST_ROWS = 1000;
-
-bool IsPart(std::string_view type) {
-  return type == "VERTEX" || type == "ATTRIB" || type == "SEQEND";
-}
 
 std::string_view Between(const char* begin, const char* end) {
   return {begin, static_cast<std::size_t>(end - begin)};
@@ -43,7 +41,7 @@ Blocks ReadBlocks(const dxf::Document& drawing) {
   Block* block = nullptr;
   dxf::Entity entity{};
   const char* begin = nullptr;
-  dxf::TagReader reader(drawing.Source(), drawing.SectionText("BLOCKS"));
+  dxf::TagReader reader(drawing.Source(), drawing.SectionText(dxf::SECTION_BLOCKS));
   const auto close = [&] {
     if (block != nullptr && !entity.type.empty()) {
       entity.text = Between(begin, reader.TagBegin());
@@ -54,39 +52,40 @@ Blocks ReadBlocks(const dxf::Document& drawing) {
   for (dxf::Tag tag; reader.Next(tag);) {
     if (tag.code != dxf::CODE_TYPE) continue;
     const std::string_view type = dxf::Trimmed(tag.value);
-    if (IsPart(type)) continue;
-    if (entity.type == "BLOCK") {
+    if (dxf::IsPartType(type)) continue;
+    if (entity.type == dxf::TYPE_BLOCK) {
       const Record head = ReadRecords(drawing, Between(begin, reader.TagBegin())).front();
       block = &blocks[dxf::FoldedName(head.Text(dxf::CODE_NAME))];
-      block->base = head.Point(10);
+      block->base = head.Point(dxf::CODE_BLOCK_BASE);
       entity = {};
     } else {
       close();
     }
     begin = reader.TagBegin();
-    if (type == "ENDBLK") block = nullptr;
-    if (type == "BLOCK" || block != nullptr) entity = {{}, type, 0};
+    if (type == dxf::TYPE_BLOCK_END) block = nullptr;
+    if (type == dxf::TYPE_BLOCK || block != nullptr) entity = {{}, type, 0};
   }
   return blocks;
 }
 
 std::vector<Matrix4> InsertMatrices(const Record& insert, const Vec3& base) {
   Matrix4 turn{};
-  geometry::MatRotationZ(geometry::DegToRad(insert.Real(50)), turn);
+  geometry::MatRotationZ(geometry::DegToRad(insert.Real(dxf::CODE_INSERT_ROTATION)), turn);
   Matrix4 scale{};
   geometry::MatIdentity(scale);
   for (int axis = 0; axis < 3; ++axis)
-    scale.m[axis][axis] = insert.Real(41 + axis, 1.0);
-  const Matrix4 place =
-      Product(ObjectToDrawing(insert.Point(210, {0, 0, 1})), Product(Moved(insert.Point(10)), turn));
+    scale.m[axis][axis] = insert.Real(dxf::CODE_INSERT_SCALE_X + axis, 1.0);
+  const Matrix4 place = Product(ObjectToDrawing(insert.Point(dxf::CODE_EXTRUSION, UPWARDS)),
+                                Product(Moved(insert.Point(dxf::CODE_INSERT_POINT)), turn));
   const Matrix4 shape = Product(scale, Moved({-base.x, -base.y, -base.z}));
-  const std::int64_t columns = std::clamp<std::int64_t>(insert.Integer(70, 1), 1, MOST_ROWS);
-  const std::int64_t rows = std::clamp<std::int64_t>(insert.Integer(71, 1), 1, MOST_ROWS);
+  const std::int64_t columns =
+      std::clamp<std::int64_t>(insert.Integer(dxf::CODE_INSERT_COLUMNS, 1), 1, MOST_ROWS);
+  const std::int64_t rows = std::clamp<std::int64_t>(insert.Integer(dxf::CODE_INSERT_ROWS, 1), 1, MOST_ROWS);
   std::vector<Matrix4> matrices;
   for (std::int64_t row = 0; row < rows; ++row) {
     for (std::int64_t column = 0; column < columns; ++column) {
-      const Vec3 step = {static_cast<double>(column) * insert.Real(44),
-                         static_cast<double>(row) * insert.Real(45), 0};
+      const Vec3 step = {static_cast<double>(column) * insert.Real(dxf::CODE_INSERT_COLUMN_SPACING),
+                         static_cast<double>(row) * insert.Real(dxf::CODE_INSERT_ROW_SPACING), 0};
       matrices.push_back(Product(place, Product(Moved(step), shape)));
     }
   }

@@ -5,6 +5,8 @@
 #include <cmath>
 
 #include "geometry/Trigonometry.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::preview {
@@ -16,19 +18,15 @@ using geometry::Vec3;
 
 constexpr double ARC_STEP = 5 * geometry::PI / 180;
 constexpr double MOST_STEPS = 10000;
-constexpr std::int64_t CLOSED = 1;
-constexpr std::int64_t POLYLINE_3D = 8;
-constexpr std::int64_t POLYLINE_MESHES = 16 | 64;
-constexpr std::int64_t VERTEX_SPLINE_FRAME = 16;
-constexpr int CODE_EXTRUSION = 210;
-constexpr Vec3 UP = {0, 0, 1};
+// Entities whose curves are faces' edges.
+constexpr std::int64_t POLYLINE_MESHES = dxf::POLYLINE_POLYGON_MESH | dxf::POLYLINE_POLYFACE_MESH;
 
 std::size_t StepsOf(double angle) {
   return static_cast<std::size_t>(std::clamp(std::ceil(std::abs(angle) / ARC_STEP), 1.0, MOST_STEPS));
 }
 
 CurvePoints Placed(const Record& record, CurvePoints points) {
-  const Matrix4 matrix = ObjectToDrawing(record.Point(CODE_EXTRUSION, UP));
+  const Matrix4 matrix = ObjectToDrawing(record.Point(dxf::CODE_EXTRUSION, UPWARDS));
   for (Vec3& point : points)
     geometry::MatTransformPoint(matrix, point, point);
   return points;
@@ -49,24 +47,24 @@ CurvePoints Sweep(const Vec3& centre, const Vec3& a, const Vec3& b, double start
 }
 
 CurvePoints Circle(const Record& record, bool isArc) {
-  const Vec3 centre = record.Point(10);
-  const double radius = record.Real(40);
-  const double start = isArc ? geometry::DegToRad(record.Real(50)) : 0.0;
-  double angle = isArc ? geometry::DegToRad(record.Real(51)) - start : geometry::TWO_PI;
+  const Vec3 centre = record.Point(dxf::CODE_CIRCLE_CENTRE);
+  const double radius = record.Real(dxf::CODE_CIRCLE_RADIUS);
+  const double start = isArc ? geometry::DegToRad(record.Real(dxf::CODE_ARC_START)) : 0.0;
+  double angle = isArc ? geometry::DegToRad(record.Real(dxf::CODE_ARC_END)) - start : geometry::TWO_PI;
   if (isArc) angle = std::fmod(angle, geometry::TWO_PI);
   if (angle <= 0) angle += geometry::TWO_PI;
   return Placed(record, Sweep(centre, {radius, 0, 0}, {0, radius, 0}, start, angle));
 }
 
 CurvePoints Ellipse(const Record& record) {
-  const Vec3 major = record.Point(11);
+  const Vec3 major = record.Point(dxf::CODE_ELLIPSE_MAJOR_AXIS);
   Vec3 minor{};
-  geometry::VecCross(record.Point(CODE_EXTRUSION, UP), major, minor);
-  geometry::VecScale(minor, record.Real(40, 1.0), minor);
-  const double start = record.Real(41);
-  double angle = record.Real(42, geometry::TWO_PI) - start;
+  geometry::VecCross(record.Point(dxf::CODE_EXTRUSION, UPWARDS), major, minor);
+  geometry::VecScale(minor, record.Real(dxf::CODE_ELLIPSE_RATIO, 1.0), minor);
+  const double start = record.Real(dxf::CODE_ELLIPSE_START);
+  double angle = record.Real(dxf::CODE_ELLIPSE_END, geometry::TWO_PI) - start;
   if (angle <= 0) angle += geometry::TWO_PI;
-  return Sweep(record.Point(10), major, minor, start, angle);
+  return Sweep(record.Point(dxf::CODE_ELLIPSE_CENTRE), major, minor, start, angle);
 }
 
 // A vertex of a polyline in a plane; `bulge` is the tangent
@@ -97,34 +95,37 @@ CurvePoints WithBulges(const std::vector<BulgeVertex>& vertices, bool isClosed) 
 
 CurvePoints LightPolyline(const Record& record) {
   std::vector<BulgeVertex> vertices;
-  const double elevation = record.Real(38);
+  const double elevation = record.Real(dxf::CODE_ELEVATION);
   for (const dxf::Tag& tag : record.Tags()) {
-    if (tag.code == 10) {
+    if (tag.code == dxf::CODE_VERTEX_POINT) {
       vertices.push_back({{record.RealOf(tag), 0, elevation}, 0});
-    } else if (!vertices.empty() && tag.code == 20) {
+    } else if (!vertices.empty() && tag.code == dxf::CODE_VERTEX_POINT + dxf::Y_DISTANCE) {
       vertices.back().point.y = record.RealOf(tag);
-    } else if (!vertices.empty() && tag.code == 42) {
+    } else if (!vertices.empty() && tag.code == dxf::CODE_BULGE) {
       vertices.back().bulge = record.RealOf(tag);
     }
   }
   if (vertices.empty()) return {};
-  return Placed(record, WithBulges(vertices, (record.Integer(70) & CLOSED) != 0));
+  return Placed(record,
+                WithBulges(vertices, (record.Integer(dxf::CODE_POLYLINE_FLAGS) & dxf::POLYLINE_CLOSED) != 0));
 }
 
 CurvePoints Polyline(const std::vector<Record>& records) {
   const Record& own = records[0];
-  const std::int64_t flags = own.Integer(70);
-  const bool is3d = (flags & POLYLINE_3D) != 0;
-  const double elevation = own.Real(30);
+  const std::int64_t flags = own.Integer(dxf::CODE_POLYLINE_FLAGS);
+  const bool is3d = (flags & dxf::POLYLINE_3D) != 0;
+  const double elevation = own.Real(dxf::CODE_POLYLINE_ELEVATION);
   std::vector<BulgeVertex> vertices;
   for (std::size_t i = 1; i < records.size(); ++i) {
     const Record& vertex = records[i];
-    if (!dxf::SameName(vertex.Type(), "VERTEX") || (vertex.Integer(70) & VERTEX_SPLINE_FRAME) != 0) continue;
-    vertices.push_back({vertex.Point(10), is3d ? 0 : vertex.Real(42)});
+    if (!dxf::SameName(vertex.Type(), dxf::TYPE_VERTEX) ||
+        (vertex.Integer(dxf::CODE_VERTEX_FLAGS) & dxf::VERTEX_SPLINE_FRAME) != 0)
+      continue;
+    vertices.push_back({vertex.Point(dxf::CODE_VERTEX_POINT), is3d ? 0 : vertex.Real(dxf::CODE_BULGE)});
     if (!is3d) vertices.back().point.z = elevation;
   }
   if (vertices.empty()) return {};
-  CurvePoints points = WithBulges(vertices, (flags & CLOSED) != 0);
+  CurvePoints points = WithBulges(vertices, (flags & dxf::POLYLINE_CLOSED) != 0);
   return is3d ? points : Placed(own, std::move(points));
 }
 
@@ -155,11 +156,13 @@ Vec3 SplinePoint(const std::vector<Weighted>& controls, const std::vector<double
 
 CurvePoints Spline(const Record& record) {
   constexpr std::size_t stepsASpan = 12;
-  const auto degree = static_cast<std::size_t>(std::clamp<std::int64_t>(record.Integer(71, 3), 1, 25));
-  const CurvePoints points = record.Points(10);
-  const std::vector<double> knots = record.Reals(40);
-  const std::vector<double> weights = record.Reals(41);
-  if (points.size() <= degree || knots.size() != points.size() + degree + 1) return record.Points(11);
+  const auto degree =
+      static_cast<std::size_t>(std::clamp<std::int64_t>(record.Integer(dxf::CODE_SPLINE_DEGREE, 3), 1, 25));
+  const CurvePoints points = record.Points(dxf::CODE_SPLINE_CONTROL_POINT);
+  const std::vector<double> knots = record.Reals(dxf::CODE_SPLINE_KNOT);
+  const std::vector<double> weights = record.Reals(dxf::CODE_SPLINE_WEIGHT);
+  if (points.size() <= degree || knots.size() != points.size() + degree + 1)
+    return record.Points(dxf::CODE_SPLINE_FIT_POINT);
   std::vector<Weighted> controls;
   for (std::size_t i = 0; i < points.size(); ++i) {
     const double w = weights.size() == points.size() && weights[i] > 0 ? weights[i] : 1.0;
@@ -189,7 +192,7 @@ Matrix4 ObjectToDrawing(const Vec3& extrusion) {
   const bool isCloseToZ = std::abs(z.x) < closeToZ && std::abs(z.y) < closeToZ;
   Vec3 x{};
   Vec3 y{};
-  geometry::VecCross(isCloseToZ ? Vec3{0, 1, 0} : UP, z, x);
+  geometry::VecCross(isCloseToZ ? Vec3{0, 1, 0} : UPWARDS, z, x);
   geometry::VecScale(x, 1 / std::sqrt(geometry::VecDot(x, x)), x);
   geometry::VecCross(z, x, y);
   const Vec3* const axes[3] = {&x, &y, &z};
@@ -204,13 +207,14 @@ Matrix4 ObjectToDrawing(const Vec3& extrusion) {
 std::optional<CurvePoints> PointsOf(const std::vector<Record>& records) {
   const Record& own = records[0];
   const auto is = [&](std::string_view type) { return dxf::SameName(own.Type(), type); };
-  if (is("LINE")) return CurvePoints{own.Point(10), own.Point(11)};
-  if (is("LWPOLYLINE")) return LightPolyline(own);
-  if (is("POLYLINE") && (own.Integer(70) & POLYLINE_MESHES) == 0) return Polyline(records);
-  if (is("CIRCLE")) return Circle(own, false);
-  if (is("ARC")) return Circle(own, true);
-  if (is("ELLIPSE")) return Ellipse(own);
-  if (is("SPLINE")) return Spline(own);
+  if (is(dxf::TYPE_LINE)) return CurvePoints{own.Point(dxf::CODE_LINE_START), own.Point(dxf::CODE_LINE_END)};
+  if (is(dxf::TYPE_LWPOLYLINE)) return LightPolyline(own);
+  if (is(dxf::TYPE_POLYLINE) && (own.Integer(dxf::CODE_POLYLINE_FLAGS) & POLYLINE_MESHES) == 0)
+    return Polyline(records);
+  if (is(dxf::TYPE_CIRCLE)) return Circle(own, false);
+  if (is(dxf::TYPE_ARC)) return Circle(own, true);
+  if (is(dxf::TYPE_ELLIPSE)) return Ellipse(own);
+  if (is(dxf::TYPE_SPLINE)) return Spline(own);
   return std::nullopt;
 }
 

@@ -17,6 +17,9 @@ using CurvePoints = std::vector<geometry::Vec3>;
 // entities that are no curves, an empty list for one without extent.
 std::optional<CurvePoints> PointsOf(const std::vector<Record>& records);
 
+// The extrusion direction of an entity that names none.
+constexpr geometry::Vec3 UPWARDS = {0, 0, 1};
+
 // From the coordinates that an entity with this extrusion direction (group 210) has, to those of the drawing:
 // the arbitrary axis rule of the format.
 geometry::Matrix4 ObjectToDrawing(const geometry::Vec3& extrusion);

@@ -3,13 +3,12 @@
 
 #include <algorithm>
 
+#include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::preview {
 
 namespace {
-
-constexpr int CODE_EMBEDDED_OBJECT = 101;
 
 dxf::TagReader ValueReader(const dxf::Document& drawing) {
   return {drawing.Source(), {}};
@@ -47,7 +46,8 @@ std::string Record::Text(int code, const std::string& otherwise) const {
 }
 
 geometry::Vec3 Record::Point(int code, const geometry::Vec3& otherwise) const {
-  return {Real(code, otherwise.x), Real(code + 10, otherwise.y), Real(code + 20, otherwise.z)};
+  return {Real(code, otherwise.x), Real(code + dxf::Y_DISTANCE, otherwise.y),
+          Real(code + dxf::Z_DISTANCE, otherwise.z)};
 }
 
 std::vector<double> Record::Reals(int code) const {
@@ -63,9 +63,9 @@ std::vector<geometry::Vec3> Record::Points(int code) const {
   for (const dxf::Tag& tag : tags_) {
     if (tag.code == code) {
       points.push_back({RealOf(tag), 0, 0});
-    } else if (!points.empty() && tag.code == code + 10) {
+    } else if (!points.empty() && tag.code == code + dxf::Y_DISTANCE) {
       points.back().y = RealOf(tag);
-    } else if (!points.empty() && tag.code == code + 20) {
+    } else if (!points.empty() && tag.code == code + dxf::Z_DISTANCE) {
       points.back().z = RealOf(tag);
     }
   }
@@ -80,9 +80,9 @@ std::vector<Record> ReadRecords(const dxf::Document& drawing, std::string_view r
     if (tag.code == dxf::CODE_TYPE) {
       records.emplace_back(drawing, dxf::Trimmed(tag.value));
       isOwn = true;
-    } else if (tag.code == CODE_EMBEDDED_OBJECT) {
+    } else if (tag.code == dxf::CODE_EMBEDDED_OBJECT) {
       isOwn = false;
-    } else if (isOwn && !records.empty() && tag.code < dxf::CODE_XDATA_TEXT) {
+    } else if (isOwn && !records.empty() && !dxf::IsExtendedData(tag.code)) {
       records.back().Add(tag);
     }
   }

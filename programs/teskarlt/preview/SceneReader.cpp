@@ -11,6 +11,8 @@
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/EntityFaces.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/preview/Blocks.h"
@@ -28,16 +30,12 @@ using geometry::Matrix4;
 constexpr std::size_t MOST_NESTED = 32;            // blocks in blocks
 constexpr std::size_t MOST_ENTITIES = 20'000'000;  // with those of every inserted block
 constexpr double FARTHEST = 1e12;                  // coordinate, in drawing units
-constexpr int CODE_INVISIBLE = 60;
-constexpr int CODE_NUMBER = 62;
-constexpr int CODE_TRUE_COLOUR = 420;
-constexpr int CODE_LINETYPE_SCALE = 48;
 
 // How an entity looks, after ByLayer and ByBlock.
 struct Look {
-  std::string layer = "0";
+  std::string layer{dxf::DEFAULT_LAYER};
   Colour colour = ColourOfNumber(COLOUR_WHITE);
-  std::string linetype = "CONTINUOUS";
+  std::string linetype{dxf::LINETYPE_CONTINUOUS};
 };
 
 // Where the entities of a block come to lie.
@@ -68,13 +66,14 @@ const DrawingUnit* KnownUnit(const dxf::Document& drawing, const std::string& as
 // Faces of a mesh (its coarsest level): group 92 counts the vertices that follow, 93 the numbers of the face
 // list, where each face's count comes before its vertices.
 std::vector<FaceCorners> MeshFaces(const Record& record) {
-  const std::vector<Vec3> vertices = record.Points(10);
+  const std::vector<Vec3> vertices = record.Points(dxf::CODE_MESH_VERTEX);
   std::vector<std::size_t> numbers;
   bool isInList = false;
   for (const dxf::Tag& tag : record.Tags()) {
-    if (tag.code == 93) isInList = true;
-    if (tag.code == 94) isInList = false;
-    if (isInList && tag.code == 90) numbers.push_back(static_cast<std::size_t>(record.IntegerOf(tag)));
+    if (tag.code == dxf::CODE_MESH_FACE_COUNT) isInList = true;
+    if (tag.code == dxf::CODE_MESH_EDGE_COUNT) isInList = false;
+    if (isInList && tag.code == dxf::CODE_MESH_ITEM)
+      numbers.push_back(static_cast<std::size_t>(record.IntegerOf(tag)));
   }
   std::vector<FaceCorners> faces;
   for (std::size_t i = 0; i < numbers.size();) {
@@ -92,10 +91,10 @@ std::vector<FaceCorners> MeshFaces(const Record& record) {
 // A SOLID or TRACE: its third and fourth corner stand crosswise.
 std::vector<FaceCorners> SolidFaces(const Record& record) {
   FaceCorners face;
-  face.corners = {record.Point(10), record.Point(11)};
-  if (record.Has(13)) face.corners.push_back(record.Point(13));
-  face.corners.push_back(record.Point(12));
-  const Matrix4 matrix = ObjectToDrawing(record.Point(210, {0, 0, 1}));
+  face.corners = {record.Point(dxf::CODE_FIRST_CORNER), record.Point(dxf::CODE_SECOND_CORNER)};
+  if (record.Has(dxf::CODE_FOURTH_CORNER)) face.corners.push_back(record.Point(dxf::CODE_FOURTH_CORNER));
+  face.corners.push_back(record.Point(dxf::CODE_THIRD_CORNER));
+  const Matrix4 matrix = ObjectToDrawing(record.Point(dxf::CODE_EXTRUSION, UPWARDS));
   for (Vec3& corner : face.corners)
     geometry::MatTransformPoint(matrix, corner, corner);
   return {face};
@@ -156,20 +155,20 @@ void Reader::ReadWindows() {
 
 Look Reader::LookOf(const Record& record, const Placement& placement) const {
   Look look;
-  look.layer = record.Text(dxf::CODE_LAYER, "0");
-  if (placement.isBlock && look.layer == "0") look.layer = placement.look.layer;
+  look.layer = record.Text(dxf::CODE_LAYER, std::string(dxf::DEFAULT_LAYER));
+  if (placement.isBlock && look.layer == dxf::DEFAULT_LAYER) look.layer = placement.look.layer;
   const LayerStyle& layer = styles_.Layer(look.layer);
-  const std::int64_t number = record.Integer(CODE_NUMBER, COLOUR_BY_LAYER);
-  if (record.Has(CODE_TRUE_COLOUR)) {
-    look.colour = ColourOfValue(record.Integer(CODE_TRUE_COLOUR));
+  const std::int64_t number = record.Integer(dxf::CODE_COLOUR, COLOUR_BY_LAYER);
+  if (record.Has(dxf::CODE_TRUE_COLOUR)) {
+    look.colour = ColourOfValue(record.Integer(dxf::CODE_TRUE_COLOUR));
   } else if (number == COLOUR_BY_LAYER) {
     look.colour = layer.colour;
   } else {
     look.colour = number == COLOUR_BY_BLOCK ? placement.look.colour : ColourOfNumber(number);
   }
-  look.linetype = record.Text(dxf::CODE_LINETYPE, "BYLAYER");
-  if (dxf::SameName(look.linetype, "BYLAYER")) look.linetype = layer.linetype;
-  if (dxf::SameName(look.linetype, "BYBLOCK")) look.linetype = placement.look.linetype;
+  look.linetype = record.Text(dxf::CODE_LINETYPE, std::string(dxf::LINETYPE_BY_LAYER));
+  if (dxf::SameName(look.linetype, dxf::LINETYPE_BY_LAYER)) look.linetype = layer.linetype;
+  if (dxf::SameName(look.linetype, dxf::LINETYPE_BY_BLOCK)) look.linetype = placement.look.linetype;
   return look;
 }
 
@@ -212,7 +211,7 @@ void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const Record& re
                     false,        placement.window};
     Show(surface.corners, placement);
     if (placement.window != NO_WINDOW &&
-        record.Integer(CODE_NUMBER, COLOUR_BY_LAYER) == brevanta::GLASS_COLOUR) {
+        record.Integer(dxf::CODE_COLOUR, COLOUR_BY_LAYER) == brevanta::GLASS_COLOUR) {
       surface.isGlass = true;
       const Vec3 normal = NormalOf(surface.corners);
       const double sign = normal.z < 0 ? -1 : 1;
@@ -226,7 +225,7 @@ void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const Record& re
 void Reader::AddCurve(CurvePoints points, const Record& record, const Look& look,
                       const Placement& placement) {
   if (points.size() < 2) return;
-  const double scale = std::abs(record.Real(CODE_LINETYPE_SCALE, 1.0));
+  const double scale = std::abs(record.Real(dxf::CODE_LINETYPE_SCALE, 1.0));
   Curve curve{std::move(points), LayerIndex(look.layer), look.colour, PatternIndex(look.linetype, scale),
               placement.window};
   Show(curve.points, placement);
@@ -243,7 +242,7 @@ void Reader::ReadInsert(const Record& insert, const Look& look, const Placement&
   if (placement.depth == MOST_NESTED) drawing_.Source().Fail("holds blocks in blocks without an end");
   Matrix4 where{};
   geometry::MatIdentity(where);
-  const bool isInsert = dxf::SameName(insert.Type(), "INSERT");
+  const bool isInsert = dxf::SameName(insert.Type(), dxf::TYPE_INSERT);
   for (const Matrix4& matrix : isInsert ? InsertMatrices(insert, found->second.base) : std::vector{where}) {
     Placement inside = placement;
     inside.matrix = matrix;
@@ -262,15 +261,15 @@ void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
   const Record& own = records.front();
   const Look look = LookOf(own, placement);
   const auto is = [&](std::string_view type) { return dxf::SameName(entity.type, type); };
-  if (own.Integer(CODE_INVISIBLE) != 0 || !styles_.Layer(look.layer).isVisible) return;
-  if (is("INSERT") || is("DIMENSION")) {
+  if (own.Integer(dxf::CODE_INVISIBLE) != 0 || !styles_.Layer(look.layer).isVisible) return;
+  if (is(dxf::TYPE_INSERT) || is(dxf::TYPE_DIMENSION)) {
     ReadInsert(own, look, placement);
     return;
   }
   if (!IsVisible(look)) return;
-  if (is("SOLID") || is("TRACE")) {
+  if (is(dxf::TYPE_SOLID) || is(dxf::TYPE_TRACE)) {
     AddSurfaces(SolidFaces(own), own, look, placement);
-  } else if (is("MESH")) {
+  } else if (is(dxf::TYPE_MESH)) {
     AddSurfaces(MeshFaces(own), own, look, placement);
   } else {
     EntityFaces faces = FacesOf(drawing_, entity);

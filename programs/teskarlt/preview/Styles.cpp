@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/preview/Record.h"
@@ -12,19 +14,14 @@ namespace teskarlt::preview {
 
 namespace {
 
-constexpr int CODE_NUMBER = 62;
-constexpr int CODE_TRUE_COLOUR = 420;
-constexpr int CODE_DASH = 49;
-constexpr std::int64_t FROZEN = 1;
-
 LayerStyle ReadLayer(const Record& record) {
   LayerStyle layer;
   constexpr std::int64_t most = COLOUR_BY_LAYER;
-  const std::int64_t number = std::clamp(record.Integer(CODE_NUMBER, COLOUR_WHITE), -most, most);
+  const std::int64_t number = std::clamp(record.Integer(dxf::CODE_COLOUR, COLOUR_WHITE), -most, most);
   const bool isOff = number < 0;
-  layer.isVisible = !isOff && (record.Integer(dxf::CODE_COUNT) & FROZEN) == 0;
-  layer.colour = record.Has(CODE_TRUE_COLOUR) ? ColourOfValue(record.Integer(CODE_TRUE_COLOUR))
-                                              : ColourOfNumber(isOff ? -number : number);
+  layer.isVisible = !isOff && (record.Integer(dxf::CODE_LAYER_FLAGS) & dxf::LAYER_FROZEN) == 0;
+  layer.colour = record.Has(dxf::CODE_TRUE_COLOUR) ? ColourOfValue(record.Integer(dxf::CODE_TRUE_COLOUR))
+                                                   : ColourOfNumber(isOff ? -number : number);
   layer.linetype = record.Text(dxf::CODE_LINETYPE, layer.linetype);
   return layer;
 }
@@ -32,7 +29,7 @@ LayerStyle ReadLayer(const Record& record) {
 // Dashes are positive, gaps negative, dots 0. Ours alternate, beginning with a dash.
 DashPattern ReadPattern(const Record& record, double scale) {
   DashPattern pattern;
-  for (const double length : record.Reals(CODE_DASH)) {
+  for (const double length : record.Reals(dxf::CODE_DASH)) {
     const bool isDash = length >= 0;
     const bool dashIsNext = pattern.size() % 2 == 0;
     if (isDash != dashIsNext && !pattern.empty()) {
@@ -47,7 +44,7 @@ DashPattern ReadPattern(const Record& record, double scale) {
 }
 
 double LinetypeScale(const dxf::Document& drawing) {
-  const auto variable = drawing.HeaderVariable("$LTSCALE");
+  const auto variable = drawing.HeaderVariable(dxf::VARIABLE_LINETYPE_SCALE);
   const double scale = variable ? dxf::ParseReal(variable->value).value_or(1.0) : 1.0;
   return scale > 0 ? scale : 1.0;
 }
@@ -56,11 +53,11 @@ double LinetypeScale(const dxf::Document& drawing) {
 
 Styles::Styles(const dxf::Document& drawing) {
   const double scale = LinetypeScale(drawing);
-  for (const Record& record : ReadRecords(drawing, drawing.SectionText("TABLES"))) {
+  for (const Record& record : ReadRecords(drawing, drawing.SectionText(dxf::SECTION_TABLES))) {
     const std::string name = dxf::FoldedName(record.Text(dxf::CODE_NAME));
-    if (dxf::SameName(record.Type(), "LAYER")) {
+    if (dxf::SameName(record.Type(), dxf::TABLE_LAYERS)) {
       layers_.try_emplace(name, ReadLayer(record));
-    } else if (dxf::SameName(record.Type(), "LTYPE")) {
+    } else if (dxf::SameName(record.Type(), dxf::TABLE_LINETYPES)) {
       linetypes_.try_emplace(name, ReadPattern(record, scale));
     }
   }

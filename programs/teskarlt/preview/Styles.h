@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "teskarlt/dxf/Document.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/preview/Colours.h"
 #include "teskarlt/preview/Scene.h"
 
@@ -12,7 +13,7 @@ namespace teskarlt::preview {
 
 struct LayerStyle {
   Colour colour = ColourOfNumber(COLOUR_WHITE);
-  std::string linetype = "CONTINUOUS";
+  std::string linetype{dxf::LINETYPE_CONTINUOUS};
   bool isVisible = true;  // neither switched off nor frozen
 };
 

@@ -6,7 +6,8 @@
 
 #include "teskarlt/dxf/read/Objects.h"
 #include "teskarlt/dxf/read/TagReader.h"
-#include "teskarlt/dxf/tags/ObjectCodes.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::dxf {
@@ -67,8 +68,8 @@ GroupObjects ReadGroupObjects(const SourceText& source, const Index& index) {
   GroupObjects objects;
   std::vector<Dictionary> dictionaries;
   for (const auto& [type, text] : ReadObjects(source, index)) {
-    if (type == "GROUP") objects.groups.push_back(ReadGroup(source, text));
-    if (type == "DICTIONARY") dictionaries.push_back(ReadDictionary(source, text));
+    if (type == TYPE_GROUP) objects.groups.push_back(ReadGroup(source, text));
+    if (type == TYPE_DICTIONARY) dictionaries.push_back(ReadDictionary(source, text));
   }
   if (dictionaries.empty()) return objects;
   objects.root = dictionaries.front();  // the first of a drawing names all others

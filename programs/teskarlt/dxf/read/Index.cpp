@@ -7,6 +7,8 @@
 
 #include "teskarlt/dxf/read/FileKind.h"
 #include "teskarlt/dxf/read/TagReader.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::dxf {
@@ -46,12 +48,12 @@ class Indexer {
 
 Index Indexer::Run() {
   while (reader_.Next(tag_)) {
-    if (tag_.code == CODE_TYPE && tag_.value == "EOF") {
+    if (tag_.code == CODE_TYPE && tag_.value == TYPE_FILE_END) {
       // Whatever stands behind it is kept and not looked at.
-      if (index_.FindSection("ENTITIES") == nullptr) source_.Fail("has no section ENTITIES");
+      if (index_.FindSection(SECTION_ENTITIES) == nullptr) source_.Fail("has no section ENTITIES");
       return std::move(index_);
     }
-    if (tag_.code != CODE_TYPE || tag_.value != "SECTION") {
+    if (tag_.code != CODE_TYPE || tag_.value != TYPE_SECTION) {
       source_.FailAt(reader_.TagBegin(), fmt::format("a section should begin here, not {} (group {})",
                                                      Quoted(tag_.value), tag_.code));
     }
@@ -66,11 +68,11 @@ void Indexer::ReadSection() {
     source_.FailAt(section.begin, "the section that begins here has no name");
   section.name = Trimmed(tag_.value);
   index_.sections.push_back(section);
-  if (SameName(section.name, "HEADER")) {
+  if (SameName(section.name, SECTION_HEADER)) {
     ReadHeader();
-  } else if (SameName(section.name, "TABLES")) {
+  } else if (SameName(section.name, SECTION_TABLES)) {
     ReadTables();
-  } else if (SameName(section.name, "ENTITIES")) {
+  } else if (SameName(section.name, SECTION_ENTITIES)) {
     ReadEntities();
   } else {
     ReadOther();
@@ -83,12 +85,12 @@ bool Indexer::NextInSection() {
   const bool isThere = reader_.Next(tag_);
   if (isThere && tag_.code != CODE_TYPE) return true;
   const Section& section = index_.sections.back();
-  if (!isThere || tag_.value == "SECTION" || tag_.value == "EOF") {
+  if (!isThere || tag_.value == TYPE_SECTION || tag_.value == TYPE_FILE_END) {
     source_.FailAt(section.begin,
                    fmt::format("the section {} that begins here is not closed{}", Quoted(section.name),
                                isThere ? "" : ": the file is cut short"));
   }
-  return tag_.value != "ENDSEC";
+  return tag_.value != TYPE_SECTION_END;
 }
 
 std::uint64_t Indexer::TakeHandle() {
@@ -111,7 +113,7 @@ void Indexer::ReadHeader() {
 
 void Indexer::ReadTables() {
   while (NextInSection()) {
-    if (tag_.code == CODE_TYPE && tag_.value == "TABLE") ReadTable();
+    if (tag_.code == CODE_TYPE && tag_.value == TYPE_TABLE) ReadTable();
   }
 }
 
@@ -120,17 +122,17 @@ void Indexer::ReadTable() {
   bool isInEntry = false;
   bool isNamed = false;  // the entry
   Tag handle;            // of the entry
-  while (NextInSection() && !(tag_.code == CODE_TYPE && tag_.value == "ENDTAB")) {
+  while (NextInSection() && !(tag_.code == CODE_TYPE && tag_.value == TYPE_TABLE_END)) {
     if (tag_.code == CODE_TYPE) {
       isInEntry = true;
       isNamed = false;
       handle = {};
     } else if (!isInEntry && tag_.code == CODE_NAME) {
       table.name = Trimmed(tag_.value);
-    } else if (!isInEntry && tag_.code == CODE_COUNT) {
+    } else if (!isInEntry && tag_.code == CODE_TABLE_COUNT) {
       table.count = tag_;
     } else if (tag_.code == CODE_DIMSTYLE_HANDLE ||
-               (tag_.code == CODE_HANDLE && !(isInEntry && SameName(table.name, "DIMSTYLE")))) {
+               (tag_.code == CODE_HANDLE && !(isInEntry && SameName(table.name, TABLE_DIMENSION_STYLES)))) {
       // 5 in a dimension style is the name of an arrow block.
       TakeHandle();
       Tag& owner = isInEntry ? handle : table.handle;
@@ -138,12 +140,12 @@ void Indexer::ReadTable() {
     } else if (isInEntry && !isNamed && tag_.code == CODE_NAME) {
       isNamed = true;
       table.entries.push_back(tag_.value);
-      if (SameName(table.name, "BLOCK_RECORD") && SameName(tag_.value, "*Model_Space"))
+      if (SameName(table.name, TABLE_BLOCKS) && SameName(tag_.value, BLOCK_MODEL_SPACE))
         index_.modelSpace = handle;
     }
   }
   table.end = reader_.TagBegin();
-  if (tag_.value != "ENDTAB") {
+  if (tag_.value != TYPE_TABLE_END) {
     source_.FailAt(table.begin,
                    fmt::format("the table {} that begins here is not closed", Quoted(table.name)));
   }
@@ -170,9 +172,9 @@ void Indexer::ReadEntities() {
   for (;;) {
     const bool isInside = NextInSection();
     if (tag_.code == CODE_TYPE) {
-      isInPart = hasParts && (tag_.value == "VERTEX" || tag_.value == "ATTRIB" || tag_.value == "SEQEND");
+      isInPart = hasParts && IsPartType(tag_.value);
       if (isInPart) {
-        hasParts = tag_.value != "SEQEND";
+        hasParts = tag_.value != TYPE_SEQUENCE_END;
       } else {
         if (begin != nullptr) entity.text = {begin, static_cast<std::size_t>(end - begin)};
         AddEntity(entity, isInPaperSpace);
@@ -180,7 +182,7 @@ void Indexer::ReadEntities() {
         entity = {{}, tag_.value, 0};
         begin = reader_.TagBegin();
         isInPaperSpace = false;
-        hasParts = tag_.value == "POLYLINE" || tag_.value == "INSERT";
+        hasParts = tag_.value == TYPE_POLYLINE || tag_.value == TYPE_INSERT;
       }
     } else if (tag_.code == CODE_HANDLE) {
       const std::uint64_t handle = TakeHandle();

@@ -2,12 +2,14 @@
 #include "teskarlt/dxf/read/Objects.h"
 
 #include "teskarlt/dxf/read/TagReader.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 
 namespace teskarlt::dxf {
 
 std::vector<ObjectText> ReadObjects(const SourceText& source, const Index& index) {
   std::vector<ObjectText> objects;
-  const Section* const section = index.FindSection("OBJECTS");
+  const Section* const section = index.FindSection(SECTION_OBJECTS);
   if (section == nullptr) return objects;
   std::string_view type;
   const char* begin = nullptr;

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/SourceText.h"
 #include "teskarlt/dxf/tags/Tag.h"
 

@@ -11,7 +11,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/tags/Tag.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::dxf {
@@ -26,7 +27,6 @@ constexpr int LONG_CODE_FOLLOWS = 255;
 constexpr std::size_t LONGEST_CHUNK = 255;
 constexpr std::size_t LONGEST_NUMBER = 64;
 constexpr int HEXADECIMAL = 16;
-constexpr std::string_view END = "EOF";
 
 enum class Form { Unknown, Text, Chunk, Real, Integer8, Integer16, Integer32, Integer64 };
 
@@ -153,7 +153,8 @@ void AppendText(std::string& out, const BinaryTag& tag) {
 }
 
 [[noreturn]] void Refuse(const std::string& name, int code, std::string_view value) {
-  throw Error(fmt::format("{}: group {} of a binary drawing cannot hold {}", name, code, Quoted(value)));
+  throw Error(fmt::format("group {} of a binary drawing cannot hold {}", code, Quoted(value)),
+              {.file = name, .value = std::string(value)});
 }
 
 void AppendCode(std::string& out, int code, bool hasShortCodes) {
@@ -276,7 +277,7 @@ bool BinaryReader::Next(BinaryTag& tag) {
   } else {
     tag.value = Take(SizeOf(form));
   }
-  isAtEnd_ = tag.code == CODE_TYPE && tag.value == END;
+  isAtEnd_ = tag.code == CODE_TYPE && tag.value == TYPE_FILE_END;
   return true;
 }
 
@@ -301,7 +302,7 @@ std::string_view BinaryReader::TakeText() {
 }
 
 void BinaryReader::Fail(const std::string& message) const {
-  throw Error(fmt::format("{}: byte {}: {}", name_, tagBegin_, message));
+  throw Error(message, {.file = name_, .unit = ErrorPlace::Unit::Byte, .position = tagBegin_});
 }
 
 std::string TextOfBinary(const std::string& name, std::string_view bytes) {

@@ -7,6 +7,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/Version.h"
 #include "teskarlt/dxf/write/EntityTags.h"
@@ -16,10 +18,8 @@
 namespace teskarlt::dxf {
 namespace {
 
-constexpr std::string_view SEED_VARIABLE = "$HANDSEED";
-
 HandleSeed SeedOf(const Index& index, const Rules& rules) {
-  const HeaderVariable* const variable = index.FindVariable(SEED_VARIABLE);
+  const HeaderVariable* const variable = index.FindVariable(VARIABLE_HANDLE_SEED);
   const std::uint64_t seed = variable == nullptr ? 0 : ParseHandle(variable->value.value).value_or(0);
   return {index.largestHandle, seed, rules.usesHandles};
 }
@@ -142,7 +142,7 @@ std::string_view Edits::ExtendedData(std::span<const TypedTag> groups) {
 std::size_t Edits::NumberOf(const Entity& entity) const {
   const Entity* const first = index_.entities.data();
   if (std::less<>()(&entity, first) || !std::less<>()(&entity, first + index_.entities.size()))
-    throw Error(fmt::format("{}: this entity is not one of the drawing", source_.Name()));
+    source_.Fail("this entity is not one of the drawing");
   return static_cast<std::size_t>(&entity - first);
 }
 
@@ -217,12 +217,12 @@ void Edits::AddSeedSplice(std::vector<Splice>& splices) const {
   if (!handles_.HasMoved()) return;
   std::string text;
   TagWriter writer(text, rules_.lineEnd);
-  if (const HeaderVariable* const variable = index_.FindVariable(SEED_VARIABLE);
+  if (const HeaderVariable* const variable = index_.FindVariable(VARIABLE_HANDLE_SEED);
       variable != nullptr && variable->value.code != 0) {
     const std::string_view old = variable->value.value;
     splices.push_back({old.data(), old.data() + old.size(), fmt::format("{:X}", handles_.Next())});
-  } else if (const Section* const header = index_.FindSection("HEADER"); header != nullptr) {
-    writer.Text(CODE_VARIABLE, SEED_VARIABLE);
+  } else if (const Section* const header = index_.FindSection(SECTION_HEADER); header != nullptr) {
+    writer.Text(CODE_VARIABLE, VARIABLE_HANDLE_SEED);
     writer.Handle(CODE_HANDLE, handles_.Next());
     splices.push_back({header->end, header->end, std::move(text)});
   }
@@ -240,7 +240,7 @@ std::vector<Splice> Edits::Splices() const {
   }
   AddReferrerSplices(source_, index_, removedHandles, splices);
   groups_.AddSplices(removedHandles, splices);
-  const char* const end = index_.FindSection("ENTITIES")->end;
+  const char* const end = index_.FindSection(SECTION_ENTITIES)->end;
   if (!added_.empty()) splices.push_back({end, end, {}, &added_});
   std::stable_sort(splices.begin(), splices.end(), [](const Splice& a, const Splice& b) {
     return a.begin != b.begin ? a.begin < b.begin : a.end < b.end;  // additions first

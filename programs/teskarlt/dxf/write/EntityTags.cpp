@@ -9,14 +9,14 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/tags/Tag.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::dxf {
 namespace {
 
 constexpr std::size_t LONGEST_APPLICATION = 31;
-constexpr int FIRST_XDATA_CODE = 1000;
 
 // What CAD programs hold of extended data in an entity, in bytes, all applications together.
 constexpr std::size_t MOST_EXTENDED_DATA = 16383;
@@ -110,7 +110,7 @@ void CheckType(std::span<const TypedTag> tags) {
   const bool isGood = !type.empty() && std::all_of(type.begin(), type.end(), [](char byte) {
     return (byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9') || byte == '_';
   });
-  if (!isGood || type == "ENDSEC" || type == "SECTION" || type == "EOF")
+  if (!isGood || type == TYPE_SECTION_END || type == TYPE_SECTION || type == TYPE_FILE_END)
     Refuse(CODE_TYPE, fmt::format("holds {}, which is no type of entity", Quoted(type)));
 }
 
@@ -123,7 +123,7 @@ std::string_view TextOf(const TypedTag& tag) {
 
 std::size_t ExtendedDataBegin(std::span<const TypedTag> tags) {
   const auto first = std::find_if(tags.begin(), tags.end(), [](const TypedTag& tag) {
-    return tag.code >= FIRST_XDATA_CODE || tag.code == CODE_XDATA_MARKER;
+    return IsExtendedData(tag.code) || tag.code == CODE_XDATA_MARKER;
   });
   return static_cast<std::size_t>(first - tags.begin());
 }
@@ -139,7 +139,7 @@ void CheckTags(std::span<const TypedTag> tags) {
   std::size_t size = 0;
   for (const TypedTag& tag : tags.subspan(extended)) {
     if (tag.code == CODE_XDATA_MARKER) continue;
-    if (tag.code < FIRST_XDATA_CODE) Refuse(tag.code, "stands behind extended data");
+    if (!IsExtendedData(tag.code)) Refuse(tag.code, "stands behind extended data");
     isUnderApplication = isUnderApplication || tag.code == CODE_XDATA_APPLICATION;
     if (!isUnderApplication) Refuse(tag.code, "stands before the name of an application");
     CheckValue(tag);

@@ -8,7 +8,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/dxf/read/TagReader.h"
-#include "teskarlt/dxf/tags/ObjectCodes.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/Version.h"
 #include "teskarlt/dxf/write/TagWriter.h"
@@ -29,7 +30,7 @@ void WriteEntry(TagWriter& writer, std::string_view name, std::uint64_t handle, 
 }
 
 void WriteDictionaryHead(TagWriter& writer, std::uint64_t handle, std::uint64_t owner, int version) {
-  writer.Text(CODE_TYPE, "DICTIONARY");
+  writer.Text(CODE_TYPE, TYPE_DICTIONARY);
   writer.Handle(CODE_HANDLE, handle);
   if (HasOwners(version)) {
     if (owner != NO_OWNER) WriteReactors(writer, std::array{owner});
@@ -45,10 +46,10 @@ Splice Removal(std::string_view text) {
 }  // namespace
 
 void WriteReactors(TagWriter& writer, std::span<const std::uint64_t> reactors) {
-  writer.Text(CODE_LIST, REACTORS_BEGIN);
+  writer.Text(CODE_CONTROL, REACTORS_BEGIN);
   for (const std::uint64_t reactor : reactors)
-    writer.Handle(CODE_OWNER, reactor);
-  writer.Text(CODE_LIST, LIST_END);
+    writer.Handle(CODE_REACTOR, reactor);
+  writer.Text(CODE_CONTROL, CONTROL_END);
 }
 
 NewGroups::NewGroups(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules,
@@ -122,7 +123,7 @@ void NewGroups::Add(std::uint64_t handle, std::string_view name, std::string_vie
   const std::uint64_t names = NamesHandle(addition);
   const std::string freeName = FreeName(name);
   TagWriter writer(addition.text, rules_.lineEnd);
-  writer.Text(CODE_TYPE, "GROUP");
+  writer.Text(CODE_TYPE, TYPE_GROUP);
   writer.Handle(CODE_HANDLE, handle);
   if (HasOwners(rules_.version)) {
     WriteReactors(writer, std::array{names});
@@ -207,7 +208,7 @@ void NewGroups::AddDictionarySplices(const std::string& entries, std::string& ob
 }
 
 void NewGroups::AddObjectsSplice(std::string objects, std::vector<Splice>& splices) const {
-  if (const Section* const section = index_.FindSection("OBJECTS"); section != nullptr) {
+  if (const Section* const section = index_.FindSection(SECTION_OBJECTS); section != nullptr) {
     splices.push_back({section->end, section->end, std::move(objects)});
     return;
   }
@@ -219,10 +220,10 @@ void NewGroups::AddObjectsSplice(std::string objects, std::vector<Splice>& splic
   reader.Next(tag);
   std::string text;
   TagWriter writer(text, rules_.lineEnd);
-  writer.Text(CODE_TYPE, "SECTION");
-  writer.Text(CODE_NAME, "OBJECTS");
+  writer.Text(CODE_TYPE, TYPE_SECTION);
+  writer.Text(CODE_NAME, SECTION_OBJECTS);
   text += objects;
-  writer.Text(CODE_TYPE, "ENDSEC");
+  writer.Text(CODE_TYPE, TYPE_SECTION_END);
   splices.push_back({reader.TagEnd(), reader.TagEnd(), std::move(text)});
 }
 

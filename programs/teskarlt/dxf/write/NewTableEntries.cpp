@@ -6,6 +6,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/Version.h"
 
@@ -16,8 +18,6 @@ constexpr TableKind ALL_KINDS[] = {TableKind::Linetype, TableKind::Layer, TableK
 
 constexpr std::size_t LONGEST_OLD_NAME = 31;
 constexpr std::string_view FORBIDDEN_IN_NAMES = "<>/\\\":;?*|,=`";
-constexpr std::string_view DEFAULT_LAYER = "0";
-constexpr std::string_view DEFAULT_APPLICATION = "ACAD";
 
 char32_t AllowedInOldName(char32_t character) {
   if (character >= 'a' && character <= 'z') return character - 'a' + 'A';
@@ -78,7 +78,7 @@ void NewTableEntries::RequireLinetype(std::string_view name) {
   if (!IsImplied(name) && !Has(TableKind::Linetype, name)) {
     const bool isDashed = SameName(name, LINETYPE_DASHED);
     if (!isDashed && !SameName(name, LINETYPE_CONTINUOUS))
-      throw Error(fmt::format("{}: the linetype {} is not in the drawing", source_.Name(), Quoted(name)));
+      source_.Fail(fmt::format("the linetype {} is not in the drawing", Quoted(name)));
     Add(TableKind::Linetype, isDashed ? LINETYPE_DASHED : LINETYPE_CONTINUOUS);
   }
   linetypes_.emplace(name, std::string());
@@ -156,7 +156,7 @@ std::uint64_t NewTableEntries::TableHandle(TableKind kind) {
   return Opener(kind)->table;
 }
 
-// Records of R12 have no handles.
+// Entries of R12 have no handles.
 std::uint64_t NewTableEntries::TakeEntryHandle() {
   return HasSubclassMarkers(rules_.version) ? handles_.Take() : 0;
 }
@@ -209,7 +209,7 @@ std::string NewTableEntries::NewTable(TableKind kind) const {
 
 // Where a table goes that the section TABLES lacks.
 const char* NewTableEntries::PlaceOf(TableKind kind) const {
-  const Section* const section = index_.FindSection("TABLES");
+  const Section* const section = index_.FindSection(SECTION_TABLES);
   const auto next = std::find_if(index_.tables.begin(), index_.tables.end(), [&](const Table& table) {
     return TableRank(table.name) > TableRank(TableName(kind));
   });
@@ -225,7 +225,7 @@ void NewTableEntries::AddSplices(std::vector<Splice>& splices) const {
     if (table != nullptr) {
       splices.push_back({table->end, table->end, TextsOf(kind)});
       AddCountSplice(*table, count, splices);
-    } else if (index_.FindSection("TABLES") != nullptr) {
+    } else if (index_.FindSection(SECTION_TABLES) != nullptr) {
       splices.push_back({PlaceOf(kind), PlaceOf(kind), NewTable(kind)});
     } else {
       newTables += NewTable(kind);
@@ -245,12 +245,12 @@ void NewTableEntries::AddCountSplice(const Table& table, std::size_t added, std:
 void NewTableEntries::AddSectionSplice(const std::string& tables, std::vector<Splice>& splices) const {
   std::string text;
   TagWriter writer(text, rules_.lineEnd);
-  writer.Text(CODE_TYPE, "SECTION");
-  writer.Text(CODE_NAME, "TABLES");
+  writer.Text(CODE_TYPE, TYPE_SECTION);
+  writer.Text(CODE_NAME, SECTION_TABLES);
   text += tables;
-  writer.Text(CODE_TYPE, "ENDSEC");
+  writer.Text(CODE_TYPE, TYPE_SECTION_END);
   const auto next = std::find_if(index_.sections.begin(), index_.sections.end(), [](const Section& section) {
-    return !SameName(section.name, "HEADER") && !SameName(section.name, "CLASSES");
+    return !SameName(section.name, SECTION_HEADER) && !SameName(section.name, SECTION_CLASSES);
   });
   splices.push_back({next->begin, next->begin, std::move(text)});
 }

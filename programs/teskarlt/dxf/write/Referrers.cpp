@@ -5,7 +5,8 @@
 
 #include "teskarlt/dxf/read/Objects.h"
 #include "teskarlt/dxf/read/TagReader.h"
-#include "teskarlt/dxf/tags/ObjectCodes.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::dxf {
@@ -26,11 +27,11 @@ struct Belonging {
 
 Belonging BelongingOf(const SourceText& source, const ObjectText& object, const Handles& removed) {
   Belonging belonging;
-  const bool isAssociation = object.type == "DIMASSOC";
+  const bool isAssociation = object.type == TYPE_ASSOCIATION;
   bool isInList = false;
   TagReader reader(source, object.text);
   for (Tag tag; reader.Next(tag);) {
-    if (tag.code == CODE_LIST) isInList = tag.value != LIST_END;
+    if (tag.code == CODE_CONTROL) isInList = tag.value != CONTROL_END;
     if (isInList) continue;
     if (tag.code == CODE_HANDLE && belonging.handle == 0)
       belonging.handle = ParseHandle(tag.value).value_or(0);
@@ -101,7 +102,7 @@ void TakeOutOfReactors(const SourceText& source, std::string_view text, const ch
   bool isAnyLeft = false;
   Tag tag;
   reader.Next(tag);
-  while (reader.Next(tag) && tag.code != CODE_LIST) {
+  while (reader.Next(tag) && tag.code != CODE_CONTROL) {
     if (Holds(removed, tag)) {
       taken.push_back({reader.TagBegin(), reader.TagEnd()});
     } else {
@@ -121,7 +122,7 @@ const char* TagAround(std::string_view text, std::size_t at) {
   return text.data() + (before == std::string_view::npos ? 0 : before + 1);
 }
 
-// Reactors stand in entities, objects and records of tables: the text is searched for them.
+// Reactors stand in entities, objects and entries of tables: the text is searched for them.
 void TakeOutOfAllReactors(const SourceText& source, const Index& index, const Handles& removed,
                           std::vector<Splice>& splices) {
   const char* const begin = source.Tags().data();
@@ -131,7 +132,7 @@ void TakeOutOfAllReactors(const SourceText& source, const Index& index, const Ha
     const char* const tagBegin = TagAround(text, at);
     Tag tag;
     TagReader(source, text.substr(static_cast<std::size_t>(tagBegin - text.data()))).Next(tag);
-    if (tag.code == CODE_LIST && tag.value == REACTORS_BEGIN)
+    if (tag.code == CODE_CONTROL && tag.value == REACTORS_BEGIN)
       TakeOutOfReactors(source, text, tagBegin, removed, splices);
   }
 }
@@ -143,9 +144,8 @@ void AddReferrerSplices(const SourceText& source, const Index& index, const Hand
   if (removedHandles.empty()) return;
   Handles removed = removedHandles;
   for (const ObjectText& object : TakeOutDependents(source, ReadObjects(source, index), removed, splices)) {
-    if (object.type == "SORTENTSTABLE") TakeOutOfSortTable(source, object, removed, splices);
-    if (object.type == "DICTIONARY" || object.type == "ACDBDICTIONARYWDFLT")
-      TakeOutOfDictionary(source, object, removed, splices);
+    if (object.type == TYPE_SORT_TABLE) TakeOutOfSortTable(source, object, removed, splices);
+    if (IsDictionaryType(object.type)) TakeOutOfDictionary(source, object, removed, splices);
   }
   TakeOutOfAllReactors(source, index, removed, splices);
 }

@@ -3,27 +3,22 @@
 
 #include <iterator>
 
-#include "teskarlt/dxf/tags/Tag.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/Units.h"
 #include "teskarlt/dxf/tags/Version.h"
 
 namespace teskarlt::dxf {
 namespace {
 
-constexpr std::string_view TABLE_ORDER[] = {"VPORT", "LTYPE", "LAYER",    "STYLE",       "VIEW",
-                                            "UCS",   "APPID", "DIMSTYLE", "BLOCK_RECORD"};
+constexpr std::string_view TABLE_ORDER[] = {
+    TABLE_VIEWPORTS,          TABLE_LINETYPES,    TABLE_LAYERS,           TABLE_TEXT_STYLES, TABLE_VIEWS,
+    TABLE_COORDINATE_SYSTEMS, TABLE_APPLICATIONS, TABLE_DIMENSION_STYLES, TABLE_BLOCKS};
 
-constexpr int CODE_DESCRIPTION = 3;
-constexpr int CODE_COLOR = 62;
-constexpr int CODE_LINEWEIGHT = 370;
-constexpr int COLOR_WHITE = 7;
+constexpr int COLOUR_WHITE = 7;
 constexpr int LINEWEIGHT_DEFAULT = -3;
 
-constexpr int CODE_ALIGNMENT = 72;
-constexpr int CODE_DASH_COUNT = 73;
-constexpr int CODE_PATTERN_LENGTH = 40;
-constexpr int CODE_DASH = 49;
-constexpr int CODE_DASH_TYPE = 74;
 constexpr int ALIGNMENT_LETTER = 'A';
 // In tenths of a millimetre, which doubles hold exactly: so the quotients come out as people write them.
 constexpr double DASH_TENTHS = 127;
@@ -37,17 +32,17 @@ struct Unit {
   double millimetres;
 };
 
-constexpr Unit UNITS[] = {{1, MILLIMETRES_PER_INCH},
-                          {2, 304.8},
-                          {4, 1},
-                          {5, 10},
-                          {6, 1000},
-                          {7, 1e6},
-                          {10, 914.4},
-                          {13, 1e-3},
-                          {14, 100},
-                          {15, 1e4},
-                          {16, 1e5}};
+constexpr Unit UNITS[] = {{UNITS_INCHES, MILLIMETRES_PER_INCH},
+                          {UNITS_FEET, 304.8},
+                          {UNITS_MILLIMETRES, 1},
+                          {UNITS_CENTIMETRES, 10},
+                          {UNITS_METRES, 1000},
+                          {UNITS_KILOMETRES, 1e6},
+                          {UNITS_YARDS, 914.4},
+                          {UNITS_MICROMETRES, 1e-3},
+                          {UNITS_DECIMETRES, 100},
+                          {UNITS_DECAMETRES, 1e4},
+                          {UNITS_HECTOMETRES, 1e5}};
 
 void WriteHead(TagWriter& writer, const EntryHead& head) {
   if (head.handle != 0 && NeedsHandles(head.version)) writer.Handle(CODE_HANDLE, head.handle);
@@ -63,21 +58,21 @@ void WriteEntryBegin(TagWriter& writer, std::string_view type, std::string_view 
     writer.Text(CODE_SUBCLASS, subclass);
   }
   writer.Text(CODE_NAME, name);
-  writer.Integer(CODE_COUNT, 0);
+  writer.Integer(CODE_FLAGS, 0);
 }
 
 void WriteLinetypeBegin(TagWriter& writer, std::string_view name, std::string_view description,
                         const EntryHead& head, int dashes, double length) {
-  WriteEntryBegin(writer, "LTYPE", "AcDbLinetypeTableRecord", name, head);
-  writer.Text(CODE_DESCRIPTION, description);
-  writer.Integer(CODE_ALIGNMENT, ALIGNMENT_LETTER);
+  WriteEntryBegin(writer, TABLE_LINETYPES, "AcDbLinetypeTableRecord", name, head);
+  writer.Text(CODE_LINETYPE_DESCRIPTION, description);
+  writer.Integer(CODE_LINETYPE_ALIGNMENT, ALIGNMENT_LETTER);
   writer.Integer(CODE_DASH_COUNT, dashes);
-  writer.Real(CODE_PATTERN_LENGTH, length);
+  writer.Real(CODE_LINETYPE_LENGTH, length);
 }
 
 void WriteDash(TagWriter& writer, double length, int version) {
   writer.Real(CODE_DASH, length);
-  if (version >= VERSION_R13) writer.Integer(CODE_DASH_TYPE, 0);
+  if (version >= VERSION_R13) writer.Integer(CODE_DASH_KIND, 0);
 }
 
 }  // namespace
@@ -85,13 +80,13 @@ void WriteDash(TagWriter& writer, double length, int version) {
 std::string_view TableName(TableKind kind) {
   switch (kind) {
     case TableKind::Linetype:
-      return "LTYPE";
+      return TABLE_LINETYPES;
     case TableKind::Layer:
-      return "LAYER";
+      return TABLE_LAYERS;
     case TableKind::Application:
       break;
   }
-  return "APPID";
+  return TABLE_APPLICATIONS;
 }
 
 int TableRank(std::string_view name) {
@@ -101,28 +96,32 @@ int TableRank(std::string_view name) {
   return rank;
 }
 
+std::string_view ContinuousLinetype(int version) {
+  return version < VERSION_R13 ? "CONTINUOUS" : LINETYPE_CONTINUOUS;
+}
+
 void WriteTableBegin(TagWriter& writer, std::string_view name, const EntryHead& head, std::size_t count) {
-  writer.Text(CODE_TYPE, "TABLE");
+  writer.Text(CODE_TYPE, TYPE_TABLE);
   writer.Text(CODE_NAME, name);
   WriteHead(writer, head);
   if (HasOwners(head.version) && head.handle != 0) writer.Handle(CODE_OWNER, 0);
   if (HasSubclassMarkers(head.version)) writer.Text(CODE_SUBCLASS, "AcDbSymbolTable");
-  writer.Integer(CODE_COUNT, static_cast<std::int64_t>(count));
+  writer.Integer(CODE_TABLE_COUNT, static_cast<std::int64_t>(count));
 }
 
 void WriteTableEnd(TagWriter& writer) {
-  writer.Text(CODE_TYPE, "ENDTAB");
+  writer.Text(CODE_TYPE, TYPE_TABLE_END);
 }
 
 void WriteLayer(TagWriter& writer, std::string_view name, const EntryHead& head) {
-  WriteEntryBegin(writer, "LAYER", "AcDbLayerTableRecord", name, head);
-  writer.Integer(CODE_COLOR, COLOR_WHITE);
-  writer.Text(CODE_LINETYPE, head.version < VERSION_R13 ? "CONTINUOUS" : LINETYPE_CONTINUOUS);
+  WriteEntryBegin(writer, TABLE_LAYERS, "AcDbLayerTableRecord", name, head);
+  writer.Integer(CODE_COLOUR, COLOUR_WHITE);
+  writer.Text(CODE_LINETYPE, ContinuousLinetype(head.version));
   if (head.version >= VERSION_R2000) writer.Integer(CODE_LINEWEIGHT, LINEWEIGHT_DEFAULT);
 }
 
 void WriteApplication(TagWriter& writer, std::string_view name, const EntryHead& head) {
-  WriteEntryBegin(writer, "APPID", "AcDbRegAppTableRecord", name, head);
+  WriteEntryBegin(writer, TABLE_APPLICATIONS, "AcDbRegAppTableRecord", name, head);
 }
 
 void WriteSolidLinetype(TagWriter& writer, std::string_view name, const EntryHead& head) {

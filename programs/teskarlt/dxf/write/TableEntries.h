@@ -25,10 +25,10 @@ struct EntryHead {
   std::uint64_t owner = 0;
 };
 
-constexpr std::string_view LINETYPE_BY_BLOCK = "ByBlock";
-constexpr std::string_view LINETYPE_BY_LAYER = "ByLayer";
-constexpr std::string_view LINETYPE_CONTINUOUS = "Continuous";
 constexpr std::string_view LINETYPE_DASHED = "DASHED";
+
+// The name as a version writes it.
+std::string_view ContinuousLinetype(int version);
 
 // The tags before a table's first entry.
 void WriteTableBegin(TagWriter& writer, std::string_view name, const EntryHead& head, std::size_t count);

@@ -5,6 +5,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "teskarlt/dxf/tags/Codes.h"
+
 namespace teskarlt::dxf {
 namespace {
 

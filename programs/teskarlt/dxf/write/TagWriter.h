@@ -35,8 +35,4 @@ class TagWriter {
   std::string_view lineEnd_;
 };
 
-// Codes of y and z follow that of x at these distances.
-constexpr int Y_DISTANCE = 10;
-constexpr int Z_DISTANCE = 20;
-
 }  // namespace teskarlt::dxf

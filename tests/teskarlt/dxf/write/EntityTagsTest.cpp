@@ -3,7 +3,7 @@
 #include <limits>
 #include <vector>
 
-#include "teskarlt/dxf/tags/Tag.h"
+#include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/write/EntityTags.h"
 #include "tests/teskarlt/dxf/SmallDrawings.h"
 
