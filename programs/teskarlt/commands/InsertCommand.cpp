@@ -1,13 +1,13 @@
 // InsertCommand.cpp - the subcommand "insert": inserts a roof window.
 #include <memory>
 
-#include "inc/RecordFields.h"
 #include "teskarlt/commands/JobsRun.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/WindowInserter.h"
+#include "window/RecordFields.h"
 
 namespace teskarlt {
 

@@ -3,10 +3,10 @@
 
 #include <fmt/format.h>
 
-#include "inc/RecordFields.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/TypedTag.h"
 #include "teskarlt/modules/DataFolder.h"
+#include "window/RecordFields.h"
 
 namespace teskarlt {
 

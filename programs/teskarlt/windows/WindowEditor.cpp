@@ -9,6 +9,7 @@
 #include "teskarlt/windows/ClosedLayers.h"
 #include "teskarlt/windows/RoofChoice.h"
 #include "teskarlt/windows/WindowChoice.h"
+#include "window/Choices.h"
 
 namespace teskarlt {
 
