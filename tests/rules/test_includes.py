@@ -13,22 +13,26 @@ PARTS = {
     "heap": ("platform/Heap", set()),
     "platform": ("platform/", {"heap"}),
     "inc": (BREVANTA + "inc/", {"geometry", "platform"}),
-    "arx": (BREVANTA + "arx/", {"inc", "geometry", "lttools", "collation", "platform"}),
-    "dialog": (BREVANTA + "dialog/", {"inc", "geometry", "platform"}),
+    "window": (BREVANTA + "window/", {"inc", "geometry", "platform"}),
+    "arx": (BREVANTA + "arx/", {"window", "inc", "geometry", "lttools", "collation", "platform"}),
+    "dialog": (BREVANTA + "dialog/", {"window", "inc", "geometry", "platform"}),
     "resources": (BREVANTA + "resources/", {"platform"}),
     "dxf tags": (HOST + "dxf/tags/", {"errors", "platform"}),
     "dxf read": (HOST + "dxf/read/", {"dxf tags", "errors", "platform"}),
     "dxf write": (HOST + "dxf/write/", {"dxf read", "dxf tags", "errors", "platform"}),
     "dxf": (HOST + "dxf/", {"dxf write", "dxf read", "dxf tags", "errors", "platform"}),
-    "drawing": (HOST + "drawing/", {"dxf", "dxf read", "dxf tags", "errors", "inc", "geometry", "platform"}),
-    "modules": (HOST + "modules/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "inc", "geometry",
+    "drawing": (HOST + "drawing/", {"dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry", "platform"}),
+    "modules": (HOST + "modules/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry",
                                     "platform"}),
     "catalogue": (HOST + "catalogue/", {"modules", "dxf", "dxf tags", "errors", "inc", "platform"}),
-    "check": (HOST + "check/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "inc", "geometry", "platform"}),
-    "preview": (HOST + "preview/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "geometry"}),
-    "terminal": (HOST + "terminal/", {"drawing", "dxf tags", "errors", "geometry", "platform"}),
-    "commands": (HOST + "commands/", {"terminal", "catalogue", "check", "preview", "modules", "drawing", "dxf",
-                                      "dxf read", "dxf tags", "errors", "inc", "geometry", "platform"}),
+    "check": (HOST + "check/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry",
+                                "platform"}),
+    "preview": (HOST + "preview/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "window", "geometry"}),
+    "windows": (HOST + "windows/", {"modules", "catalogue", "drawing", "dxf", "dxf tags", "errors", "window", "inc",
+                                    "geometry", "platform"}),
+    "terminal": (HOST + "terminal/", {"errors", "platform"}),
+    "commands": (HOST + "commands/", {"windows", "terminal", "catalogue", "check", "preview", "modules", "drawing",
+                                      "dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry", "platform"}),
     "external": ("external/", set()),
     "errors": (HOST + "Error", {"platform"}),
     "main": (HOST + "main", {"commands", "platform"}),
@@ -38,7 +42,7 @@ INCLUDE_ROOTS = ("", LIBRARY, BREVANTA, "programs/", HOST, "Library16/")
 HOST_LIBRARIES = ("zlib.h", "CLI/", "fmt/", "nlohmann/", "gtest/", "gmock/", "benchmark/")
 # Libraries that take long to compile, and the only sources that pay for them.
 SLOW_LIBRARIES = {"CLI/": {"terminal/Options.cpp"},
-                  "nlohmann/": {"terminal/Json.cpp", "commands/InsertJobs.cpp", "preview/Glb.cpp"}}
+                  "nlohmann/": {"terminal/Json.cpp", "windows/JobsFile.cpp", "preview/Glb.cpp"}}
 SYSTEM_HEADERS = re.compile(r"<\w+\.h>|<sys/")
 INCLUDE = re.compile(r'^\s*#\s*include\s+(["<])([^">]+)[">]', re.M)
 

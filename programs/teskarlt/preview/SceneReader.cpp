@@ -19,6 +19,7 @@
 #include "teskarlt/preview/Curves.h"
 #include "teskarlt/preview/Record.h"
 #include "teskarlt/preview/Styles.h"
+#include "window/Parts.h"
 
 namespace teskarlt::preview {
 
@@ -29,7 +30,6 @@ using geometry::Matrix4;
 constexpr std::size_t MOST_NESTED = 32;            // blocks in blocks
 constexpr std::size_t MOST_ENTITIES = 20'000'000;  // with those of every inserted block
 constexpr double FARTHEST = 1e12;                  // coordinate, in drawing units
-constexpr std::int64_t GLASS_NUMBER = 4;           // the module's colour for a pane
 
 // How an entity looks, after ByLayer and ByBlock.
 struct Look {
@@ -210,7 +210,8 @@ void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const Record& re
     Surface surface{face.corners, face.hiddenEdges, LayerIndex(look.layer), look.colour,
                     false,        placement.window};
     Show(surface.corners, placement);
-    if (placement.window != NO_WINDOW && record.Integer(dxf::CODE_COLOUR, COLOUR_BY_LAYER) == GLASS_NUMBER) {
+    if (placement.window != NO_WINDOW &&
+        record.Integer(dxf::CODE_COLOUR, COLOUR_BY_LAYER) == brevanta::GLASS_COLOUR) {
       surface.isGlass = true;
       const Vec3 normal = NormalOf(surface.corners);
       const double sign = normal.z < 0 ? -1 : 1;

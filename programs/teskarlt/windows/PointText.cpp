@@ -1,0 +1,50 @@
+// PointText.cpp - points as users write them.
+#include "teskarlt/windows/PointText.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+
+namespace teskarlt {
+
+namespace {
+
+// As many numbers as the text holds between commas; nothing when one of them is malformed or not finite.
+std::optional<std::vector<double>> ParseNumbers(std::string_view text) {
+  std::vector<double> numbers;
+  for (;;) {
+    const auto comma = text.find(',');
+    const std::optional<double> number = dxf::ParseReal(text.substr(0, comma));
+    if (!number) return std::nullopt;
+    numbers.push_back(*number);
+    if (comma == std::string_view::npos) return numbers;
+    text.remove_prefix(comma + 1);
+  }
+}
+
+}  // namespace
+
+PlanPoint ParsePlanPoint(const char* option, const std::string& text) {
+  const auto numbers = ParseNumbers(text);
+  if (!numbers || numbers->size() != 2) {
+    throw Error(fmt::format("{} {}: a point is two finite numbers, X,Y, in drawing units", option, text),
+                {.value = text});
+  }
+  return {(*numbers)[0], (*numbers)[1], text};
+}
+
+geometry::Vec3 ParsePoint(const char* option, const std::string& text) {
+  const auto numbers = ParseNumbers(text);
+  if (!numbers || numbers->size() != 3) {
+    throw Error(fmt::format("{} {}: a point is three finite numbers, X,Y,Z, in drawing units", option, text),
+                {.value = text});
+  }
+  return {(*numbers)[0], (*numbers)[1], (*numbers)[2]};
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,38 @@
+// PointTextTest.cpp - points as users write them.
+#include <gtest/gtest.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/windows/PointText.h"
+
+namespace teskarlt {
+namespace {
+
+TEST(ParsePlanPoint, TakesTwoNumbers) {
+  const PlanPoint point = ParsePlanPoint("--at", " -3000.5, 2e3");
+  EXPECT_EQ(point.x, -3000.5);
+  EXPECT_EQ(point.y, 2000.0);
+  EXPECT_EQ(point.text, " -3000.5, 2e3");
+}
+
+TEST(ParsePlanPoint, AnythingElseIsAnErrorThatNamesTheOption) {
+  for (const char* text : {"", "1", "1,", "1,2,3", "a,b", "1;2", "nan,1", "inf,1", "1e999,1"}) {
+    EXPECT_THROW(ParsePlanPoint("--at", text), Error) << text;
+  }
+  try {
+    ParsePlanPoint("--at", "1");
+    FAIL();
+  } catch (const Error& error) {
+    EXPECT_STREQ(error.what(), "--at 1: a point is two finite numbers, X,Y, in drawing units");
+  }
+}
+
+TEST(ParsePoint, TakesThreeNumbers) {
+  const geometry::Vec3 point = ParsePoint("--roof", "1,2,-3");
+  EXPECT_EQ(point.x, 1);
+  EXPECT_EQ(point.y, 2);
+  EXPECT_EQ(point.z, -3);
+  EXPECT_THROW(ParsePoint("--roof", "1,2"), Error);
+}
+
+}  // namespace
+}  // namespace teskarlt
