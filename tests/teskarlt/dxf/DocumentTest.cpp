@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "teskarlt/dxf/Document.h"
+#include "teskarlt/dxf/tags/Units.h"
 #include "tests/teskarlt/dxf/SmallDrawings.h"
 
 namespace teskarlt::dxf {
@@ -101,6 +102,33 @@ TEST(Document, MalformedUnitsAreToldWithTheirLine) {
   const Document drawing = Parsed(WithHeader("9|$INSUNITS|70|metres|"));
   EXPECT_EQ(ErrorOf([&] { return drawing.Units(); }),
             "roof.dxf:8: \"metres\" is not a whole number (group 70)");
+}
+
+// The linetype that a drawing in these units gets; its dashes are lengths.
+std::string DashedIn(int headerUnits, int assumedUnits) {
+  Document drawing = Parsed(WithHeader("9|$INSUNITS|70|" + std::to_string(headerUnits) + "|"));
+  drawing.AssumeUnits(assumedUnits);
+  drawing.RequireLinetype("DASHED");
+  const std::string text = drawing.Serialize();
+  return text.substr(text.find("DASHED"));
+}
+
+TEST(Document, AssumedUnitsGoBeforeThoseOfTheHeader) {
+  const std::string metres = DashedIn(UNITS_METRES, UNITS_METRES);
+  EXPECT_EQ(DashedIn(UNITS_MILLIMETRES, UNITS_METRES), metres);
+  EXPECT_NE(DashedIn(UNITS_MILLIMETRES, UNITS_MILLIMETRES), metres);
+}
+
+TEST(Document, EncodedSizeIsThatInTheFile) {
+  EXPECT_EQ(Parsed(OfVersion("AC1015")).EncodedSize("\xF8"), 1U);
+  EXPECT_EQ(Parsed(OfVersion("AC1015", "  0|TEXT|  1|\xC5\x99")).EncodedSize("\xF8"), 2U);  // a file in UTF-8
+  EXPECT_EQ(Parsed(OfVersion("AC1015")).EncodedSize("a\n"), 3U);  // the line end as ^J
+}
+
+TEST(Document, AnotherDrawingCanTakeItsPlace) {
+  Document drawing = Parsed(OfVersion("AC1015"));
+  drawing = Parsed(OfVersion("AC1032"));
+  EXPECT_EQ(drawing.Version(), VERSION_R2018);
 }
 
 TEST(Document, HeaderVariablesByName) {

@@ -162,5 +162,27 @@ TEST(WriteBinary, NumberThatTheCodeCannotHoldIsRefused) {
             "roof.dxf: group 70 of a binary drawing cannot hold \"40000\"");
 }
 
+TEST(WriteBinary, ChunkIsItsSizeAndItsBytes) {
+  std::string out;
+  AppendBinary("roof.dxf", "310\n0aFF\n", false, out);
+  EXPECT_EQ(out, "\x36\x01\x02\x0A\xFF"s);  // 310 is 0x136
+}
+
+TEST(WriteBinary, TextThatIsNoChunkIsRefused) {
+  for (const std::string& digits : {"0"s, "0g"s, "zz"s, std::string(256, '0')}) {
+    std::string out;
+    EXPECT_EQ(ErrorOf([&] { AppendBinary("roof.dxf", "310\n" + digits + "\n", false, out); }),
+              "roof.dxf: group 310 of a binary drawing cannot hold \"" + digits + "\"");
+  }
+}
+
+TEST(WriteBinary, TextThatIsNoNumberIsRefused) {
+  for (const std::string_view tag : {"40\nx\n", "70\nx\n", "290\n256\n"}) {
+    std::string out;
+    EXPECT_THAT(ErrorOf([&] { AppendBinary("roof.dxf", tag, true, out); }),
+                testing::HasSubstr("cannot hold"));
+  }
+}
+
 }  // namespace
 }  // namespace teskarlt::dxf

@@ -110,6 +110,11 @@ TEST(CheckTags, HandlesAndOwnersAreTheDrawings) {
   EXPECT_EQ(Refusal({{330, "1"sv}}), "group 330 is given by the drawing");
 }
 
+TEST(CheckTags, ReferenceMustHoldAHandle) {
+  EXPECT_EQ(Refusal({{340, "1F"sv}}), "");
+  EXPECT_EQ(Refusal({{340, "roof"sv}}), "group 340 holds no handle");
+}
+
 TEST(CheckTags, ExtendedDataNeedAnApplication) {
   EXPECT_EQ(Refusal({{1000, "x"sv}}), "group 1000 stands before the name of an application");
   EXPECT_EQ(Refusal({{1001, ""sv}}), "group 1001 holds \"\", which is no application name");

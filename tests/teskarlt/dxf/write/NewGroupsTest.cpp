@@ -122,5 +122,22 @@ TEST(NewGroups, EntityThatIsRolledBackIsNoMember) {
   EXPECT_THAT(ObjectsOf(drawing), testing::EndsWith("71|1|340|F|"));
 }
 
+// The drawing with a line in a new group, and its objects.
+std::string ObjectsWithNewGroup(const std::string& text) {
+  Document drawing = Parsed(text);
+  drawing.BeginGroup({});
+  drawing.AddEntity(LINE);
+  drawing.EndGroup("NEW", "new");
+  return ObjectsOf(Parsed(drawing.Serialize()));
+}
+
+TEST(NewGroups, DrawingWithoutObjectsGetsTheDictionariesToo) {
+  EXPECT_EQ(ObjectsWithNewGroup(OfVersion("AC1015")), "");
+}
+
+TEST(NewGroups, RootWithoutADictionaryOfGroupsGetsOne) {
+  EXPECT_EQ(ObjectsWithNewGroup(WithObjects("0|DICTIONARY|5|C")), "");
+}
+
 }  // namespace
 }  // namespace teskarlt::dxf
