@@ -1,6 +1,8 @@
 // CatalogueMergeTest.cpp - merges of catalogues through the real module, and what stops them.
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <new>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -24,16 +26,45 @@ constexpr const char* OLD = "VYROBCE Alfa\nx; 1\n";
 constexpr const char* NEW = "VYROBCE Alfa\nx; 1\ny; 2\nVYROBCE Beta\nz; 3\n";
 constexpr int SYSTEM_ERROR = 5;  // an error number of both systems
 
-int readsLeft = 0;  // that succeed
-int FailingRead(platform::FileHandle file, char* buffer, std::size_t capacity, std::size_t& count) {
-  return readsLeft-- > 0 ? platform::SystemFileOperations().read(file, buffer, capacity, count)
-                         : SYSTEM_ERROR;
+// What happens instead of an operation on a file; counts down from `after` until then.
+struct Trouble {
+  int after = 0;
+  bool Comes() { return after-- <= 0; }
+};
+Trouble reading;
+Trouble opening;
+Trouble looking;
+std::string seenInstead;  // the file that is opened or looked at then
+
+int FailRead(platform::FileHandle file, char* buffer, std::size_t capacity, std::size_t& count) {
+  if (reading.Comes()) return SYSTEM_ERROR;
+  return platform::SystemFileOperations().read(file, buffer, capacity, count);
 }
-int FailOnce(platform::FileHandle file, char* buffer, std::size_t capacity, std::size_t& count) {
-  return readsLeft-- == 0 ? SYSTEM_ERROR
-                          : platform::SystemFileOperations().read(file, buffer, capacity, count);
+int FailOneRead(platform::FileHandle file, char* buffer, std::size_t capacity, std::size_t& count) {
+  if (reading.Comes() && reading.after == -1) return SYSTEM_ERROR;
+  return platform::SystemFileOperations().read(file, buffer, capacity, count);
 }
-int FailingRemove(const std::string& /*path*/) {
+int LackMemoryForOneRead(platform::FileHandle file, char* buffer, std::size_t capacity, std::size_t& count) {
+  if (reading.Comes() && reading.after == -1) throw std::bad_alloc();
+  return platform::SystemFileOperations().read(file, buffer, capacity, count);
+}
+int OpenAnother(const std::string& path, platform::FileHandle& file) {
+  return platform::SystemFileOperations().openToRead(opening.Comes() ? seenInstead : path, file);
+}
+int OpenAnotherInstead(const std::string& path, platform::FileHandle& file) {
+  const bool isMissing = path.ends_with("missing.LIB");
+  return platform::SystemFileOperations().openToRead(isMissing ? seenInstead : path, file);
+}
+int LookAtAnotherInstead(const std::string& path, platform::FileState& state) {
+  const bool isMissing = path.ends_with("missing.LIB") || (path.ends_with(".OLD") && looking.Comes());
+  return platform::SystemFileOperations().stat(isMissing ? seenInstead : path, state);
+}
+int SeeNothingWritable(const std::string& path, platform::FileState& state) {
+  const int error = platform::SystemFileOperations().stat(path, state);
+  state.isWritable = false;
+  return error;
+}
+int FailRemove(const std::string& /*path*/) {
   return SYSTEM_ERROR;
 }
 
@@ -48,6 +79,7 @@ class CatalogueMerge : public testing::Test {
   }
   ~CatalogueMerge() override {
     platform::SetFileOperations(nullptr);
+    reading = opening = looking = {};
     std::error_code ignored;
     fs::remove_all(folder, ignored);
   }
@@ -56,11 +88,19 @@ class CatalogueMerge : public testing::Test {
   std::string Refusal() {
     return RefusalOf([&] { Merge(); });
   }
+  // The refusal of a merge in which the operations fail as the test has set them.
+  std::string RefusalInTrouble() {
+    platform::SetFileOperations(&operations);
+    std::string refusal = Refusal();
+    platform::SetFileOperations(nullptr);
+    return refusal;
+  }
   static std::string Text(const std::string& path) {
     return std::string(platform::ReadWholeFile(path).View());
   }
 
   const WindowModule module;
+  platform::FileOperations operations = platform::SystemFileOperations();
   const std::string folder = "catalogue_merge_test";
   std::string target = folder + "/BREVANTA.LIB";
   std::string source = folder + "/update.LIB";
@@ -153,31 +193,79 @@ TEST_F(CatalogueMerge, FileThatIsNoCatalogueIsRefused) {
 
 // --- What fails on the way ---
 
-TEST_F(CatalogueMerge, CatalogueThatCannotBeReadAfterTheMergeIsWhatItWas) {
-  platform::FileOperations failing = platform::SystemFileOperations();
-  failing.read = FailOnce;
-  std::string refusal;
-  // Both catalogues are read before the merge, each up to the read that gives no bytes.
-  for (readsLeft = 0; refusal.find("again what it was") == std::string::npos; readsLeft += 2) {
-    ASSERT_LT(readsLeft, 20) << refusal;
-    const int reads = readsLeft;
-    platform::SetFileOperations(&failing);
-    refusal = Refusal();
-    platform::SetFileOperations(nullptr);
-    readsLeft = reads;
-    ASSERT_EQ(Text(target), OLD) << reads;
-    fs::remove(backup);
-  }
+// Before the merge both catalogues are read, each with a second read that gives no bytes; then the merged one
+// is.
+constexpr Trouble AFTER_THE_MERGE{4};
+
+TEST_F(CatalogueMerge, CatalogueThatCannotBeReadAfterwardsIsAgainWhatItWas) {
+  operations.read = FailOneRead;
+  reading = AFTER_THE_MERGE;
+  EXPECT_THAT(RefusalInTrouble(), HasSubstr("again what it was"));
+  EXPECT_EQ(Text(target), OLD);
+}
+
+TEST_F(CatalogueMerge, LackOfMemoryAfterwardsLeavesTheCatalogueWhatItWas) {
+  operations.read = LackMemoryForOneRead;
+  reading = AFTER_THE_MERGE;
+  platform::SetFileOperations(&operations);
+  EXPECT_THROW(Merge(), std::bad_alloc);
+  platform::SetFileOperations(nullptr);
+  EXPECT_EQ(Text(target), OLD);
+}
+
+TEST_F(CatalogueMerge, CatalogueThatCannotBeBroughtBackIsTold) {
+  operations.read = FailRead;
+  reading = AFTER_THE_MERGE;
+  EXPECT_THAT(RefusalInTrouble(), HasSubstr("BREVANTA.LIB: cannot be brought back"));
+}
+
+TEST_F(CatalogueMerge, CatalogueThatLacksWindowsAfterwardsIsAgainWhatItWas) {
+  seenInstead = folder + "/less.LIB";
+  platform::WriteWholeFile(seenInstead, "VYROBCE Alfa\nx; 1\n");
+  operations.openToRead = OpenAnother;
+  opening = {3};  // source and target, and the target once more to hold it
+  EXPECT_THAT(RefusalInTrouble(), HasSubstr("the merged catalogue lacks windows of " + source));
+  EXPECT_EQ(Text(target), OLD);
 }
 
 TEST_F(CatalogueMerge, SourceThatCannotBeReadCostsNothing) {
-  platform::FileOperations failing = platform::SystemFileOperations();
-  failing.read = FailingRead;
-  readsLeft = 0;
-  platform::SetFileOperations(&failing);
-  EXPECT_THAT(Refusal(), HasSubstr("update.LIB"));
-  platform::SetFileOperations(nullptr);
+  operations.read = FailRead;
+  EXPECT_THAT(RefusalInTrouble(), HasSubstr("update.LIB"));
   EXPECT_EQ(Text(target), OLD);
+}
+
+TEST_F(CatalogueMerge, TargetThatCannotBeHeldIsLeftAlone) {
+  seenInstead = folder + "/nowhere/none.LIB";
+  operations.openToRead = OpenAnother;
+  opening = {2};
+  EXPECT_THAT(RefusalInTrouble(), HasSubstr("BREVANTA.LIB: cannot be opened"));
+  EXPECT_EQ(Text(target), OLD);
+}
+
+TEST_F(CatalogueMerge, SourceThatTheModuleCannotOpenIsNamed) {
+  seenInstead = source;
+  source = folder + "/missing.LIB";
+  operations.openToRead = OpenAnotherInstead;
+  operations.stat = LookAtAnotherInstead;
+  looking = {100};
+  EXPECT_EQ(RefusalInTrouble(), source + " cannot be opened");
+}
+
+TEST_F(CatalogueMerge, TargetThatMustNotBeWrittenIsRefused) {
+  operations.stat = SeeNothingWritable;
+  EXPECT_THAT(RefusalInTrouble(), HasSubstr("must not be written"));
+}
+
+TEST_F(CatalogueMerge, BackupThatStaysIsWarnedOf) {
+  seenInstead = source;
+  operations.stat = LookAtAnotherInstead;
+  operations.remove = FailRemove;
+  looking = {1};  // before the merge there is none
+  platform::SetFileOperations(&operations);
+  const MergeReport report = Merge();
+  platform::SetFileOperations(nullptr);
+  EXPECT_THAT(report.warnings,
+              ElementsAre(HasSubstr("is done, but its backup " + backup + " cannot be removed")));
 }
 
 // --- The data folder ---
@@ -251,9 +339,8 @@ TEST_F(CatalogueMerge, RecoveryNeedsABackupThatIsACatalogue) {
 
 TEST_F(CatalogueMerge, RecoveryTellsOfABackupThatStays) {
   platform::WriteWholeFile(backup, NEW);
-  platform::FileOperations failing = platform::SystemFileOperations();
-  failing.remove = FailingRemove;
-  platform::SetFileOperations(&failing);
+  operations.remove = FailRemove;
+  platform::SetFileOperations(&operations);
   const std::string refusal = RefusalOf([&] { RecoverCatalogue(target); });
   platform::SetFileOperations(nullptr);
   EXPECT_THAT(refusal, HasSubstr("was brought back, but " + backup + " cannot be removed"));

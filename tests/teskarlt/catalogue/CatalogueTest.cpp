@@ -79,6 +79,24 @@ TEST_F(CatalogueTest, FileThatIsNoCatalogueIsAnError) {
   EXPECT_THROW(Read(std::string("VYROBCE A\nx\0y\n", 14)), Error);
 }
 
+TEST_F(CatalogueTest, BytesThatWouldHideWindowsAreRefused) {
+  using namespace std::string_literals;
+  const auto refusal = [&](const std::string& text) -> std::string {
+    try {
+      Read(text);
+      return {};
+    } catch (const Error& error) {
+      return error.what();
+    }
+  };
+  EXPECT_EQ(refusal("VYROBCE A\nx\0; 1\n"s), path + ": this is no catalogue; it holds NUL bytes");
+  EXPECT_EQ(refusal("VYROBCE A\nx; 1\n\x1Ay; 2\n"),
+            path + ": this is no catalogue; it holds the control character 1A in line 3");
+  EXPECT_EQ(refusal("VYROBCE A\nx; 1\n\x1A"), "");  // where some systems end a text
+  EXPECT_NE(refusal("\xEF\xBB\xBFVYROBCE A\nx; 1\n").find("begins with a byte order mark"),
+            std::string::npos);
+}
+
 TEST(MakerOf, IsTheHeaderWithoutItsKeyword) {
   EXPECT_EQ(MakerOf("VYROBCE Alfa Beta "), "Alfa Beta");
   EXPECT_EQ(MakerOf("VYROBCE: Alfa"), "Alfa");

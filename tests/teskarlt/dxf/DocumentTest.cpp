@@ -5,6 +5,7 @@
 
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/dxf/tags/Units.h"
+#include "teskarlt/dxf/tags/Version.h"
 #include "tests/teskarlt/dxf/SmallDrawings.h"
 
 namespace teskarlt::dxf {

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "inc/DialogServices.h"
+#include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/windows/Answers.h"
 #include "tests/teskarlt/windows/Houses.h"
@@ -48,6 +50,26 @@ TEST_F(AnswersTest, UnknownFieldIsRefused) {
 TEST_F(AnswersTest, CatalogueThatIsMissingIsAskedForAgain) {
   for (int attempt = 0; attempt < 2; ++attempt)
     EXPECT_THAT(RefusalOf([&] { shelf.Get("missing.LIB"); }), HasSubstr("missing.LIB: cannot be opened: "));
+}
+
+TEST_F(AnswersTest, WindowOfACatalogueIsAnsweredWithItsMaker) {
+  platform::WriteWholeFile("answers_test.LIB", "VYROBCE \xF8 Alfa\nA1; 78; 118\n");
+  WindowOrder order;
+  order.catalogue = "answers_test.LIB";
+  order.window = "A1";
+  const DialogAnswers answers = AnswersOf(order, drawing, shelf);
+  EXPECT_EQ(answers.at(brevanta::ANSWER_CATALOGUE_ITEM), "A1; 78; 118");
+  EXPECT_EQ(answers.at(brevanta::ANSWER_CATALOGUE_MAKER), "\xF8 Alfa");
+  platform::CurrentFileOperations().remove("answers_test.LIB");
+}
+
+TEST_F(AnswersTest, WindowThatTheDrawingCannotHoldIsRefused) {
+  platform::WriteWholeFile("answers_test.LIB", "VYROBCE Alfa\nA1; \xE2\x98\x83\n");
+  WindowOrder order;
+  order.catalogue = "answers_test.LIB";
+  order.window = "A1";
+  EXPECT_THAT(RefusalOf([&] { AnswersOf(order, drawing, shelf); }), HasSubstr("--window A1: house.dxf: "));
+  platform::CurrentFileOperations().remove("answers_test.LIB");
 }
 
 }  // namespace

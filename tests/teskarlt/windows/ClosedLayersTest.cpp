@@ -13,13 +13,17 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-// A house with a window, in which the layer of the window's body has these flags (group 70).
-dxf::Document HouseWithLayerFlags(int flags) {
+// A house with a window, in which the layer of the window's body has this value ("70" flags, "62" colour).
+dxf::Document HouseWithLayerValue(const std::string& code, int number) {
   std::string text = HouseWithWindow().Serialize();
   const std::size_t layer = text.find("ROOF_WINDOW_BODY");
-  const std::size_t value = text.find('\n', text.find(" 70\n", layer)) + 1;
-  text.replace(value, text.find('\n', value) - value, std::to_string(flags));
+  const std::size_t value = text.find('\n', text.find(" " + code + "\n", layer)) + 1;
+  text.replace(value, text.find('\n', value) - value, std::to_string(number));
   return dxf::Document::FromText("house.dxf", text);
+}
+
+dxf::Document HouseWithLayerFlags(int flags) {
+  return HouseWithLayerValue("70", flags);
 }
 
 std::string Refusal(const dxf::Document& drawing) {
@@ -42,6 +46,15 @@ TEST(ClosedLayers, EachClosedLayerIsWarnedOf) {
       ClosedLayerWarnings(drawing, {"ROOF", "ROOF_WINDOW_BODY"}),
       ElementsAre("the layer \"ROOF_WINDOW_BODY\" is locked; it must be unlocked before the window can be "
                   "changed"));
+}
+
+TEST(ClosedLayers, EachInvisibleLayerIsWarnedOf) {
+  EXPECT_THAT(
+      ClosedLayerWarnings(HouseWithLayerFlags(1), {"ROOF_WINDOW_BODY"}),
+      ElementsAre("the layer \"ROOF_WINDOW_BODY\" is frozen; what was drawn on it is not to be seen"));
+  EXPECT_THAT(
+      ClosedLayerWarnings(HouseWithLayerValue("62", -7), {"ROOF_WINDOW_BODY"}),
+      ElementsAre("the layer \"ROOF_WINDOW_BODY\" is switched off; what was drawn on it is not to be seen"));
 }
 
 }  // namespace

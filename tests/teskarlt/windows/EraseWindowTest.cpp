@@ -23,5 +23,16 @@ TEST(EraseWindow, DrawingWithoutWindowsIsRefused) {
   EXPECT_FALSE(drawing.IsChanged());
 }
 
+TEST(EraseWindow, WindowWithPartOfACopyIsRefused) {
+  const WindowModule module;
+  dxf::Document drawing = HouseWithCopy();
+  drawing.RemoveEntity(drawing.Entities().back());
+  drawing = Reloaded(drawing);
+  EXPECT_NE(
+      RefusalOf([&] { EraseWindow(module, drawing, 1, false); }).find("cannot be told from a part of a copy"),
+      std::string::npos);
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
 }  // namespace
 }  // namespace teskarlt

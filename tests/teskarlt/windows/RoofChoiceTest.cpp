@@ -82,5 +82,19 @@ TEST_F(RoofChoiceTest, DrawingWithoutFacesIsToldSo) {
   EXPECT_EQ(Refusal(OrderAt(1, 1)), "house.dxf holds no planar face that can take a roof window");
 }
 
+TEST_F(RoofChoiceTest, NameOfNoFaceIsRefused) {
+  WindowOrder order = OrderAt(4000, 2000);
+  order.roofFace = "FFFF";
+  EXPECT_EQ(Refusal(order),
+            "--roof-face FFFF: house.dxf has no roof face of that name; teskarlt roofs lists them");
+}
+
+TEST_F(RoofChoiceTest, NameOfSeveralFacesIsRefused) {
+  faces[0].name = faces[1].name = "2F";
+  WindowOrder order = OrderAt(4000, 2000);
+  order.roofFace = "2f";
+  EXPECT_THAT(Refusal(order), HasSubstr("2 faces of house.dxf have that handle"));
+}
+
 }  // namespace
 }  // namespace teskarlt

@@ -4,6 +4,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/windows/WindowEditor.h"
+#include "teskarlt/windows/WindowInserter.h"
 #include "tests/teskarlt/windows/Houses.h"
 
 namespace teskarlt {
@@ -61,6 +62,38 @@ TEST_F(WindowEditorTest, NumberOfACopyIsRefused) {
   drawing = HouseWithCopy();
   EXPECT_THAT(RefusalOf([&] { WindowEditor(module, drawing, Millimetres(), 1, false); }),
               HasSubstr("house.dxf has 2 windows with the number 1"));
+}
+
+TEST_F(WindowEditorTest, WindowStaysOnItsOwnPlaneWhenTheRoofIsGone) {
+  drawing.RemoveEntity(drawing.Entities().front());
+  drawing = Reloaded(drawing);
+  WindowOrder order;
+  order.settings = {{"width", "1.14"}};
+  const PlacedWindow window = Edit(order);
+  EXPECT_FALSE(window.face.has_value());
+  EXPECT_NEAR(window.record.storedPoint.z, 2000, 1e-6);
+}
+
+TEST_F(WindowEditorTest, SecondPlaneOfItsOwnStays) {
+  WindowOrder own = OrderAt(4000, 2000);
+  own.settings = {{"roofBuildUp", "0"},
+                  {"layerThickness", "0.2"},
+                  {"secondPlanePoints", "0,0,-200;8000,0,-200;0,6000,5000"}};
+  dxf::Document house = House();
+  WindowInserter(module, house, Millimetres()).Insert(own);
+  drawing = Reloaded(house);
+  WindowOrder order;
+  order.settings = {{"width", "1.14"}};
+  EXPECT_EQ(Edit(order).record.secondPlanePoints[2].z, 5000);
+}
+
+TEST_F(WindowEditorTest, StrictOrderRefusesAnOverlapAndLeavesTheDrawing) {
+  WindowInserter(module, drawing, Millimetres()).Insert(OrderAt(6000, 2000));
+  drawing = Reloaded(drawing);
+  WindowOrder order = OrderAt(5900, 2000);
+  order.isStrict = true;
+  EXPECT_THAT(RefusalOf([&] { Edit(order); }), HasSubstr("overlaps window 2"));
+  EXPECT_FALSE(drawing.IsChanged());
 }
 
 }  // namespace

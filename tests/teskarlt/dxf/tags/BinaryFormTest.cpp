@@ -169,10 +169,12 @@ TEST(WriteBinary, ChunkIsItsSizeAndItsBytes) {
 }
 
 TEST(WriteBinary, TextThatIsNoChunkIsRefused) {
-  for (const std::string& digits : {"0"s, "0g"s, "zz"s, std::string(256, '0')}) {
+  // Its size is one byte: 255 bytes are the most.
+  for (const std::string& digits : {"0"s, "0g"s, "zz"s, std::string(512, '0')}) {
     std::string out;
-    EXPECT_EQ(ErrorOf([&] { AppendBinary("roof.dxf", "310\n" + digits + "\n", false, out); }),
-              "roof.dxf: group 310 of a binary drawing cannot hold \"" + digits + "\"");
+    EXPECT_THAT(
+        ErrorOf([&] { AppendBinary("roof.dxf", "310\n" + digits + "\n", false, out); }),
+        testing::StartsWith("roof.dxf: group 310 of a binary drawing cannot hold \"" + digits.substr(0, 20)));
   }
 }
 

@@ -132,11 +132,17 @@ std::string ObjectsWithNewGroup(const std::string& text) {
 }
 
 TEST(NewGroups, DrawingWithoutObjectsGetsTheDictionariesToo) {
-  EXPECT_EQ(ObjectsWithNewGroup(OfVersion("AC1015")), "");
+  EXPECT_EQ(ObjectsWithNewGroup(OfVersion("AC1015")),
+            "0|DICTIONARY|5|28|330|0|100|AcDbDictionary|3|ACAD_GROUP|350|29|"
+            "0|DICTIONARY|5|29|102|{ACAD_REACTORS|330|28|102|}|330|28|100|AcDbDictionary|3|NEW|350|20|"
+            "0|GROUP|5|20|102|{ACAD_REACTORS|330|29|102|}|330|29|100|AcDbGroup|300|new|70|0|71|1|340|27|");
 }
 
 TEST(NewGroups, RootWithoutADictionaryOfGroupsGetsOne) {
-  EXPECT_EQ(ObjectsWithNewGroup(WithObjects("0|DICTIONARY|5|C")), "");
+  EXPECT_EQ(ObjectsWithNewGroup(WithObjects("0|DICTIONARY|5|C")),
+            "0|DICTIONARY|5|C|3|ACAD_GROUP|350|F|"
+            "0|DICTIONARY|5|F|102|{ACAD_REACTORS|330|C|102|}|330|C|100|AcDbDictionary|3|NEW|350|D|"
+            "0|GROUP|5|D|102|{ACAD_REACTORS|330|F|102|}|330|F|100|AcDbGroup|300|new|70|0|71|1|340|E|");
 }
 
 }  // namespace
