@@ -21,6 +21,7 @@
 #include "teskarlt/check/Windows.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/dxf/read/FileKind.h"
+#include "teskarlt/dxf/read/HeaderValues.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -28,19 +29,17 @@
 namespace teskarlt::check {
 namespace {
 
-constexpr std::string_view VERSION_PREFIX = "AC";
-
 // From R2000 on. Programs do without CLASSES when the drawing holds nothing that needs it.
 constexpr std::string_view REQUIRED_SECTIONS[] = {dxf::SECTION_HEADER, dxf::SECTION_TABLES,
                                                   dxf::SECTION_BLOCKS, dxf::SECTION_OBJECTS};
 
 void TakeVariable(std::string_view name, const dxf::Tag& value, Header& header) {
-  if (name == dxf::VARIABLE_VERSION && value.value.starts_with(VERSION_PREFIX)) {
-    const auto number = dxf::ParseInteger(value.value.substr(VERSION_PREFIX.size()));
-    header.version = std::max(static_cast<int>(number.value_or(dxf::VERSION_R12)), dxf::VERSION_R12);
-    header.saysVersion = true;
+  if (name == dxf::VARIABLE_VERSION) {
+    const std::optional<int> version = dxf::VersionNumber(value.value);
+    header.version = version.value_or(dxf::VERSION_R12);
+    header.saysVersion = version.has_value();
   } else if (name == dxf::VARIABLE_CODE_PAGE) {
-    header.codePage = dxf::Trimmed(value.value);
+    header.codePage = dxf::CodePageOf(value.value);
   } else if (name == dxf::VARIABLE_HANDLE_SEED) {
     header.handleSeed = value;
   }

@@ -5,10 +5,11 @@
 
 #include <fmt/format.h>
 
-#include "teskarlt/check/Values.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/ExtendedData.h"
 #include "teskarlt/dxf/tags/Names.h"
-#include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/ValueKind.h"
 
 namespace teskarlt::check {
 namespace {
@@ -16,27 +17,6 @@ namespace {
 using dxf::Quoted;
 using dxf::Tag;
 using dxf::ValueKind;
-
-// Bytes of one entity, over all applications.
-constexpr std::size_t MOST_BYTES = 16383;
-
-// Bytes that a program keeps for a value: its code and what it stands for.
-std::size_t SizeOf(const Tag& tag) {
-  constexpr std::size_t CODE_SIZE = 2;
-  switch (KindOfCode(tag.code)) {
-    case ValueKind::Point:
-    case ValueKind::Real:
-      return (KindOfCode(tag.code) == ValueKind::Point ? CODE_SIZE : 0) + sizeof(double);
-    case ValueKind::Integer16:
-      return CODE_SIZE + sizeof(std::int16_t);
-    case ValueKind::Integer32:
-      return CODE_SIZE + sizeof(std::int32_t);
-    case ValueKind::Handle:
-      return CODE_SIZE + sizeof(std::uint64_t);
-    default:
-      return CODE_SIZE + (tag.code == dxf::CODE_XDATA_BINARY ? tag.value.size() / 2 : tag.value.size() + 1);
-  }
-}
 
 class ExtendedData {
  public:
@@ -47,17 +27,17 @@ class ExtendedData {
       Take(tag);
     EndPoint();
     CloseBraces();
-    if (size_ > MOST_BYTES) {
+    if (size_ > dxf::MOST_EXTENDED_DATA) {
       findings_.Error(Kind::ExtendedSize, object_.Extended().front().value.data(),
                       fmt::format("the extended data of the {} takes {} bytes, and programs have room for {}",
-                                  object_.type, size_, MOST_BYTES),
+                                  object_.type, size_, dxf::MOST_EXTENDED_DATA),
                       object_.number);
     }
   }
 
  private:
   void Take(const Tag& tag) {
-    size_ += SizeOf(tag);
+    size_ += dxf::ExtendedSize(tag.code, tag.value.size());
     if (tag.code == dxf::CODE_XDATA_APPLICATION) {
       CloseBraces();
       TakeApplication(tag);
@@ -88,7 +68,7 @@ class ExtendedData {
     const auto extended = object_.Extended();
     // Data without end are an error of their own, and not worth the time.
     const bool isKnown =
-        size_ <= MOST_BYTES && std::any_of(extended.data(), &tag, [&](const Tag& before) {
+        size_ <= dxf::MOST_EXTENDED_DATA && std::any_of(extended.data(), &tag, [&](const Tag& before) {
           return before.code == dxf::CODE_XDATA_APPLICATION && dxf::SameName(before.value, tag.value);
         });
     if (isKnown) {
@@ -102,7 +82,7 @@ class ExtendedData {
   // x, y and z of a point follow one another.
   void TakePoint(const Tag& tag) {
     constexpr int NEXT_COORDINATE = 10;
-    const bool isPoint = KindOfCode(tag.code) == ValueKind::Point;
+    const bool isPoint = dxf::KindOf(tag.code) == ValueKind::Point;
     if (wanted_ != 0 && tag.code != wanted_) {
       Error(Kind::ExtendedPoint, *point_,
             fmt::format("the group {} of this point should follow, not {}", wanted_, tag.code));

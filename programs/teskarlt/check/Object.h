@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "teskarlt/dxf/read/HeaderValues.h"
 #include "teskarlt/dxf/tags/Tag.h"
 #include "teskarlt/dxf/tags/Version.h"
 
@@ -47,7 +48,7 @@ struct Object {
 struct Header {
   int version = dxf::VERSION_R12;
   bool saysVersion = false;
-  std::string_view codePage = "ANSI_1252";
+  std::string_view codePage = dxf::DEFAULT_CODE_PAGE;
   dxf::Tag handleSeed;  // code 0 when it is missing
 };
 

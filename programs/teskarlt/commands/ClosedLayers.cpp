@@ -4,7 +4,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/drawing/LayerStates.h"
+#include "teskarlt/drawing/EntityLayers.h"
 
 namespace teskarlt {
 
@@ -14,9 +14,9 @@ void AddLockedOption(Subcommand& command, bool& isLockedToo) {
 
 void RefuseClosedLayers(const dxf::Document& drawing, const DrawnWindow& window, bool isLockedToo) {
   if (isLockedToo) return;
-  const LayerStates states(drawing);
+  const dxf::Layers layersOfDrawing = drawing.ReadLayers();
   for (const std::string& layer : LayersOf(drawing, window.entities)) {
-    const LayerState state = states.Of(layer);
+    const dxf::Layer& state = layersOfDrawing.Of(layer);
     if (!state.isLocked && !state.isFrozen) continue;
     throw Error(fmt::format(
         "window {} lies on the layer \"{}\", which is {}; {} it in the CAD program, or give --locked",
@@ -25,12 +25,12 @@ void RefuseClosedLayers(const dxf::Document& drawing, const DrawnWindow& window,
 }
 
 void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string>& layers) {
-  const LayerStates states(drawing);
+  const dxf::Layers layersOfDrawing = drawing.ReadLayers();
   const auto warn = [](const std::string& layer, const char* what) {
     fmt::print(stderr, "teskarlt: warning: the layer \"{}\" is {}\n", layer, what);
   };
   for (const std::string& layer : layers) {
-    const LayerState state = states.Of(layer);
+    const dxf::Layer& state = layersOfDrawing.Of(layer);
     if (state.isFrozen) {
       warn(layer, "frozen; what was drawn on it is not to be seen");
     } else if (state.isOff) {

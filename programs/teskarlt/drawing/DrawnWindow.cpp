@@ -12,6 +12,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/drawing/WindowParts.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
@@ -20,13 +22,6 @@ namespace {
 
 using brevanta::RecordPoint;
 using brevanta::WindowParams;
-
-constexpr int XDATA_POINT = 1011;
-constexpr int XDATA_REAL = 1040;
-constexpr int XDATA_DISTANCE = 1041;
-constexpr int XDATA_SCALE = 1042;
-constexpr int XDATA_SHORT = 1070;
-constexpr int XDATA_LONG = 1071;
 
 // The items of the description, by kind and in their order. What cannot be read stands as 0 and marks the
 // description as damaged: a drawing stays usable when one of its windows is not.
@@ -69,25 +64,25 @@ void TakeDescription(const dxf::Document& drawing, const dxf::Tag& tag, Descript
     case dxf::CODE_XDATA_TEXT:
       to.texts.push_back(drawing.Text(tag));
       break;
-    case XDATA_SHORT:
+    case dxf::CODE_XDATA_INTEGER16:
       to.shorts.push_back(IntegerOf(tag, to));
       break;
-    case XDATA_REAL:
+    case dxf::CODE_XDATA_REAL:
       to.reals.push_back(RealOf(tag, to));
       break;
-    case XDATA_DISTANCE:
+    case dxf::CODE_XDATA_DISTANCE:
       to.distances.push_back(RealOf(tag, to));
       break;
-    case XDATA_SCALE:
+    case dxf::CODE_XDATA_SCALE:
       to.scales.push_back(RealOf(tag, to));
       break;
-    case XDATA_POINT:
+    case dxf::CODE_XDATA_WORLD_POINT:
       to.points.push_back({RealOf(tag, to), 0, 0});
       break;
-    case XDATA_POINT + 10:
+    case dxf::CODE_XDATA_WORLD_POINT + dxf::Y_DISTANCE:
       if (!to.points.empty()) to.points.back().y = RealOf(tag, to);
       break;
-    case XDATA_POINT + 20:
+    case dxf::CODE_XDATA_WORLD_POINT + dxf::Z_DISTANCE:
       if (!to.points.empty()) to.points.back().z = RealOf(tag, to);
       break;
     default:
@@ -108,7 +103,7 @@ void TakeTag(const dxf::Document& drawing, const dxf::Tag& tag, Section& section
              dxf::Trimmed(tag.value) == WINDOW_ELEMENT) {
     section = Section::WindowElement;
     marks.isWindow = true;
-  } else if (section == Section::WindowElement && tag.code == XDATA_LONG) {
+  } else if (section == Section::WindowElement && tag.code == dxf::CODE_XDATA_INTEGER32) {
     marks.number = IntegerOf(tag, marks.description);
     marks.numberTag = tag;
   } else if (section == Section::Description) {
@@ -179,7 +174,7 @@ struct Mark {
 constexpr Mark MARKS[] = {{'B', 2}, {'C', 2}, {'D', 4}, {'E', 2}};
 
 bool IsFace(const dxf::Entity& entity) {
-  return dxf::SameName(entity.type, "3DFACE");
+  return dxf::SameName(entity.type, dxf::TYPE_FACE);
 }
 
 bool IsFaceCount(std::size_t faces) {
@@ -225,7 +220,7 @@ DrawnWindow MakeWindow(const Marks& marks, std::int32_t unitFactor) {
 }  // namespace
 
 bool CanBePart(std::string_view type) {
-  return dxf::SameName(type, "LINE") || dxf::SameName(type, "3DFACE");
+  return dxf::SameName(type, dxf::TYPE_LINE) || dxf::SameName(type, dxf::TYPE_FACE);
 }
 
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
