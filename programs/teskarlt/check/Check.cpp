@@ -33,7 +33,7 @@ namespace {
 constexpr std::string_view REQUIRED_SECTIONS[] = {dxf::SECTION_HEADER, dxf::SECTION_TABLES,
                                                   dxf::SECTION_BLOCKS, dxf::SECTION_OBJECTS};
 
-void TakeVariable(std::string_view name, const dxf::Tag& value, Header& header) {
+void ReadVariable(std::string_view name, const dxf::Tag& value, Header& header) {
   if (name == dxf::VARIABLE_VERSION) {
     const std::optional<int> version = dxf::VersionNumber(value.value);
     header.version = version.value_or(dxf::VERSION_R12);
@@ -52,7 +52,7 @@ Header ReadHeader(const Object& section) {
     if (tag.code == dxf::CODE_VARIABLE) {
       variable = dxf::Trimmed(tag.value);
     } else if (!variable.empty()) {
-      TakeVariable(variable, tag, header);
+      ReadVariable(variable, tag, header);
       variable = {};
     }
   }
@@ -71,7 +71,7 @@ class Checks {
 
   void Run() {
     for (Object object; walk_.Next(object);)
-      Take(object);
+      CheckObject(object);
     if (walk_.IsDamaged()) return;  // what is missing may only be out of sight
     entities_.Finish();
     handles_.Finish();
@@ -80,21 +80,21 @@ class Checks {
   }
 
  private:
-  void Take(const Object& object) {
+  void CheckObject(const Object& object) {
     if (object.place == Place::Section) {
       sections_.push_back(object.section);
       sectionsEnd_ = object.Begin();
       if (dxf::SameName(object.section, dxf::SECTION_HEADER)) header_ = ReadHeader(object);
     }
     CheckValues(object, findings_);
-    texts_.Take(object);
-    entities_.Take(object);
+    texts_.Check(object);
+    entities_.Check(object);
     CheckLinetype(object, header_, findings_);
     CheckMarkers(object, header_, findings_);
     CheckExtendedData(object, findings_);
     CheckWindowMarks(object, findings_);
-    handles_.Take(object);
-    names_.Take(object);
+    handles_.Check(object);
+    names_.Check(object);
   }
 
   void CheckSections() {

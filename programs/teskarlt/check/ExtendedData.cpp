@@ -24,7 +24,7 @@ class ExtendedData {
 
   void Check() {
     for (const Tag& tag : object_.Extended())
-      Take(tag);
+      CheckTag(tag);
     EndPoint();
     CloseBraces();
     if (size_ > dxf::MOST_EXTENDED_DATA) {
@@ -36,11 +36,11 @@ class ExtendedData {
   }
 
  private:
-  void Take(const Tag& tag) {
+  void CheckTag(const Tag& tag) {
     size_ += dxf::ExtendedSize(tag.code, tag.value.size());
     if (tag.code == dxf::CODE_XDATA_APPLICATION) {
       CloseBraces();
-      TakeApplication(tag);
+      BeginApplication(tag);
     } else if (!dxf::IsExtendedData(tag.code)) {
       if (!isOutOfOrder_) {
         Error(Kind::ExtendedOrder, tag,
@@ -55,8 +55,8 @@ class ExtendedData {
       }
       isNameless_ = true;
     }
-    if (tag.code == dxf::CODE_XDATA_BRACE) TakeBrace(tag);
-    TakePoint(tag);
+    if (tag.code == dxf::CODE_XDATA_BRACE) FollowBrace(tag);
+    FollowPoint(tag);
     if (tag.code == dxf::CODE_XDATA_TEXT && tag.value.size() > dxf::LONGEST_EXTENDED_TEXT) {
       Error(Kind::ExtendedTextLength, tag,
             fmt::format("the text {} has {} bytes, and one of extended data at most {}", Quoted(tag.value),
@@ -64,7 +64,7 @@ class ExtendedData {
     }
   }
 
-  void TakeApplication(const Tag& tag) {
+  void BeginApplication(const Tag& tag) {
     const auto extended = object_.Extended();
     // Data without end are an error of their own, and not worth the time.
     const bool isKnown =
@@ -80,7 +80,7 @@ class ExtendedData {
   }
 
   // x, y and z of a point follow one another.
-  void TakePoint(const Tag& tag) {
+  void FollowPoint(const Tag& tag) {
     constexpr int NEXT_COORDINATE = 10;
     const bool isPoint = dxf::KindOf(tag.code) == ValueKind::Point;
     if (wanted_ != 0 && tag.code != wanted_) {
@@ -102,7 +102,7 @@ class ExtendedData {
       Error(Kind::ExtendedPoint, *point_, fmt::format("the group {} of this point is missing", wanted_));
   }
 
-  void TakeBrace(const Tag& tag) {
+  void FollowBrace(const Tag& tag) {
     const std::string_view brace = dxf::Trimmed(tag.value);
     if (brace == "{") {
       if (depth_++ == 0) brace_ = &tag;

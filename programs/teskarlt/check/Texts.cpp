@@ -49,7 +49,7 @@ bool HasUndefinedBytes(const platform::CodePage& page, std::string_view bytes) {
 
 }  // namespace
 
-void Texts::Take(const Object& object) {
+void Texts::Check(const Object& object) {
   for (const Tag& tag : object.tags) {
     const dxf::ValueKind kind = dxf::KindOf(tag.code);
     if (kind != dxf::ValueKind::Text && kind != dxf::ValueKind::Binary) continue;

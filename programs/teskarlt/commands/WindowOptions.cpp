@@ -9,6 +9,7 @@
 #include "teskarlt/commands/ClosedLayers.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/dxf/NewDrawing.h"
+#include "teskarlt/dxf/tags/ExtendedData.h"
 #include "teskarlt/modules/DataFolder.h"
 #include "teskarlt/terminal/Numbers.h"
 #include "teskarlt/terminal/Report.h"

@@ -7,6 +7,7 @@
 
 #include "geometry/Matrix4.h"
 #include "teskarlt/dxf/Document.h"
+#include "teskarlt/dxf/read/TagList.h"
 
 namespace teskarlt::preview {
 

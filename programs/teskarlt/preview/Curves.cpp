@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "geometry/Trigonometry.h"
+#include "geometry/Vectors.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -58,9 +59,8 @@ CurvePoints Circle(const dxf::TagList& entity, bool isArc) {
 
 CurvePoints Ellipse(const dxf::TagList& entity) {
   const Vec3 major = entity.Point(dxf::CODE_ELLIPSE_MAJOR_AXIS);
-  Vec3 minor{};
-  geometry::VecCross(entity.Point(dxf::CODE_EXTRUSION, UPWARDS), major, minor);
-  geometry::VecScale(minor, entity.Real(dxf::CODE_ELLIPSE_RATIO, 1.0), minor);
+  const Vec3 minor = geometry::Scaled(geometry::Cross(entity.Point(dxf::CODE_EXTRUSION, UPWARDS), major),
+                                      entity.Real(dxf::CODE_ELLIPSE_RATIO, 1.0));
   const double start = entity.Real(dxf::CODE_ELLIPSE_START);
   double angle = entity.Real(dxf::CODE_ELLIPSE_END, geometry::TWO_PI) - start;
   if (angle <= 0) angle += geometry::TWO_PI;
@@ -185,16 +185,14 @@ CurvePoints Spline(const dxf::TagList& entity) {
 Matrix4 ObjectToDrawing(const Vec3& extrusion) {
   Matrix4 matrix{};
   geometry::MatIdentity(matrix);
-  const double length = std::sqrt(geometry::VecDot(extrusion, extrusion));
+  const double length = geometry::VecLength(extrusion);
   if (!(length > 0)) return matrix;
   const Vec3 z = {extrusion.x / length, extrusion.y / length, extrusion.z / length};
   constexpr double closeToZ = 1.0 / 64;
   const bool isCloseToZ = std::abs(z.x) < closeToZ && std::abs(z.y) < closeToZ;
-  Vec3 x{};
-  Vec3 y{};
-  geometry::VecCross(isCloseToZ ? Vec3{0, 1, 0} : UPWARDS, z, x);
-  geometry::VecScale(x, 1 / std::sqrt(geometry::VecDot(x, x)), x);
-  geometry::VecCross(z, x, y);
+  const Vec3 across = geometry::Cross(isCloseToZ ? Vec3{0, 1, 0} : UPWARDS, z);
+  const Vec3 x = geometry::Scaled(across, 1 / geometry::VecLength(across));
+  const Vec3 y = geometry::Cross(z, x);
   const Vec3* const axes[3] = {&x, &y, &z};
   for (int column = 0; column < 3; ++column) {
     matrix.m[0][column] = axes[column]->x;

@@ -6,6 +6,7 @@
 
 #include "geometry/Matrix4.h"
 #include "geometry/Vec3.h"
+#include "teskarlt/dxf/read/TagList.h"
 
 namespace teskarlt::preview {
 

@@ -26,7 +26,7 @@ struct Layer {
 // Names are UTF-8 and found without regard to case. Of entries with one name the first counts.
 class Layers {
  public:
-  // Takes the layers from all entries of the section TABLES. A number that is malformed counts as missing.
+  // Finds the layers among all entries of the section TABLES. A number that is malformed counts as missing.
   explicit Layers(std::span<const TagList> entries);
 
   // A layer that the drawing does not declare is white and continuous and can be seen and changed.
