@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/CodePageDecoder.h"
+#include "platform/Error.h"
 
 namespace platform {
 namespace {
@@ -88,7 +89,8 @@ CodePage::CodePage(int number) {
   tables->number = number;
   const CodePageDecoder decoder(number);
   if (!decoder.IsKnown())
-    throw CodePageError("the code page " + std::to_string(number) + " is not known to this system");
+    throw Error("the code page " + std::to_string(number) + " is not known to this system",
+                {.value = std::to_string(number)});
   for (unsigned byte = 0; byte < BYTE_VALUES; ++byte) {
     const char text[] = {static_cast<char>(byte)};
     // Control characters and ASCII are the same in every page that drawings use, yen signs of 932 included.
@@ -136,11 +138,12 @@ std::string CodePage::FromUtf8(std::string_view utf8) const {
   std::string bytes;
   for (std::size_t at = 0; at < utf8.size();) {
     const auto character = NextCharacter(utf8, at);
-    if (!character) throw CodePageError("the text is not UTF-8");
+    if (!character) throw Error("the text is not UTF-8", {.value = std::string(utf8)});
     const auto found = tables_->bytesOf.find(*character);
     if (found == tables_->bytesOf.end()) {
-      throw CodePageError("the character " + CharacterName(*character) + " does not exist in code page " +
-                          std::to_string(tables_->number));
+      const std::string name = CharacterName(*character);
+      throw Error("the character " + name + " does not exist in code page " + std::to_string(tables_->number),
+                  {.value = name});
     }
     if (found->second >= BYTE_VALUES) bytes += static_cast<char>(found->second / BYTE_VALUES);
     bytes += static_cast<char>(found->second % BYTE_VALUES);

@@ -3,17 +3,10 @@
 
 #include <memory>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace platform {
-
-// A text that cannot be converted. `what()` is a sentence that names the character.
-class CodePageError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 // The Windows number of a code page by its name in a drawing ("ANSI_1250", "ansi_1252", "dos850", "8859_2",
 // "big5"...; case does not matter); nothing for an unknown name.
@@ -23,7 +16,7 @@ std::optional<int> CodePageNumber(std::string_view name);
 // character of its own number (U+0080 to U+00FF) and comes back as that byte.
 class CodePage {
  public:
-  // Throws CodePageError when the system does not know the page.
+  // Throws Error (platform/Error.h) when the system does not know the page.
   explicit CodePage(int number);
 
   int Number() const;
@@ -31,7 +24,7 @@ class CodePage {
   // Takes every text.
   std::string ToUtf8(std::string_view bytes) const;
 
-  // Throws CodePageError for a character that the page does not have and for malformed UTF-8.
+  // Throws Error, naming the character, for one that the page does not have, and for malformed UTF-8.
   std::string FromUtf8(std::string_view utf8) const;
 
  private:

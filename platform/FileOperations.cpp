@@ -7,6 +7,8 @@
 #include <cstring>
 #include <random>
 
+#include "platform/Error.h"
+
 namespace platform {
 namespace {
 
@@ -16,7 +18,7 @@ constexpr std::size_t SMALLEST_READ_BUFFER = std::size_t{1} << 16;
 std::atomic<const FileOperations*> replacement{nullptr};
 
 [[noreturn]] void FailAt(const std::string& path, const char* operation, int error) {
-  throw FileError(path + ": cannot be " + operation + ": " + SystemReason(error));
+  throw Error(std::string("cannot be ") + operation + ": " + SystemReason(error), {.file = path});
 }
 
 // Closes a file that is read; there is nothing to lose when that fails.
@@ -90,8 +92,8 @@ FileReplacement::FileReplacement(const std::string& path)
   if (const int error = operations_.linkTarget(path, path_); error != 0) FailAt(path, "written", error);
   const FileState old = StateOfFile(path_);
   if (old.exists && !old.isOrdinary)
-    throw FileError(path + ": cannot be written: it is not an ordinary file");
-  if (old.exists && !old.isWritable) throw FileError(path + ": cannot be written: it is write-protected");
+    throw Error("cannot be written: it is not an ordinary file", {.file = path});
+  if (old.exists && !old.isWritable) throw Error("cannot be written: it is write-protected", {.file = path});
   buffer_ = std::make_unique_for_overwrite<char[]>(WRITE_BUFFER_SIZE);
   temporary_ = TemporaryName(path_);
   if (const int error = operations_.createNew(temporary_, file_); error != 0)
@@ -133,7 +135,7 @@ void FileReplacement::WriteOut(std::string_view bytes) {
     const int error =
         operations_.write(file_, bytes.data(), std::min(bytes.size(), WRITE_BUFFER_SIZE), count);
     if (error != 0) Fail("written", error);
-    if (count == 0) throw FileError(path_ + ": cannot be written: the system took no more bytes");
+    if (count == 0) throw Error("cannot be written: the system took no more bytes", {.file = path_});
     bytes.remove_prefix(count);
   }
 }

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -53,13 +52,6 @@ void SetFileOperations(const FileOperations* operations);
 // The system's words for an error number, UTF-8, without a full stop.
 std::string SystemReason(int error);
 
-// A file operation that failed. `what()` is a sentence that
-// names the file, what was tried and the system's reason.
-class FileError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 // The bytes of a whole file in one block.
 struct FileBytes {
   std::unique_ptr<char[]> bytes;
@@ -68,10 +60,11 @@ struct FileBytes {
   std::string_view View() const { return {bytes.get(), size}; }
 };
 
-// Reads a whole file; throws FileError.
+// Reads a whole file. This and all below throw Error (platform/Error.h), which names the file, what was tried
+// and the system's reason.
 FileBytes ReadWholeFile(const std::string& path);
 
-// State of a file; throws FileError. A missing file is a state, not an error.
+// State of a file; throws Error. A missing file is a state, not an error.
 FileState StateOfFile(const std::string& path);
 
 // A complete new file in place of an old one. What is written goes through one buffer to a temporary file in
@@ -79,13 +72,13 @@ FileState StateOfFile(const std::string& path);
 // Without Commit, and after any failure, the temporary file is removed and the old file is what it was.
 class FileReplacement {
  public:
-  // Throws FileError, also when the old file must not be written.
+  // Throws Error, also when the old file must not be written.
   explicit FileReplacement(const std::string& path);
   ~FileReplacement();
   FileReplacement(const FileReplacement&) = delete;
   FileReplacement& operator=(const FileReplacement&) = delete;
 
-  // Throws FileError.
+  // Throws Error.
   void Write(std::string_view bytes);
   void Commit();
 
@@ -103,7 +96,7 @@ class FileReplacement {
   std::size_t used_ = 0;
 };
 
-// Puts `bytes` in the place of the file `path` by FileReplacement; throws FileError.
+// Puts `bytes` in the place of the file `path` by FileReplacement; throws Error.
 void WriteWholeFile(const std::string& path, std::string_view bytes);
 
 }  // namespace platform

@@ -1,15 +1,11 @@
-// Error.h - what every part of the host throws when it cannot do what the user asked for.
+// Error.h - the error that every part of the program throws, by its short name.
 #pragma once
 
-#include <stdexcept>
+#include "platform/Error.h"
 
 namespace teskarlt {
 
-// `what()` is one sentence for the user, UTF-8. Where it is about a place in a file it starts with
-// "FILE:LINE: ".
-class Error : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
+using platform::Error;
+using platform::ErrorPlace;
 
 }  // namespace teskarlt

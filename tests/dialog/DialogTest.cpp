@@ -1,4 +1,6 @@
 // DialogTest.cpp - what the dialog confirms, refuses, numbers and erases.
+#include <new>
+
 #include <gtest/gtest.h>
 
 #include "dialog/Dialog.h"
@@ -86,6 +88,17 @@ TEST_F(DialogTest, ServicesOfAnotherVersionAreNotUsed) {
   host.services.version = DIALOG_SERVICES_VERSION + 1;
   EXPECT_EQ(host.RunDialog(), 0);
   EXPECT_EQ(host.refusal, "");
+}
+
+TEST_F(DialogTest, LackOfMemoryIsNoRefusal) {
+  static std::int32_t gravity;
+  gravity = REPORT_NOTE;
+  host.services.answer = [](void*, const char*, char*, std::int32_t) -> std::int32_t {
+    throw std::bad_alloc();
+  };
+  host.services.report = [](void*, std::int32_t told, const char*) { gravity = told; };
+  EXPECT_EQ(host.RunDialog(), 0);
+  EXPECT_EQ(gravity, REPORT_OUT_OF_MEMORY);
 }
 
 TEST(Dialog, WithoutServicesNothingIsConfirmed) {

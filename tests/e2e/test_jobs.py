@@ -76,6 +76,16 @@ def test_catalogue_serves_all_jobs(teskarlt, house, tmp_path):
     assert len(teskarlt.done("list", house, "--json").json["windows"]) == 2
 
 
+def test_missing_catalogue_is_told_with_the_line_of_its_job(teskarlt, house, tmp_path):
+    missing = tmp_path / "missing.LIB"
+    path = jobs_file(tmp_path, {**GOOD, "window": "OL 94x140", "catalogue": teskarlt.spelled(missing)}, OTHER)
+    answer = teskarlt("insert", house, "--jobs", path, "--keep-going")
+    assert answer.status == 1
+    assert answer.stderr.startswith(f"teskarlt: {teskarlt.spelled(path)}:1: {teskarlt.spelled(missing)}: cannot be opened: ")
+    assert answer.stdout.startswith("1 window: ")
+    assert len(teskarlt.done("list", house, "--json").json["windows"]) == 1
+
+
 @pytest.mark.parametrize("content, complaint", [(b"", "holds no jobs"), (b"\n \r\n", "holds no jobs"),
                                                 (b"{\"at\": [1, 2]", "jobs.jsonl:1: this is no JSON"),
                                                 (b"\xff\xfe\x00", "jobs.jsonl:1: this is no JSON"),

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/CodePage.h"
+#include "platform/Error.h"
 
 namespace platform {
 namespace {
@@ -11,7 +12,7 @@ namespace {
 std::string ErrorOf(const CodePage& page, std::string_view utf8) {
   try {
     page.FromUtf8(utf8);
-  } catch (const CodePageError& error) {
+  } catch (const Error& error) {
     return error.what();
   }
   return {};
@@ -35,7 +36,7 @@ TEST(CodePageNumber, OtherNamesAreUnknown) {
 }
 
 TEST(CodePage, PageThatTheSystemDoesNotKnowIsRefused) {
-  EXPECT_THROW(CodePage(4711), CodePageError);
+  EXPECT_THROW(CodePage(4711), Error);
 }
 
 TEST(CodePage, CzechText) {

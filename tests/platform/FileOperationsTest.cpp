@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/Error.h"
 #include "platform/FileOperations.h"
 
 namespace platform {
@@ -45,7 +46,7 @@ class FileOperationsTest : public testing::Test {
   static std::string ErrorOf(Call call) {
     try {
       call();
-    } catch (const FileError& error) {
+    } catch (const Error& error) {
       return error.what();
     }
     return {};

@@ -30,7 +30,7 @@ PARTS = {
     "commands": (HOST + "commands/", {"terminal", "catalogue", "check", "preview", "modules", "drawing", "dxf",
                                       "dxf read", "dxf tags", "errors", "inc", "geometry", "platform"}),
     "external": ("external/", set()),
-    "errors": (HOST + "Error", set()),
+    "errors": (HOST + "Error", {"platform"}),
     "main": (HOST + "main", {"commands", "platform"}),
 }
 # Folders that an include may start from, and the libraries that only the host, tests and benchmarks use.

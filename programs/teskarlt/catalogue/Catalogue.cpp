@@ -85,26 +85,25 @@ Catalogue ReadCatalogue(const std::string& path) {
   Catalogue catalogue;
   catalogue.path = CatalogueIn(path);
   const platform::FileState state = platform::StateOfFile(catalogue.path);
-  if (state.exists && !state.isOrdinary)
-    throw Error(fmt::format("{}: this is no ordinary file", catalogue.path));
+  if (state.exists && !state.isOrdinary) throw Error("this is no ordinary file", {.file = catalogue.path});
   catalogue.file = platform::ReadWholeFile(catalogue.path);
   std::string_view rest = catalogue.file.View();
-  if (rest.empty()) throw Error(fmt::format("{}: the catalogue is empty", catalogue.path));
+  if (rest.empty()) throw Error("the catalogue is empty", {.file = catalogue.path});
   if (rest.find('\0') != std::string_view::npos) {
-    throw Error(fmt::format("{}: this is no catalogue; it holds NUL bytes", catalogue.path));
+    throw Error("this is no catalogue; it holds NUL bytes", {.file = catalogue.path});
   }
   constexpr char endOfText = '\x1A';  // where some systems end a text file, whatever follows
   const auto end = rest.find(endOfText);
   if (end != std::string_view::npos && end + 1 != rest.size()) {
-    throw Error(fmt::format("{}: this is no catalogue; it holds the control character 1A in line {}",
-                            catalogue.path, std::count(rest.begin(), rest.begin() + end, '\n') + 1));
+    throw Error(
+        fmt::format("this is no catalogue; it holds the control character 1A in line {}",
+                    std::count(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(end), '\n') + 1),
+        {.file = catalogue.path});
   }
   constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
   if (rest.starts_with(byteOrderMark)) {
-    throw Error(
-        fmt::format("{}: the file begins with a byte order mark, which hides its first line; save it "
-                    "without one",
-                    catalogue.path));
+    throw Error("the file begins with a byte order mark, which hides its first line; save it without one",
+                {.file = catalogue.path});
   }
   CatalogueBuilder builder(catalogue);
   while (!rest.empty()) {
@@ -113,8 +112,8 @@ Catalogue ReadCatalogue(const std::string& path) {
     rest.remove_prefix(std::min(line.size() + 1, rest.size()));
   }
   if (catalogue.sections.empty()) {
-    throw Error(
-        fmt::format("{}: this is no catalogue; no line begins with {}", catalogue.path, HEADER_KEYWORD));
+    throw Error(fmt::format("this is no catalogue; no line begins with {}", HEADER_KEYWORD),
+                {.file = catalogue.path});
   }
   return catalogue;
 }

@@ -44,12 +44,12 @@ bool Exists(const std::string& path) {
 
 void CheckTarget(const std::string& source, const std::string& target) {
   if (target.size() < 3 || target.size() > LONGEST_PATH) {
-    throw Error(fmt::format("{}: the path of a catalogue to merge into must have 3 to {} characters", target,
-                            LONGEST_PATH));
+    throw Error(
+        fmt::format("the path of a catalogue to merge into must have 3 to {} characters", LONGEST_PATH),
+        {.file = target});
   }
   if (dxf::SameName(BackupOf(target), target)) {
-    throw Error(
-        fmt::format("{}: this is the name of a backup; no catalogue to merge into may bear it", target));
+    throw Error("this is the name of a backup; no catalogue to merge into may bear it", {.file = target});
   }
   if (Exists(BackupOf(target))) {
     throw Error(
@@ -58,15 +58,15 @@ void CheckTarget(const std::string& source, const std::string& target) {
                     BackupOf(target), target));
   }
   if (!Exists(target)) {
-    throw Error(
-        fmt::format("{}: there is no catalogue to merge into; copy {} there to begin with", target, source));
+    throw Error(fmt::format("there is no catalogue to merge into; copy {} there to begin with", source),
+                {.file = target});
   }
   std::error_code error;
   if (std::filesystem::equivalent(ToPath(source), ToPath(target), error)) {
     throw Error(fmt::format("{} and {} are the same file", source, target));
   }
   if (!platform::StateOfFile(target).isWritable)
-    throw Error(fmt::format("{}: the catalogue must not be written", target));
+    throw Error("the catalogue must not be written", {.file = target});
 }
 
 // What is compared of a catalogue before and after a merge; little, since catalogues may be large.
@@ -121,7 +121,8 @@ void CheckNothingLost(const Digest& source, const Digest& before, Digest& after)
       return std::binary_search(after.names.begin(), after.names.end(), name);
     });
     if (isKept) continue;
-    throw Error(fmt::format("{}: the merged catalogue lacks windows of {}", after.path, catalogue->path));
+    throw Error(fmt::format("the merged catalogue lacks windows of {}", catalogue->path),
+                {.file = after.path});
   }
 }
 
@@ -152,10 +153,10 @@ void LockFolderOf(const std::string& target, platform::FolderLock& lock) {
   if (result == platform::LockResult::Busy)
     throw Error(fmt::format("another merge is at work in the folder of {}", target));
   std::error_code error;
-  throw Error(fmt::format("{}: {}", target,
-                          std::filesystem::is_directory(ToPath(folder), error)
-                              ? "the folder of the catalogue must not be written"
-                              : "there is no such folder"));
+  throw Error(std::filesystem::is_directory(ToPath(folder), error)
+                  ? "the folder of the catalogue must not be written"
+                  : "there is no such folder",
+              {.file = target});
 }
 
 // Holds the data folder, which the module asks for once more, to the end of the merge.
@@ -179,7 +180,7 @@ class HeldCatalogue {
  public:
   explicit HeldCatalogue(const std::string& path) : path_(path) {
     if (const int error = operations_.openToRead(path, file_); error != 0)
-      throw Error(fmt::format("{}: cannot be opened: {}", path, platform::SystemReason(error)));
+      throw Error("cannot be opened: " + platform::SystemReason(error), {.file = path});
   }
   ~HeldCatalogue() { operations_.close(file_); }
   HeldCatalogue(const HeldCatalogue&) = delete;
@@ -191,7 +192,7 @@ class HeldCatalogue {
     std::vector<char> block(std::size_t{1} << 16);
     for (std::size_t count = 1; count > 0;) {
       if (const int error = operations_.read(file_, block.data(), block.size(), count); error != 0)
-        throw Error(fmt::format("{}: cannot be brought back: {}", path_, platform::SystemReason(error)));
+        throw Error("cannot be brought back: " + platform::SystemReason(error), {.file = path_});
       replacement.Write({block.data(), count});
     }
     replacement.Commit();
@@ -209,9 +210,12 @@ Digest LookAtMerged(const Digest& source, const Digest& before, const HeldCatalo
     Digest after = DigestOf(before.path);
     CheckNothingLost(source, before, after);
     return after;
-  } catch (const std::exception& error) {
+  } catch (const Error& error) {
     old.PutBack();
-    throw Error(fmt::format("{}; {} is again what it was", error.what(), before.path));
+    throw Error(fmt::format("{}; {} is again what it was", error.Message(), before.path), error.Place());
+  } catch (...) {
+    old.PutBack();
+    throw;
   }
 }
 
@@ -275,7 +279,7 @@ Recovery RecoverCatalogue(const std::optional<std::string>& target) {
   Recovery recovery;
   recovery.target = MergeTarget(target);
   const std::string backup = BackupOf(recovery.target);
-  if (!Exists(backup)) throw Error(fmt::format("{}: there is no catalogue of an interrupted merge", backup));
+  if (!Exists(backup)) throw Error("there is no catalogue of an interrupted merge", {.file = backup});
   platform::FolderLock lock;
   LockFolderOf(recovery.target, lock);
   const platform::FileBytes kept = platform::ReadWholeFile(backup);

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/ValueKind.h"
@@ -100,7 +101,7 @@ bool Texts::FindPage(const Tag& tag) {
   if (page_ || isPageUnknown_) return page_.has_value();
   try {
     if (const auto number = platform::CodePageNumber(header_.codePage)) page_.emplace(*number);
-  } catch (const platform::CodePageError&) {
+  } catch (const Error&) {
     page_.reset();  // known by name, but not to this system
   }
   isPageUnknown_ = !page_;

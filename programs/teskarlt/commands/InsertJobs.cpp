@@ -130,11 +130,7 @@ std::string ReadStandardInput() {
 
 std::string ReadJobs(const std::string& file) {
   if (file == STANDARD_INPUT) return ReadStandardInput();
-  try {
-    return std::string(platform::ReadWholeFile(file).View());
-  } catch (const platform::FileError& error) {
-    throw Error(error.what());
-  }
+  return std::string(platform::ReadWholeFile(file).View());
 }
 
 struct Job {

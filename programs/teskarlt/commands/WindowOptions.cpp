@@ -42,8 +42,8 @@ void TakeSetting(const std::string& setting, const dxf::Document& drawing, Windo
   try {
     const bool isText = field->kind == brevanta::FieldKind::Text;
     request.answers[name] = isText ? StoredText(value, drawing) : value;
-  } catch (const std::exception& error) {
-    throw Error(fmt::format("--set {}: {}", name, error.what()));
+  } catch (const Error& error) {
+    throw Error(fmt::format("--set {}: {}", name, error.what()), {.value = value});
   }
 }
 
@@ -59,8 +59,8 @@ void TakeWindow(const WindowOptions& options, const dxf::Document& drawing, Cata
     request.answers[brevanta::ANSWER_CATALOGUE_ITEM] = drawing.ToCodePage(CatalogueText(item.line));
     request.answers[brevanta::ANSWER_CATALOGUE_MAKER] =
         drawing.ToCodePage(CatalogueText(MakerOf(catalogue.sections[item.section])));
-  } catch (const std::exception& error) {
-    throw Error(fmt::format("--window {}: {}", options.window, error.what()));
+  } catch (const Error& error) {
+    throw Error(fmt::format("--window {}: {}", options.window, error.what()), {.value = options.window});
   }
 }
 

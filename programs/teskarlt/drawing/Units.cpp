@@ -25,8 +25,10 @@ constexpr std::array UNITS = {
 const DrawingUnit& UnitByName(std::string_view name) {
   const auto* found =
       std::find_if(UNITS.begin(), UNITS.end(), [&](const DrawingUnit& unit) { return unit.name == name; });
-  if (found == UNITS.end())
-    throw Error(fmt::format("unit \"{}\" is not known; the units are mm, cm, dm and m", name));
+  if (found == UNITS.end()) {
+    throw Error(fmt::format("unit \"{}\" is not known; the units are mm, cm, dm and m", name),
+                {.value = std::string(name)});
+  }
   return *found;
 }
 
@@ -37,14 +39,15 @@ const DrawingUnit& UnitOf(const dxf::Document& drawing, const std::string& asked
                                    [&](const DrawingUnit& unit) { return unit.insUnits == units; });
   if (found != UNITS.end()) return *found;
   if (units == dxf::UNITS_NONE) {
-    throw Error(
-        fmt::format("{}: the drawing does not say its unit ($INSUNITS); say it with --units mm, cm, dm or m",
-                    drawing.FileName()));
+    throw Error("the drawing does not say its unit ($INSUNITS); say it with --units mm, cm, dm or m",
+                {.file = drawing.FileName()});
   }
-  throw Error(fmt::format(
-      "{}: roof windows cannot be drawn in the drawing's unit ($INSUNITS {}), which has no whole number "
-      "of units a metre; if it is drawn in another unit, say so with --units mm, cm, dm or m",
-      drawing.FileName(), units));
+  throw Error(
+      fmt::format(
+          "roof windows cannot be drawn in the drawing's unit ($INSUNITS {}), which has no whole number "
+          "of units a metre; if it is drawn in another unit, say so with --units mm, cm, dm or m",
+          units),
+      {.file = drawing.FileName(), .value = std::to_string(units)});
 }
 
 }  // namespace teskarlt

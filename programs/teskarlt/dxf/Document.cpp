@@ -71,16 +71,6 @@ Rules RulesOf(const SourceText& source, const Index& index) {
   return rules;
 }
 
-// The file layer knows no error of the host's.
-template <typename Work>
-auto WithHostErrors(Work work) {
-  try {
-    return work();
-  } catch (const platform::FileError& error) {
-    throw Error(error.what());
-  }
-}
-
 }  // namespace
 
 struct Document::State {
@@ -107,10 +97,8 @@ Document& Document::operator=(Document&&) noexcept = default;
 Document::~Document() = default;
 
 Document Document::Load(const std::string& path) {
-  return WithHostErrors([&] {
-    const platform::FileState file = platform::StateOfFile(path);
-    return Document(std::make_unique<State>(SourceText(path, platform::ReadWholeFile(path)), file));
-  });
+  const platform::FileState file = platform::StateOfFile(path);
+  return Document(std::make_unique<State>(SourceText(path, platform::ReadWholeFile(path)), file));
 }
 
 Document Document::FromText(const std::string& name, std::string_view text) {
@@ -260,19 +248,17 @@ void Document::Rollback(const EditMark& mark) {
 }
 
 void Document::Save(const std::string& path) const {
-  WithHostErrors([&] {
-    const bool isLoadedFile = state_->file.exists && IsSameFile(path, FileName());
-    const auto refuseIfChanged = [&] {
-      if (isLoadedFile && platform::StateOfFile(path) != state_->file)
-        state_->source.Fail("was changed by another program meanwhile; nothing is written");
-    };
-    refuseIfChanged();
-    platform::FileReplacement file(path);
-    state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
-    refuseIfChanged();  // large drawings take a while
-    file.Commit();
-    if (isLoadedFile) state_->file = platform::StateOfFile(path);
-  });
+  const bool isLoadedFile = state_->file.exists && IsSameFile(path, FileName());
+  const auto refuseIfChanged = [&] {
+    if (isLoadedFile && platform::StateOfFile(path) != state_->file)
+      state_->source.Fail("was changed by another program meanwhile; nothing is written");
+  };
+  refuseIfChanged();
+  platform::FileReplacement file(path);
+  state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
+  refuseIfChanged();  // large drawings take a while
+  file.Commit();
+  if (isLoadedFile) state_->file = platform::StateOfFile(path);
 }
 
 std::string Document::Serialize() const {

@@ -9,6 +9,7 @@
 #include "platform/Export.h"
 #include "platform/SystemFolders.h"
 #include "teskarlt/modules/DataFolder.h"
+#include "teskarlt/modules/KeptException.h"
 #include "teskarlt/modules/ModuleSession.h"
 
 namespace teskarlt {
@@ -31,22 +32,16 @@ void EndEntityBatch(std::int32_t keep) {
 
 bool GetDataFolder(std::int32_t kind, char* buffer, std::int32_t size) {
   if (kind != brevanta::CATALOGUE_FOLDER_KIND) return false;
-  try {
+  return AnswerModule(false, [&] {
     const std::optional<std::string> folder = platform::ToSystemPath(DataFolder());
     if (!folder || size <= 0 || folder->size() >= static_cast<std::size_t>(size)) return false;
     std::memcpy(buffer, folder->c_str(), folder->size() + 1);
     return true;
-  } catch (const std::exception&) {  // the caller knows no exceptions
-    return false;
-  }
+  });
 }
 
 std::int32_t DataFolderAccess(std::int32_t kind, std::int32_t operation) {
-  try {
-    return AccessDataFolder(kind, operation);
-  } catch (const std::exception&) {
-    return FOLDER_REFUSED;
-  }
+  return AnswerModule(FOLDER_REFUSED, [&] { return AccessDataFolder(kind, operation); });
 }
 
 template <typename Function>

@@ -3,7 +3,10 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
+#include "teskarlt/Error.h"
+#include "teskarlt/modules/KeptException.h"
 #include "teskarlt/modules/ValueListTags.h"
 
 namespace teskarlt {
@@ -75,11 +78,13 @@ struct ServiceCalls {
   }
 
   static std::int32_t EraseWindow(void* context) {
-    ModuleSession& session = Session(context);
-    for (const dxf::Entity* entity : session.request_.replaced)
-      session.drawing_.RemoveEntity(*entity);
-    session.outcome_.erased = session.request_.replaced.size();
-    return static_cast<std::int32_t>(session.outcome_.erased);
+    return AnswerModule(std::int32_t{0}, [&] {
+      ModuleSession& session = Session(context);
+      for (const dxf::Entity* entity : session.request_.replaced)
+        session.drawing_.RemoveEntity(*entity);
+      session.outcome_.erased = session.request_.replaced.size();
+      return static_cast<std::int32_t>(session.outcome_.erased);
+    });
   }
 
   static void Confirm(void* context, const brevanta::WindowParams* record) {
@@ -87,7 +92,10 @@ struct ServiceCalls {
   }
 
   static void Report(void* context, std::int32_t gravity, const char* text) {
-    Session(context).outcome_.reports.push_back({gravity, text});
+    WorkForModule([&] {
+      if (gravity == brevanta::REPORT_OUT_OF_MEMORY) throw std::bad_alloc();
+      Session(context).outcome_.reports.push_back({gravity, text});
+    });
   }
 };
 
@@ -118,21 +126,27 @@ ModuleSession* ModuleSession::Current() {
 }
 
 std::int32_t ModuleSession::MakeEntity(const brevanta::ValueNode* list) {
-  try {
-    const std::vector<dxf::TypedTag> tags = TagsOf(list);
-    drawing_.AddEntity(tags);
-    const bool isFace =
-        !tags.empty() && tags[0].value == decltype(dxf::TypedTag::value)(std::string_view("3DFACE"));
-    ++(isFace ? batchFaces_ : batchLines_);
-    for (const dxf::TypedTag& tag : tags) {
-      if (tag.code != dxf::CODE_LAYER) continue;
-      outcome_.layers.insert(drawing_.ToUtf8(std::get<std::string_view>(tag.value)));
-      break;
+  return AnswerModule(HOST_FAILED, [&] {
+    try {
+      AddEntity(list);
+      return HOST_DONE;
+    } catch (const Error& error) {
+      if (outcome_.failure.empty()) outcome_.failure = error.what();
+      return HOST_FAILED;
     }
-    return HOST_DONE;
-  } catch (const std::exception& error) {  // the caller knows no exceptions
-    if (outcome_.failure.empty()) outcome_.failure = error.what();
-    return HOST_FAILED;
+  });
+}
+
+void ModuleSession::AddEntity(const brevanta::ValueNode* list) {
+  const std::vector<dxf::TypedTag> tags = TagsOf(list);
+  drawing_.AddEntity(tags);
+  const bool isFace =
+      !tags.empty() && tags[0].value == decltype(dxf::TypedTag::value)(std::string_view("3DFACE"));
+  ++(isFace ? batchFaces_ : batchLines_);
+  for (const dxf::TypedTag& tag : tags) {
+    if (tag.code != dxf::CODE_LAYER) continue;
+    outcome_.layers.insert(drawing_.ToUtf8(std::get<std::string_view>(tag.value)));
+    break;
   }
 }
 
@@ -147,7 +161,7 @@ void ModuleSession::EndBatch(bool keep) {
     outcome_.faces += batchFaces_;
     outcome_.lines += batchLines_;
   } else {
-    drawing_.Rollback(*batchStart_);
+    WorkForModule([&] { drawing_.Rollback(*batchStart_); });
   }
   batchStart_.reset();
 }

@@ -49,7 +49,8 @@ struct CommandOutcome {
 };
 
 // Lends itself to the host's exports while it lives; one at a time. Entities go into the drawing at once;
-// whoever runs the command takes them back when it fails (dxf::Document::Rollback).
+// whoever runs the command takes them back when it fails (dxf::Document::Rollback). What goes wrong in the
+// calls of the modules besides refused entities is kept for whoever runs the command (KeptException.h).
 class ModuleSession {
  public:
   ModuleSession(dxf::Document& drawing, const WindowRequest& request);
@@ -71,6 +72,8 @@ class ModuleSession {
 
  private:
   friend struct ServiceCalls;
+
+  void AddEntity(const brevanta::ValueNode* list);
 
   dxf::Document& drawing_;
   const WindowRequest& request_;

@@ -10,7 +10,7 @@
 #include "inc/LibraryMerge.h"
 #include "platform/SystemFolders.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/modules/DataFolder.h"
+#include "teskarlt/modules/KeptException.h"
 
 namespace teskarlt {
 
@@ -71,7 +71,7 @@ void CheckCompanion(const char* name, const char* meaning, std::initializer_list
 
 std::string SystemPath(const std::string& path) {
   if (const auto systemPath = platform::ToSystemPath(path)) return *systemPath;
-  throw Error(fmt::format("{}: the system's code page cannot hold this path", path));
+  throw Error("the system's code page cannot hold this path", {.file = path});
 }
 
 std::string FirstRefusal(const CommandOutcome& outcome) {
@@ -96,18 +96,22 @@ void CheckWindow(const CommandOutcome& outcome) {
 }
 
 // A window is one thing to select.
-void EndGroup(dxf::Document& drawing, const CommandOutcome& outcome) {
+void FinishWindow(dxf::Document& drawing, const CommandOutcome& outcome) {
+  CheckWindow(outcome);
   const std::int32_t number = outcome.confirmed->markerValue;
   drawing.EndGroup(fmt::format("BREVANTA_{}", number), fmt::format("Roof window {}", number));
 }
 
-// Runs a command in a session of its own; when it fails the drawing is what it was.
-template <typename Command>
-CommandOutcome Run(dxf::Document& drawing, const WindowRequest& request, Command command) {
+// Runs a command of the module in a session of its own and finishes it with a look at its outcome; when
+// either fails the drawing is what it was.
+template <typename Command, typename Finish>
+CommandOutcome Run(dxf::Document& drawing, const WindowRequest& request, Command command, Finish finish) {
   const dxf::EditMark before = drawing.Mark();
   try {
     ModuleSession session(drawing, request);
-    command(session);
+    command(session.Services());
+    RethrowKeptException();
+    finish(session.Outcome());
     return session.Outcome();
   } catch (...) {
     drawing.Rollback(before);
@@ -136,35 +140,38 @@ WindowModule::~WindowModule() {
 }
 
 CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest& request) const {
-  return Run(drawing, request, [&](ModuleSession& session) {
+  const auto insert = [&](brevanta::DialogServices* services) {
     drawing.BeginGroup({});
-    insert_(session.Services(), request.unitFactor, nullptr, 0);
-    CheckWindow(session.Outcome());
-    EndGroup(drawing, session.Outcome());
-  });
+    insert_(services, request.unitFactor, nullptr, 0);
+  };
+  return Run(drawing, request, insert,
+             [&](const CommandOutcome& outcome) { FinishWindow(drawing, outcome); });
 }
 
 CommandOutcome WindowModule::Edit(dxf::Document& drawing, const WindowRequest& request) const {
-  return Run(drawing, request, [&](ModuleSession& session) {
+  const auto edit = [&](brevanta::DialogServices* services) {
     drawing.BeginGroup(request.replaced);
-    edit_(session.Services(), request.unitFactor, EDIT_MODE_DIALOG);
-    CheckWindow(session.Outcome());
-    EndGroup(drawing, session.Outcome());
-  });
+    edit_(services, request.unitFactor, EDIT_MODE_DIALOG);
+  };
+  return Run(drawing, request, edit, [&](const CommandOutcome& outcome) { FinishWindow(drawing, outcome); });
 }
 
 CommandOutcome WindowModule::Erase(dxf::Document& drawing, const WindowRequest& request) const {
-  return Run(drawing, request, [&](ModuleSession& session) {
-    edit_(session.Services(), request.unitFactor, brevanta::EDIT_MODE_ERASE);
-    if (session.Outcome().erased == 0) throw Error("the dialog module erased nothing and gave no reason");
+  const auto erase = [&](brevanta::DialogServices* services) {
+    edit_(services, request.unitFactor, brevanta::EDIT_MODE_ERASE);
+  };
+  return Run(drawing, request, erase, [](const CommandOutcome& outcome) {
+    if (outcome.erased == 0) throw Error("the dialog module erased nothing and gave no reason");
   });
 }
 
 std::int32_t WindowModule::Merge(const std::string& source, const std::optional<std::string>& target) const {
   const std::string sourcePath = SystemPath(source);
   const std::string targetPath = target ? SystemPath(*target) : std::string();
-  return merge_(nullptr, sourcePath.c_str(), target ? targetPath.c_str() : nullptr,
-                brevanta::CATALOGUE_FOLDER_KIND);
+  const std::int32_t result = merge_(nullptr, sourcePath.c_str(), target ? targetPath.c_str() : nullptr,
+                                     brevanta::CATALOGUE_FOLDER_KIND);
+  RethrowKeptException();
+  return result;
 }
 
 }  // namespace teskarlt

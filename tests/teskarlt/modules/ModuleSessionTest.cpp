@@ -1,8 +1,10 @@
 // ModuleSessionTest.cpp - what the host answers to the dialog and gathers from the module.
 #include <cmath>
+#include <new>
 
 #include <gtest/gtest.h>
 
+#include "teskarlt/modules/KeptException.h"
 #include "teskarlt/modules/ModuleSession.h"
 #include "tests/teskarlt/drawing/Drawings.h"
 
@@ -107,6 +109,14 @@ TEST_F(HostSessionTest, EntityWithANumberThatIsNotFiniteIsRefused) {
   session.BeginBatch();
   EXPECT_LT(session.MakeEntity(line.nodes), 0);
   EXPECT_NE(session.Outcome().failure, "");
+}
+
+TEST_F(HostSessionTest, LackOfMemoryInTheDialogIsKeptForTheHost) {
+  ModuleSession session(drawing, request);
+  DialogServices& services = *session.Services();
+  services.report(services.context, brevanta::REPORT_OUT_OF_MEMORY, "");
+  EXPECT_TRUE(session.Outcome().reports.empty());
+  EXPECT_THROW(RethrowKeptException(), std::bad_alloc);
 }
 
 }  // namespace

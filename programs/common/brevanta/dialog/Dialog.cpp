@@ -1,6 +1,8 @@
 // Dialog.cpp - runs the dialog's rules over a record.
 #include "dialog/Dialog.h"
 
+#include <new>
+
 #include "dialog/Answers.h"
 #include "dialog/Placement.h"
 #include "dialog/Refusal.h"
@@ -74,10 +76,12 @@ std::int32_t Dialog(void* hostContext, WindowParams* record, std::int32_t /*dial
     if (editing) services->eraseWindow(services->context);
     services->confirm(services->context, record);
     return DIALOG_CONFIRMED;
-  } catch (const std::exception& refusal) {
+  } catch (const Refusal& refusal) {
     services->report(services->context, REPORT_REFUSAL, refusal.what());
-    return NOT_CONFIRMED;
+  } catch (const std::bad_alloc&) {
+    services->report(services->context, REPORT_OUT_OF_MEMORY, "");
   }
+  return NOT_CONFIRMED;
 }
 
 std::int32_t EraseWindow() {

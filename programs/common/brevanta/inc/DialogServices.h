@@ -17,7 +17,8 @@ constexpr const char* ANSWER_CATALOGUE_MAKER = "catalogueMaker";
 // How grave a message of the dialog is.
 constexpr std::int32_t REPORT_NOTE = 0;
 constexpr std::int32_t REPORT_WARNING = 1;
-constexpr std::int32_t REPORT_REFUSAL = 2;  // why the dialog does not confirm
+constexpr std::int32_t REPORT_REFUSAL = 2;        // why the dialog does not confirm
+constexpr std::int32_t REPORT_OUT_OF_MEMORY = 3;  // it does not confirm for that; the text is empty
 
 // A record of functions that the host owns and hands to "Dialog" as `hostContext`; "EraseWindow", which takes
 // no arguments, gets it from the host's export DIALOG_SERVICES_EXPORT. No entry is null. Coordinates are

@@ -143,7 +143,8 @@ void AppendText(std::string& out, const BinaryTag& tag) {
 }
 
 [[noreturn]] void Refuse(const std::string& name, int code, std::string_view value) {
-  throw Error(fmt::format("{}: group {} of a binary drawing cannot hold {}", name, code, Quoted(value)));
+  throw Error(fmt::format("group {} of a binary drawing cannot hold {}", code, Quoted(value)),
+              {.file = name, .value = std::string(value)});
 }
 
 void AppendCode(std::string& out, int code, bool hasShortCodes) {
@@ -291,7 +292,7 @@ std::string_view BinaryReader::ReadText() {
 }
 
 void BinaryReader::Fail(const std::string& message) const {
-  throw Error(fmt::format("{}: byte {}: {}", name_, tagBegin_, message));
+  throw Error(message, {.file = name_, .unit = ErrorPlace::Unit::Byte, .position = tagBegin_});
 }
 
 std::string TextOfBinary(const std::string& name, std::string_view bytes) {

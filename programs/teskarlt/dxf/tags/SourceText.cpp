@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <fmt/format.h>
-
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/BinaryForm.h"
 
@@ -56,11 +54,12 @@ void SourceText::Write(const std::vector<Splice>& splices,
 
 void SourceText::FailAt(const char* position, const std::string& message) const {
   const std::size_t place = PlacesOf({&position, 1}).front();
-  throw Error(fmt::format("{}:{}{}: {}", name_, IsBinary() ? " byte " : "", place, message));
+  const ErrorPlace::Unit unit = IsBinary() ? ErrorPlace::Unit::Byte : ErrorPlace::Unit::Line;
+  throw Error(message, {.file = name_, .unit = unit, .position = place});
 }
 
 void SourceText::Fail(const std::string& message) const {
-  throw Error(fmt::format("{}: {}", name_, message));
+  throw Error(message, {.file = name_});
 }
 
 }  // namespace teskarlt::dxf

@@ -138,11 +138,14 @@ TextCodec::TextCodec(std::string fileName, std::string pageName, bool isUtf8)
 const platform::CodePage& TextCodec::Page() const {
   if (page_) return *page_;
   const auto number = platform::CodePageNumber(pageName_);
-  if (!number) throw Error(fmt::format("{}: the code page \"{}\" is not known", fileName_, pageName_));
+  if (!number) {
+    throw Error(fmt::format("the code page \"{}\" is not known", pageName_),
+                {.file = fileName_, .value = pageName_});
+  }
   try {
     page_.emplace(*number);
-  } catch (const platform::CodePageError& error) {
-    throw Error(fmt::format("{}: {}", fileName_, error.what()));
+  } catch (const Error& error) {
+    throw Error(error.Message(), {.file = fileName_, .value = error.Place().value});
   }
   return *page_;
 }
@@ -164,8 +167,8 @@ std::string TextCodec::ToCodePage(std::string_view utf8) const {
   if (IsAscii(utf8)) return std::string(utf8);
   try {
     return Page().FromUtf8(utf8);
-  } catch (const platform::CodePageError& error) {
-    throw Error(fmt::format("{}: {}", fileName_, error.what()));
+  } catch (const Error& error) {
+    throw Error(error.Message(), {.file = fileName_, .value = error.Place().value});
   }
 }
 

@@ -142,7 +142,7 @@ std::string_view Edits::ExtendedData(std::span<const TypedTag> groups) {
 std::size_t Edits::NumberOf(const Entity& entity) const {
   const Entity* const first = index_.entities.data();
   if (std::less<>()(&entity, first) || !std::less<>()(&entity, first + index_.entities.size()))
-    throw Error(fmt::format("{}: this entity is not one of the drawing", source_.Name()));
+    source_.Fail("this entity is not one of the drawing");
   return static_cast<std::size_t>(&entity - first);
 }
 

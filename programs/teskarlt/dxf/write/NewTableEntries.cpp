@@ -78,7 +78,7 @@ void NewTableEntries::RequireLinetype(std::string_view name) {
   if (!IsImplied(name) && !Has(TableKind::Linetype, name)) {
     const bool isDashed = SameName(name, LINETYPE_DASHED);
     if (!isDashed && !SameName(name, LINETYPE_CONTINUOUS))
-      throw Error(fmt::format("{}: the linetype {} is not in the drawing", source_.Name(), Quoted(name)));
+      source_.Fail(fmt::format("the linetype {} is not in the drawing", Quoted(name)));
     Add(TableKind::Linetype, isDashed ? LINETYPE_DASHED : LINETYPE_CONTINUOUS);
   }
   linetypes_.emplace(name, std::string());
