@@ -15,7 +15,7 @@ namespace {
 using geometry::Vec3;
 
 constexpr std::size_t MOST_CORNERS = 4;
-constexpr std::uint32_t ALL_EDGES = 15;  // the bits of a 3D face that hide edges
+constexpr std::uint32_t ALL_EDGES = 15;  // of a 3D face, whose flags hide edge k by bit k
 
 // The numbers of one entity or vertex that faces are made of.
 struct Shape {

@@ -124,7 +124,6 @@ constexpr int CODE_FIRST_CORNER = 10;
 constexpr int CODE_SECOND_CORNER = 11;
 constexpr int CODE_THIRD_CORNER = 12;
 constexpr int CODE_FOURTH_CORNER = 13;
-constexpr int CODE_HIDDEN_EDGES = 70;  // of a 3DFACE: bit k hides the edge from corner k
 
 // Of a CIRCLE or ARC; angles in degrees.
 constexpr int CODE_CIRCLE_CENTRE = 10;
@@ -213,7 +212,6 @@ constexpr int CODE_XDATA_MARKER = -3;  // stands before extended data in value l
 constexpr int CODE_XDATA_TEXT = 1000;
 constexpr int CODE_XDATA_APPLICATION = 1001;
 constexpr int CODE_XDATA_BRACE = 1002;
-constexpr int CODE_XDATA_BINARY = 1004;
 constexpr int CODE_XDATA_WORLD_POINT = 1011;
 constexpr int CODE_XDATA_REAL = 1040;
 constexpr int CODE_XDATA_DISTANCE = 1041;
