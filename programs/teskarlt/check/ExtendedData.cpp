@@ -81,7 +81,7 @@ class ExtendedData {
 
   // x, y and z of a point follow one another.
   void FollowPoint(const Tag& tag) {
-    constexpr int NEXT_COORDINATE = 10;
+    constexpr int NEXT_COORDINATE = dxf::Y_DISTANCE;
     const bool isPoint = dxf::KindOf(tag.code) == ValueKind::Point;
     if (wanted_ != 0 && tag.code != wanted_) {
       Error(Kind::ExtendedPoint, *point_,

@@ -11,6 +11,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Digits.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/ValueKind.h"
@@ -25,8 +26,6 @@ constexpr std::size_t BITS_OF_BYTE = 8;
 constexpr std::size_t BYTES_OF_LONG_CODE = 2;
 constexpr int LONG_CODE_FOLLOWS = 255;
 constexpr std::size_t LONGEST_CHUNK = 255;
-constexpr std::size_t LONGEST_NUMBER = 64;
-constexpr unsigned HEXADECIMAL = 16;
 
 enum class Form { Unknown, Text, Chunk, Real, Integer8, Integer16, Integer32, Integer64 };
 
@@ -120,7 +119,7 @@ void AppendLine(std::string& out, std::string_view text) {
 void AppendHexadecimal(std::string& out, std::string_view chunk) {
   constexpr std::string_view DIGITS = "0123456789ABCDEF";
   for (const char byte : chunk) {
-    const auto bits = static_cast<unsigned char>(byte);
+    const std::size_t bits = static_cast<unsigned char>(byte);
     out += DIGITS[bits / HEXADECIMAL];
     out += DIGITS[bits % HEXADECIMAL];
   }
@@ -163,7 +162,7 @@ bool AppendChunk(std::string& out, std::string_view digits) {
   for (; !digits.empty(); digits.remove_prefix(DIGITS_OF_BYTE)) {
     const char* const end = digits.data() + DIGITS_OF_BYTE;
     unsigned char byte = 0;
-    if (std::from_chars(digits.data(), end, byte, int{HEXADECIMAL}).ptr != end) return false;
+    if (std::from_chars(digits.data(), end, byte, HEXADECIMAL).ptr != end) return false;
     out += static_cast<char>(byte);
   }
   return true;

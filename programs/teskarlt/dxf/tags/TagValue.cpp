@@ -6,6 +6,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "teskarlt/dxf/tags/Digits.h"
+
 namespace teskarlt::dxf {
 namespace {
 
@@ -47,10 +49,9 @@ std::optional<double> ParseReal(std::string_view text) {
   text = WithoutPlus(Trimmed(text));
   if (const auto value = ParseTrimmedReal(text)) return value;
   // Fortran's exponent letter.
-  constexpr std::size_t LONGEST = 64;
   const auto letter = text.find_first_of("Dd");
-  if (letter == std::string_view::npos || text.size() > LONGEST) return std::nullopt;
-  std::array<char, LONGEST> copy{};
+  if (letter == std::string_view::npos || text.size() > LONGEST_NUMBER) return std::nullopt;
+  std::array<char, LONGEST_NUMBER> copy{};
   text.copy(copy.data(), text.size());
   copy[letter] = 'E';
   return ParseTrimmedReal({copy.data(), text.size()});
@@ -69,7 +70,6 @@ std::optional<std::int64_t> ParseInteger(std::string_view text) {
 }
 
 std::optional<std::uint64_t> ParseHandle(std::string_view text) {
-  constexpr int HEXADECIMAL = 16;
   text = Trimmed(text);
   std::uint64_t value = 0;
   const char* const end = text.data() + text.size();
