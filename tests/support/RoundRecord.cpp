@@ -1,6 +1,8 @@
 // RoundRecord.cpp - the record of round numbers.
 #include "tests/support/RoundRecord.h"
 
+#include "window/Choices.h"
+
 namespace round_record {
 
 brevanta::WindowParams OnSlope() {

@@ -15,10 +15,10 @@
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowFit.h"
-#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "window/Parts.h"
 
 namespace teskarlt::check {
 namespace {
@@ -118,7 +118,7 @@ const DrawingUnit* UnitOfHeader(const dxf::Document& drawing) {
 
 bool IsWindowElement(std::span<const dxf::Tag> section) {
   for (const dxf::Tag& tag : section)
-    if (tag.code == dxf::CODE_XDATA_TEXT) return dxf::Trimmed(tag.value) == WINDOW_ELEMENT;
+    if (tag.code == dxf::CODE_XDATA_TEXT) return dxf::Trimmed(tag.value) == brevanta::WINDOW_ELEMENT;
   return false;
 }
 
@@ -143,8 +143,8 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
     return tag.code == dxf::CODE_XDATA_APPLICATION && tag.value.starts_with(OUR_PREFIX);
   });
   if (!isOurs) return;
-  const auto element = SectionOf(extended, ELEMENT_APPLICATION);
-  const auto description = SectionOf(extended, DESCRIPTION_APPLICATION);
+  const auto element = SectionOf(extended, brevanta::ELEMENT_APPLICATION);
+  const auto description = SectionOf(extended, brevanta::DESCRIPTION_APPLICATION);
   const auto report = [&](const dxf::Tag& tag, std::string_view what) {
     findings.Warning(Kind::WindowForeignData, tag.value.data(), fmt::format("the {} {}", object.type, what),
                      object.number);

@@ -13,6 +13,7 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/modules/WindowModule.h"
+#include "window/Choices.h"
 
 namespace teskarlt {
 

@@ -3,12 +3,12 @@
 
 #include <fmt/format.h>
 
-#include "inc/RecordFields.h"
 #include "teskarlt/commands/InsertJobs.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowInserter.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/terminal/Report.h"
+#include "window/RecordFields.h"
 
 namespace teskarlt {
 

@@ -3,7 +3,6 @@
 
 #include <fmt/format.h>
 
-#include "inc/RecordFields.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/commands/ClosedLayers.h"
@@ -13,6 +12,7 @@
 #include "teskarlt/modules/DataFolder.h"
 #include "teskarlt/terminal/Numbers.h"
 #include "teskarlt/terminal/Report.h"
+#include "window/RecordFields.h"
 
 namespace teskarlt {
 

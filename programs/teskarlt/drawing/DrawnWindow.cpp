@@ -11,10 +11,11 @@
 
 #include <fmt/format.h>
 
-#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "window/Choices.h"
+#include "window/Parts.h"
 
 namespace teskarlt {
 
@@ -91,8 +92,8 @@ void TakeDescription(const dxf::Document& drawing, const dxf::Tag& tag, Descript
 }
 
 Section SectionOf(std::string_view application) {
-  if (dxf::SameName(application, ELEMENT_APPLICATION)) return Section::Element;
-  if (dxf::SameName(application, DESCRIPTION_APPLICATION)) return Section::Description;
+  if (dxf::SameName(application, brevanta::ELEMENT_APPLICATION)) return Section::Element;
+  if (dxf::SameName(application, brevanta::DESCRIPTION_APPLICATION)) return Section::Description;
   return Section::Foreign;
 }
 
@@ -100,7 +101,7 @@ void TakeTag(const dxf::Document& drawing, const dxf::Tag& tag, Section& section
   if (tag.code == dxf::CODE_XDATA_APPLICATION) {
     section = SectionOf(dxf::Trimmed(tag.value));
   } else if (section == Section::Element && tag.code == dxf::CODE_XDATA_TEXT &&
-             dxf::Trimmed(tag.value) == WINDOW_ELEMENT) {
+             dxf::Trimmed(tag.value) == brevanta::WINDOW_ELEMENT) {
     section = Section::WindowElement;
     marks.isWindow = true;
   } else if (section == Section::WindowElement && tag.code == dxf::CODE_XDATA_INTEGER32) {
@@ -113,7 +114,7 @@ void TakeTag(const dxf::Document& drawing, const dxf::Tag& tag, Section& section
 
 // The part of the entity's text from its first application name on; empty when nothing of ours can be in it.
 std::string_view ExtendedData(const dxf::Document& drawing, const dxf::Entity& entity) {
-  if (entity.text.find(WINDOW_ELEMENT) == std::string_view::npos) return {};
+  if (entity.text.find(brevanta::WINDOW_ELEMENT) == std::string_view::npos) return {};
   dxf::TagReader reader = drawing.Reader(entity);
   for (dxf::Tag tag; reader.Next(tag);) {
     if (tag.code != dxf::CODE_XDATA_APPLICATION) continue;
@@ -166,19 +167,8 @@ void TakeComplete(const Description& d, double unitFactor, DrawnWindow& window) 
   }
 }
 
-// Lines that each letter of the opening code adds to the symbol.
-struct Mark {
-  char letter;
-  std::size_t lines;
-};
-constexpr Mark MARKS[] = {{'B', 2}, {'C', 2}, {'D', 4}, {'E', 2}};
-
 bool IsFace(const dxf::Entity& entity) {
   return dxf::SameName(entity.type, dxf::TYPE_FACE);
-}
-
-bool IsFaceCount(std::size_t faces) {
-  return faces == 0 || faces == FACES_WITHOUT_SKIRT || faces == FACES_WITH_SKIRT;
 }
 
 // How many windows the entities are, each with the types of the first one in their order; 1 when they are no
@@ -188,7 +178,7 @@ std::size_t CopiesIn(const DrawnWindow& window) {
   const std::size_t lines = entities.size() - window.faces;
   const std::size_t count = lines / LinesOf(window);
   if (!window.isComplete || count < 2 || lines % LinesOf(window) != 0 || window.faces % count != 0 ||
-      !IsFaceCount(window.faces / count))
+      !brevanta::IsFaceCount(window.faces / count))
     return 1;
   const std::size_t size = entities.size() / count;
   for (std::size_t i = size; i < entities.size(); ++i)
@@ -229,23 +219,20 @@ bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
 }
 
 std::size_t LinesOf(const DrawnWindow& window) {
-  if (window.params.drawOpeningSymbol == 0) return LINES_OF_OPENING;
-  std::size_t lines = LINES_OF_SYMBOL + LINES_OF_OUTLINE;
-  for (const Mark& mark : MARKS)
-    if (window.openingCode.find(mark.letter) != std::string::npos) lines += mark.lines;
-  return lines;
+  return brevanta::LineCount(DrawsSymbol(window.params), window.openingCode);
 }
 
 bool HasMoreThanOneWindow(const DrawnWindow& window) {
-  return window.isComplete &&
-         (window.faces > FACES_WITH_SKIRT || window.entities.size() - window.faces > LinesOf(window));
+  return window.isComplete && (window.faces > brevanta::FACES_WITH_SKIRT ||
+                               window.entities.size() - window.faces > LinesOf(window));
 }
 
 std::string EntityMismatch(const DrawnWindow& window) {
   const std::size_t lines = window.entities.size() - window.faces;
-  if (IsFaceCount(window.faces) && lines == LinesOf(window)) return {};
+  if (brevanta::IsFaceCount(window.faces) && lines == LinesOf(window)) return {};
   return fmt::format("it has {} faces and {} lines, and should have 0, {} or {} faces and {} lines",
-                     window.faces, lines, FACES_WITHOUT_SKIRT, FACES_WITH_SKIRT, LinesOf(window));
+                     window.faces, lines, brevanta::FACES_WITHOUT_SKIRT, brevanta::FACES_WITH_SKIRT,
+                     LinesOf(window));
 }
 
 std::optional<dxf::Tag> NumberTagOf(const dxf::Document& drawing, const dxf::Entity& entity) {

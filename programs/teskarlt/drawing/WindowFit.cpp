@@ -10,13 +10,11 @@
 #include <fmt/format.h>
 
 #include "geometry/PlanCover.h"
-#include "geometry/RoofPlane.h"
-#include "geometry/Trigonometry.h"
 #include "geometry/Vectors.h"
 #include "inc/RecordPoints.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/drawing/WindowShape.h"
+#include "window/SecondPlane.h"
 
 namespace teskarlt {
 
@@ -77,35 +75,7 @@ std::optional<Outline> DrawnOutline(const dxf::Document& drawing, const DrawnWin
 }
 
 Outline OutlineOf(const WindowParams& record) {
-  const double factor = record.unitFactor;
-  const double depth = record.layerThickness * factor;
-  const bool usesSecondPlane = UsesSecondPlane(record);
-  const geometry::RoofPlane plane =
-      PlaneThrough(usesSecondPlane ? record.secondPlanePoints : record.roofPlanePoints)
-          .value_or(geometry::RoofPlane{});
-  const double slope = SlopeAngle(plane);
-  const double sine = geometry::Sine(slope);
-  const double cosine = geometry::Cosine(slope);
-
-  Vec3 start = ToLocal(plane, ToVec3(record.storedPoint));
-  const double width = record.width * factor;
-  if (record.widthAnchor == brevanta::ANCHOR_CENTRE) start.x -= width / 2;
-  if (record.widthAnchor == brevanta::ANCHOR_END) start.x -= width;
-  if (record.roofBuildUp == brevanta::BUILD_UP_SLOPE_OFFSET) {
-    start.y += record.slopeOffset * factor * cosine;
-    start.z += record.slopeOffset * factor * sine;
-  }
-  if (usesSecondPlane) {
-    const bool isSquare = record.heightReference == 0 || record.heightReference == 2;
-    start.y -= isSquare ? depth * sine : 0.0;
-    start.z += isSquare ? depth * cosine : depth / cosine;
-  }
-  const double length = record.length * factor;
-  const Vec3 top{start.x, start.y + length * cosine, start.z + length * sine};
-  Outline outline{start, top, Vec3{top.x + width, top.y, top.z}, Vec3{start.x + width, start.y, start.z}};
-  for (Vec3& corner : outline)
-    corner = ToWorld(plane, corner);
-  return outline;
+  return brevanta::DrawnFrame(record);
 }
 
 bool Overlap(const Outline& a, const Outline& b, double tolerance) {

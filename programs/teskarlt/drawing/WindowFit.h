@@ -1,22 +1,21 @@
 // WindowFit.h - whether windows fit: into their roof faces, and beside each other.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "geometry/Vec3.h"
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/RoofFace.h"
+#include "window/Outlines.h"
 
 namespace teskarlt {
 
 // Corners of a frame on its roof: from an end of the lower edge up, across and down. Drawing units.
-using Outline = std::array<geometry::Vec3, 4>;
+using Outline = brevanta::Outline;
 
 // The outline of a window as its entities show it; none where they show no window any more.
 std::optional<Outline> DrawnOutline(const dxf::Document& drawing, const DrawnWindow& window);

@@ -13,11 +13,13 @@
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"
 #include "geometry/Vectors.h"
-#include "inc/EdgeHeights.h"
 #include "inc/RecordPoints.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/drawing/WindowShape.h"
+#include "window/Choices.h"
+#include "window/EdgeHeights.h"
+#include "window/Outlines.h"
+#include "window/SecondPlane.h"
 
 namespace teskarlt {
 
@@ -109,7 +111,7 @@ class Reconciliation {
   }
 
   void TakeBody() {
-    params_.bodyAsFaces = shape_.frameDepth ? 1 : 0;
+    params_.bodyAsFaces = shape_.frameDepth ? brevanta::BODY_AS_FACES : brevanta::LINES_ONLY;
     reading_.recovered.emplace_back("bodyAsFaces");
     if (shape_.skirtHeight) {
       params_.skirtHeight = std::round(*shape_.skirtHeight / factor_ * ROUNDING) / ROUNDING;
@@ -139,13 +141,12 @@ class Reconciliation {
       return;
     }
     TakePitch();
-    const Vec3 down = shape_.Normal();
     constexpr std::size_t CORNERS[] = {0, 1, 3};
     for (std::size_t i = 0; i < std::size(CORNERS); ++i) {
       const Vec3& corner = shape_.outline[CORNERS[i]];
       params_.roofPlanePoints[i] = brevanta::ToRecordPoint(corner);
       params_.secondPlanePoints[i] =
-          brevanta::ToRecordPoint(Moved(corner, down, -params_.layerThickness * factor_));
+          brevanta::ToRecordPoint(brevanta::OnUnderside(corner, shape_.Normal(), params_));
     }
     reading_.recovered.emplace_back("roofPlanePoints");
     reading_.recovered.emplace_back("secondPlanePoints");
@@ -173,16 +174,10 @@ class Reconciliation {
 
   // Where the window is anchored if it has no offset along the slope.
   Vec3 Anchor() const {
-    const bool atStart = params_.widthAnchor == brevanta::ANCHOR_START;
-    const double part = params_.widthAnchor == brevanta::ANCHOR_CENTRE ? 0.5
-                        : atStart != shape_.isMirrored                 ? 0.0
-                                                                       : 1.0;
-    const Vec3 anchor = Moved(shape_.outline[0], shape_.Across(), part * shape_.width);
-    if (!UsesSecondPlane(params_)) return anchor;
-    const double depth = params_.layerThickness * factor_;
-    const bool isSquare = params_.heightReference == 0 || params_.heightReference == 2;
-    if (isSquare) return Moved(anchor, shape_.Normal(), -depth);
-    return Moved(anchor, {0, 0, -1}, depth / geometry::Cosine(geometry::DegToRad(shape_.Pitch())));
+    const double before = brevanta::HalvesBeforeAnchor(params_) / 2.0;
+    const double part = shape_.isMirrored ? 1.0 - before : before;
+    const Vec3 onEdge = Moved(shape_.outline[0], shape_.Across(), part * shape_.width);
+    return OnPlacingPlane(onEdge, shape_.Normal(), geometry::DegToRad(shape_.Pitch()), params_);
   }
 
   void TakePlace() {
@@ -227,7 +222,7 @@ class Reconciliation {
       params_.slopeOffset = brevanta::DEFAULT_SLOPE_OFFSET;
       reading_.defaults.emplace_back("slopeOffset");
     }
-    params_.placeByHeight = 0;  // the place says it
+    params_.placeByHeight = brevanta::PLACED_AT_POINT;  // the place says it
     params_.pickOffset = 0.0;
     reading_.defaults.insert(reading_.defaults.end(), {"placeByHeight", "pickOffset"});
     params_.upperEdgeHeight =
@@ -274,26 +269,6 @@ WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow
   if (!reading.obstacle.empty())
     throw Error(fmt::format("window {} cannot be changed: {}", window.number, reading.obstacle));
   return reading;
-}
-bool UsesSecondPlane(const WindowParams& params) {
-  return params.roofBuildUp == brevanta::BUILD_UP_SECOND_PLANE && params.layerThickness > 0.0;
-}
-
-bool HasOwnSecondPlane(const WindowParams& params, double tolerance) {
-  return UsesSecondPlane(params) && !IsUnderside(params, tolerance);
-}
-
-bool IsUnderside(const WindowParams& params, double tolerance) {
-  const auto& roof = params.roofPlanePoints;
-  const Vec3 along = Difference(ToVec3(roof[1]), ToVec3(roof[0]));
-  const Vec3 across = Difference(ToVec3(roof[2]), ToVec3(roof[0]));
-  Vec3 normal{};
-  if (VecNormalize(Cross(along, across), normal) != 0) return false;
-  const Vec3 down = Scaled(normal, (normal.z < 0 ? 1.0 : -1.0) * params.layerThickness * params.unitFactor);
-  for (int i = 0; i < 3; ++i) {
-    if (Distance(Sum(ToVec3(roof[i]), down), ToVec3(params.secondPlanePoints[i])) > tolerance) return false;
-  }
-  return true;
 }
 
 }  // namespace teskarlt

@@ -7,6 +7,7 @@
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/dxf/Document.h"
+#include "window/SecondPlane.h"
 
 namespace teskarlt {
 
@@ -27,16 +28,5 @@ WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window
 
 // The record of a window that can be inserted again. Throws Error with the obstacle for one that cannot.
 WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow& window);
-
-// Whether the window is placed by its second plane.
-bool UsesSecondPlane(const brevanta::WindowParams& params);
-
-// Whether that plane is not the roof's underside, as IsUnderside tells it: the window then does not lie in
-// the roof's plane.
-bool HasOwnSecondPlane(const brevanta::WindowParams& params, double tolerance);
-
-// True when the record's second plane is the roof plane lowered by the layer's thickness along its normal,
-// within `tolerance` (drawing units).
-bool IsUnderside(const brevanta::WindowParams& params, double tolerance);
 
 }  // namespace teskarlt

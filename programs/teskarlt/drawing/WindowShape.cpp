@@ -11,10 +11,11 @@
 #include "geometry/Matrix4.h"
 #include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "window/Choices.h"
+#include "window/Parts.h"
 
 namespace teskarlt {
 
@@ -22,13 +23,6 @@ namespace {
 
 using geometry::Vec3;
 using Corners = std::array<Vec3, 4>;
-
-// Of the symbol: frame and sash come first, the outline last.
-constexpr std::size_t FIRST_LINE_OF_SASH = 4;
-// Without a symbol: the opening, then the frame's upper edge.
-constexpr std::size_t TOP_EDGE_OF_OPENING = 4;
-// Of the body, behind the skirt: outer and inner wall, then the ring between them, each of four faces.
-constexpr std::size_t FIRST_FACE_OF_RING = 8;
 
 constexpr double SAME_PLACE = 1e-3;      // metres; parts that are farther apart do not belong together
 constexpr double SAME_DIRECTION = 1e-4;  // sine of the angle
@@ -48,7 +42,7 @@ class ShapeReader {
       : window_(window), tolerance_(SAME_PLACE * window.params.unitFactor) {
     for (const dxf::Entity* entity : window.entities)
       (dxf::SameName(entity->type, dxf::TYPE_LINE) ? lines_ : faces_).push_back(PointsOf(drawing, *entity));
-    skirtFaces_ = faces_.size() == FACES_WITH_SKIRT ? FACES_WITH_SKIRT - FACES_WITHOUT_SKIRT : 0;
+    skirtFaces_ = faces_.size() == brevanta::FACES_WITH_SKIRT ? brevanta::FACES_OF_SKIRT : 0;
   }
 
   WindowShape Read() const {
@@ -67,7 +61,7 @@ class ShapeReader {
 
  private:
   [[noreturn]] static void Fail(const std::string& what) { throw Error(what); }
-  bool HasSymbol() const { return window_.params.drawOpeningSymbol != 0; }
+  bool HasSymbol() const { return DrawsSymbol(window_.params); }
   bool IsNear(const Vec3& a, const Vec3& b) const { return Distance(a, b) <= tolerance_; }
 
   // Four lines, each from the end of the one before it.
@@ -85,7 +79,7 @@ class ShapeReader {
   }
 
   Corners OutlineOfSymbol() const {
-    const Corners outline = Chain(lines_.size() - LINES_OF_OUTLINE);
+    const Corners outline = Chain(lines_.size() - brevanta::LINES_OF_OUTLINE);
     if (!faces_.empty() && !std::equal(outline.begin(), outline.end(), OutlineOfBody().begin(),
                                        [&](const Vec3& a, const Vec3& b) { return IsNear(a, b); }))
       FailApart();
@@ -104,7 +98,7 @@ class ShapeReader {
   // the length.
   Corners OutlineOfOpening() const {
     const Corners opening = Chain(0);
-    const Corners& topEdge = lines_[TOP_EDGE_OF_OPENING];
+    const Corners& topEdge = lines_[brevanta::UPPER_EDGE_OF_FRAME];
     const Vec3 up = Unit(Difference(opening[1], opening[0]));
     const double length = Distance(opening[0], opening[1]) - Lengthening(up);
     return {Moved(topEdge[0], up, -length), topEdge[0], topEdge[1], Moved(topEdge[1], up, -length)};
@@ -112,7 +106,7 @@ class ShapeReader {
 
   // How far the opening lies below the window, square to the roof.
   double Depth() const {
-    const Corners& topEdge = lines_[TOP_EDGE_OF_OPENING];
+    const Corners& topEdge = lines_[brevanta::UPPER_EDGE_OF_FRAME];
     const Vec3 normal = Cross(Difference(lines_[0][1], lines_[0][0]), Difference(topEdge[1], topEdge[0]));
     return std::abs(geometry::VecDot(Unit(normal), Difference(topEdge[0], lines_[0][0])));
   }
@@ -121,10 +115,9 @@ class ShapeReader {
   double Lengthening(const Vec3& up) const {
     const double depth = Depth();
     const double tangent = up.z / std::hypot(up.x, up.y);
-    const std::int32_t mode = window_.params.heightReference;
     double longer = 0.0;
-    if (mode == 1 || mode == 3) longer += std::abs(depth * tangent);
-    if ((mode == 1 || mode == 2) && tangent != 0.0) longer += std::abs(depth / tangent);
+    if (HasPlumbLowerReveal(window_.params)) longer += std::abs(depth * tangent);
+    if (HasLevelUpperReveal(window_.params) && tangent != 0.0) longer += std::abs(depth / tangent);
     return longer;
   }
 
@@ -198,8 +191,8 @@ class ShapeReader {
   // From the frame's corner to the sash's, along both edges.
   void TakeFrame(WindowShape& shape) const {
     if (!HasSymbol() && faces_.empty()) return;
-    const Vec3& corner =
-        HasSymbol() ? lines_[FIRST_LINE_OF_SASH][0] : faces_[skirtFaces_ + FIRST_FACE_OF_RING][3];
+    const Vec3& corner = HasSymbol() ? lines_[brevanta::FIRST_LINE_OF_SASH][0]
+                                     : faces_[skirtFaces_ + brevanta::FIRST_FACE_OF_RING][3];
     const Vec3 diagonal = Difference(corner, shape.outline[0]);
     const double side = geometry::VecDot(diagonal, shape.Across());
     const double bottom = geometry::VecDot(diagonal, shape.Up());

@@ -18,6 +18,7 @@
 #include "teskarlt/preview/Blocks.h"
 #include "teskarlt/preview/Curves.h"
 #include "teskarlt/preview/Styles.h"
+#include "window/Parts.h"
 
 namespace teskarlt::preview {
 
@@ -28,7 +29,6 @@ using geometry::Matrix4;
 constexpr std::size_t MOST_NESTED = 32;            // blocks in blocks
 constexpr std::size_t MOST_ENTITIES = 20'000'000;  // with those of every inserted block
 constexpr double FARTHEST = 1e12;                  // coordinate, in drawing units
-constexpr std::int64_t GLASS_NUMBER = 4;           // the module's colour for a pane
 
 // How an entity looks, after ByLayer and ByBlock.
 struct Look {
@@ -210,7 +210,7 @@ void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const dxf::TagLi
                     false,        placement.window};
     Show(surface.corners, placement);
     if (placement.window != NO_WINDOW &&
-        entity.Integer(dxf::CODE_COLOUR, dxf::COLOUR_BY_LAYER) == GLASS_NUMBER) {
+        entity.Integer(dxf::CODE_COLOUR, dxf::COLOUR_BY_LAYER) == brevanta::GLASS_COLOUR) {
       surface.isGlass = true;
       const Vec3 normal = NormalOf(surface.corners);
       const double sign = normal.z < 0 ? -1 : 1;

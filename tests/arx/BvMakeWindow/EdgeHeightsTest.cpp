@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "arx/BvMakeWindow/BvMakeWindow.h"
-#include "inc/EdgeHeights.h"
 #include "tests/support/RoundRecord.h"
+#include "window/EdgeHeights.h"
 
 namespace brevanta {
 namespace {

@@ -9,6 +9,7 @@
 #include "tests/support/CountingHeap.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/RoundRecord.h"
+#include "window/Choices.h"
 
 namespace brevanta {
 namespace {

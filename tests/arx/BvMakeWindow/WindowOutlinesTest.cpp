@@ -9,6 +9,7 @@
 
 #include "arx/BvMakeWindow/WindowOutlines.h"
 #include "tests/support/RoundRecord.h"
+#include "window/Choices.h"
 
 namespace brevanta {
 namespace {

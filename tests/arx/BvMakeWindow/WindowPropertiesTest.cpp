@@ -9,6 +9,7 @@
 
 #include "arx/BvMakeWindow/BvMakeWindow.h"
 #include "tests/support/RecordingHost.h"
+#include "window/Choices.h"
 
 namespace brevanta {
 namespace {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "tests/support/RoundRecord.h"
+#include "window/Choices.h"
 
 namespace window_of_three {
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "teskarlt/drawing/WindowFit.h"
+#include "window/Choices.h"
 
 namespace teskarlt {
 namespace {

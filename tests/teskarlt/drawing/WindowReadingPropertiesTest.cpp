@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/teskarlt/drawing/InsertedWindow.h"
+#include "window/Choices.h"
 
 namespace teskarlt {
 namespace {

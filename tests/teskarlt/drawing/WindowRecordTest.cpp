@@ -8,6 +8,7 @@
 
 #include "teskarlt/Error.h"
 #include "tests/teskarlt/drawing/InsertedWindow.h"
+#include "window/Choices.h"
 
 namespace teskarlt {
 namespace {

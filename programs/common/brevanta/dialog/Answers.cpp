@@ -1,8 +1,6 @@
 // Answers.cpp - takes the user's answers into the record.
 #include "dialog/Answers.h"
 
-#include <cmath>
-#include <cstring>
 #include <string_view>
 
 #include "dialog/CatalogueItem.h"
@@ -13,23 +11,19 @@ namespace brevanta {
 namespace {
 
 void Store(const RecordField& field, std::string_view text, WindowParams& record) {
-  void* place = FieldPlace(record, field);
   switch (field.kind) {
-    case FieldKind::Real: {
-      const double value = ParseReal(field.name, text);
-      std::memcpy(place, &value, sizeof value);
+    case FieldKind::Length:
+    case FieldKind::Real:
+      RealIn(record, field) = ParseReal(field.name, text);
       break;
-    }
-    case FieldKind::Integer: {
-      const std::int32_t value = ParseInteger(field.name, text);
-      std::memcpy(place, &value, sizeof value);
+    case FieldKind::Integer:
+      IntegerIn(record, field) = ParseInteger(field.name, text);
       break;
-    }
     case FieldKind::Text:
-      StoreText(field.name, text, field.size, place);
+      StoreText(field.name, text, field.size, FieldPlace(record, field));
       break;
     case FieldKind::Points:
-      ParsePoints(field.name, text, field.size / sizeof(RecordPoint), place);
+      ParsePoints(field.name, text, field.size / sizeof(RecordPoint), FieldPlace(record, field));
       break;
   }
 }

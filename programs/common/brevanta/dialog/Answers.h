@@ -4,7 +4,7 @@
 #include <string>
 
 #include "inc/DialogServices.h"
-#include "inc/RecordFields.h"
+#include "window/RecordFields.h"
 
 namespace brevanta {
 

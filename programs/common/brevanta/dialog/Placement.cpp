@@ -9,10 +9,11 @@
 #include "dialog/Refusal.h"
 #include "geometry/PlanCover.h"
 #include "geometry/RoofPlane.h"
-#include "geometry/Trigonometry.h"
-#include "geometry/Vectors.h"
-#include "inc/EdgeHeights.h"
 #include "inc/RecordPoints.h"
+#include "window/Choices.h"
+#include "window/EdgeHeights.h"
+#include "window/Outlines.h"
+#include "window/SecondPlane.h"
 
 namespace brevanta {
 
@@ -51,27 +52,23 @@ void TakePitch(const Answers& answers, const RoofPlane& roof, WindowParams& reco
   record.pitch = roofPitch;
 }
 
-// On a flat roof the opening cut square to a thick layer would be infinitely long.
+// On a flat roof the opening with a level reveal through a thick layer would be infinitely long.
 void CheckReveals(const RoofPlane& roof, const WindowParams& record) {
-  const bool cutSquare = record.heightReference == 1 || record.heightReference == 2;
-  if (!IsFlat(roof) || !cutSquare || record.layerThickness <= 0.0) return;
+  if (!IsFlat(roof) || !HasLevelUpperReveal(record) || record.layerThickness <= 0.0) return;
   throw Refusal("heightReference " + NumberText(record.heightReference) + " with layerThickness " +
                 NumberText(record.layerThickness) +
                 " makes the opening of a flat roof infinitely long; set heightReference to 0 or 3, or "
                 "layerThickness to 0");
 }
 
-bool UsesSecondPlane(const WindowParams& record) {
-  return record.roofBuildUp == BUILD_UP_SECOND_PLANE && record.layerThickness > 0.0;
-}
-
 // The plane that the window is placed by. The second plane is the roof's underside, unless the user gave
-// another: the roof lowered by the layer's thickness along its normal.
+// another.
 RoofPlane FitPlacingPlane(const Answers& answers, const RoofPlane& roof, WindowParams& record) {
   if (!answers.Has("secondPlanePoints")) {
-    const Vec3 down = Scaled(roof.normal, -record.layerThickness * record.unitFactor);
-    for (int i = 0; i < 3; ++i)
-      record.secondPlanePoints[i] = ToRecordPoint(Sum(ToVec3(record.roofPlanePoints[i]), down));
+    for (int i = 0; i < 3; ++i) {
+      const Vec3 onRoof = ToVec3(record.roofPlanePoints[i]);
+      record.secondPlanePoints[i] = ToRecordPoint(OnUnderside(onRoof, roof.normal, record));
+    }
   }
   if (!UsesSecondPlane(record)) return roof;
   const std::optional<RoofPlane> second = PlaneThrough(record.secondPlanePoints);
@@ -92,28 +89,19 @@ void TakePoint(const DialogServices& services, const Answers& answers, const Roo
   record.insertionPoint = ToRecordPoint(PointOver(plane, ToLocal(plane, {xy[0], xy[1], 0.0})));
 }
 
-// Where the module will find the window's anchor: moved by `pickOffset`, on the plane. Local.
-Vec3 MovedAnchor(const RoofPlane& plane, const WindowParams& record) {
-  const double distance = record.pickOffset * record.unitFactor;
-  Vec3 anchor = ToVec3(record.insertionPoint);
-  anchor.x += distance * geometry::Cosine(record.rotation);
-  anchor.y += distance * geometry::Sine(record.rotation);
-  return PointOver(plane, anchor);
-}
-
 // Decides between the point and a height for the lower edge, and gives the anchor's final place, local.
 Vec3 TakeHeights(const Answers& answers, const RoofPlane& plane, WindowParams& record) {
   const bool lower = answers.Has("lowerEdgeHeight");
   const bool upper = answers.Has("upperEdgeHeight");
   if (lower && upper)
     throw Refusal("lowerEdgeHeight and upperEdgeHeight cannot both be given; one follows from the other");
-  if ((lower || upper) && answers.Has("placeByHeight") && record.placeByHeight == 0)
+  if ((lower || upper) && answers.Has("placeByHeight") && record.placeByHeight == PLACED_AT_POINT)
     throw Refusal("placeByHeight 0 leaves the window at its point; leave it out with an edge height");
-  if (answers.Has("placeByHeight") && record.placeByHeight == 1 && !lower && !upper)
+  if (answers.Has("placeByHeight") && record.placeByHeight == PLACED_BY_HEIGHT && !lower && !upper)
     throw Refusal("placeByHeight 1 needs a lowerEdgeHeight or an upperEdgeHeight");
-  const Vec3 anchor = MovedAnchor(plane, record);
+  const Vec3 anchor = PointOver(plane, MovedInsertionPoint(record, record.unitFactor));
   const bool byHeight = lower || upper;
-  record.placeByHeight = byHeight ? 1 : 0;
+  record.placeByHeight = byHeight ? PLACED_BY_HEIGHT : PLACED_AT_POINT;
   if (!byHeight) {
     record.lowerEdgeHeight = anchor.z / record.unitFactor;
     return anchor;
@@ -127,22 +115,10 @@ Vec3 TakeHeights(const Answers& answers, const RoofPlane& plane, WindowParams& r
   return PointAtHeight(plane, anchor, record.lowerEdgeHeight * record.unitFactor);
 }
 
-// The frame's outer outline at the anchor, local; the outline that the module will draw.
-PlanPolygon OuterOutline(const RoofPlane& plane, const Vec3& anchor, const WindowParams& record) {
-  const double factor = record.unitFactor;
-  const double slope = SlopeAngle(plane);
-  const double up = geometry::Cosine(slope);
-  double y = anchor.y;
-  if (record.roofBuildUp == BUILD_UP_SLOPE_OFFSET) y += record.slopeOffset * factor * up;
-  const bool square = record.heightReference == 0 || record.heightReference == 2;
-  if (UsesSecondPlane(record) && square) y -= record.layerThickness * factor * geometry::Sine(slope);
-  const double width = record.width * factor;
-  const double halves = record.widthAnchor == ANCHOR_START ? 0.0
-                        : record.widthAnchor == ANCHOR_END ? 2.0
-                                                           : 1.0;
-  const double x = anchor.x - halves * width / 2;
-  const double rise = record.length * factor * up;
-  return {{x, y, 0}, {x, y + rise, 0}, {x + width, y + rise, 0}, {x + width, y, 0}};
+// The outline in the plan of the frame that the module will draw at the anchor, local.
+PlanPolygon FrameInPlan(const RoofPlane& plane, const Vec3& anchor, const WindowParams& record) {
+  const Outline frame = OutlinesAt(anchor, record, record.unitFactor, {SlopeAngle(plane)}).outer;
+  return {frame.begin(), frame.end()};
 }
 
 // For people: between which heights the faces lie, in metres.
@@ -175,7 +151,7 @@ void CheckInside(const Roof& roof, const RoofPlane& plane, const PlanPolygon& ou
   const double percent = std::ceil(outside * 1000.0) / 10.0;
   throw Refusal("the window would leave the roof face: " + NumberText(percent) +
                 " % of its area lies outside; move it or make it smaller" +
-                (record.placeByHeight == 1
+                (record.placeByHeight == PLACED_BY_HEIGHT
                      ? " (the face lies at " + HeightRange(roof, record.unitFactor) + ")"
                      : std::string()));
 }
@@ -196,7 +172,7 @@ void PlaceWindow(const DialogServices& services, const Answers& answers, WindowP
   const Vec3 anchor = TakeHeights(answers, plane, record);
 
   if (roof.isBounded && !answers.Has("roofPlanePoints"))
-    CheckInside(roof, plane, OuterOutline(plane, anchor, record), record);
+    CheckInside(roof, plane, FrameInPlan(plane, anchor, record), record);
   if (!answers.Has("storedPoint")) record.storedPoint = ToRecordPoint(ToWorld(plane, anchor));
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "dialog/Refusal.h"
+#include "window/Choices.h"
 
 namespace brevanta {
 
@@ -63,11 +64,11 @@ void CheckSizes(const WindowParams& record) {
 }
 
 void CheckChoices(const WindowParams& record) {
-  MustBeWithin("placeByHeight", record.placeByHeight, 0, 1);
-  MustBeWithin("heightReference", record.heightReference, 0, 3);
+  MustBeWithin("placeByHeight", record.placeByHeight, PLACED_AT_POINT, PLACED_BY_HEIGHT);
+  MustBeWithin("heightReference", record.heightReference, REVEALS_SQUARE, REVEALS_PLUMB_AND_SQUARE);
   MustBeWithin("widthAnchor", record.widthAnchor, ANCHOR_CENTRE, ANCHOR_END);
   MustBeWithin("roofBuildUp", record.roofBuildUp, BUILD_UP_SECOND_PLANE, BUILD_UP_SLOPE_OFFSET);
-  MustBeWithin("bodyAsFaces", record.bodyAsFaces, 0, 1);
+  MustBeWithin("bodyAsFaces", record.bodyAsFaces, LINES_ONLY, BODY_AS_FACES);
   // The drawing keeps 16 bits of it.
   MustBeWithin("drawOpeningSymbol", record.drawOpeningSymbol, std::numeric_limits<std::int16_t>::min(),
                std::numeric_limits<std::int16_t>::max());

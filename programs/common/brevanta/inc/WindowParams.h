@@ -11,18 +11,6 @@ namespace brevanta {
 constexpr int TEXT_FIELD_SIZE = 200;
 constexpr int OPENING_CODE_SIZE = 11;
 
-// Anchors of the width at the insertion point (`widthAnchor`).
-constexpr std::int32_t ANCHOR_CENTRE = 0;
-constexpr std::int32_t ANCHOR_START = 1;
-constexpr std::int32_t ANCHOR_END = 2;
-
-// Construction cases of the roof around the window (`roofBuildUp`).
-constexpr std::int32_t BUILD_UP_SECOND_PLANE = 0;
-constexpr std::int32_t BUILD_UP_PLAIN = 1;
-constexpr std::int32_t BUILD_UP_SLOPE_OFFSET = 2;
-
-constexpr double DEFAULT_SLOPE_OFFSET = 0.1;  // metres
-
 // A point or vector of three doubles as it lies in the record.
 struct RecordPoint {
   double x;

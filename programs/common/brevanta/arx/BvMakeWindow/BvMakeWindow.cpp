@@ -10,10 +10,11 @@
 #include "arx/exports/CompanionModule.h"
 #include "arx/exports/HostTable.h"
 #include "geometry/RoofPlane.h"
-#include "geometry/Trigonometry.h"
-#include "inc/EdgeHeights.h"
 #include "inc/RecordPoints.h"
 #include "platform/GcGeVector3d.h"
+#include "window/Choices.h"
+#include "window/EdgeHeights.h"
+#include "window/Outlines.h"
 
 namespace brevanta {
 
@@ -27,11 +28,6 @@ constexpr std::int32_t KEEP_BATCH = 1;
 
 bool FitPlane(const RecordPoint (&points)[3], std::int32_t unitFactor) {
   return geometry::FitRoofPlane(ToVec3(points[0]), ToVec3(points[1]), ToVec3(points[2]), unitFactor) == 1;
-}
-
-void MoveByPickOffset(WindowParams& record, double distance) {
-  record.insertionPoint.x += distance * geometry::Cosine(record.rotation);
-  record.insertionPoint.y += distance * geometry::Sine(record.rotation);
 }
 
 // 1 when the roof rises along local +y, else -1; 1 when it is flat.
@@ -72,7 +68,7 @@ CbvMakeWindow::~CbvMakeWindow() {
 std::int32_t CbvMakeWindow::Make(WindowParams* record, std::int32_t factor) {
   params = record;
   unitFactor = factor;
-  MoveByPickOffset(*record, Scaled(record->pickOffset));
+  record->insertionPoint = ToRecordPoint(MovedInsertionPoint(*record, factor));
   if (!FitPlane(record->roofPlanePoints, record->unitFactor)) return MAKE_DONE;
   ComputeEdgeHeights(UPPER_FROM_LOWER);
   if (Scaled(record->layerThickness) > 0.0 && record->roofBuildUp == BUILD_UP_SECOND_PLANE) {
@@ -87,7 +83,7 @@ std::int32_t CbvMakeWindow::Make(WindowParams* record, std::int32_t factor) {
 
   const Vec3 roofPoint = PointOver(plane, ToVec3(record->insertionPoint));
   Vec3 point = roofPoint;
-  if (slopeAngle > KernelTolerance && record->placeByHeight == 1) {
+  if (slopeAngle > KernelTolerance && record->placeByHeight == PLACED_BY_HEIGHT) {
     point = PointAtHeight(plane, roofPoint, Scaled(record->lowerEdgeHeight));
   }
   BuildWindow(ToPoint3d(point), ToPoint3d(roofPoint), slopeAngle, slopeSign, WIDTH_ALONG_X);

@@ -8,6 +8,8 @@
 #include "arx/BvMakeWindow/FaceOutput.h"
 #include "arx/BvMakeWindow/OpeningSymbol.h"
 #include "geometry/Trigonometry.h"
+#include "window/Choices.h"
+#include "window/Parts.h"
 
 namespace brevanta {
 
@@ -18,7 +20,6 @@ using Outline = std::array<GcGePoint3d, 4>;
 constexpr EdgeFlags ALL_EDGES = {1, 1, 1, 1};
 constexpr EdgeFlags RING_EDGES = {1, 0, 1, 0};  // hides the joints at the corners
 
-constexpr std::int32_t GLASS_COLOUR = 4;
 // Depth of the glass below the frame's top, in metres; multiplied by the record's own unit factor.
 constexpr double GLASS_INSET = 0.02;
 
@@ -42,7 +43,7 @@ struct BodyWriter {
   void Ring(const Outline& outside, const Outline& inside) const { Between(outside, inside, RING_EDGES); }
 
   void Face(const Outline& corners, const EdgeFlags& edges, std::int32_t colour) const {
-    if (maker.params->bodyAsFaces == 1) {
+    if (maker.params->bodyAsFaces == BODY_AS_FACES) {
       WriteFace(maker, corners[0], corners[1], corners[2], corners[3], edges, colour);
     }
   }
@@ -118,7 +119,7 @@ void MakeWindowBody(CbvMakeWindow& maker, const Point3dArray& outer, const Point
   normal.Sink(inset, innerTop);
   write.Face(innerTop, ALL_EDGES, GLASS_COLOUR);
 
-  if (maker.params->drawOpeningSymbol != 0) DrawOpeningSymbol(maker);
+  if (DrawsSymbol(*maker.params)) DrawOpeningSymbol(maker);
 }
 
 }  // namespace brevanta

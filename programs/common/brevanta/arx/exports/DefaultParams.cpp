@@ -3,6 +3,8 @@
 
 #include <cstring>
 
+#include "window/Choices.h"
+
 namespace brevanta {
 
 WindowParams* SetDefaultWindowParams(WindowParams* record) {
@@ -12,17 +14,17 @@ WindowParams* SetDefaultWindowParams(WindowParams* record) {
   record->frameDepth = 0.08;
   record->skirtHeight = 0.0;
   record->lowerEdgeHeight = 0.0;
-  record->placeByHeight = 1;
-  record->heightReference = 1;
+  record->placeByHeight = PLACED_BY_HEIGHT;
+  record->heightReference = REVEALS_PLUMB_AND_LEVEL;
   record->widthAnchor = ANCHOR_CENTRE;
   record->pickOffset = 0.0;
   record->roofBuildUp = BUILD_UP_PLAIN;
-  record->bodyAsFaces = 1;
+  record->bodyAsFaces = BODY_AS_FACES;
   record->slopeOffset = DEFAULT_SLOPE_OFFSET;
   record->upperEdgeHeight = 0.0;
   record->layerThickness = 0.1;
   record->pitch = 30.0;
-  record->drawOpeningSymbol = -1;
+  record->drawOpeningSymbol = OPENING_SYMBOL;
   record->text1[0] = '\0';
   record->text2[0] = '\0';
   record->text3[0] = '\0';

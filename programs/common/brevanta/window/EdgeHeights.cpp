@@ -1,9 +1,10 @@
 // EdgeHeights.cpp - edge heights of a window in a roof of given pitch and build-up.
-#include "inc/EdgeHeights.h"
+#include "window/EdgeHeights.h"
 
 #include <cmath>
 
 #include "geometry/Trigonometry.h"
+#include "window/Choices.h"
 
 namespace brevanta {
 
@@ -13,20 +14,19 @@ constexpr double RADIANS_PER_DEGREE = 0.017453292519943295;
 
 // In these combinations the roof layer has no part in the heights.
 bool LayerSkipped(const WindowParams& params) {
-  const std::int32_t reference = params.heightReference;
-  return (reference == 0 && params.roofBuildUp == BUILD_UP_SECOND_PLANE) ||
-         ((reference == 1 || reference == 2) && params.roofBuildUp == BUILD_UP_PLAIN);
+  const bool isSquare = params.heightReference == REVEALS_SQUARE;
+  return (isSquare && params.roofBuildUp == BUILD_UP_SECOND_PLANE) ||
+         (HasLevelUpperReveal(params) && params.roofBuildUp == BUILD_UP_PLAIN);
 }
 
 // Takes a layer of the thickness t > 0 into the height, for a pitch in radians; m as in EdgeHeight.
 void AddLayer(const WindowParams& params, double pitch, double t, double m, double& height) {
   const double plumb = std::abs(t / geometry::Sine(geometry::PI / 2 - pitch));
   const double square = std::abs(geometry::Cosine(pitch) * t);
-  const std::int32_t reference = params.heightReference;
   const bool secondPlane = params.roofBuildUp == BUILD_UP_SECOND_PLANE;
-  if (reference == 0 || reference == 3) height -= m * square;
-  if ((reference == 1 || reference == 3) && secondPlane) height += m * plumb;
-  if (reference == 2 && secondPlane) height += m * square;
+  if (HasSquareUpperReveal(params)) height -= m * square;
+  if (HasPlumbLowerReveal(params) && secondPlane) height += m * plumb;
+  if (params.heightReference == REVEALS_SQUARE_AND_LEVEL && secondPlane) height += m * square;
 }
 
 }  // namespace

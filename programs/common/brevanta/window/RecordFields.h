@@ -1,8 +1,11 @@
 // RecordFields.h - the fields of the window record as data: name, kind and place.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "inc/WindowParams.h"
@@ -10,7 +13,8 @@
 namespace brevanta {
 
 enum class FieldKind {
-  Real,     // a double
+  Length,   // a double in metres
+  Real,     // another double
   Integer,  // a signed 32-bit integer
   Text,     // zero-terminated bytes, `size` with the terminator
   Points,   // `size` / 24 points of three doubles
@@ -26,14 +30,15 @@ struct RecordField {
 
 // Every field of the record, in the order in which they lie in it.
 inline constexpr std::array RECORD_FIELDS = {
-    RecordField{"width", FieldKind::Real, offsetof(WindowParams, width), 8, "m, width across the slope"},
-    RecordField{"length", FieldKind::Real, offsetof(WindowParams, length), 8, "m, length along the slope"},
-    RecordField{"frameWidth", FieldKind::Real, offsetof(WindowParams, frameWidth), 8, "m, band of the frame"},
-    RecordField{"frameDepth", FieldKind::Real, offsetof(WindowParams, frameDepth), 8,
+    RecordField{"width", FieldKind::Length, offsetof(WindowParams, width), 8, "m, width across the slope"},
+    RecordField{"length", FieldKind::Length, offsetof(WindowParams, length), 8, "m, length along the slope"},
+    RecordField{"frameWidth", FieldKind::Length, offsetof(WindowParams, frameWidth), 8,
+                "m, band of the frame"},
+    RecordField{"frameDepth", FieldKind::Length, offsetof(WindowParams, frameDepth), 8,
                 "m, depth of the frame normal to the roof"},
-    RecordField{"skirtHeight", FieldKind::Real, offsetof(WindowParams, skirtHeight), 8,
+    RecordField{"skirtHeight", FieldKind::Length, offsetof(WindowParams, skirtHeight), 8,
                 "m, outer band below the frame"},
-    RecordField{"lowerEdgeHeight", FieldKind::Real, offsetof(WindowParams, lowerEdgeHeight), 8,
+    RecordField{"lowerEdgeHeight", FieldKind::Length, offsetof(WindowParams, lowerEdgeHeight), 8,
                 "m, height of the lower edge; moves the window up or down the slope"},
     RecordField{"placeByHeight", FieldKind::Integer, offsetof(WindowParams, placeByHeight), 4,
                 "1 placed at lowerEdgeHeight, 0 at the point"},
@@ -41,17 +46,17 @@ inline constexpr std::array RECORD_FIELDS = {
                 "0 to 3, how the reveals of the opening are cut"},
     RecordField{"widthAnchor", FieldKind::Integer, offsetof(WindowParams, widthAnchor), 4,
                 "0 centred at the point, 1 starting, 2 ending there"},
-    RecordField{"pickOffset", FieldKind::Real, offsetof(WindowParams, pickOffset), 8,
+    RecordField{"pickOffset", FieldKind::Length, offsetof(WindowParams, pickOffset), 8,
                 "m, moves the point in the direction rotation"},
     RecordField{"roofBuildUp", FieldKind::Integer, offsetof(WindowParams, roofBuildUp), 4,
                 "0 second plane, 1 plain, 2 with slopeOffset"},
     RecordField{"bodyAsFaces", FieldKind::Integer, offsetof(WindowParams, bodyAsFaces), 4,
                 "1 the body is drawn, 0 lines only"},
-    RecordField{"slopeOffset", FieldKind::Real, offsetof(WindowParams, slopeOffset), 8,
+    RecordField{"slopeOffset", FieldKind::Length, offsetof(WindowParams, slopeOffset), 8,
                 "m, moves the window up the slope when roofBuildUp is 2"},
-    RecordField{"upperEdgeHeight", FieldKind::Real, offsetof(WindowParams, upperEdgeHeight), 8,
+    RecordField{"upperEdgeHeight", FieldKind::Length, offsetof(WindowParams, upperEdgeHeight), 8,
                 "m, height of the upper edge; instead of lowerEdgeHeight"},
-    RecordField{"layerThickness", FieldKind::Real, offsetof(WindowParams, layerThickness), 8,
+    RecordField{"layerThickness", FieldKind::Length, offsetof(WindowParams, layerThickness), 8,
                 "m, roof layer that the window sits in"},
     RecordField{"pitch", FieldKind::Real, offsetof(WindowParams, pitch), 8,
                 "degrees from the horizontal; comes from the roof"},
@@ -82,6 +87,19 @@ inline constexpr std::array RECORD_FIELDS = {
                 "number of the window, not 0, one a window"},
 };
 
+// Every field in the order in which windows are listed: the upper edge's height behind that of the lower one.
+inline constexpr auto LISTED_FIELDS = [] {
+  std::array<const RecordField*, RECORD_FIELDS.size()> listed{};
+  std::transform(RECORD_FIELDS.begin(), RECORD_FIELDS.end(), listed.begin(),
+                 [](const RecordField& field) { return &field; });
+  const auto named = [&](std::string_view name) {
+    return std::find_if(listed.begin(), listed.end(), [&](auto* field) { return field->name == name; });
+  };
+  const auto upper = named("upperEdgeHeight");
+  std::rotate(named("lowerEdgeHeight") + 1, upper, upper + 1);
+  return listed;
+}();
+
 // The field of that name, or null.
 constexpr const RecordField* FindRecordField(std::string_view name) {
   for (const RecordField& field : RECORD_FIELDS) {
@@ -96,6 +114,32 @@ inline void* FieldPlace(WindowParams& record, const RecordField& field) {
 }
 inline const void* FieldPlace(const WindowParams& record, const RecordField& field) {
   return reinterpret_cast<const char*>(&record) + field.offset;
+}
+
+// The field's value, for a field of the kind that the function names. A length is a real.
+inline double& RealIn(WindowParams& record, const RecordField& field) {
+  return *static_cast<double*>(FieldPlace(record, field));
+}
+inline double RealIn(const WindowParams& record, const RecordField& field) {
+  return *static_cast<const double*>(FieldPlace(record, field));
+}
+inline std::int32_t& IntegerIn(WindowParams& record, const RecordField& field) {
+  return *static_cast<std::int32_t*>(FieldPlace(record, field));
+}
+inline std::int32_t IntegerIn(const WindowParams& record, const RecordField& field) {
+  return *static_cast<const std::int32_t*>(FieldPlace(record, field));
+}
+inline std::span<RecordPoint> PointsIn(WindowParams& record, const RecordField& field) {
+  return {static_cast<RecordPoint*>(FieldPlace(record, field)), field.size / sizeof(RecordPoint)};
+}
+inline std::span<const RecordPoint> PointsIn(const WindowParams& record, const RecordField& field) {
+  return {static_cast<const RecordPoint*>(FieldPlace(record, field)), field.size / sizeof(RecordPoint)};
+}
+
+// The bytes up to the terminator, or all of the field where it is missing.
+inline std::string_view TextIn(const WindowParams& record, const RecordField& field) {
+  const std::string_view bytes(static_cast<const char*>(FieldPlace(record, field)), field.size);
+  return bytes.substr(0, bytes.find('\0'));
 }
 
 }  // namespace brevanta
