@@ -26,7 +26,7 @@ class TagList {
   void Add(const Tag& tag) { tags_.push_back(tag); }
 
   bool Has(int code) const { return Find(code) != nullptr; }
-  double Real(int code, double otherwise = 0) const;
+  double Real(int code, double otherwise = 0) const;  // `otherwise` for a value that is missing
   std::int64_t Integer(int code, std::int64_t otherwise = 0) const;
   // In UTF-8.
   std::string Text(int code, std::string_view otherwise = {}) const;
