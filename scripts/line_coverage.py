@@ -32,9 +32,12 @@ Lines = collections.namedtuple("Lines", "reached missing")  # numbers
 
 
 def forget(build):
-    """Throws away the counts that a build folder holds of earlier runs."""
-    for counts in build.rglob("*.gcda"):
-        counts.unlink()
+    """Throws away the counts that a build folder holds of earlier runs, and what it holds of objects that it had once."""
+    commands = [entry["command"].split() for entry in json.loads((build / "compile_commands.json").read_text())]
+    objects = {build / command[command.index("-o") + 1] for command in commands}
+    for counts in [*build.rglob("*.gcda"), *build.rglob("*.gcno")]:
+        if counts.suffix == ".gcda" or counts.with_suffix(".o") not in objects:
+            counts.unlink()
 
 
 def count(root, build):
@@ -42,8 +45,9 @@ def count(root, build):
     report = build / "coverage.json"
     report.unlink(missing_ok=True)
     filters = [option for folder in DEMANDED for option in ("--filter", f"{root}/{folder}/")]
-    done = subprocess.run(["gcovr", "--root", root, *filters, "--json", report, "-j", "2",
-                           build / "programs", build / "Library", build / "Library16"], cwd=root,
+    # In the objects of the tests lie inline functions of what they test.
+    folders = [build / name for name in ("programs", "Library", "Library16", "tests")]
+    done = subprocess.run(["gcovr", "--root", root, *filters, "--json", report, "-j", "2", *folders], cwd=root,
                           stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     if done.returncode != 0 or not report.exists():
         print(done.stdout.decode(errors="replace"))

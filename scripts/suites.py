@@ -90,7 +90,8 @@ def unit_tests(preset, results):
 
 def coverage(results):
     """The unit tests in the build that counts the lines that they reach, and whether those are enough."""
-    line_coverage.forget(BUILD / "coverage")
+    if build("coverage"):
+        line_coverage.forget(BUILD / "coverage")
     unit_tests("coverage", results)
     files = line_coverage.count(ROOT, BUILD / "coverage")
     if files is None:

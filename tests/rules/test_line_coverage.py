@@ -41,9 +41,10 @@ def test_every_folder_is_a_case_and_fails_below_what_is_demanded(tmp_path, monke
     assert "programs/teskarlt/dxf: 50.0 % of the lines, 95 % demanded\n  programs/teskarlt/dxf/b.cpp: 7-9, 12" in output
 
 
-def test_counts_of_an_earlier_build_are_thrown_away(tmp_path):
+def test_counts_of_earlier_runs_and_objects_are_thrown_away(tmp_path):
+    (tmp_path / "compile_commands.json").write_text(json.dumps([{"command": "c++ -g -o deep/a.cpp.o -c a.cpp"}]))
     (tmp_path / "deep").mkdir()
-    for name in ("deep/a.gcda", "deep/a.gcno"):
-        (tmp_path / name).write_text("")
+    for name in ("a.cpp.gcda", "a.cpp.gcno", "gone.cpp.gcno"):
+        (tmp_path / "deep" / name).write_text("")
     line_coverage.forget(tmp_path)
-    assert [path.name for path in (tmp_path / "deep").iterdir()] == ["a.gcno"]
+    assert [path.name for path in (tmp_path / "deep").iterdir()] == ["a.cpp.gcno"]
