@@ -73,6 +73,7 @@ class RandomRecord {
  public:
   WindowParams Next() {
     WindowParams record{};
+    record.markerValue = 1;  // 0 damages the list
     for (const DescriptionItem& item : DESCRIPTION)
       if (item.field != nullptr) Fill(*item.field, record);
     return record;

@@ -164,6 +164,7 @@ Outline DrawnFrame(const WindowParams& params) {
 Vec3 OnPlacingPlane(const Vec3& onEdge, const Vec3& normal, double pitch, const WindowParams& params) {
   if (!UsesSecondPlane(params)) return onEdge;
   if (HasSquareLowerReveal(params)) return OnUnderside(onEdge, normal, params);
+  if (!HasPlumbLowerReveal(params)) return onEdge;
   const double depth = params.layerThickness * params.unitFactor;
   return Moved(onEdge, {0, 0, -1}, depth / geometry::Cosine(pitch));
 }
