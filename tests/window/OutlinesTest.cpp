@@ -38,6 +38,18 @@ TEST(Outlines, LengthsOfTheRecordTakeTheUnitFactor) {
   EXPECT_THAT(frame[2], IsNear((Vec3{100005, 160000, 120000}), 1e-6));
 }
 
+TEST(Outlines, LayerLengthensTheOpeningAtItsPlumbAndItsLevelReveal) {
+  // A layer of 12 on the slope of 3 in 4: 12 * 0.75 below, 12 / 0.75 above.
+  WindowParams params = round_record::OnSlope();
+  constexpr double LOWER[] = {0, 9, 0, 9, 0};
+  constexpr double UPPER[] = {0, 16, 16, 0, 0};
+  for (params.heightReference = 0; params.heightReference < 5; ++params.heightReference) {
+    const RevealLengths lengths = RevealLengthsOf(params, 12, 0.75);
+    EXPECT_EQ(lengths.lower, LOWER[params.heightReference]) << params.heightReference;
+    EXPECT_EQ(lengths.upper, UPPER[params.heightReference]) << params.heightReference;
+  }
+}
+
 TEST(Outlines, InsertionPointIsMovedInTheDirectionOfItsRotation) {
   WindowParams params = round_record::OnSlope();
   params.insertionPoint = {1, 2, 3};
