@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
@@ -15,8 +16,8 @@ using brevanta::FieldKind;
 namespace {
 
 // The codes of a point's y and z.
-constexpr int ITEM_POINT_Y = brevanta::ITEM_POINT + 10;
-constexpr int ITEM_POINT_Z = brevanta::ITEM_POINT + 20;
+constexpr int ITEM_POINT_Y = brevanta::ITEM_POINT + dxf::Y_DISTANCE;
+constexpr int ITEM_POINT_Z = brevanta::ITEM_POINT + dxf::Z_DISTANCE;
 
 }  // namespace
 

@@ -12,6 +12,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/drawing/DescriptionReader.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "window/Choices.h"
 #include "window/Parts.h"
@@ -86,7 +88,7 @@ Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, std
 }
 
 bool IsFace(const dxf::Entity& entity) {
-  return dxf::SameName(entity.type, "3DFACE");
+  return dxf::SameName(entity.type, dxf::TYPE_FACE);
 }
 
 // How many windows the entities are, each with the types of the first one in their order; 1 when they are no
@@ -118,7 +120,7 @@ void AddWithCopies(DrawnWindow window, std::vector<DrawnWindow>& windows) {
 }  // namespace
 
 bool CanBePart(std::string_view type) {
-  return dxf::SameName(type, "LINE") || dxf::SameName(type, "3DFACE");
+  return dxf::SameName(type, dxf::TYPE_LINE) || dxf::SameName(type, dxf::TYPE_FACE);
 }
 
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
