@@ -238,6 +238,13 @@ def test_renumbering_dry_or_where_nothing_is_to_do_writes_nothing(teskarlt, hous
     assert house.read_bytes() == before
 
 
+def test_file_written_though_nothing_is_renumbered_is_answered(teskarlt, house, tmp_path):
+    output = tmp_path / "out.dxf"
+    answer = teskarlt.done("renumber", house, "-o", output, "--json").json
+    assert answer["windows"] == [] and answer["file"] == teskarlt.spelled(output)
+    assert output.read_bytes() == house.read_bytes()
+
+
 def test_renumbering_changes_nothing_but_the_numbers(teskarlt, house, tmp_path):
     teskarlt.done("insert", house, "--at", "2500,1200")
     copy(house, (1800, 0, 0))

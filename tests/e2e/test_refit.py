@@ -185,6 +185,12 @@ def test_floor_is_no_roof_for_a_window_with_a_pitch(teskarlt, tmp_path):
     assert "no roof face that falls its way" in teskarlt("refit", path).stderr
 
 
+def test_file_written_though_nothing_is_refitted_is_answered(teskarlt, house, tmp_path):
+    output = tmp_path / "out.dxf"
+    assert teskarlt.done("refit", house, "-o", output, "--json").json["file"] == teskarlt.spelled(output)
+    assert output.read_bytes() == house.read_bytes()
+
+
 def test_number_given_twice_counts_once(teskarlt, tmp_path):
     path = tmp_path / "old.dxf"
     Roof().save(path)

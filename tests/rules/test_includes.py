@@ -28,9 +28,11 @@ PARTS = {
     "check": (HOST + "check/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry",
                                 "platform"}),
     "preview": (HOST + "preview/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "window", "geometry"}),
-    "terminal": (HOST + "terminal/", {"drawing", "dxf tags", "errors", "geometry", "platform"}),
-    "commands": (HOST + "commands/", {"terminal", "catalogue", "check", "preview", "modules", "drawing", "dxf",
-                                      "dxf read", "dxf tags", "errors", "window", "inc", "geometry", "platform"}),
+    "windows": (HOST + "windows/", {"modules", "catalogue", "drawing", "dxf", "dxf tags", "errors", "window", "inc",
+                                    "geometry", "platform"}),
+    "terminal": (HOST + "terminal/", {"errors", "platform"}),
+    "commands": (HOST + "commands/", {"windows", "terminal", "catalogue", "check", "preview", "modules", "drawing",
+                                      "dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry", "platform"}),
     "external": ("external/", set()),
     "errors": (HOST + "Error", {"platform"}),
     "main": (HOST + "main", {"commands", "platform"}),
@@ -40,7 +42,7 @@ INCLUDE_ROOTS = ("", LIBRARY, BREVANTA, "programs/", HOST, "Library16/")
 HOST_LIBRARIES = ("zlib.h", "CLI/", "fmt/", "nlohmann/", "gtest/", "gmock/", "benchmark/")
 # Libraries that take long to compile, and the only sources that pay for them.
 SLOW_LIBRARIES = {"CLI/": {"terminal/Options.cpp"},
-                  "nlohmann/": {"terminal/Json.cpp", "commands/InsertJobs.cpp", "preview/Glb.cpp"}}
+                  "nlohmann/": {"terminal/Json.cpp", "windows/JobsFile.cpp", "preview/Glb.cpp"}}
 SYSTEM_HEADERS = re.compile(r"<\w+\.h>|<sys/")
 INCLUDE = re.compile(r'^\s*#\s*include\s+(["<])([^">]+)[">]', re.M)
 

@@ -6,9 +6,9 @@
 #include <new>
 #include <system_error>
 
-#include <fmt/format.h>
-
+#include "teskarlt/Error.h"
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/terminal/Messages.h"
 
 namespace teskarlt {
 
@@ -48,7 +48,7 @@ void AddCommands(OptionParser& parser) {
 // What was printed has to arrive: a full disk shows only when the last of it is written.
 void FinishOutput() {
   if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return;
-  throw std::system_error(errno, std::generic_category(), "the answer cannot be printed");
+  throw Error("the answer cannot be printed: " + std::generic_category().message(errno));
 }
 
 }  // namespace
@@ -61,10 +61,10 @@ int RunCommandLine(const std::vector<std::string>& arguments) {
     FinishOutput();
     return status;
   } catch (const std::bad_alloc&) {
-    fmt::print(stderr, "teskarlt: not enough memory for files of this size\n");
+    Tell("not enough memory for files of this size");
     return EXIT_REFUSED;
   } catch (const std::exception& error) {
-    fmt::print(stderr, "teskarlt: {}\n", error.what());
+    Tell(error.what());
     return EXIT_REFUSED;
   }
 }

@@ -1,24 +1,24 @@
 // InsertCommand.cpp - the subcommand "insert": inserts a roof window.
 #include <memory>
 
-#include <fmt/format.h>
-
-#include "teskarlt/commands/InsertJobs.h"
+#include "teskarlt/commands/JobsRun.h"
 #include "teskarlt/commands/Subcommands.h"
-#include "teskarlt/commands/WindowInserter.h"
 #include "teskarlt/commands/WindowOptions.h"
+#include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/terminal/Report.h"
+#include "teskarlt/windows/WindowInserter.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
 
 namespace {
 
-void RunInsert(const WindowOptions& options) {
-  WindowInserter inserter(options);
-  const InsertedWindow window = inserter.Insert(options);
-  WarnOfMisfits("", window.outcome.confirmed->markerValue, window.misfits);
-  SaveAndReport(options, inserter.Drawing(), window.outcome, window.face, window.misfits);
+void RunInsert(WindowOptions& options) {
+  const WindowModule module;
+  dxf::Document drawing = dxf::Document::Load(options.target.File());
+  const DrawingUnit& unit = ChooseUnitAndWarn(drawing, options.units);
+  WindowInserter inserter(module, drawing, unit);
+  SaveAndTell(options, drawing, inserter.Insert(OrderOf(options)));
 }
 
 void PrintFields() {
@@ -35,7 +35,7 @@ void AddInsertCommand(OptionParser& parser) {
   Subcommand command = parser.Add("insert", "Insert a roof window");
   const auto options = std::make_shared<WindowOptions>();
   const auto jobs = std::make_shared<JobsOptions>();
-  command.Argument("FILE", options->file, "the drawing").Required();
+  options->target.AddFile(command);
   const Option at = AddWindowOptions(command, *options);
   const Option jobsFile =
       command
@@ -63,7 +63,7 @@ void AddInsertCommand(OptionParser& parser) {
     if (jobs->file.empty()) {
       RunInsert(*options);
     } else {
-      RunInsertJobs(*options, *jobs);
+      RunJobs(*options, *jobs);
     }
   });
 }

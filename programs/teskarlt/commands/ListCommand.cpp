@@ -8,7 +8,7 @@
 
 #include "geometry/Matrix4.h"
 #include "teskarlt/commands/Subcommands.h"
-#include "teskarlt/commands/WindowOptions.h"
+#include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"

@@ -8,6 +8,7 @@
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/modules/WindowModule.h"
 #include "teskarlt/terminal/Json.h"
+#include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -54,7 +55,7 @@ void RunMerge(const MergeOptions& options) {
   const WindowModule module;
   const MergeReport report = MergeCatalogues(module, options.source, Given(options.target));
   for (const std::string& warning : report.warnings)
-    fmt::print(stderr, "teskarlt: warning: {}\n", warning);
+    TellWarning(warning);
   if (options.asJson) {
     PrintReport(report);
     return;

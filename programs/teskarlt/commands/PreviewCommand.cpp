@@ -15,6 +15,7 @@
 #include "teskarlt/preview/Raster.h"
 #include "teskarlt/preview/SceneReader.h"
 #include "teskarlt/preview/Svg.h"
+#include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -87,7 +88,7 @@ void ReportLeftOut(const preview::Scene& scene) {
   std::string list;
   for (const auto& [type, count] : scene.leftOut)
     list += fmt::format("{}{} {}", list.empty() ? "" : ", ", count, type);
-  if (!list.empty()) fmt::print(stderr, "teskarlt: not shown: {}\n", list);
+  if (!list.empty()) Tell("not shown: " + list);
 }
 
 void RunPreview(const PreviewOptions& options) {

@@ -8,6 +8,7 @@
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Json.h"
+#include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -44,10 +45,8 @@ Json ToJson(const RoofFace& face, double unitFactor) {
 // Whoever misses a roof in the list learns why.
 void TellOfWarped(const std::vector<RoofFace>& warped, const DrawingUnit& unit) {
   for (const RoofFace& face : warped) {
-    fmt::print(
-        stderr,
-        "teskarlt: note: face {} of layer {} is left out: it is not planar; a corner lies {:.3f} m off\n",
-        face.name, face.layer, Warp(face) / unit.perMetre);
+    TellNote(fmt::format("face {} of layer {} is left out: it is not planar; a corner lies {:.3f} m off",
+                         face.name, face.layer, Warp(face) / unit.perMetre));
   }
 }
 

@@ -19,17 +19,20 @@
 
 namespace teskarlt {
 
+// Record fields, and the other names of DialogServices.h, to the user's texts.
+using DialogAnswers = std::map<std::string, std::string, std::less<>>;
+
 // What the user wants, as the dialog asks for it. Coordinates are those of the drawing; texts are bytes in
 // its code page.
 struct WindowRequest {
-  std::int32_t unitFactor = 1;                              // drawing units per metre
-  std::map<std::string, std::string, std::less<>> answers;  // record field to the user's text
-  std::optional<std::array<double, 2>> point;               // x and y in the plan
-  std::vector<std::vector<geometry::Vec3>> faces;           // the roof; the chosen face first
-  bool isBounded = false;                                   // the window must stay inside the faces
-  const WindowNumbers* numbersInUse = nullptr;              // of the windows in the drawing; null: none
-  std::optional<brevanta::WindowParams> edited;             // the window that is changed
-  std::vector<const dxf::Entity*> replaced;                 // its entities, or those of one to erase
+  std::int32_t unitFactor = 1;  // drawing units per metre
+  DialogAnswers answers;
+  std::optional<std::array<double, 2>> point;      // x and y in the plan
+  std::vector<std::vector<geometry::Vec3>> faces;  // the roof; the chosen face first
+  bool isBounded = false;                          // the window must stay inside the faces
+  const WindowNumbers* numbersInUse = nullptr;     // of the windows in the drawing; null: none
+  std::optional<brevanta::WindowParams> edited;    // the window that is changed
+  std::vector<const dxf::Entity*> replaced;        // its entities, or those of one to erase
 };
 
 struct DialogReport {

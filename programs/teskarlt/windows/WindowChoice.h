@@ -1,4 +1,4 @@
-// WindowChoice.h - the window of a drawing that a command line names.
+// WindowChoice.h - the window of a drawing that a number names.
 #pragma once
 
 #include <string>

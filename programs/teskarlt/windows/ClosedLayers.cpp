@@ -1,5 +1,5 @@
 // ClosedLayers.cpp - windows on layers that cannot be changed or seen.
-#include "teskarlt/commands/ClosedLayers.h"
+#include "teskarlt/windows/ClosedLayers.h"
 
 #include <fmt/format.h>
 
@@ -8,26 +8,25 @@
 
 namespace teskarlt {
 
-void AddLockedOption(Subcommand& command, bool& isLockedToo) {
-  command.Flag("--locked", isLockedToo, "change the window though its layer is locked or frozen");
-}
-
-void RefuseClosedLayers(const dxf::Document& drawing, const DrawnWindow& window, bool isLockedToo) {
-  if (isLockedToo) return;
+void RefuseClosedLayers(const dxf::Document& drawing, const DrawnWindow& window) {
   const LayerStates states(drawing);
   for (const std::string& layer : LayersOf(drawing, window.entities)) {
     const LayerState state = states.Of(layer);
     if (!state.isLocked && !state.isFrozen) continue;
-    throw Error(fmt::format(
-        "window {} lies on the layer \"{}\", which is {}; {} it in the CAD program, or give --locked",
-        window.number, layer, state.isLocked ? "locked" : "frozen", state.isLocked ? "unlock" : "thaw"));
+    throw Error(
+        fmt::format(
+            "window {} lies on the layer \"{}\", which is {}; {} it in the CAD program, or give --locked",
+            window.number, layer, state.isLocked ? "locked" : "frozen", state.isLocked ? "unlock" : "thaw"),
+        {.value = layer});
   }
 }
 
-void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string>& layers) {
+std::vector<std::string> ClosedLayerWarnings(const dxf::Document& drawing,
+                                             const std::set<std::string>& layers) {
   const LayerStates states(drawing);
-  const auto warn = [](const std::string& layer, const char* what) {
-    fmt::print(stderr, "teskarlt: warning: the layer \"{}\" is {}\n", layer, what);
+  std::vector<std::string> warnings;
+  const auto warn = [&](const std::string& layer, const char* what) {
+    warnings.push_back(fmt::format("the layer \"{}\" is {}", layer, what));
   };
   for (const std::string& layer : layers) {
     const LayerState state = states.Of(layer);
@@ -38,6 +37,7 @@ void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string
     }
     if (state.isLocked) warn(layer, "locked; it must be unlocked before the window can be changed");
   }
+  return warnings;
 }
 
 }  // namespace teskarlt

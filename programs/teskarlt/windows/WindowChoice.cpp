@@ -1,5 +1,5 @@
-// WindowChoice.cpp - the window of a drawing that a command line names.
-#include "teskarlt/commands/WindowChoice.h"
+// WindowChoice.cpp - the window of a drawing that a number names.
+#include "teskarlt/windows/WindowChoice.h"
 
 #include <algorithm>
 

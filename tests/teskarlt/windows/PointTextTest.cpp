@@ -1,15 +1,17 @@
-// NumbersTest.cpp - coordinates on the command line.
+// PointTextTest.cpp - points as users write them.
 #include <gtest/gtest.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/terminal/Numbers.h"
+#include "teskarlt/windows/PointText.h"
 
 namespace teskarlt {
 namespace {
 
 TEST(ParsePlanPoint, TakesTwoNumbers) {
-  EXPECT_EQ(ParsePlanPoint("--at", "-3000.5,2e3"), (std::array{-3000.5, 2000.0}));
-  EXPECT_EQ(ParsePlanPoint("--at", " 1 , 2 "), (std::array{1.0, 2.0}));
+  const PlanPoint point = ParsePlanPoint("--at", " -3000.5, 2e3");
+  EXPECT_EQ(point.x, -3000.5);
+  EXPECT_EQ(point.y, 2000.0);
+  EXPECT_EQ(point.text, " -3000.5, 2e3");
 }
 
 TEST(ParsePlanPoint, AnythingElseIsAnErrorThatNamesTheOption) {
@@ -30,12 +32,6 @@ TEST(ParsePoint, TakesThreeNumbers) {
   EXPECT_EQ(point.y, 2);
   EXPECT_EQ(point.z, -3);
   EXPECT_THROW(ParsePoint("--roof", "1,2"), Error);
-}
-
-TEST(PlanExtents, FarFromTheOriginEveryUnitIsTold) {
-  RoofFace face;
-  face.corners = {{-743000000, -1043000000.5, 0}, {-742992000, -1042996000, 0}, {-742999000, -1043000000, 0}};
-  EXPECT_EQ(PlanExtents({face}), "x -743000000 to -742992000, y -1043000000.5 to -1042996000");
 }
 
 }  // namespace

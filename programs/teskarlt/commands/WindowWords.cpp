@@ -1,0 +1,95 @@
+// WindowWords.cpp - what commands say of the windows that they insert, change and list.
+#include "teskarlt/commands/WindowWords.h"
+
+#include <fmt/format.h>
+
+#include "teskarlt/terminal/Messages.h"
+#include "teskarlt/terminal/Report.h"
+#include "teskarlt/windows/ClosedLayers.h"
+#include "teskarlt/windows/UnitChoice.h"
+
+namespace teskarlt {
+
+namespace {
+
+Json AnswerJson(const WindowOptions& options, const PlacedWindow& window, const WindowReading* edited) {
+  Json json;
+  json["version"] = JSON_VERSION;
+  json.AddMembers(WindowJson(window));
+  if (edited != nullptr) {
+    json["sources"] = SourcesJson(*edited);
+    json["notes"] = edited->notes;
+  }
+  options.target.AddTo(json);
+  return json;
+}
+
+void PrintText(const WindowOptions& options, const PlacedWindow& window, const WindowReading* edited) {
+  const brevanta::WindowParams& record = window.record;
+  const std::string where = window.face
+                                ? fmt::format("face {} of layer {}", window.face->name, window.face->layer)
+                                : "the given plane";
+  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees, lower edge at {:.3f} m.\n",
+             record.markerValue, record.width, record.length, where, record.pitch, record.lowerEdgeHeight);
+  fmt::print("{} faces and {} lines {}.\n", window.faces, window.lines,
+             options.target.Ending("added", "be added"));
+  if (edited == nullptr) return;
+  fmt::print("Not in its description: {} from the geometry; {} by default.\n",
+             fmt::join(edited->recovered, ", "), fmt::join(edited->defaults, ", "));
+}
+
+}  // namespace
+
+const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const std::string& asked) {
+  const UnitChoice choice = ChooseUnit(drawing, asked);
+  if (!choice.warning.empty()) TellWarning(choice.warning);
+  return choice.unit;
+}
+
+std::string MisfitWarning(std::int32_t number, const std::vector<std::string>& misfits) {
+  return misfits.empty() ? "" : fmt::format("window {}: {}", number, fmt::join(misfits, " and "));
+}
+
+void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string>& layers) {
+  for (const std::string& warning : ClosedLayerWarnings(drawing, layers))
+    TellWarning(warning);
+}
+
+Json WindowJson(const PlacedWindow& window) {
+  const brevanta::WindowParams& record = window.record;
+  Json json;
+  json["number"] = record.markerValue;
+  json["face"] = window.face ? Json(window.face->name) : Json(nullptr);
+  json["pitch"] = record.pitch;
+  json["place"] = Json::List({record.storedPoint.x, record.storedPoint.y, record.storedPoint.z});
+  json["lowerEdgeHeight"] = record.lowerEdgeHeight;
+  json["unitFactor"] = record.unitFactor;
+  json["faces"] = window.faces;
+  json["lines"] = window.lines;
+  json["warnings"] = window.misfits;
+  return json;
+}
+
+Json SourcesJson(const WindowReading& reading) {
+  Json json = Json::Object();
+  for (const std::string& field : reading.recovered)
+    json[field] = "geometry";
+  for (const std::string& field : reading.defaults)
+    json[field] = "default";
+  return json;
+}
+
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window,
+                 const WindowReading* edited) {
+  const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
+  if (!misfit.empty()) TellWarning(misfit);
+  WarnOfClosedLayers(drawing, window.layers);
+  options.target.Write([&](const std::string& path) { drawing.Save(path); });
+  if (options.asJson) {
+    PrintJson(AnswerJson(options, window, edited));
+  } else {
+    PrintText(options, window, edited);
+  }
+}
+
+}  // namespace teskarlt

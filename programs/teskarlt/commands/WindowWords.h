@@ -1,0 +1,39 @@
+// WindowWords.h - what commands say of the windows that they insert, change and list.
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "teskarlt/commands/WindowOptions.h"
+#include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/dxf/Document.h"
+#include "teskarlt/terminal/Json.h"
+#include "teskarlt/windows/PlacedWindow.h"
+
+namespace teskarlt {
+
+// The unit in which the drawing is worked on, with a warning where it is not that of the header.
+const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const std::string& asked);
+
+// A warning about a window that does not fit; empty when it fits.
+std::string MisfitWarning(std::int32_t number, const std::vector<std::string>& misfits);
+
+// Warns where new entities came onto layers (names in UTF-8) on which they cannot be seen, or not be changed.
+void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string>& layers);
+
+// For programs: the window that came into the drawing.
+Json WindowJson(const PlacedWindow& window);
+
+// For programs: of the fields that are not as the description says, or not in it, where their values come
+// from.
+Json SourcesJson(const WindowReading& reading);
+
+// Warns of what is doubtful about the window, saves the drawing and tells what became of it; `edited` is what
+// it was, null for a new one.
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window,
+                 const WindowReading* edited = nullptr);
+
+}  // namespace teskarlt

@@ -1,0 +1,39 @@
+// ResultTarget.cpp - which drawing a command reads, where its result goes, and what is said of that.
+#include "teskarlt/terminal/ResultTarget.h"
+
+#include <fmt/format.h>
+
+namespace teskarlt {
+
+void ResultTarget::AddFile(Subcommand& command) {
+  command.Argument("FILE", file_, "the drawing").Required();
+}
+
+void ResultTarget::AddOutput(Subcommand& command) {
+  command.Value("-o,--output", output_, "the drawing to write; without it FILE is replaced")
+      .Named("FILE")
+      .NotEmpty();
+}
+
+void ResultTarget::AddDryRun(Subcommand& command) {
+  command.Flag("--dry-run", isDryRun_, "say what would be done and write nothing");
+}
+
+void ResultTarget::Write(const std::function<void(const std::string& path)>& save) {
+  if (isDryRun_) return;
+  save(Path());
+  isWritten_ = true;
+}
+
+std::string ResultTarget::Ending(const char* done, const char* planned) const {
+  if (isWritten_) return fmt::format("{}; written to {}", done, Path());
+  if (isDryRun_) return fmt::format("would {}; nothing was written (dry run)", planned);
+  return fmt::format("could {}; nothing was written", planned);
+}
+
+void ResultTarget::AddTo(Json& answer) const {
+  answer["file"] = isWritten_ ? Json(Path()) : Json(nullptr);
+  answer["dryRun"] = isDryRun_;
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,46 @@
+// ResultTarget.h - which drawing a command reads, where its result goes, and what is said of that.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "teskarlt/terminal/Json.h"
+#include "teskarlt/terminal/Options.h"
+
+namespace teskarlt {
+
+class ResultTarget {
+ public:
+  // Add FILE, -o and --dry-run to the command. The object must outlive the parsing.
+  void AddFile(Subcommand& command);
+  void AddOutput(Subcommand& command);
+  void AddDryRun(Subcommand& command);
+
+  // The drawing that is read.
+  const std::string& File() const { return file_; }
+  // Whether the user named a file of its own for the result, which is written then though nothing changed.
+  bool IsNamed() const { return !output_.empty(); }
+  bool IsDryRun() const { return isDryRun_; }
+
+  // Lets `save` write the file, unless it is a dry run.
+  void Write(const std::function<void(const std::string& path)>& save);
+
+  // The end of a sentence about the result: "added; written to out.dxf" or, where nothing was written, "would
+  // be added; nothing was written (dry run)" and "could be added; nothing was written", with "added" for
+  // `done` and "be added" for `planned`.
+  std::string Ending(const char* done, const char* planned) const;
+
+  // The members of an answer for programs: "file", which is null where nothing was written, and "dryRun".
+  void AddTo(Json& answer) const;
+
+ private:
+  // What is written: without -o the drawing itself is replaced.
+  const std::string& Path() const { return IsNamed() ? output_ : file_; }
+
+  std::string file_;
+  std::string output_;
+  bool isDryRun_ = false;
+  bool isWritten_ = false;
+};
+
+}  // namespace teskarlt

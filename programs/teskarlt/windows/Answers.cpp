@@ -1,0 +1,68 @@
+// Answers.cpp - an order in the words of the dialog: a text for each field of the record.
+#include "teskarlt/windows/Answers.h"
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/modules/DataFolder.h"
+#include "window/RecordFields.h"
+
+namespace teskarlt {
+
+namespace {
+
+// A text in the drawing's code page, which extended data can hold in the drawing's version.
+std::string StoredText(const std::string& utf8, const dxf::Document& drawing) {
+  std::string bytes = drawing.ToCodePage(utf8);
+  const std::size_t size = drawing.EncodedSize(bytes);
+  if (size <= dxf::LONGEST_EXTENDED_TEXT) return bytes;
+  throw Error(fmt::format("the text takes {} bytes in this drawing, and {} is the most that it can hold",
+                          size, dxf::LONGEST_EXTENDED_TEXT));
+}
+
+void AddSetting(const FieldSetting& setting, const dxf::Document& drawing, DialogAnswers& answers) {
+  const brevanta::RecordField* field = brevanta::FindRecordField(setting.field);
+  if (field == nullptr) {
+    throw Error(fmt::format("--set {}={}: there is no such field; teskarlt insert --fields lists them",
+                            setting.field, setting.value),
+                {.value = setting.field});
+  }
+  try {
+    const bool isText = field->kind == brevanta::FieldKind::Text;
+    answers[setting.field] = isText ? StoredText(setting.value, drawing) : setting.value;
+  } catch (const Error& error) {
+    throw Error(fmt::format("--set {}: {}", setting.field, error.what()), {.value = setting.value});
+  }
+}
+
+void AddCatalogueWindow(const WindowOrder& order, const dxf::Document& drawing, CatalogueShelf& shelf,
+                        DialogAnswers& answers) {
+  const Catalogue& catalogue = shelf.Get(order.catalogue);
+  const CatalogueItem& item = ChooseItem(catalogue, order.window);
+  try {
+    answers[brevanta::ANSWER_CATALOGUE_ITEM] = drawing.ToCodePage(CatalogueText(item.line));
+    answers[brevanta::ANSWER_CATALOGUE_MAKER] =
+        drawing.ToCodePage(CatalogueText(MakerOf(catalogue.sections[item.section])));
+  } catch (const Error& error) {
+    throw Error(fmt::format("--window {}: {}", order.window, error.what()), {.value = order.window});
+  }
+}
+
+}  // namespace
+
+const Catalogue& CatalogueShelf::Get(const std::string& path) {
+  const auto known = catalogues_.find(path);
+  if (known != catalogues_.end()) return known->second;
+  return catalogues_.emplace(path, ReadCatalogue(path.empty() ? DataFolder() : path)).first->second;
+}
+
+DialogAnswers AnswersOf(const WindowOrder& order, const dxf::Document& drawing, CatalogueShelf& shelf) {
+  DialogAnswers answers;
+  if (!order.window.empty()) AddCatalogueWindow(order, drawing, shelf, answers);
+  for (const FieldSetting& setting : order.settings)
+    AddSetting(setting, drawing, answers);
+  return answers;
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,24 @@
+// PlacedWindow.cpp - what becomes of a window that is inserted or edited.
+#include "teskarlt/windows/PlacedWindow.h"
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+
+namespace teskarlt {
+
+PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofFace* face) {
+  PlacedWindow window;
+  window.record = *outcome.confirmed;
+  if (face != nullptr) window.face = FaceName{face->name, face->layer};
+  window.faces = outcome.faces;
+  window.lines = outcome.lines;
+  window.layers = outcome.layers;
+  return window;
+}
+
+void RefuseMisfits(const std::vector<std::string>& misfits) {
+  throw Error(fmt::format("--strict: the window is refused; {}", fmt::join(misfits, " and ")));
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,36 @@
+// PlacedWindow.h - what becomes of a window that is inserted or edited.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "inc/WindowParams.h"
+#include "teskarlt/drawing/RoofFace.h"
+#include "teskarlt/modules/ModuleSession.h"
+
+namespace teskarlt {
+
+struct FaceName {
+  std::string name;  // as RoofFace has both
+  std::string layer;
+};
+
+struct PlacedWindow {
+  brevanta::WindowParams record{};  // as the dialog confirmed it
+  std::optional<FaceName> face;     // none where the user gave the plane
+  std::size_t faces = 0;            // entities that came into the drawing
+  std::size_t lines = 0;
+  std::set<std::string> layers;      // of these entities, UTF-8
+  std::vector<std::string> misfits;  // why it does not fit, as WindowFit tells it
+};
+
+// What the module's command left behind; `face` is null where the user gave the plane.
+PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofFace* face);
+
+// Throws Error for a window with misfits, of which there is at least one.
+[[noreturn]] void RefuseMisfits(const std::vector<std::string>& misfits);
+
+}  // namespace teskarlt

@@ -1,0 +1,15 @@
+// PointText.h - points as users write them.
+#pragma once
+
+#include <string>
+
+#include "geometry/Vec3.h"
+#include "teskarlt/windows/WindowOrder.h"
+
+namespace teskarlt {
+
+// "X,Y" and "X,Y,Z" in drawing units. Throw Error, naming the option, for anything but finite numbers.
+PlanPoint ParsePlanPoint(const char* option, const std::string& text);
+geometry::Vec3 ParsePoint(const char* option, const std::string& text);
+
+}  // namespace teskarlt

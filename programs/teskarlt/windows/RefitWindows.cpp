@@ -1,0 +1,165 @@
+// RefitWindows.cpp - puts windows back onto roofs that have changed.
+#include "teskarlt/windows/RefitWindows.h"
+
+#include <cmath>
+#include <optional>
+#include <set>
+
+#include <fmt/format.h>
+
+#include "geometry/Matrix4.h"
+#include "geometry/Trigonometry.h"
+#include "teskarlt/Error.h"
+#include "teskarlt/drawing/WindowFit.h"
+#include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/drawing/WindowShape.h"
+#include "teskarlt/windows/ClosedLayers.h"
+#include "teskarlt/windows/RoofChoice.h"
+#include "teskarlt/windows/WindowChoice.h"
+#include "teskarlt/windows/WorkedDrawing.h"
+
+namespace teskarlt {
+
+namespace {
+
+using brevanta::RecordPoint;
+
+// A floor is no roof for a window that had a pitch, nor is a roof that falls the other way.
+bool CanFollow(const RoofFace& face, const geometry::Vec3& normal) {
+  constexpr double FLAT = 1.0;  // degrees
+  if (std::hypot(normal.x, normal.y) <= geometry::Sine(geometry::DegToRad(FLAT))) return true;
+  return Pitch(face) > FLAT && face.normal.x * normal.x + face.normal.y * normal.y > 0.0;
+}
+
+// The face over the window's place that is nearest to it in height, of those that a roof with that normal can
+// have become; null when there is none.
+const RoofFace* FaceOver(const RecordPoint& place, const geometry::Vec3& normal,
+                         const std::vector<RoofFace>& faces) {
+  const RoofFace* nearest = nullptr;
+  double least = 0.0;
+  for (const RoofFace& face : faces) {
+    const std::optional<double> height = HeightOver(face, place.x, place.y);
+    if (!height || !CanFollow(face, normal)) continue;
+    const double distance = std::abs(*height - place.z);
+    if (nearest != nullptr && distance >= least) continue;
+    nearest = &face;
+    least = distance;
+  }
+  return nearest;
+}
+
+class Refitter {
+ public:
+  Refitter(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
+           const RefitOrder& order)
+      : order_(order), module_(module), work_(drawing, unit) {}
+
+  RefitReport Run() {
+    for (const DrawnWindow* const window : Chosen()) {
+      try {
+        Refit(*window);
+      } catch (const Error& error) {
+        report_.problems.push_back({window->number, error.what()});
+      }
+    }
+    FindMisfits();
+    return report_;
+  }
+
+ private:
+  std::vector<const DrawnWindow*> Chosen() const {
+    std::vector<const DrawnWindow*> chosen;
+    if (order_.numbers.empty()) {
+      for (const DrawnWindow& window : work_.windows)
+        chosen.push_back(&window);
+    }
+    for (const int number : std::set<int>(order_.numbers.begin(), order_.numbers.end()))
+      chosen.push_back(&ChooseWindow(work_.windows, work_.drawing.FileName(), number));
+    return chosen;
+  }
+
+  void Refit(const DrawnWindow& window) {
+    const WindowReading reading = ReadWindow(work_.drawing, window);
+    if (!reading.obstacle.empty()) throw Error("it cannot be changed: " + reading.obstacle);
+    const RoofFace* const face = NewFace(window, reading);
+    if (face == nullptr) {
+      ++report_.fitting;
+      return;
+    }
+    ChooseWindow(work_.windows, work_.drawing.FileName(), window.number);  // refuses copies
+    if (!order_.isLockedToo) RefuseClosedLayers(work_.drawing, window);
+    const CommandOutcome outcome = module_.Edit(work_.drawing, RequestFor(window, reading, *face));
+    report_.refitted.push_back({reading.params, *outcome.confirmed, face->name, {}});
+    moved_.insert(&window);
+  }
+
+  // The face onto which a window must go; null for one that lies on its roof. Throws Error for a window that
+  // can neither stay nor go.
+  const RoofFace* NewFace(const DrawnWindow& window, const WindowReading& reading) const {
+    if (HasOwnSecondPlane(reading.params, work_.tolerance)) {
+      if (FaceUnder(reading.params, work_.faces, work_.tolerance) != nullptr) return nullptr;
+      throw Error("its roof was changed, and its second plane is not the roof's underside");
+    }
+    const WindowShape shape = ShapeOf(work_.drawing, window);
+    const double covered = CoveredPart(shape.outline, work_.faces, work_.tolerance);
+    if (IsWhole(covered)) return nullptr;
+    if (covered > 0.0) throw Error("a part of it lies outside its roof face; move it or make it smaller");
+    const RoofFace* const face = FaceOver(reading.params.storedPoint, shape.Normal(), work_.faces);
+    if (face == nullptr) throw Error("no roof face that falls its way lies over or under its place");
+    return face;
+  }
+
+  WindowRequest RequestFor(const DrawnWindow& window, const WindowReading& reading,
+                           const RoofFace& face) const {
+    WindowRequest request;
+    request.unitFactor = work_.unit.perMetre;
+    request.edited = reading.params;
+    request.replaced = window.entities;
+    request.numbersInUse = &work_.numbers;
+    request.point = {reading.params.storedPoint.x, reading.params.storedPoint.y};
+    if (order_.keeps == RefitKeeps::Height)
+      request.answers["lowerEdgeHeight"] = fmt::format("{}", reading.params.lowerEdgeHeight);
+    PutRoof(OnFace(face, work_.faces, work_.tolerance), request);
+    return request;
+  }
+
+  // What the windows overlap in their new places.
+  void FindMisfits() {
+    WindowFit fit(work_.faces, work_.tolerance);
+    for (const DrawnWindow& window : work_.windows) {
+      const std::optional<Outline> outline =
+          moved_.contains(&window) ? std::nullopt : DrawnOutline(work_.drawing, window);
+      if (outline) fit.Add(window.number, *outline);
+    }
+    for (Refitted& window : report_.refitted) {
+      const Outline outline = OutlineOf(window.after);
+      window.misfits = fit.Misfits(window.after, outline);
+      fit.Add(window.after.markerValue, outline);
+    }
+  }
+
+  const RefitOrder& order_;
+  const WindowModule& module_;
+  const WorkedDrawing work_;
+  std::set<const DrawnWindow*> moved_;
+  RefitReport report_;
+};
+
+}  // namespace
+
+double Shift(const Refitted& window) {
+  const RecordPoint& a = window.before.storedPoint;
+  const RecordPoint& b = window.after.storedPoint;
+  return std::hypot(b.x - a.x, b.y - a.y) / window.after.unitFactor;
+}
+
+double Rise(const Refitted& window) {
+  return (window.after.storedPoint.z - window.before.storedPoint.z) / window.after.unitFactor;
+}
+
+RefitReport RefitWindows(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
+                         const RefitOrder& order) {
+  return Refitter(module, drawing, unit, order).Run();
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,54 @@
+// RefitWindows.h - puts windows back onto roofs that have changed.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "inc/WindowParams.h"
+#include "teskarlt/drawing/Units.h"
+#include "teskarlt/dxf/Document.h"
+#include "teskarlt/modules/WindowModule.h"
+
+namespace teskarlt {
+
+// What stays of a window's place: its point in the plan, or the height of its lower edge.
+enum class RefitKeeps { Plan, Height };
+
+struct RefitOrder {
+  std::vector<int> numbers;  // of the windows; none: all
+  RefitKeeps keeps = RefitKeeps::Plan;
+  bool isLockedToo = false;  // also windows on locked and frozen layers
+};
+
+// A window that was put onto another face.
+struct Refitted {
+  brevanta::WindowParams before;
+  brevanta::WindowParams after;
+  std::string face;                  // its name
+  std::vector<std::string> misfits;  // as WindowFit tells them
+};
+
+// How far the window's place moved in the plan, and up; metres.
+double Shift(const Refitted& window);
+double Rise(const Refitted& window);
+
+// A window that cannot be put back, and why.
+struct RefitProblem {
+  int number;
+  std::string message;
+};
+
+struct RefitReport {
+  std::vector<Refitted> refitted;
+  std::vector<RefitProblem> problems;
+  std::size_t fitting = 0;  // windows that lie on a roof face and stay as they are
+};
+
+// Inserts each window of the order whose roof face was moved, or has another pitch since, again on the face
+// that now lies over or under its place; of several, on the one nearest in height. Throws Error when a number
+// names no window, or several.
+RefitReport RefitWindows(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
+                         const RefitOrder& order);
+
+}  // namespace teskarlt

@@ -1,0 +1,41 @@
+// RenumberCopies.cpp - gives copies of roof windows numbers of their own.
+#include "teskarlt/windows/RenumberCopies.h"
+
+#include <set>
+#include <string>
+
+#include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/WindowRecord.h"
+
+namespace teskarlt {
+
+namespace {
+
+void StoreNumber(const DrawnWindow& window, std::int32_t number, dxf::Document& drawing) {
+  for (const dxf::Entity* const entity : window.entities) {
+    const auto tag = NumberTagOf(drawing, *entity);
+    if (tag) drawing.ReplaceValue(*tag, std::to_string(number));
+  }
+}
+
+}  // namespace
+
+std::vector<Renumbered> RenumberCopies(dxf::Document& drawing) {
+  constexpr int anyUnit = 1;  // lengths are compared with lengths of the drawing only
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, anyUnit);
+  WindowNumbers taken = NumbersOf(windows);
+  std::set<std::int32_t> known;
+  std::vector<Renumbered> changes;
+  for (const DrawnWindow& window : windows) {
+    const bool isWhole = window.isComplete && EntityMismatch(window).empty();
+    if (window.number == 0 || !isWhole || known.insert(window.number).second) continue;
+    const std::int32_t number = taken.Free();
+    taken.Take(number);
+    const brevanta::RecordPoint place = ReadWindow(drawing, window).params.storedPoint;
+    changes.push_back({window.number, number, place, window.entities.size()});
+    StoreNumber(window, number, drawing);
+  }
+  return changes;
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,39 @@
+// RoofChoice.h - the roof onto which a window goes.
+#pragma once
+
+#include <vector>
+
+#include "geometry/Vec3.h"
+#include "teskarlt/drawing/RoofFace.h"
+#include "teskarlt/dxf/Document.h"
+#include "teskarlt/modules/ModuleSession.h"
+#include "teskarlt/windows/WindowOrder.h"
+
+namespace teskarlt {
+
+// Drawing coordinates and units.
+struct RoofChoice {
+  const RoofFace* face = nullptr;  // one of the drawing's faces; null where points give a plane
+  std::vector<std::vector<geometry::Vec3>> faces = {};  // as WindowRequest has them
+  bool isBounded = false;
+};
+
+// The face and those that continue its plane within `tolerance` (drawing units); the window stays inside.
+RoofChoice OnFace(const RoofFace& face, const std::vector<RoofFace>& faces, double tolerance);
+
+// The plane without bounds through three points.
+RoofChoice OnPlane(std::vector<geometry::Vec3> points);
+
+// What the order says of the roof: its plane, the face that it names, or the uppermost at its point. Empty
+// where the order sets the field of the roof's points, which the dialog reads itself. Throws Error, naming
+// the option, when there is no such face, several, or too much is said.
+RoofChoice ChooseRoof(const WindowOrder& order, const dxf::Document& drawing,
+                      const std::vector<RoofFace>& faces, double tolerance);
+
+// Whether the order says on which roof the window goes, or where on it.
+bool NamesPlace(const WindowOrder& order);
+
+// Puts the choice into the request.
+void PutRoof(const RoofChoice& roof, WindowRequest& request);
+
+}  // namespace teskarlt

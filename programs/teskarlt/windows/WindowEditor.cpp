@@ -1,0 +1,86 @@
+// WindowEditor.cpp - changes a window of a drawing.
+#include "teskarlt/windows/WindowEditor.h"
+
+#include <fmt/format.h>
+
+#include "inc/RecordPoints.h"
+#include "teskarlt/drawing/WindowFit.h"
+#include "teskarlt/windows/Answers.h"
+#include "teskarlt/windows/ClosedLayers.h"
+#include "teskarlt/windows/RoofChoice.h"
+#include "teskarlt/windows/WindowChoice.h"
+#include "window/Choices.h"
+
+namespace teskarlt {
+
+namespace {
+
+using brevanta::RecordPoint;
+using brevanta::WindowParams;
+
+// The window stays where it is, on the face there, or on its own plane where that face is gone.
+RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
+  const RoofFace* face = FaceUnder(window, work.faces, work.tolerance);
+  if (face == nullptr) {
+    std::vector<geometry::Vec3> plane;
+    for (const RecordPoint& p : window.roofPlanePoints)
+      plane.push_back(brevanta::ToVec3(p));
+    return OnPlane(plane);
+  }
+  RoofChoice roof = OnFace(*face, work.faces, work.tolerance);
+  // What stuck out before may do so still.
+  roof.isBounded = HasOwnSecondPlane(window, work.tolerance) ||
+                   IsWhole(CoveredPart(OutlineOf(window), work.faces, work.tolerance));
+  return roof;
+}
+
+// A second plane of the user's own stays; the dialog would put the roof's underside in its place.
+void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers& answers) {
+  if (window.roofBuildUp != brevanta::BUILD_UP_SECOND_PLANE || IsUnderside(window, tolerance)) return;
+  std::string points;
+  for (const RecordPoint& p : window.secondPlanePoints)
+    points += fmt::format("{}{},{},{}", points.empty() ? "" : ";", p.x, p.y, p.z);
+  answers.emplace("secondPlanePoints", points);
+}
+
+}  // namespace
+
+WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
+                           int number, bool isLockedToo)
+    : module_(module),
+      work_(drawing, unit),
+      window_(ChooseWindow(work_.windows, drawing.FileName(), number)) {
+  if (!isLockedToo) RefuseClosedLayers(drawing, window_);
+  reading_ = ReadEditableWindow(drawing, window_);
+}
+
+PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
+  const WindowParams& record = reading_.params;
+  CatalogueShelf shelf;
+  WindowRequest request;
+  request.unitFactor = work_.unit.perMetre;
+  request.edited = record;
+  request.replaced = window_.entities;
+  request.numbersInUse = &work_.numbers;
+  request.answers = AnswersOf(order, work_.drawing, shelf);
+  request.point = order.at ? std::array{order.at->x, order.at->y}
+                           : std::array{record.storedPoint.x, record.storedPoint.y};
+  const bool moves = NamesPlace(order);
+  if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
+  const RoofChoice roof =
+      moves ? ChooseRoof(order, work_.drawing, work_.faces, work_.tolerance) : RoofUnder(record, work_);
+  PutRoof(roof, request);
+
+  const dxf::EditMark before = work_.drawing.Mark();
+  PlacedWindow edited = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
+  WindowFit fit(work_.faces, work_.tolerance);
+  fit.AddAll(work_.drawing, work_.windows, &window_);
+  edited.misfits = fit.Misfits(edited.record, OutlineOf(edited.record));
+  if (order.isStrict && !edited.misfits.empty()) {
+    work_.drawing.Rollback(before);
+    RefuseMisfits(edited.misfits);
+  }
+  return edited;
+}
+
+}  // namespace teskarlt

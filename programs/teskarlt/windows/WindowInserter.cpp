@@ -1,0 +1,35 @@
+// WindowInserter.cpp - inserts windows into one drawing, one after the other.
+#include "teskarlt/windows/WindowInserter.h"
+
+#include "teskarlt/windows/RoofChoice.h"
+
+namespace teskarlt {
+
+WindowInserter::WindowInserter(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit)
+    : module_(module), work_(drawing, unit), numbers_(work_.numbers), fit_(work_.faces, work_.tolerance) {
+  fit_.AddAll(drawing, work_.windows);
+}
+
+PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
+  WindowRequest request;
+  request.unitFactor = work_.unit.perMetre;
+  request.numbersInUse = &numbers_;
+  request.answers = AnswersOf(order, work_.drawing, shelf_);
+  if (order.at) request.point = {order.at->x, order.at->y};
+  const RoofChoice roof = ChooseRoof(order, work_.drawing, work_.faces, work_.tolerance);
+  PutRoof(roof, request);
+
+  const dxf::EditMark before = work_.drawing.Mark();
+  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof.face);
+  const Outline outline = OutlineOf(window.record);
+  window.misfits = fit_.Misfits(window.record, outline);
+  if (order.isStrict && !window.misfits.empty()) {
+    work_.drawing.Rollback(before);
+    RefuseMisfits(window.misfits);
+  }
+  fit_.Add(window.record.markerValue, outline);
+  numbers_.Take(window.record.markerValue);
+  return window;
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,36 @@
+// WindowOrder.h - what the user wants of a window that is inserted or edited.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "geometry/Vec3.h"
+
+namespace teskarlt {
+
+// A place in the plan, in drawing units.
+struct PlanPoint {
+  double x;
+  double y;
+  std::string text;  // as the user wrote it, for messages
+};
+
+// A value for a field of the record; UTF-8.
+struct FieldSetting {
+  std::string field;
+  std::string value;
+};
+
+// Texts are UTF-8 and empty where the user said nothing.
+struct WindowOrder {
+  std::optional<PlanPoint> at;
+  std::string roofFace;              // by its name; without it the uppermost face at the point is taken
+  std::vector<geometry::Vec3> roof;  // three points of a plane in place of a face, in drawing units; or none
+  std::string window;                // of a catalogue, "MAKER/KEY"
+  std::string catalogue;             // its file or folder; without it the one in the data folder
+  std::vector<FieldSetting> settings;  // of the same field the last one holds
+  bool isStrict = false;               // a window that does not fit is refused
+};
+
+}  // namespace teskarlt

@@ -1,0 +1,108 @@
+// JobsFileTest.cpp - the lines of a jobs file, and the orders in them.
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/windows/JobsFile.h"
+
+namespace teskarlt {
+namespace {
+
+using testing::ElementsAre;
+
+std::string Refusal(std::string_view job) {
+  try {
+    ParseJob(job, {});
+  } catch (const Error& error) {
+    return error.what();
+  }
+  return "";
+}
+
+// The settings of an order, as a command line has them.
+std::vector<std::string> SettingsOf(const WindowOrder& order) {
+  std::vector<std::string> settings;
+  for (const FieldSetting& setting : order.settings)
+    settings.push_back(setting.field + "=" + setting.value);
+  return settings;
+}
+
+TEST(JobsIn, BlankLinesAreCountedAndNotGiven) {
+  const std::vector<Job> jobs = JobsIn("a\n\n \t\nb");
+  ASSERT_EQ(jobs.size(), 2U);
+  EXPECT_EQ(jobs[0].line, 1U);
+  EXPECT_EQ(jobs[0].text, "a");
+  EXPECT_EQ(jobs[1].line, 4U);
+  EXPECT_EQ(jobs[1].text, "b");
+}
+
+TEST(JobsIn, WindowsLineEndsAndByteOrderMarkAreTakenOff) {
+  const std::vector<Job> jobs = JobsIn("\xEF\xBB\xBF{}\r\n\r\n{}\r\n");
+  ASSERT_EQ(jobs.size(), 2U);
+  EXPECT_EQ(jobs[0].text, "{}");
+  EXPECT_EQ(jobs[1].line, 3U);
+  EXPECT_EQ(jobs[1].text, "{}");
+}
+
+TEST(ParseJob, PointKeepsEveryDigit) {
+  const std::optional<PlanPoint> point = ParseJob(R"({"at": [500000.1234567891, -3]})", {}).at;
+  ASSERT_TRUE(point);
+  EXPECT_EQ(point->x, 500000.1234567891);
+  EXPECT_EQ(point->y, -3);
+  EXPECT_EQ(point->text, "500000.1234567891,-3");
+  EXPECT_EQ(ParseJob(R"({"at": "1,2"})", {}).at->y, 2);
+}
+
+TEST(ParseJob, SettingsOfTheJobStandBehindThoseOfTheDefaults) {
+  WindowOrder defaults;
+  defaults.settings = {{"width", "1"}};
+  const WindowOrder order =
+      ParseJob(R"({"set": {"width": 0.78, "bodyAsFaces": false, "text1": "A"}})", defaults);
+  EXPECT_THAT(SettingsOf(order), ElementsAre("width=1", "bodyAsFaces=0", "text1=A", "width=0.78"));
+}
+
+TEST(ParseJob, ListsOfPointsBecomeOneText) {
+  EXPECT_THAT(SettingsOf(ParseJob(R"({"set": {"roofPlanePoints": [[0,0,0],[1,0,0],[0,1,1]]}})", {})),
+              ElementsAre("roofPlanePoints=0,0,0;1,0,0;0,1,1"));
+}
+
+TEST(ParseJob, RoofOfTheJobReplacesThatOfTheDefaults) {
+  WindowOrder defaults;
+  defaults.roofFace = "2F";
+  const WindowOrder plane = ParseJob(R"({"roof": [[0,0,0],[1,0,0],"0,1,2"]})", defaults);
+  ASSERT_EQ(plane.roof.size(), 3U);
+  EXPECT_EQ(plane.roof[2].z, 2);
+  EXPECT_EQ(plane.roofFace, "");
+  const WindowOrder face = ParseJob(R"({"roof-face": "30"})", plane);
+  EXPECT_EQ(face.roofFace, "30");
+  EXPECT_TRUE(face.roof.empty());
+}
+
+TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
+  EXPECT_EQ(Refusal(R"({"at": [1,)"), "this is no JSON: an error at column 11");
+  EXPECT_EQ(Refusal("[1,2]"), "[1,2] is no JSON object");
+  EXPECT_EQ(Refusal(R"({"at": null})"), "at: null is neither a text nor a number");
+  EXPECT_EQ(Refusal(R"({"at": [[1, {}]]})"), "at: {} is neither a text nor a number");
+  EXPECT_EQ(Refusal(R"({"roof": [1, 2]})"), "roof: [1,2] is no list of three points");
+  EXPECT_EQ(Refusal(R"({"window": ""})"), "window: the name is empty");
+  EXPECT_EQ(Refusal(R"({"set": 3})"), R"(set: 3 is no object, as {"width": 0.78} is one)");
+  EXPECT_EQ(Refusal(R"({"at": [1e999, 0]})"), "a number is too large");
+  EXPECT_EQ(Refusal(R"({"place": 1})"),
+            R"(a job has no member "place"; it can have at, roof-face, roof, window, catalogue and set)");
+}
+
+TEST(ParseJob, LongValueIsShownByItsBeginning) {
+  const std::string refusal = Refusal(R"({"set": ")" + std::string(1000000, 'x') + R"("})");
+  EXPECT_LT(refusal.size(), 150U);
+}
+
+TEST(ParseJob, DeeplyNestedListIsRefused) {
+  EXPECT_EQ(Refusal(R"({"at": )" + std::string(100000, '[') + std::string(100000, ']') + "}"),
+            "more than 10 levels of lists and objects");
+}
+
+}  // namespace
+}  // namespace teskarlt

@@ -1,0 +1,67 @@
+// WindowEditorTest.cpp - windows of a drawing that are changed.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/windows/WindowEditor.h"
+#include "tests/teskarlt/windows/Houses.h"
+
+namespace teskarlt {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class WindowEditorTest : public testing::Test {
+ protected:
+  PlacedWindow Edit(const WindowOrder& order) {
+    return WindowEditor(module, drawing, Millimetres(), 1, false).Edit(order);
+  }
+
+  WindowModule module;
+  dxf::Document drawing = HouseWithWindow();
+};
+
+TEST_F(WindowEditorTest, WindowKeepsNumberAndPlace) {
+  WindowOrder order;
+  order.settings = {{"width", "1.14"}};
+  const PlacedWindow window = Edit(order);
+  EXPECT_EQ(window.record.width, 1.14);
+  EXPECT_EQ(window.record.markerValue, 1);
+  EXPECT_NEAR(window.record.storedPoint.x, 4000, 1e-6);
+  EXPECT_THAT(NumbersIn(Reloaded(drawing)), ElementsAre(1));
+}
+
+TEST_F(WindowEditorTest, WindowMovesToThePointOfTheOrder) {
+  const PlacedWindow window = Edit(OrderAt(6000, 3000));
+  EXPECT_NEAR(window.record.storedPoint.x, 6000, 1e-6);
+  EXPECT_NEAR(window.record.storedPoint.z, 3000, 1e-6);
+}
+
+TEST_F(WindowEditorTest, ReadingShowsTheWindowAsItStands) {
+  const WindowEditor editor(module, drawing, Millimetres(), 1, false);
+  EXPECT_NEAR(editor.Reading().params.storedPoint.y, 2000, 1e-6);
+  EXPECT_TRUE(editor.Reading().notes.empty());
+}
+
+TEST_F(WindowEditorTest, RefusedChangeLeavesTheDrawingAsItWas) {
+  const std::string before = drawing.Serialize();
+  WindowOrder order;
+  order.settings = {{"markerValue", "5"}};
+  EXPECT_EQ(RefusalOf([&] { Edit(order); }), "markerValue cannot be changed; the window keeps its number 1");
+  EXPECT_EQ(drawing.Serialize(), before);
+}
+
+TEST_F(WindowEditorTest, MissingNumberIsRefused) {
+  EXPECT_EQ(RefusalOf([&] { WindowEditor(module, drawing, Millimetres(), 7, false); }),
+            "house.dxf has no window 7; teskarlt list shows its windows");
+}
+
+TEST_F(WindowEditorTest, NumberOfACopyIsRefused) {
+  drawing = HouseWithCopy();
+  EXPECT_THAT(RefusalOf([&] { WindowEditor(module, drawing, Millimetres(), 1, false); }),
+              HasSubstr("house.dxf has 2 windows with the number 1"));
+}
+
+}  // namespace
+}  // namespace teskarlt
