@@ -18,7 +18,7 @@ PARTS = {
     "dialog": (BREVANTA + "dialog/", {"window", "inc", "geometry", "platform"}),
     "resources": (BREVANTA + "resources/", {"platform"}),
     "dxf tags": (HOST + "dxf/tags/", {"errors", "platform"}),
-    "dxf read": (HOST + "dxf/read/", {"dxf tags", "errors", "platform"}),
+    "dxf read": (HOST + "dxf/read/", {"dxf tags", "errors", "geometry", "platform"}),
     "dxf write": (HOST + "dxf/write/", {"dxf read", "dxf tags", "errors", "platform"}),
     "dxf": (HOST + "dxf/", {"dxf write", "dxf read", "dxf tags", "errors", "platform"}),
     "drawing": (HOST + "drawing/", {"dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry", "platform"}),

@@ -21,6 +21,7 @@
 #include "teskarlt/check/Windows.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/dxf/read/FileKind.h"
+#include "teskarlt/dxf/read/HeaderValues.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -28,19 +29,17 @@
 namespace teskarlt::check {
 namespace {
 
-constexpr std::string_view VERSION_PREFIX = "AC";
-
 // From R2000 on. Programs do without CLASSES when the drawing holds nothing that needs it.
 constexpr std::string_view REQUIRED_SECTIONS[] = {dxf::SECTION_HEADER, dxf::SECTION_TABLES,
                                                   dxf::SECTION_BLOCKS, dxf::SECTION_OBJECTS};
 
-void TakeVariable(std::string_view name, const dxf::Tag& value, Header& header) {
-  if (name == dxf::VARIABLE_VERSION && value.value.starts_with(VERSION_PREFIX)) {
-    const auto number = dxf::ParseInteger(value.value.substr(VERSION_PREFIX.size()));
-    header.version = std::max(static_cast<int>(number.value_or(dxf::VERSION_R12)), dxf::VERSION_R12);
-    header.saysVersion = true;
+void ReadVariable(std::string_view name, const dxf::Tag& value, Header& header) {
+  if (name == dxf::VARIABLE_VERSION) {
+    const std::optional<int> version = dxf::VersionNumber(value.value);
+    header.version = version.value_or(dxf::VERSION_R12);
+    header.saysVersion = version.has_value();
   } else if (name == dxf::VARIABLE_CODE_PAGE) {
-    header.codePage = dxf::Trimmed(value.value);
+    header.codePage = dxf::CodePageOf(value.value);
   } else if (name == dxf::VARIABLE_HANDLE_SEED) {
     header.handleSeed = value;
   }
@@ -53,7 +52,7 @@ Header ReadHeader(const Object& section) {
     if (tag.code == dxf::CODE_VARIABLE) {
       variable = dxf::Trimmed(tag.value);
     } else if (!variable.empty()) {
-      TakeVariable(variable, tag, header);
+      ReadVariable(variable, tag, header);
       variable = {};
     }
   }
@@ -72,7 +71,7 @@ class Checks {
 
   void Run() {
     for (Object object; walk_.Next(object);)
-      Take(object);
+      CheckObject(object);
     if (walk_.IsDamaged()) return;  // what is missing may only be out of sight
     entities_.Finish();
     handles_.Finish();
@@ -81,21 +80,21 @@ class Checks {
   }
 
  private:
-  void Take(const Object& object) {
+  void CheckObject(const Object& object) {
     if (object.place == Place::Section) {
       sections_.push_back(object.section);
       sectionsEnd_ = object.Begin();
       if (dxf::SameName(object.section, dxf::SECTION_HEADER)) header_ = ReadHeader(object);
     }
     CheckValues(object, findings_);
-    texts_.Take(object);
-    entities_.Take(object);
+    texts_.Check(object);
+    entities_.Check(object);
     CheckLinetype(object, header_, findings_);
     CheckMarkers(object, header_, findings_);
     CheckExtendedData(object, findings_);
     CheckWindowMarks(object, findings_);
-    handles_.Take(object);
-    names_.Take(object);
+    handles_.Check(object);
+    names_.Check(object);
   }
 
   void CheckSections() {

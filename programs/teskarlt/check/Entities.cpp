@@ -19,16 +19,16 @@ std::int64_t IntegerOf(const Object& object, int code) {
 
 }  // namespace
 
-void Entities::Take(const Object& object) {
+void Entities::Check(const Object& object) {
   if (object.place == Place::SectionEnd || object.place == Place::Section) CloseSequence();
   if (object.type != dxf::TYPE_XRECORD) CheckControlGroups(object);
-  if (object.IsEntity()) TakeEntity(object);
+  if (object.IsEntity()) CheckEntity(object);
 }
 
-void Entities::TakeEntity(const Object& object) {
+void Entities::CheckEntity(const Object& object) {
   const std::string_view type = object.type;
   if (dxf::IsPartType(type)) {
-    TakePart(object);
+    CheckPart(object);
   } else {
     CloseSequence();
     if (type == dxf::TYPE_POLYLINE) {
@@ -46,7 +46,7 @@ void Entities::TakeEntity(const Object& object) {
   }
 }
 
-void Entities::TakePart(const Object& object) {
+void Entities::CheckPart(const Object& object) {
   const bool isVertex = object.type == dxf::TYPE_VERTEX;
   const bool isEnd = object.type == dxf::TYPE_SEQUENCE_END;
   if (sequence_.place == nullptr || (!isEnd && isVertex != sequence_.isPolyline)) {
@@ -59,11 +59,11 @@ void Entities::TakePart(const Object& object) {
     CheckFaces();
     sequence_ = {};
   } else if (isVertex && sequence_.isFaceMesh) {
-    TakeVertex(object);
+    AddVertex(object);
   }
 }
 
-void Entities::TakeVertex(const Object& object) {
+void Entities::AddVertex(const Object& object) {
   const std::int64_t flags = IntegerOf(object, dxf::CODE_VERTEX_FLAGS);
   if ((flags & dxf::VERTEX_OF_POLYFACE) == 0 || (flags & dxf::VERTEX_OF_MESH) != 0) {
     ++sequence_.vertices;

@@ -13,7 +13,7 @@ class Entities {
  public:
   explicit Entities(Findings& findings) : findings_(findings) {}
 
-  void Take(const Object& object);
+  void Check(const Object& object);
   // At the end of the drawing.
   void Finish() { CloseSequence(); }
 
@@ -33,9 +33,9 @@ class Entities {
     std::uint64_t handle;
   };
 
-  void TakeEntity(const Object& object);
-  void TakePart(const Object& object);
-  void TakeVertex(const Object& object);
+  void CheckEntity(const Object& object);
+  void CheckPart(const Object& object);
+  void AddVertex(const Object& object);
   void CheckControlGroups(const Object& object);
   void CheckVertexCount(const Object& object);
   void CheckFaces();

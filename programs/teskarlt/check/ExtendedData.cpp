@@ -5,10 +5,11 @@
 
 #include <fmt/format.h>
 
-#include "teskarlt/check/Values.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/ExtendedData.h"
 #include "teskarlt/dxf/tags/Names.h"
-#include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/ValueKind.h"
 
 namespace teskarlt::check {
 namespace {
@@ -17,50 +18,29 @@ using dxf::Quoted;
 using dxf::Tag;
 using dxf::ValueKind;
 
-// Bytes of one entity, over all applications.
-constexpr std::size_t MOST_BYTES = 16383;
-
-// Bytes that a program keeps for a value: its code and what it stands for.
-std::size_t SizeOf(const Tag& tag) {
-  constexpr std::size_t CODE_SIZE = 2;
-  switch (KindOfCode(tag.code)) {
-    case ValueKind::Point:
-    case ValueKind::Real:
-      return (KindOfCode(tag.code) == ValueKind::Point ? CODE_SIZE : 0) + sizeof(double);
-    case ValueKind::Integer16:
-      return CODE_SIZE + sizeof(std::int16_t);
-    case ValueKind::Integer32:
-      return CODE_SIZE + sizeof(std::int32_t);
-    case ValueKind::Handle:
-      return CODE_SIZE + sizeof(std::uint64_t);
-    default:
-      return CODE_SIZE + (tag.code == dxf::CODE_XDATA_BINARY ? tag.value.size() / 2 : tag.value.size() + 1);
-  }
-}
-
 class ExtendedData {
  public:
   ExtendedData(const Object& object, Findings& findings) : object_(object), findings_(findings) {}
 
   void Check() {
     for (const Tag& tag : object_.Extended())
-      Take(tag);
+      CheckTag(tag);
     EndPoint();
     CloseBraces();
-    if (size_ > MOST_BYTES) {
+    if (size_ > dxf::MOST_EXTENDED_DATA) {
       findings_.Error(Kind::ExtendedSize, object_.Extended().front().value.data(),
                       fmt::format("the extended data of the {} takes {} bytes, and programs have room for {}",
-                                  object_.type, size_, MOST_BYTES),
+                                  object_.type, size_, dxf::MOST_EXTENDED_DATA),
                       object_.number);
     }
   }
 
  private:
-  void Take(const Tag& tag) {
-    size_ += SizeOf(tag);
+  void CheckTag(const Tag& tag) {
+    size_ += dxf::ExtendedSize(tag.code, tag.value.size());
     if (tag.code == dxf::CODE_XDATA_APPLICATION) {
       CloseBraces();
-      TakeApplication(tag);
+      BeginApplication(tag);
     } else if (!dxf::IsExtendedData(tag.code)) {
       if (!isOutOfOrder_) {
         Error(Kind::ExtendedOrder, tag,
@@ -75,8 +55,8 @@ class ExtendedData {
       }
       isNameless_ = true;
     }
-    if (tag.code == dxf::CODE_XDATA_BRACE) TakeBrace(tag);
-    TakePoint(tag);
+    if (tag.code == dxf::CODE_XDATA_BRACE) FollowBrace(tag);
+    FollowPoint(tag);
     if (tag.code == dxf::CODE_XDATA_TEXT && tag.value.size() > dxf::LONGEST_EXTENDED_TEXT) {
       Error(Kind::ExtendedTextLength, tag,
             fmt::format("the text {} has {} bytes, and one of extended data at most {}", Quoted(tag.value),
@@ -84,11 +64,11 @@ class ExtendedData {
     }
   }
 
-  void TakeApplication(const Tag& tag) {
+  void BeginApplication(const Tag& tag) {
     const auto extended = object_.Extended();
     // Data without end are an error of their own, and not worth the time.
     const bool isKnown =
-        size_ <= MOST_BYTES && std::any_of(extended.data(), &tag, [&](const Tag& before) {
+        size_ <= dxf::MOST_EXTENDED_DATA && std::any_of(extended.data(), &tag, [&](const Tag& before) {
           return before.code == dxf::CODE_XDATA_APPLICATION && dxf::SameName(before.value, tag.value);
         });
     if (isKnown) {
@@ -100,9 +80,9 @@ class ExtendedData {
   }
 
   // x, y and z of a point follow one another.
-  void TakePoint(const Tag& tag) {
-    constexpr int NEXT_COORDINATE = 10;
-    const bool isPoint = KindOfCode(tag.code) == ValueKind::Point;
+  void FollowPoint(const Tag& tag) {
+    constexpr int NEXT_COORDINATE = dxf::Y_DISTANCE;
+    const bool isPoint = dxf::KindOf(tag.code) == ValueKind::Point;
     if (wanted_ != 0 && tag.code != wanted_) {
       Error(Kind::ExtendedPoint, *point_,
             fmt::format("the group {} of this point should follow, not {}", wanted_, tag.code));
@@ -122,7 +102,7 @@ class ExtendedData {
       Error(Kind::ExtendedPoint, *point_, fmt::format("the group {} of this point is missing", wanted_));
   }
 
-  void TakeBrace(const Tag& tag) {
+  void FollowBrace(const Tag& tag) {
     const std::string_view brace = dxf::Trimmed(tag.value);
     if (brace == "{") {
       if (depth_++ == 0) brace_ = &tag;

@@ -44,9 +44,9 @@ enum class Kind {
   DimensionStyleUndefined,
   BlockUndefined,
   ApplicationUndefined,
-  RecordMissing,
-  RecordTwice,
-  RecordName,
+  EntryMissing,
+  EntryTwice,
+  EntryName,
   LinetypePattern,
   // Handles
   HandleMissing,

@@ -21,20 +21,20 @@ bool HasHandle(Place place) {
 
 }  // namespace
 
-void Handles::Take(const Object& object) {
+void Handles::Check(const Object& object) {
   if (!HasHandle(object.place)) return;
-  TakeHandle(object);
-  if (dxf::NeedsHandles(header_.version)) TakeReferences(object);
+  AddHandle(object);
+  if (dxf::NeedsHandles(header_.version)) AddReferences(object);
 }
 
 Handles::Role Handles::RoleOf(const Object& object) {
   if (object.place == Place::Table) return Role::Table;
   if (object.place == Place::TableEntry)
-    return object.type == dxf::TABLE_BLOCKS ? Role::BlockRecord : Role::Plain;
+    return object.type == dxf::TABLE_BLOCKS ? Role::BlockEntry : Role::Plain;
   return object.type == dxf::TYPE_POLYLINE || object.type == dxf::TYPE_INSERT ? Role::Sequence : Role::Plain;
 }
 
-void Handles::TakeHandle(const Object& object) {
+void Handles::AddHandle(const Object& object) {
   if (object.number != 0) {
     known_.push_back({object.number, object.handle->value.data(), object.type, RoleOf(object)});
   } else if (object.handle != nullptr && dxf::ParseHandle(object.handle->value)) {
@@ -45,7 +45,7 @@ void Handles::TakeHandle(const Object& object) {
   }
 }
 
-void Handles::TakeReferences(const Object& object) {
+void Handles::AddReferences(const Object& object) {
   std::string_view control;  // the {NAME of the control group that is open
   const Tag* owner = nullptr;
   bool isInHead = true;  // before the class markers
@@ -57,14 +57,14 @@ void Handles::TakeReferences(const Object& object) {
     } else if (isInHead && owner == nullptr && tag.code == dxf::CODE_OWNER && control.empty()) {
       owner = &tag;
     } else if (tag.code >= dxf::CODE_OWNER && tag.code <= dxf::CODE_PLOT_STYLE) {
-      TakeReference(object, tag, control);
+      AddReference(object, tag, control);
     }
   }
   if (!dxf::HasOwners(header_.version) || object.place == Place::Table) return;
   const bool isRoot = object.place == Place::Object && !hasRoot_;
   hasRoot_ = hasRoot_ || isRoot;
   if (owner != nullptr) {
-    if (!isRoot) TakeOwner(object, *owner);
+    if (!isRoot) AddOwner(object, *owner);
   } else if (!isRoot) {
     findings_.Error(Kind::OwnerMissing, object.Begin(),
                     fmt::format("the {} does not say to what it belongs (group 330)", object.type),
@@ -78,7 +78,7 @@ Handles::Use Handles::OwnerUse(const Object& object) {
   return dxf::IsPartType(object.type) ? Use::PartOwner : Use::EntityOwner;
 }
 
-void Handles::TakeOwner(const Object& object, const Tag& owner) {
+void Handles::AddOwner(const Object& object, const Tag& owner) {
   if (dxf::ParseHandle(owner.value) != std::uint64_t{0}) {
     Refer(object, owner, OwnerUse(object));
   } else if (object.place != Place::Object) {
@@ -87,7 +87,7 @@ void Handles::TakeOwner(const Object& object, const Tag& owner) {
   }
 }
 
-void Handles::TakeReference(const Object& object, const Tag& tag, std::string_view control) {
+void Handles::AddReference(const Object& object, const Tag& tag, std::string_view control) {
   if (control == dxf::REACTORS_BEGIN) {
     if (tag.code == dxf::CODE_REACTOR) Refer(object, tag, Use::Reactor);
   } else if (control == dxf::EXTENSION_DICTIONARY_BEGIN) {
@@ -162,9 +162,9 @@ void Handles::CheckReference(const Reference& reference) {
 
 void Handles::CheckOwner(const Reference& reference, const Known& owner) {
   std::string_view wanted;
-  if (reference.use == Use::EntityOwner && owner.role != Role::BlockRecord) {
+  if (reference.use == Use::EntityOwner && owner.role != Role::BlockEntry) {
     wanted = "a BLOCK_RECORD";
-  } else if (reference.use == Use::PartOwner && owner.role != Role::BlockRecord &&
+  } else if (reference.use == Use::PartOwner && owner.role != Role::BlockEntry &&
              owner.role != Role::Sequence) {
     wanted = "a POLYLINE, an INSERT or a BLOCK_RECORD";
   } else if (reference.use == Use::EntryOwner && owner.role != Role::Table) {

@@ -15,14 +15,14 @@ class Handles {
   // `header` must outlive this and be filled before the first object.
   Handles(const Header& header, Findings& findings) : header_(header), findings_(findings) {}
 
-  void Take(const Object& object);
+  void Check(const Object& object);
 
   // What can be told only when all objects are known.
   void Finish();
 
  private:
   // What an object can be the owner of, or stand for in a reference.
-  enum class Role : std::uint8_t { Plain, BlockRecord, Sequence, Table };
+  enum class Role : std::uint8_t { Plain, BlockEntry, Sequence, Table };
 
   // What a reference is, and so what it has to lead to.
   enum class Use : std::uint8_t {
@@ -52,10 +52,10 @@ class Handles {
     Use use;
   };
 
-  void TakeHandle(const Object& object);
-  void TakeReferences(const Object& object);
-  void TakeReference(const Object& object, const dxf::Tag& tag, std::string_view control);
-  void TakeOwner(const Object& object, const dxf::Tag& owner);
+  void AddHandle(const Object& object);
+  void AddReferences(const Object& object);
+  void AddReference(const Object& object, const dxf::Tag& tag, std::string_view control);
+  void AddOwner(const Object& object, const dxf::Tag& owner);
   void Refer(const Object& object, const dxf::Tag& tag, Use use);
   static Role RoleOf(const Object& object);
   static Use OwnerUse(const Object& object);

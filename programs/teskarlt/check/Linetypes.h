@@ -1,4 +1,4 @@
-// Linetypes.h - checks the dashes of the records of the table LTYPE.
+// Linetypes.h - checks the dashes of the entries of the table LTYPE.
 #pragma once
 
 #include "teskarlt/check/Findings.h"

@@ -57,7 +57,7 @@ constexpr Expected ENTITIES[] = {
     {"XLINE", {"AcDbXline"}},
 };
 
-constexpr Expected RECORDS[] = {
+constexpr Expected TABLE_ENTRIES[] = {
     {"APPID", {"AcDbRegAppTableRecord"}},      {"BLOCK_RECORD", {"AcDbBlockTableRecord"}},
     {"DIMSTYLE", {"AcDbDimStyleTableRecord"}}, {"LAYER", {"AcDbLayerTableRecord"}},
     {"LTYPE", {"AcDbLinetypeTableRecord"}},    {"STYLE", {"AcDbTextStyleTableRecord"}},
@@ -72,7 +72,7 @@ constexpr Expected OBJECTS[] = {
 };
 
 constexpr std::string_view ENTITY_MARKER = "AcDbEntity";
-constexpr std::string_view RECORD_MARKER = "AcDbSymbolTableRecord";
+constexpr std::string_view TABLE_ENTRY_MARKER = "AcDbSymbolTableRecord";
 constexpr Expected TABLE = {"TABLE", {"AcDbSymbolTable"}};
 
 template <std::size_t SIZE>
@@ -141,8 +141,8 @@ void CheckMarkers(const Object& object, const Header& header, Findings& findings
     expected = Find(ENTITIES, object.type);
     common = ENTITY_MARKER;
   } else if (object.place == Place::TableEntry) {
-    expected = Find(RECORDS, object.type);
-    common = RECORD_MARKER;
+    expected = Find(TABLE_ENTRIES, object.type);
+    common = TABLE_ENTRY_MARKER;
   } else if (object.place == Place::Table) {
     expected = &TABLE;
   } else if (object.place == Place::Object) {

@@ -37,7 +37,7 @@ constexpr SpaceInfo SPACES[] = {
 
 struct Required {
   std::string_view table;
-  std::string_view record;  // empty: the table may be empty
+  std::string_view entry;  // empty: the table may be empty
 };
 
 // From R2000 on.
@@ -62,7 +62,7 @@ constexpr std::size_t LONGEST_NAME = 255;
 constexpr std::string_view FORBIDDEN_IN_NAMES = "<>/\\\":;?*,=`";
 
 // Names that a drawing has whether or not its tables say so. What a version wants in them is told once, as a
-// missing record, and not with every use.
+// missing entry, and not with every use.
 constexpr Required IMPLIED[] = {
     {dxf::TABLE_LAYERS, dxf::DEFAULT_LAYER},
     {dxf::TABLE_LINETYPES, dxf::LINETYPE_BY_LAYER},
@@ -75,7 +75,7 @@ constexpr Required IMPLIED[] = {
 
 bool IsImplied(std::string_view table, std::string_view folded) {
   return std::any_of(std::begin(IMPLIED), std::end(IMPLIED), [&](const Required& implied) {
-    return implied.table == table && SameName(implied.record, folded);
+    return implied.table == table && SameName(implied.entry, folded);
   });
 }
 
@@ -88,7 +88,7 @@ std::string Folded(const dxf::TextCodec& codec, std::string_view raw) {
   }
 }
 
-// Records that the big programs do not count in the head of their table.
+// Entries that the big programs do not count in the head of their table.
 bool IsUncounted(std::string_view name) {
   constexpr std::string_view PAPER_SPACES = dxf::BLOCK_PAPER_SPACE;  // some have a number behind it
   return SameName(name, dxf::LINETYPE_BY_LAYER) || SameName(name, dxf::LINETYPE_BY_BLOCK) ||
@@ -130,56 +130,56 @@ bool HasDimensionStyle(std::string_view type) {
 
 }  // namespace
 
-void Names::Take(const Object& object) {
+void Names::Check(const Object& object) {
   switch (object.place) {
     case Place::SectionEnd:
       if (SameName(object.section, dxf::SECTION_TABLES)) tablesEnd_ = object.Begin();
       break;
     case Place::Table:
-      TakeTable(object);
+      BeginTable(object);
       break;
     case Place::TableEnd:
       if (!tables_.empty()) CheckCount(tables_.back());
       if (!tables_.empty()) tables_.back().end = object.Begin();
       break;
     case Place::TableEntry:
-      TakeRecord(object);
+      AddEntry(object);
       break;
     case Place::BlockEntity:
-      TakeBlockNames(object);
-      TakeEntityNames(object);
+      AddBlock(object);
+      UseEntityNames(object);
       break;
     case Place::Entity:
-      TakeEntityNames(object);
+      UseEntityNames(object);
       break;
     default:
       break;
   }
-  TakeApplications(object);
+  UseApplications(object);
 }
 
-void Names::TakeTable(const Object& object) {
+void Names::BeginTable(const Object& object) {
   const Tag* const count = FindTag(object, dxf::CODE_TABLE_COUNT);
   tables_.push_back({object.table, object.Begin(), count == nullptr ? Tag() : *count});
 }
 
-// The number is the most records there were; only one that is too small can mislead a reader.
+// The number is the most entries there were; only one that is too small can mislead a reader.
 void Names::CheckCount(const Table& table) {
   if (table.count.code == 0) return;
-  if (dxf::ParseInteger(table.count.value).value_or(table.records) >= table.records) return;
+  if (dxf::ParseInteger(table.count.value).value_or(table.entries) >= table.entries) return;
   findings_.Warning(Kind::TableCount, table.count.value.data(),
                     fmt::format("the table {} announces {} records and has {}", Quoted(table.name),
-                                dxf::Trimmed(table.count.value), table.records));
+                                dxf::Trimmed(table.count.value), table.entries));
 }
 
-void Names::TakeRecord(const Object& object) {
+void Names::AddEntry(const Object& object) {
   Table& table = tables_.back();
   const Tag* const name = FindTag(object, dxf::CODE_NAME);
-  if (name == nullptr || !IsUncounted(name->value)) ++table.records;
+  if (name == nullptr || !IsUncounted(name->value)) ++table.entries;
   if (name == nullptr) return;
   for (int i = 0; i < SpaceCount; ++i)
     if (SameName(SPACES[i].table, table.name)) defined_[static_cast<std::size_t>(i)].push_back(name->value);
-  CheckRecordName(object, *name);
+  CheckEntryName(object, *name);
   if (SameName(table.name, dxf::TABLE_LAYERS)) {
     if (const Tag* const linetype = FindTag(object, dxf::CODE_LINETYPE)) Use(Linetype, object, *linetype);
   } else if (SameName(table.name, dxf::TABLE_BLOCKS)) {
@@ -187,27 +187,27 @@ void Names::TakeRecord(const Object& object) {
   }
 }
 
-void Names::CheckRecordName(const Object& object, const Tag& name) {
+void Names::CheckEntryName(const Object& object, const Tag& name) {
   if (!SameName(object.table, dxf::TABLE_LAYERS) && !SameName(object.table, dxf::TABLE_LINETYPES)) return;
   const std::size_t longest = header_.version < dxf::VERSION_R2000 ? LONGEST_OLD_NAME : LONGEST_NAME;
   const bool isForbidden = !IsAllowedName(name.value, header_.version);
   if (!isForbidden && !name.value.empty() && name.value.size() <= longest) return;
   findings_.Warning(
-      Kind::RecordName, name.value.data(),
+      Kind::EntryName, name.value.data(),
       fmt::format("{} {} a name of a {} (group 2)", Quoted(name.value),
                   name.value.size() > longest ? "is too long for" : "is not allowed as", object.type),
       object.number);
 }
 
-void Names::TakeBlockNames(const Object& object) {
+void Names::AddBlock(const Object& object) {
   if (object.type != dxf::TYPE_BLOCK) return;
   const Tag* const name = FindTag(object, dxf::CODE_NAME);
   if (name == nullptr) return;
   defined_[Block].push_back(name->value);
-  if (dxf::NeedsHandles(header_.version)) Use(BlockRecord, object, *name);
+  if (dxf::NeedsHandles(header_.version)) Use(BlockEntry, object, *name);
 }
 
-void Names::TakeEntityNames(const Object& object) {
+void Names::UseEntityNames(const Object& object) {
   const bool hasStyle = HasTextStyle(object.type);
   const bool hasDimensionStyle = HasDimensionStyle(object.type);
   const bool hasBlock = object.type == dxf::TYPE_INSERT || object.type == dxf::TYPE_DIMENSION;
@@ -226,7 +226,7 @@ void Names::TakeEntityNames(const Object& object) {
   }
 }
 
-void Names::TakeApplications(const Object& object) {
+void Names::UseApplications(const Object& object) {
   if (object.type == dxf::TYPE_XRECORD) return;
   for (const Tag& tag : object.Extended())
     if (tag.code == dxf::CODE_XDATA_APPLICATION) Use(Application, object, tag);
@@ -252,7 +252,7 @@ void Names::FoldDefined(Space space, const dxf::TextCodec& codec) {
     // An empty name is that of a shape file, of which there can be many.
     if (isNew || name.empty()) continue;
     findings_.Error(
-        Kind::RecordTwice, name.data(),
+        Kind::EntryTwice, name.data(),
         fmt::format("there is another {} {} before this one", SPACES[space].what, Shown(codec, name)));
   }
 }
@@ -276,20 +276,20 @@ void Names::CheckRequired() {
     const auto table = std::find_if(tables_.begin(), tables_.end(), [&](const Table& candidate) {
       return SameName(candidate.name, required.table);
     });
-    const auto missesRecord = [&](const SpaceInfo& space) {
+    const auto missesEntry = [&](const SpaceInfo& space) {
       return space.table == required.table &&
-             !folded_[static_cast<std::size_t>(&space - SPACES)].contains(dxf::FoldedName(required.record));
+             !folded_[static_cast<std::size_t>(&space - SPACES)].contains(dxf::FoldedName(required.entry));
     };
     if (table == tables_.end()) {
-      // Once, by the first record that it would have.
+      // Once, by the first entry that it would have.
       if (&required == REQUIRED || (&required)[-1].table != required.table) {
         findings_.Error(Kind::TableMissing, tablesEnd_,
                         fmt::format("the table {} is missing", required.table));
       }
-    } else if (!required.record.empty() && std::any_of(std::begin(SPACES), std::end(SPACES), missesRecord)) {
+    } else if (!required.entry.empty() && std::any_of(std::begin(SPACES), std::end(SPACES), missesEntry)) {
       findings_.Error(
-          Kind::RecordMissing, table->end,
-          fmt::format("the record {} is missing in the table {}", Quoted(required.record), required.table));
+          Kind::EntryMissing, table->end,
+          fmt::format("the record {} is missing in the table {}", Quoted(required.entry), required.table));
     }
   }
 }

@@ -21,14 +21,14 @@ class Names {
   // `header` must outlive this and be filled before the first object.
   Names(const Header& header, Findings& findings) : header_(header), findings_(findings) {}
 
-  void Take(const Object& object);
+  void Check(const Object& object);
 
   // What can be told only when all tables are known.
   void Finish();
 
  private:
   // What a name can be of.
-  enum Space { Layer, Linetype, TextStyle, DimensionStyle, Block, BlockRecord, Application, SpaceCount };
+  enum Space { Layer, Linetype, TextStyle, DimensionStyle, Block, BlockEntry, Application, SpaceCount };
 
   struct FirstUse {
     const char* place;
@@ -39,18 +39,18 @@ class Names {
   struct Table {
     std::string_view name;
     const char* end;           // its ENDTAB; while that is not known, its TABLE
-    dxf::Tag count;            // of records, by its head; code 0 when the head does not say
-    std::int64_t records = 0;  // that it has
+    dxf::Tag count;            // of entries, by its head; code 0 when the head does not say
+    std::int64_t entries = 0;  // that it has
   };
 
-  void TakeTable(const Object& object);
-  void TakeRecord(const Object& object);
+  void BeginTable(const Object& object);
+  void AddEntry(const Object& object);
   void CheckCount(const Table& table);
-  void TakeEntityNames(const Object& object);
-  void TakeBlockNames(const Object& object);
-  void TakeApplications(const Object& object);
+  void UseEntityNames(const Object& object);
+  void AddBlock(const Object& object);
+  void UseApplications(const Object& object);
   void Use(Space space, const Object& object, const dxf::Tag& tag);
-  void CheckRecordName(const Object& object, const dxf::Tag& name);
+  void CheckEntryName(const Object& object, const dxf::Tag& name);
 
   void FoldDefined(Space space, const dxf::TextCodec& codec);
   void CheckUses(Space space, const dxf::TextCodec& codec);

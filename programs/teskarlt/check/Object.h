@@ -1,4 +1,4 @@
-// Object.h - one entity, record or object of a drawing as the checks see it.
+// Object.h - one entity, table entry or object of a drawing as the checks see it.
 #pragma once
 
 #include <cstddef>
@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "teskarlt/dxf/read/HeaderValues.h"
 #include "teskarlt/dxf/tags/Tag.h"
 #include "teskarlt/dxf/tags/Version.h"
 
@@ -31,7 +32,7 @@ struct Object {
   std::string_view type;  // "3DFACE"
   Place place = Place::Other;
   std::string_view section;        // "ENTITIES"; empty outside of all
-  std::string_view table;          // of a table, its records and its end
+  std::string_view table;          // of a table, its entries and its end
   std::span<const dxf::Tag> tags;  // the first one holds the type
   std::size_t ownTags = 0;         // number of tags before the extended data
   const dxf::Tag* handle = nullptr;
@@ -47,7 +48,7 @@ struct Object {
 struct Header {
   int version = dxf::VERSION_R12;
   bool saysVersion = false;
-  std::string_view codePage = "ANSI_1252";
+  std::string_view codePage = dxf::DEFAULT_CODE_PAGE;
   dxf::Tag handleSeed;  // code 0 when it is missing
 };
 

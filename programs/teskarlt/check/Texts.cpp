@@ -6,8 +6,9 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/check/Values.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/ValueKind.h"
 
 namespace teskarlt::check {
 namespace {
@@ -49,9 +50,10 @@ bool HasUndefinedBytes(const platform::CodePage& page, std::string_view bytes) {
 
 }  // namespace
 
-void Texts::Take(const Object& object) {
+void Texts::Check(const Object& object) {
   for (const Tag& tag : object.tags) {
-    if (KindOfCode(tag.code) != dxf::ValueKind::Text) continue;
+    const dxf::ValueKind kind = dxf::KindOf(tag.code);
+    if (kind != dxf::ValueKind::Text && kind != dxf::ValueKind::Binary) continue;
     if (!dxf::IsExtendedData(tag.code)) CheckLength(object, tag);
     if (!IsAscii(tag.value)) CheckBytes(object, tag);
   }

@@ -14,7 +14,7 @@ class Texts {
   // `header` must outlive this and be filled before the first text.
   Texts(const Header& header, Findings& findings) : header_(header), findings_(findings) {}
 
-  void Take(const Object& object);
+  void Check(const Object& object);
 
  private:
   void CheckLength(const Object& object, const dxf::Tag& tag);

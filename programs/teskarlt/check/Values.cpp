@@ -2,7 +2,6 @@
 #include "teskarlt/check/Values.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <limits>
 #include <optional>
@@ -11,6 +10,8 @@
 
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/ValueKind.h"
 
 namespace teskarlt::check {
 namespace {
@@ -19,9 +20,6 @@ using dxf::Quoted;
 using dxf::Tag;
 using dxf::ValueKind;
 
-constexpr int LARGEST_CODE = 1071;
-constexpr int CODE_FIRST_BINARY = 310;
-constexpr int CODE_LAST_BINARY = 319;
 // 127 bytes as hexadecimal digits.
 constexpr std::size_t LONGEST_BINARY = 254;
 
@@ -30,12 +28,14 @@ class ObjectValues {
   ObjectValues(const Object& object, Findings& findings) : object_(object), findings_(findings) {}
 
   void Check(const Tag& tag) const {
-    switch (KindOfCode(tag.code)) {
+    switch (dxf::KindOf(tag.code)) {
       case ValueKind::Real:
       case ValueKind::Point:
         CheckReal(tag);
         break;
       case ValueKind::Text:
+        break;
+      case ValueKind::Binary:
         CheckBinary(tag);
         break;
       case ValueKind::Handle:
@@ -86,13 +86,11 @@ class ObjectValues {
   }
 
   void CheckBinary(const Tag& tag) const {
-    const bool isExtended = tag.code == dxf::CODE_XDATA_BINARY;
-    if (!isExtended && (tag.code < CODE_FIRST_BINARY || tag.code > CODE_LAST_BINARY)) return;
     const std::string_view digits = dxf::Trimmed(tag.value);
     if (digits.size() % 2 != 0 || !std::all_of(digits.begin(), digits.end(),
                                                [](unsigned char byte) { return std::isxdigit(byte) != 0; })) {
       Error(Kind::BinaryValue, tag, "is not a binary value in pairs of hexadecimal digits");
-    } else if (isExtended && digits.size() > LONGEST_BINARY) {
+    } else if (dxf::IsExtendedData(tag.code) && digits.size() > LONGEST_BINARY) {
       Error(Kind::BinaryValue, tag,
             fmt::format("has {} hexadecimal digits, and a binary value of extended data has at most {}",
                         digits.size(), LONGEST_BINARY));
@@ -104,16 +102,6 @@ class ObjectValues {
 };
 
 }  // namespace
-
-ValueKind KindOfCode(int code) {
-  static const auto kinds = [] {
-    std::array<ValueKind, LARGEST_CODE + 1> of{};
-    for (int i = 0; i <= LARGEST_CODE; ++i)
-      of[static_cast<std::size_t>(i)] = dxf::KindOf(i);
-    return of;
-  }();
-  return code < 0 || code > LARGEST_CODE ? ValueKind::None : kinds[static_cast<std::size_t>(code)];
-}
 
 void CheckValues(const Object& object, Findings& findings) {
   const ObjectValues values(object, findings);

@@ -3,12 +3,8 @@
 
 #include "teskarlt/check/Findings.h"
 #include "teskarlt/check/Object.h"
-#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt::check {
-
-// As dxf::KindOf, by a table: a town is some twenty million values.
-dxf::ValueKind KindOfCode(int code);
 
 void CheckValues(const Object& object, Findings& findings);
 

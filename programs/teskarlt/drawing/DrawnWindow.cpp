@@ -11,6 +11,8 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "window/Choices.h"
 #include "window/Parts.h"
@@ -21,13 +23,6 @@ namespace {
 
 using brevanta::RecordPoint;
 using brevanta::WindowParams;
-
-constexpr int XDATA_POINT = 1011;
-constexpr int XDATA_REAL = 1040;
-constexpr int XDATA_DISTANCE = 1041;
-constexpr int XDATA_SCALE = 1042;
-constexpr int XDATA_SHORT = 1070;
-constexpr int XDATA_LONG = 1071;
 
 // The items of the description, by kind and in their order. What cannot be read stands as 0 and marks the
 // description as damaged: a drawing stays usable when one of its windows is not.
@@ -70,25 +65,25 @@ void TakeDescription(const dxf::Document& drawing, const dxf::Tag& tag, Descript
     case dxf::CODE_XDATA_TEXT:
       to.texts.push_back(drawing.Text(tag));
       break;
-    case XDATA_SHORT:
+    case dxf::CODE_XDATA_INTEGER16:
       to.shorts.push_back(IntegerOf(tag, to));
       break;
-    case XDATA_REAL:
+    case dxf::CODE_XDATA_REAL:
       to.reals.push_back(RealOf(tag, to));
       break;
-    case XDATA_DISTANCE:
+    case dxf::CODE_XDATA_DISTANCE:
       to.distances.push_back(RealOf(tag, to));
       break;
-    case XDATA_SCALE:
+    case dxf::CODE_XDATA_SCALE:
       to.scales.push_back(RealOf(tag, to));
       break;
-    case XDATA_POINT:
+    case dxf::CODE_XDATA_WORLD_POINT:
       to.points.push_back({RealOf(tag, to), 0, 0});
       break;
-    case XDATA_POINT + 10:
+    case dxf::CODE_XDATA_WORLD_POINT + dxf::Y_DISTANCE:
       if (!to.points.empty()) to.points.back().y = RealOf(tag, to);
       break;
-    case XDATA_POINT + 20:
+    case dxf::CODE_XDATA_WORLD_POINT + dxf::Z_DISTANCE:
       if (!to.points.empty()) to.points.back().z = RealOf(tag, to);
       break;
     default:
@@ -109,7 +104,7 @@ void TakeTag(const dxf::Document& drawing, const dxf::Tag& tag, Section& section
              dxf::Trimmed(tag.value) == brevanta::WINDOW_ELEMENT) {
     section = Section::WindowElement;
     marks.isWindow = true;
-  } else if (section == Section::WindowElement && tag.code == XDATA_LONG) {
+  } else if (section == Section::WindowElement && tag.code == dxf::CODE_XDATA_INTEGER32) {
     marks.number = IntegerOf(tag, marks.description);
     marks.numberTag = tag;
   } else if (section == Section::Description) {
@@ -173,7 +168,7 @@ void TakeComplete(const Description& d, double unitFactor, DrawnWindow& window) 
 }
 
 bool IsFace(const dxf::Entity& entity) {
-  return dxf::SameName(entity.type, "3DFACE");
+  return dxf::SameName(entity.type, dxf::TYPE_FACE);
 }
 
 // How many windows the entities are, each with the types of the first one in their order; 1 when they are no
@@ -215,7 +210,7 @@ DrawnWindow MakeWindow(const Marks& marks, std::int32_t unitFactor) {
 }  // namespace
 
 bool CanBePart(std::string_view type) {
-  return dxf::SameName(type, "LINE") || dxf::SameName(type, "3DFACE");
+  return dxf::SameName(type, dxf::TYPE_LINE) || dxf::SameName(type, dxf::TYPE_FACE);
 }
 
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {

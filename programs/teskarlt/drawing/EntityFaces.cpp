@@ -1,6 +1,7 @@
 // EntityFaces.cpp - reads the faces of 3D faces, meshes and closed 3D polylines.
 #include "teskarlt/drawing/EntityFaces.h"
 
+#include <array>
 #include <cstdlib>
 
 #include "teskarlt/dxf/tags/Codes.h"
@@ -13,44 +14,35 @@ namespace {
 
 using geometry::Vec3;
 
-constexpr std::uint32_t ALL_EDGES = 15;  // of a 3D face: group 70 hides edge k by its bit k
+constexpr std::size_t MOST_CORNERS = 4;
+constexpr std::uint32_t ALL_EDGES = 15;  // of a 3D face, whose flags hide edge k by bit k
 
 // The numbers of one entity or vertex that faces are made of.
 struct Shape {
-  std::string layer;
-  std::vector<Vec3> points = std::vector<Vec3>(4);  // groups 10 to 13
-  bool isGiven[4] = {false, false, false, false};   // which of the points
-  std::int64_t flags = 0;                           // group 70
-  std::int64_t count[4] = {0, 0, 0, 0};             // groups 71 to 74
+  std::array<Vec3, MOST_CORNERS> points{};
+  std::array<bool, MOST_CORNERS> isGiven{};          // which of the points
+  std::int64_t flags = 0;                            // of the face, polyline or vertex
+  std::array<std::int64_t, MOST_CORNERS> numbers{};  // of a face's vertices, or a mesh's rows and columns
 };
 
-void TakeTag(const dxf::Document& drawing, const dxf::TagReader& reader, const dxf::Tag& tag, Shape& shape) {
-  const int code = tag.code;
-  if (code >= 10 && code <= 39 && code % 10 <= 3) {
-    Vec3& point = shape.points[static_cast<std::size_t>(code % 10)];
-    (code < 20 ? point.x : code < 30 ? point.y : point.z) = reader.Real(tag);
-    shape.isGiven[code % 10] = true;
-  } else if (code == 70) {
-    shape.flags = reader.Integer(tag);
-  } else if (code >= 71 && code <= 74) {
-    shape.count[code - 71] = reader.Integer(tag);
-  } else if (code == dxf::CODE_LAYER) {
-    shape.layer = drawing.Text(tag);
+Shape ShapeOf(const dxf::TagList& tags) {
+  Shape shape;
+  for (std::size_t i = 0; i < MOST_CORNERS; ++i) {
+    const int step = static_cast<int>(i);
+    shape.points[i] = tags.Point(dxf::CODE_FIRST_CORNER + step);
+    shape.isGiven[i] = tags.HasPoint(dxf::CODE_FIRST_CORNER + step);
+    shape.numbers[i] = tags.Integer(dxf::CODE_FIRST_FACE_VERTEX + step);
   }
+  shape.flags = tags.Integer(dxf::CODE_FLAGS);
+  return shape;
 }
 
 // The shapes of an entity: its own and, behind it, those of its vertices.
-std::vector<Shape> ReadShapes(const dxf::Document& drawing, const dxf::Entity& entity) {
+std::vector<Shape> ShapesOf(const std::vector<dxf::TagList>& lists) {
   std::vector<Shape> shapes;
-  dxf::TagReader reader = drawing.Reader(entity);
-  bool isShape = true;
-  for (dxf::Tag tag; reader.Next(tag);) {
-    if (tag.code == dxf::CODE_TYPE) {
-      isShape = shapes.empty() || dxf::SameName(dxf::Trimmed(tag.value), dxf::TYPE_VERTEX);
-      if (isShape) shapes.emplace_back();
-    } else if (isShape && !dxf::IsExtendedData(tag.code)) {
-      TakeTag(drawing, reader, tag, shapes.back());
-    }
+  for (const dxf::TagList& tags : lists) {
+    const bool isShape = shapes.empty() || dxf::SameName(tags.Type(), dxf::TYPE_VERTEX);
+    if (isShape) shapes.push_back(ShapeOf(tags));
   }
   return shapes;
 }
@@ -68,7 +60,7 @@ std::vector<FaceCorners> FacesOf3dFace(const Shape& face) {
 FaceCorners CornersOfMeshFace(const Shape& shape, const std::vector<Vec3>& vertices) {
   const auto count = static_cast<std::int64_t>(vertices.size());
   FaceCorners face;
-  for (const std::int64_t number : shape.count) {
+  for (const std::int64_t number : shape.numbers) {
     if (number == 0) continue;
     if (number < -count || number > count) return {};
     if (number < 0) face.hiddenEdges |= 1U << face.corners.size();
@@ -94,8 +86,8 @@ std::vector<FaceCorners> FacesOfPolyface(const std::vector<Shape>& shapes) {
 
 std::vector<FaceCorners> FacesOfPolygonMesh(const std::vector<Shape>& shapes) {
   const std::int64_t flags = shapes[0].flags;
-  const std::int64_t rows = shapes[0].count[0];
-  const std::int64_t columns = shapes[0].count[1];
+  const std::int64_t rows = shapes[0].numbers[dxf::CODE_MESH_ROWS - dxf::CODE_FIRST_FACE_VERTEX];
+  const std::int64_t columns = shapes[0].numbers[dxf::CODE_MESH_COLUMNS - dxf::CODE_FIRST_FACE_VERTEX];
   std::vector<Vec3> vertices;
   for (std::size_t i = 1; i < shapes.size(); ++i) {
     if ((shapes[i].flags & dxf::VERTEX_SPLINE_FRAME) == 0) vertices.push_back(shapes[i].points[0]);
@@ -130,15 +122,17 @@ std::vector<FaceCorners> FacesOfPolyline(const std::vector<Shape>& shapes) {
 EntityFaces FacesOf(const dxf::Document& drawing, const dxf::Entity& entity) {
   const bool isFace = dxf::SameName(entity.type, dxf::TYPE_FACE);
   if (!isFace && !dxf::SameName(entity.type, dxf::TYPE_POLYLINE)) return {};
-  const std::vector<Shape> shapes = ReadShapes(drawing, entity);
+  const std::vector<dxf::TagList> lists = drawing.TagLists(entity.text);
+  const std::string layer = lists[0].Text(dxf::CODE_LAYER);
+  const std::vector<Shape> shapes = ShapesOf(lists);
   const Shape& own = shapes[0];
-  if (isFace) return {"3DFACE", own.layer, FacesOf3dFace(own)};
+  if (isFace) return {"3DFACE", layer, FacesOf3dFace(own)};
   if ((own.flags & dxf::POLYLINE_POLYFACE_MESH) != 0)
-    return {"POLYFACE MESH", own.layer, FacesOfPolyface(shapes)};
+    return {"POLYFACE MESH", layer, FacesOfPolyface(shapes)};
   if ((own.flags & dxf::POLYLINE_POLYGON_MESH) != 0)
-    return {"POLYGON MESH", own.layer, FacesOfPolygonMesh(shapes)};
+    return {"POLYGON MESH", layer, FacesOfPolygonMesh(shapes)};
   const bool closed3d = (own.flags & dxf::POLYLINE_3D) != 0 && (own.flags & dxf::POLYLINE_CLOSED) != 0;
-  if (closed3d) return {"3D POLYLINE", own.layer, FacesOfPolyline(shapes)};
+  if (closed3d) return {"3D POLYLINE", layer, FacesOfPolyline(shapes)};
   return {};
 }
 

@@ -11,6 +11,8 @@
 #include "geometry/Matrix4.h"
 #include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "window/Choices.h"
 #include "window/Parts.h"
@@ -26,16 +28,11 @@ constexpr double SAME_PLACE = 1e-3;      // metres; parts that are farther apart
 constexpr double SAME_DIRECTION = 1e-4;  // sine of the angle
 constexpr double STEEPEST = 1e-6;        // least upward part of a roof's normal
 
-// The points 10 to 13 of an entity, those that are missing at the origin.
+// The ends of a line, or the corners of a face; those that are missing lie at the origin.
 Corners PointsOf(const dxf::Document& drawing, const dxf::Entity& entity) {
-  Corners points{};
-  dxf::TagReader reader = drawing.Reader(entity);
-  for (dxf::Tag tag; reader.Next(tag) && tag.code < dxf::CODE_XDATA_TEXT;) {
-    if (tag.code < 10 || tag.code > 39 || tag.code % 10 > 3) continue;
-    Vec3& point = points[static_cast<std::size_t>(tag.code % 10)];
-    (tag.code < 20 ? point.x : tag.code < 30 ? point.y : point.z) = reader.Real(tag);
-  }
-  return points;
+  const dxf::TagList tags = drawing.TagLists(entity.text).front();
+  return {tags.Point(dxf::CODE_FIRST_CORNER), tags.Point(dxf::CODE_SECOND_CORNER),
+          tags.Point(dxf::CODE_THIRD_CORNER), tags.Point(dxf::CODE_FOURTH_CORNER)};
 }
 
 // Reads the shape of one window.
@@ -44,7 +41,7 @@ class ShapeReader {
   ShapeReader(const dxf::Document& drawing, const DrawnWindow& window)
       : window_(window), tolerance_(SAME_PLACE * window.params.unitFactor) {
     for (const dxf::Entity* entity : window.entities)
-      (dxf::SameName(entity->type, "LINE") ? lines_ : faces_).push_back(PointsOf(drawing, *entity));
+      (dxf::SameName(entity->type, dxf::TYPE_LINE) ? lines_ : faces_).push_back(PointsOf(drawing, *entity));
     skirtFaces_ = faces_.size() == brevanta::FACES_WITH_SKIRT ? brevanta::FACES_OF_SKIRT : 0;
   }
 

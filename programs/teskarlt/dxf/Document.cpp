@@ -10,6 +10,7 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/read/HeaderValues.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
@@ -19,26 +20,11 @@
 namespace teskarlt::dxf {
 namespace {
 
-constexpr std::string_view DEFAULT_CODE_PAGE = "ANSI_1252";
-constexpr std::string_view VERSION_PREFIX = "AC";
 constexpr std::int64_t MEASUREMENT_METRIC = 1;
 
 std::string_view VariableText(const Index& index, std::string_view name) {
   const HeaderVariable* const variable = index.FindVariable(name);
   return variable == nullptr ? std::string_view() : Trimmed(variable->value.value);
-}
-
-// Versions before R12 have names with a point; their rules are those of R12.
-int VersionOf(const Index& index) {
-  std::string_view name = VariableText(index, VARIABLE_VERSION);
-  if (!name.starts_with(VERSION_PREFIX)) return VERSION_R12;
-  name.remove_prefix(VERSION_PREFIX.size());
-  return std::max(static_cast<int>(ParseInteger(name).value_or(VERSION_R12)), VERSION_R12);
-}
-
-std::string_view CodePageOf(const Index& index) {
-  const std::string_view name = VariableText(index, VARIABLE_CODE_PAGE);
-  return name.empty() ? DEFAULT_CODE_PAGE : name;
 }
 
 std::string_view LineEndOf(std::string_view text) {
@@ -76,7 +62,7 @@ bool IsSameFile(const std::string& a, const std::string& b) {
 
 Rules RulesOf(const SourceText& source, const Index& index) {
   Rules rules;
-  rules.version = VersionOf(index);
+  rules.version = VersionNumber(VariableText(index, VARIABLE_VERSION)).value_or(VERSION_R12);
   rules.lineEnd = LineEndOf(source.Text());
   rules.units = UnitsOf(ParseInteger(VariableText(index, VARIABLE_UNITS)).value_or(0));
   rules.isMetric = ParseInteger(VariableText(index, VARIABLE_MEASUREMENT)).value_or(MEASUREMENT_METRIC) ==
@@ -93,7 +79,8 @@ struct Document::State {
         file(stateOfFile),
         index(BuildIndex(source)),
         rules(RulesOf(source, index)),
-        codec(source.Name(), std::string(CodePageOf(index)), HasUtf8(source, index, rules.version)),
+        codec(source.Name(), std::string(CodePageOf(VariableText(index, VARIABLE_CODE_PAGE))),
+              HasUtf8(source, index, rules.version)),
         edits(source, index, codec, rules) {}
 
   SourceText source;
@@ -138,7 +125,7 @@ int Document::Version() const {
 }
 
 std::string_view Document::CodePageName() const {
-  return CodePageOf(state_->index);
+  return CodePageOf(VariableText(state_->index, VARIABLE_CODE_PAGE));
 }
 
 int Document::Units() const {
@@ -178,8 +165,16 @@ TagReader Document::Reader(const Entity& entity) const {
   return {state_->source, entity.text};
 }
 
+std::vector<TagList> Document::TagLists(std::string_view range) const {
+  return ReadTagLists(state_->source, state_->codec, range);
+}
+
 std::size_t Document::PaperSpaceEntities() const {
   return state_->index.paperSpaceEntities;
+}
+
+Layers Document::ReadLayers() const {
+  return Layers(TagLists(SectionText(SECTION_TABLES)));
 }
 
 bool Document::HasLayer(std::string_view name) const {

@@ -8,8 +8,11 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "teskarlt/dxf/read/Index.h"
+#include "teskarlt/dxf/read/Layers.h"
+#include "teskarlt/dxf/read/TagList.h"
 #include "teskarlt/dxf/read/TagReader.h"
 #include "teskarlt/dxf/tags/SourceText.h"
 #include "teskarlt/dxf/tags/TypedTag.h"
@@ -59,9 +62,13 @@ class Document {
   // The first entity of the model space with this handle; null when there is none.
   const Entity* FindEntity(std::uint64_t handle) const;
   TagReader Reader(const Entity& entity) const;
+  // The tags of an entity and of its vertices or attributes, or whatever else the range of the file holds.
+  std::vector<TagList> TagLists(std::string_view range) const;
   // Number of entities that are not in the model space but in paper space.
   std::size_t PaperSpaceEntities() const;
 
+  // The table of layers.
+  Layers ReadLayers() const;
   // `name` in bytes of the drawing's code page.
   bool HasLayer(std::string_view name) const;
 

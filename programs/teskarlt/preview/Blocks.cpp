@@ -54,7 +54,7 @@ Blocks ReadBlocks(const dxf::Document& drawing) {
     const std::string_view type = dxf::Trimmed(tag.value);
     if (dxf::IsPartType(type)) continue;
     if (entity.type == dxf::TYPE_BLOCK) {
-      const Record head = ReadRecords(drawing, Between(begin, reader.TagBegin())).front();
+      const dxf::TagList head = drawing.TagLists(Between(begin, reader.TagBegin())).front();
       block = &blocks[dxf::FoldedName(head.Text(dxf::CODE_NAME))];
       block->base = head.Point(dxf::CODE_BLOCK_BASE);
       entity = {};
@@ -68,7 +68,7 @@ Blocks ReadBlocks(const dxf::Document& drawing) {
   return blocks;
 }
 
-std::vector<Matrix4> InsertMatrices(const Record& insert, const Vec3& base) {
+std::vector<Matrix4> InsertMatrices(const dxf::TagList& insert, const Vec3& base) {
   Matrix4 turn{};
   geometry::MatRotationZ(geometry::DegToRad(insert.Real(dxf::CODE_INSERT_ROTATION)), turn);
   Matrix4 scale{};

@@ -7,7 +7,7 @@
 
 #include "geometry/Matrix4.h"
 #include "teskarlt/dxf/Document.h"
-#include "teskarlt/preview/Record.h"
+#include "teskarlt/dxf/read/TagList.h"
 
 namespace teskarlt::preview {
 
@@ -21,6 +21,6 @@ using Blocks = std::unordered_map<std::string, Block>;
 Blocks ReadBlocks(const dxf::Document& drawing);
 
 // From the block's coordinates to those around the INSERT: one matrix for each row and column of its array.
-std::vector<geometry::Matrix4> InsertMatrices(const Record& insert, const geometry::Vec3& base);
+std::vector<geometry::Matrix4> InsertMatrices(const dxf::TagList& insert, const geometry::Vec3& base);
 
 }  // namespace teskarlt::preview

@@ -6,6 +6,8 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/dxf/tags/Codes.h"
+
 namespace teskarlt::preview {
 
 namespace {
@@ -50,7 +52,7 @@ double Luma(const Colour& colour) {
 }  // namespace
 
 Colour ColourOfNumber(std::int64_t number) {
-  if (number < 1 || number > 255) return NAMED[COLOUR_WHITE];
+  if (number < 1 || number > 255) return NAMED[dxf::COLOUR_WHITE];
   if (number < FIRST_HUE) return NAMED[static_cast<std::size_t>(number)];
   if (number >= FIRST_GREY) {
     const auto grey = static_cast<std::uint8_t>(GREYS[static_cast<std::size_t>(number - FIRST_GREY)]);

@@ -14,11 +14,6 @@ struct Colour {
   bool operator==(const Colour&) const = default;
 };
 
-// Colour numbers of drawings (group 62).
-constexpr int COLOUR_BY_BLOCK = 0;
-constexpr int COLOUR_WHITE = 7;
-constexpr int COLOUR_BY_LAYER = 256;
-
 // The colour with a number from 1 to 255; that of number 7 for any other. 10 to 249 are 24 hues in ten
 // shades each, 250 to 255 greys.
 Colour ColourOfNumber(std::int64_t number);

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "geometry/Trigonometry.h"
+#include "geometry/Vectors.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -25,8 +26,8 @@ std::size_t StepsOf(double angle) {
   return static_cast<std::size_t>(std::clamp(std::ceil(std::abs(angle) / ARC_STEP), 1.0, MOST_STEPS));
 }
 
-CurvePoints Placed(const Record& record, CurvePoints points) {
-  const Matrix4 matrix = ObjectToDrawing(record.Point(dxf::CODE_EXTRUSION, UPWARDS));
+CurvePoints Placed(const dxf::TagList& entity, CurvePoints points) {
+  const Matrix4 matrix = ObjectToDrawing(entity.Point(dxf::CODE_EXTRUSION, UPWARDS));
   for (Vec3& point : points)
     geometry::MatTransformPoint(matrix, point, point);
   return points;
@@ -46,25 +47,24 @@ CurvePoints Sweep(const Vec3& centre, const Vec3& a, const Vec3& b, double start
   return points;
 }
 
-CurvePoints Circle(const Record& record, bool isArc) {
-  const Vec3 centre = record.Point(dxf::CODE_CIRCLE_CENTRE);
-  const double radius = record.Real(dxf::CODE_CIRCLE_RADIUS);
-  const double start = isArc ? geometry::DegToRad(record.Real(dxf::CODE_ARC_START)) : 0.0;
-  double angle = isArc ? geometry::DegToRad(record.Real(dxf::CODE_ARC_END)) - start : geometry::TWO_PI;
+CurvePoints Circle(const dxf::TagList& entity, bool isArc) {
+  const Vec3 centre = entity.Point(dxf::CODE_CIRCLE_CENTRE);
+  const double radius = entity.Real(dxf::CODE_CIRCLE_RADIUS);
+  const double start = isArc ? geometry::DegToRad(entity.Real(dxf::CODE_ARC_START)) : 0.0;
+  double angle = isArc ? geometry::DegToRad(entity.Real(dxf::CODE_ARC_END)) - start : geometry::TWO_PI;
   if (isArc) angle = std::fmod(angle, geometry::TWO_PI);
   if (angle <= 0) angle += geometry::TWO_PI;
-  return Placed(record, Sweep(centre, {radius, 0, 0}, {0, radius, 0}, start, angle));
+  return Placed(entity, Sweep(centre, {radius, 0, 0}, {0, radius, 0}, start, angle));
 }
 
-CurvePoints Ellipse(const Record& record) {
-  const Vec3 major = record.Point(dxf::CODE_ELLIPSE_MAJOR_AXIS);
-  Vec3 minor{};
-  geometry::VecCross(record.Point(dxf::CODE_EXTRUSION, UPWARDS), major, minor);
-  geometry::VecScale(minor, record.Real(dxf::CODE_ELLIPSE_RATIO, 1.0), minor);
-  const double start = record.Real(dxf::CODE_ELLIPSE_START);
-  double angle = record.Real(dxf::CODE_ELLIPSE_END, geometry::TWO_PI) - start;
+CurvePoints Ellipse(const dxf::TagList& entity) {
+  const Vec3 major = entity.Point(dxf::CODE_ELLIPSE_MAJOR_AXIS);
+  const Vec3 minor = geometry::Scaled(geometry::Cross(entity.Point(dxf::CODE_EXTRUSION, UPWARDS), major),
+                                      entity.Real(dxf::CODE_ELLIPSE_RATIO, 1.0));
+  const double start = entity.Real(dxf::CODE_ELLIPSE_START);
+  double angle = entity.Real(dxf::CODE_ELLIPSE_END, geometry::TWO_PI) - start;
   if (angle <= 0) angle += geometry::TWO_PI;
-  return Sweep(record.Point(dxf::CODE_ELLIPSE_CENTRE), major, minor, start, angle);
+  return Sweep(entity.Point(dxf::CODE_ELLIPSE_CENTRE), major, minor, start, angle);
 }
 
 // A vertex of a polyline in a plane; `bulge` is the tangent
@@ -93,31 +93,31 @@ CurvePoints WithBulges(const std::vector<BulgeVertex>& vertices, bool isClosed) 
   return points;
 }
 
-CurvePoints LightPolyline(const Record& record) {
+CurvePoints LightPolyline(const dxf::TagList& entity) {
   std::vector<BulgeVertex> vertices;
-  const double elevation = record.Real(dxf::CODE_ELEVATION);
-  for (const dxf::Tag& tag : record.Tags()) {
+  const double elevation = entity.Real(dxf::CODE_ELEVATION);
+  for (const dxf::Tag& tag : entity.Tags()) {
     if (tag.code == dxf::CODE_VERTEX_POINT) {
-      vertices.push_back({{record.RealOf(tag), 0, elevation}, 0});
+      vertices.push_back({{entity.RealOf(tag), 0, elevation}, 0});
     } else if (!vertices.empty() && tag.code == dxf::CODE_VERTEX_POINT + dxf::Y_DISTANCE) {
-      vertices.back().point.y = record.RealOf(tag);
+      vertices.back().point.y = entity.RealOf(tag);
     } else if (!vertices.empty() && tag.code == dxf::CODE_BULGE) {
-      vertices.back().bulge = record.RealOf(tag);
+      vertices.back().bulge = entity.RealOf(tag);
     }
   }
   if (vertices.empty()) return {};
-  return Placed(record,
-                WithBulges(vertices, (record.Integer(dxf::CODE_POLYLINE_FLAGS) & dxf::POLYLINE_CLOSED) != 0));
+  return Placed(entity,
+                WithBulges(vertices, (entity.Integer(dxf::CODE_POLYLINE_FLAGS) & dxf::POLYLINE_CLOSED) != 0));
 }
 
-CurvePoints Polyline(const std::vector<Record>& records) {
-  const Record& own = records[0];
+CurvePoints Polyline(const std::vector<dxf::TagList>& lists) {
+  const dxf::TagList& own = lists[0];
   const std::int64_t flags = own.Integer(dxf::CODE_POLYLINE_FLAGS);
   const bool is3d = (flags & dxf::POLYLINE_3D) != 0;
   const double elevation = own.Real(dxf::CODE_POLYLINE_ELEVATION);
   std::vector<BulgeVertex> vertices;
-  for (std::size_t i = 1; i < records.size(); ++i) {
-    const Record& vertex = records[i];
+  for (std::size_t i = 1; i < lists.size(); ++i) {
+    const dxf::TagList& vertex = lists[i];
     if (!dxf::SameName(vertex.Type(), dxf::TYPE_VERTEX) ||
         (vertex.Integer(dxf::CODE_VERTEX_FLAGS) & dxf::VERTEX_SPLINE_FRAME) != 0)
       continue;
@@ -154,15 +154,15 @@ Vec3 SplinePoint(const std::vector<Weighted>& controls, const std::vector<double
   return {p.x / p.w, p.y / p.w, p.z / p.w};
 }
 
-CurvePoints Spline(const Record& record) {
+CurvePoints Spline(const dxf::TagList& entity) {
   constexpr std::size_t stepsASpan = 12;
   const auto degree =
-      static_cast<std::size_t>(std::clamp<std::int64_t>(record.Integer(dxf::CODE_SPLINE_DEGREE, 3), 1, 25));
-  const CurvePoints points = record.Points(dxf::CODE_SPLINE_CONTROL_POINT);
-  const std::vector<double> knots = record.Reals(dxf::CODE_SPLINE_KNOT);
-  const std::vector<double> weights = record.Reals(dxf::CODE_SPLINE_WEIGHT);
+      static_cast<std::size_t>(std::clamp<std::int64_t>(entity.Integer(dxf::CODE_SPLINE_DEGREE, 3), 1, 25));
+  const CurvePoints points = entity.Points(dxf::CODE_SPLINE_CONTROL_POINT);
+  const std::vector<double> knots = entity.Reals(dxf::CODE_SPLINE_KNOT);
+  const std::vector<double> weights = entity.Reals(dxf::CODE_SPLINE_WEIGHT);
   if (points.size() <= degree || knots.size() != points.size() + degree + 1)
-    return record.Points(dxf::CODE_SPLINE_FIT_POINT);
+    return entity.Points(dxf::CODE_SPLINE_FIT_POINT);
   std::vector<Weighted> controls;
   for (std::size_t i = 0; i < points.size(); ++i) {
     const double w = weights.size() == points.size() && weights[i] > 0 ? weights[i] : 1.0;
@@ -185,16 +185,14 @@ CurvePoints Spline(const Record& record) {
 Matrix4 ObjectToDrawing(const Vec3& extrusion) {
   Matrix4 matrix{};
   geometry::MatIdentity(matrix);
-  const double length = std::sqrt(geometry::VecDot(extrusion, extrusion));
+  const double length = geometry::VecLength(extrusion);
   if (!(length > 0)) return matrix;
   const Vec3 z = {extrusion.x / length, extrusion.y / length, extrusion.z / length};
   constexpr double closeToZ = 1.0 / 64;
   const bool isCloseToZ = std::abs(z.x) < closeToZ && std::abs(z.y) < closeToZ;
-  Vec3 x{};
-  Vec3 y{};
-  geometry::VecCross(isCloseToZ ? Vec3{0, 1, 0} : UPWARDS, z, x);
-  geometry::VecScale(x, 1 / std::sqrt(geometry::VecDot(x, x)), x);
-  geometry::VecCross(z, x, y);
+  const Vec3 across = geometry::Cross(isCloseToZ ? Vec3{0, 1, 0} : UPWARDS, z);
+  const Vec3 x = geometry::Scaled(across, 1 / geometry::VecLength(across));
+  const Vec3 y = geometry::Cross(z, x);
   const Vec3* const axes[3] = {&x, &y, &z};
   for (int column = 0; column < 3; ++column) {
     matrix.m[0][column] = axes[column]->x;
@@ -204,13 +202,13 @@ Matrix4 ObjectToDrawing(const Vec3& extrusion) {
   return matrix;
 }
 
-std::optional<CurvePoints> PointsOf(const std::vector<Record>& records) {
-  const Record& own = records[0];
+std::optional<CurvePoints> PointsOf(const std::vector<dxf::TagList>& lists) {
+  const dxf::TagList& own = lists[0];
   const auto is = [&](std::string_view type) { return dxf::SameName(own.Type(), type); };
   if (is(dxf::TYPE_LINE)) return CurvePoints{own.Point(dxf::CODE_LINE_START), own.Point(dxf::CODE_LINE_END)};
   if (is(dxf::TYPE_LWPOLYLINE)) return LightPolyline(own);
   if (is(dxf::TYPE_POLYLINE) && (own.Integer(dxf::CODE_POLYLINE_FLAGS) & POLYLINE_MESHES) == 0)
-    return Polyline(records);
+    return Polyline(lists);
   if (is(dxf::TYPE_CIRCLE)) return Circle(own, false);
   if (is(dxf::TYPE_ARC)) return Circle(own, true);
   if (is(dxf::TYPE_ELLIPSE)) return Ellipse(own);

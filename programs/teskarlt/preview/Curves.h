@@ -6,16 +6,16 @@
 
 #include "geometry/Matrix4.h"
 #include "geometry/Vec3.h"
-#include "teskarlt/preview/Record.h"
+#include "teskarlt/dxf/read/TagList.h"
 
 namespace teskarlt::preview {
 
 using CurvePoints = std::vector<geometry::Vec3>;
 
 // The points of an entity that is a curve, in drawing coordinates: arcs in steps of at most 5 degrees, closed
-// curves ending where they begin. `records` are the entity's own and those of its vertices. Nothing for
+// curves ending where they begin. `lists` are the entity's own one and those of its vertices. Nothing for
 // entities that are no curves, an empty list for one without extent.
-std::optional<CurvePoints> PointsOf(const std::vector<Record>& records);
+std::optional<CurvePoints> PointsOf(const std::vector<dxf::TagList>& lists);
 
 // The extrusion direction of an entity that names none.
 constexpr geometry::Vec3 UPWARDS = {0, 0, 1};

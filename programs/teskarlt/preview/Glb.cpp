@@ -119,7 +119,7 @@ class Writer {
       windows.push_back({{"number", window.number},
                          {"label", window.label},
                          {"middle", {middle.x, middle.y, middle.z}},
-                         {"size", std::sqrt(geometry::VecDot(diagonal, diagonal)) * scale_},
+                         {"size", geometry::VecLength(diagonal) * scale_},
                          {"facing", {window.facing.x, window.facing.z, -window.facing.y}}});
     }
     json_["asset"] = {{"version", "2.0"},

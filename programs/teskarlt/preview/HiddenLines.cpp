@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "teskarlt/preview/Picture.h"
+
 namespace teskarlt::preview {
 
 namespace {
@@ -12,11 +14,6 @@ constexpr double RELATIVE_TOLERANCE = 1e-6;
 constexpr double SHORTEST_PART = 1e-9;
 constexpr double MOST_CELLS = 512;  // in one direction
 
-// Twice the area of the triangle in the picture, positive when it turns counter-clockwise.
-double Turn(const Vec3& a, const Vec3& b, const Vec3& c) {
-  return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
-}
-
 // Narrows the range to where the linear function from f0 (t = 0) to f1 (t = 1) is not negative; false when
 // nothing is left.
 bool Narrow(double f0, double f1, double& from, double& to) {
@@ -24,10 +21,6 @@ bool Narrow(double f0, double f1, double& from, double& to) {
   if (f0 < 0) from = std::max(from, f0 / (f0 - f1));
   if (f1 < 0) to = std::min(to, f0 / (f0 - f1));
   return from < to;
-}
-
-double DistanceInPicture(const Vec3& a, const Vec3& b) {
-  return std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y));
 }
 
 }  // namespace
@@ -56,7 +49,7 @@ HiddenLines::HiddenLines(const Scene& scene, const View& view) {
 }
 
 void HiddenLines::Add(Triangle triangle) {
-  const double turn = Turn(triangle.a, triangle.b, triangle.c);
+  const double turn = TurnInPicture(triangle.a, triangle.b, triangle.c);
   const double longest =
       std::max({DistanceInPicture(triangle.a, triangle.b), DistanceInPicture(triangle.b, triangle.c),
                 DistanceInPicture(triangle.c, triangle.a)});
@@ -96,16 +89,16 @@ bool HiddenLines::Hides(const Triangle& triangle, const Vec3& a, const Vec3& b, 
   const Vec3* const corners[4] = {&triangle.a, &triangle.b, &triangle.c, &triangle.a};
   for (int i = 0; i < 3; ++i) {
     const double slack = tolerance_ * DistanceInPicture(*corners[i], *corners[i + 1]);
-    if (!Narrow(Turn(*corners[i], *corners[i + 1], a) + slack, Turn(*corners[i], *corners[i + 1], b) + slack,
-                from, to))
+    if (!Narrow(TurnInPicture(*corners[i], *corners[i + 1], a) + slack,
+                TurnInPicture(*corners[i], *corners[i + 1], b) + slack, from, to))
       return false;
   }
-  const double area = Turn(triangle.a, triangle.b, triangle.c);
+  const double area = TurnInPicture(triangle.a, triangle.b, triangle.c);
   const auto before = [&](const Vec3& p) {  // how far the triangle's plane lies before p
-    const double depth =
-        (Turn(triangle.b, triangle.c, p) * triangle.a.z + Turn(triangle.c, triangle.a, p) * triangle.b.z +
-         Turn(triangle.a, triangle.b, p) * triangle.c.z) /
-        area;
+    const double depth = (TurnInPicture(triangle.b, triangle.c, p) * triangle.a.z +
+                          TurnInPicture(triangle.c, triangle.a, p) * triangle.b.z +
+                          TurnInPicture(triangle.a, triangle.b, p) * triangle.c.z) /
+                         area;
     return depth - p.z - tolerance_;
   };
   return Narrow(before(a), before(b), from, to);

@@ -7,6 +7,9 @@
 #include <functional>
 #include <queue>
 
+#include "geometry/Vectors.h"
+#include "teskarlt/preview/Picture.h"
+
 namespace teskarlt::preview {
 
 namespace {
@@ -16,14 +19,10 @@ constexpr double MOST_CELLS = 512;           // of the grid, in one direction
 
 using Triangle = std::array<Vec3, 3>;  // projected, counter-clockwise
 
-double Turn(const Vec3& a, const Vec3& b, const Vec3& c) {
-  return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
-}
-
 double DepthAt(const Triangle& t, const Vec3& p) {
-  const double depth =
-      Turn(t[1], t[2], p) * t[0].z + Turn(t[2], t[0], p) * t[1].z + Turn(t[0], t[1], p) * t[2].z;
-  return depth / Turn(t[0], t[1], t[2]);
+  const double depth = TurnInPicture(t[1], t[2], p) * t[0].z + TurnInPicture(t[2], t[0], p) * t[1].z +
+                       TurnInPicture(t[0], t[1], p) * t[2].z;
+  return depth / TurnInPicture(t[0], t[1], t[2]);
 }
 
 // The part of a polygon to the left of the line from a to b (I. Sutherland and G. Hodgman, 1974).
@@ -32,8 +31,8 @@ std::vector<Vec3> LeftOf(const std::vector<Vec3>& polygon, const Vec3& a, const 
   for (std::size_t i = 0; i < polygon.size(); ++i) {
     const Vec3& p = polygon[i];
     const Vec3& q = polygon[(i + 1) % polygon.size()];
-    const double atP = Turn(a, b, p);
-    const double atQ = Turn(a, b, q);
+    const double atP = TurnInPicture(a, b, p);
+    const double atQ = TurnInPicture(a, b, q);
     if (atP >= 0) kept.push_back(p);
     if ((atP < 0) == (atQ < 0)) continue;
     const double share = atP / (atP - atQ);
@@ -71,7 +70,7 @@ class Sorter {
 
  private:
   void Add(Shape& shape, Triangle triangle) {
-    const double turn = Turn(triangle[0], triangle[1], triangle[2]);
+    const double turn = TurnInPicture(triangle[0], triangle[1], triangle[2]);
     double longest = 0;
     for (std::size_t i = 0; i < 3; ++i) {
       const Vec3& a = triangle[i];
@@ -101,11 +100,11 @@ class Sorter {
     double area = 0;
     Vec3 middle{};
     for (std::size_t i = 0; i < common.size(); ++i) {
-      geometry::VecAdd(middle, common[i], middle);
-      if (i > 1) area += Turn(common[0], common[i - 1], common[i]);
+      middle = geometry::Sum(middle, common[i]);
+      if (i > 1) area += TurnInPicture(common[0], common[i - 1], common[i]);
     }
     if (area <= tolerance_ * tolerance_) return 0;
-    geometry::VecScale(middle, 1.0 / static_cast<double>(common.size()), middle);
+    middle = geometry::Scaled(middle, 1.0 / static_cast<double>(common.size()));
     return DepthAt(a, middle) - DepthAt(b, middle);
   }
 

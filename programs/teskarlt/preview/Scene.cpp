@@ -4,23 +4,19 @@
 #include <algorithm>
 #include <cmath>
 
+#include "geometry/Vectors.h"
+
 namespace teskarlt::preview {
 
 namespace {
 
-Vec3 Minus(const Vec3& a, const Vec3& b) {
-  return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-
-Vec3 Between(const Vec3& a, const Vec3& b, double share) {
-  return {a.x + (b.x - a.x) * share, a.y + (b.y - a.y) * share, a.z + (b.z - a.z) * share};
-}
+using geometry::Between;
+using geometry::Cross;
+using geometry::Difference;
 
 // Twice the area of the triangle, seen against the normal: positive for a corner that bulges out.
 double Turn(const Vec3& a, const Vec3& b, const Vec3& c, const Vec3& normal) {
-  Vec3 cross{};
-  geometry::VecCross(Minus(b, a), Minus(c, a), cross);
-  return geometry::VecDot(cross, normal);
+  return geometry::VecDot(Cross(Difference(b, a), Difference(c, a)), normal);
 }
 
 // Cuts one ear after the other off a polygon (G. Meisters, 1975).
@@ -85,15 +81,10 @@ Vec3 Box::Centre() const {
 }
 
 Vec3 NormalOf(const std::vector<Vec3>& corners) {
-  Vec3 sum{};
-  for (std::size_t i = 1; i + 1 < corners.size(); ++i) {
-    Vec3 part{};
-    geometry::VecCross(Minus(corners[i], corners[0]), Minus(corners[i + 1], corners[0]), part);
-    geometry::VecAdd(sum, part, sum);
-  }
-  const double length = std::sqrt(geometry::VecDot(sum, sum));
+  const Vec3 area = geometry::AreaVector(corners);
+  const double length = geometry::VecLength(area);
   if (!(length > 0)) return {0, 0, 0};
-  return {sum.x / length, sum.y / length, sum.z / length};
+  return {area.x / length, area.y / length, area.z / length};
 }
 
 std::vector<std::size_t> Triangles(const std::vector<Vec3>& corners) {
@@ -115,8 +106,7 @@ std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const Das
     period += length;
   double total = 0;
   for (std::size_t i = 1; i < points.size(); ++i) {
-    const Vec3 piece = Minus(points[i], points[i - 1]);
-    total += std::sqrt(geometry::VecDot(piece, piece));
+    total += geometry::Distance(points[i - 1], points[i]);
   }
   if (!(period > 0) || total > period * mostRepeats) return {points};
 
@@ -137,8 +127,7 @@ std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const Das
     dash.assign(1, at);
   };
   for (std::size_t i = 1; i < points.size(); ++i) {
-    const Vec3 piece = Minus(points[i], points[i - 1]);
-    const double length = std::sqrt(geometry::VecDot(piece, piece));
+    const double length = geometry::Distance(points[i - 1], points[i]);
     double done = 0;
     while (length - done > left) {
       done += left;

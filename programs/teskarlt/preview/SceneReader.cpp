@@ -17,7 +17,6 @@
 #include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/preview/Blocks.h"
 #include "teskarlt/preview/Curves.h"
-#include "teskarlt/preview/Record.h"
 #include "teskarlt/preview/Styles.h"
 #include "window/Parts.h"
 
@@ -34,7 +33,7 @@ constexpr double FARTHEST = 1e12;                  // coordinate, in drawing uni
 // How an entity looks, after ByLayer and ByBlock.
 struct Look {
   std::string layer{dxf::DEFAULT_LAYER};
-  Colour colour = ColourOfNumber(COLOUR_WHITE);
+  Colour colour = ColourOfNumber(dxf::COLOUR_WHITE);
   std::string linetype{dxf::LINETYPE_CONTINUOUS};
 };
 
@@ -65,15 +64,15 @@ const DrawingUnit* KnownUnit(const dxf::Document& drawing, const std::string& as
 
 // Faces of a mesh (its coarsest level): group 92 counts the vertices that follow, 93 the numbers of the face
 // list, where each face's count comes before its vertices.
-std::vector<FaceCorners> MeshFaces(const Record& record) {
-  const std::vector<Vec3> vertices = record.Points(dxf::CODE_MESH_VERTEX);
+std::vector<FaceCorners> MeshFaces(const dxf::TagList& entity) {
+  const std::vector<Vec3> vertices = entity.Points(dxf::CODE_MESH_VERTEX);
   std::vector<std::size_t> numbers;
   bool isInList = false;
-  for (const dxf::Tag& tag : record.Tags()) {
+  for (const dxf::Tag& tag : entity.Tags()) {
     if (tag.code == dxf::CODE_MESH_FACE_COUNT) isInList = true;
     if (tag.code == dxf::CODE_MESH_EDGE_COUNT) isInList = false;
     if (isInList && tag.code == dxf::CODE_MESH_ITEM)
-      numbers.push_back(static_cast<std::size_t>(record.IntegerOf(tag)));
+      numbers.push_back(static_cast<std::size_t>(entity.IntegerOf(tag)));
   }
   std::vector<FaceCorners> faces;
   for (std::size_t i = 0; i < numbers.size();) {
@@ -89,12 +88,12 @@ std::vector<FaceCorners> MeshFaces(const Record& record) {
 }
 
 // A SOLID or TRACE: its third and fourth corner stand crosswise.
-std::vector<FaceCorners> SolidFaces(const Record& record) {
+std::vector<FaceCorners> SolidFaces(const dxf::TagList& entity) {
   FaceCorners face;
-  face.corners = {record.Point(dxf::CODE_FIRST_CORNER), record.Point(dxf::CODE_SECOND_CORNER)};
-  if (record.Has(dxf::CODE_FOURTH_CORNER)) face.corners.push_back(record.Point(dxf::CODE_FOURTH_CORNER));
-  face.corners.push_back(record.Point(dxf::CODE_THIRD_CORNER));
-  const Matrix4 matrix = ObjectToDrawing(record.Point(dxf::CODE_EXTRUSION, UPWARDS));
+  face.corners = {entity.Point(dxf::CODE_FIRST_CORNER), entity.Point(dxf::CODE_SECOND_CORNER)};
+  if (entity.Has(dxf::CODE_FOURTH_CORNER)) face.corners.push_back(entity.Point(dxf::CODE_FOURTH_CORNER));
+  face.corners.push_back(entity.Point(dxf::CODE_THIRD_CORNER));
+  const Matrix4 matrix = ObjectToDrawing(entity.Point(dxf::CODE_EXTRUSION, UPWARDS));
   for (Vec3& corner : face.corners)
     geometry::MatTransformPoint(matrix, corner, corner);
   return {face};
@@ -119,14 +118,14 @@ class Reader {
  private:
   void ReadWindows();
   void ReadEntity(const dxf::Entity& entity, const Placement& placement);
-  void ReadInsert(const Record& insert, const Look& look, const Placement& placement);
-  Look LookOf(const Record& record, const Placement& placement) const;
+  void ReadInsert(const dxf::TagList& insert, const Look& look, const Placement& placement);
+  Look LookOf(const dxf::TagList& entity, const Placement& placement) const;
   bool IsVisible(const Look& look) const;
   std::size_t LayerIndex(const std::string& name);
   std::size_t PatternIndex(const std::string& linetype, double scale);
-  void AddSurfaces(const std::vector<FaceCorners>& faces, const Record& record, const Look& look,
+  void AddSurfaces(const std::vector<FaceCorners>& faces, const dxf::TagList& entity, const Look& look,
                    const Placement& placement);
-  void AddCurve(CurvePoints points, const Record& record, const Look& look, const Placement& placement);
+  void AddCurve(CurvePoints points, const dxf::TagList& entity, const Look& look, const Placement& placement);
   void Show(std::vector<Vec3>& points, const Placement& placement);
 
   const dxf::Document& drawing_;
@@ -153,33 +152,33 @@ void Reader::ReadWindows() {
   }
 }
 
-Look Reader::LookOf(const Record& record, const Placement& placement) const {
+Look Reader::LookOf(const dxf::TagList& entity, const Placement& placement) const {
   Look look;
-  look.layer = record.Text(dxf::CODE_LAYER, std::string(dxf::DEFAULT_LAYER));
+  look.layer = entity.Text(dxf::CODE_LAYER, dxf::DEFAULT_LAYER);
   if (placement.isBlock && look.layer == dxf::DEFAULT_LAYER) look.layer = placement.look.layer;
-  const LayerStyle& layer = styles_.Layer(look.layer);
-  const std::int64_t number = record.Integer(dxf::CODE_COLOUR, COLOUR_BY_LAYER);
-  if (record.Has(dxf::CODE_TRUE_COLOUR)) {
-    look.colour = ColourOfValue(record.Integer(dxf::CODE_TRUE_COLOUR));
-  } else if (number == COLOUR_BY_LAYER) {
-    look.colour = layer.colour;
+  const dxf::Layer& layer = styles_.Layer(look.layer);
+  const std::int64_t number = entity.Integer(dxf::CODE_COLOUR, dxf::COLOUR_BY_LAYER);
+  if (entity.Has(dxf::CODE_TRUE_COLOUR)) {
+    look.colour = ColourOfValue(entity.Integer(dxf::CODE_TRUE_COLOUR));
+  } else if (number == dxf::COLOUR_BY_LAYER) {
+    look.colour = ColourOfLayer(layer);
   } else {
-    look.colour = number == COLOUR_BY_BLOCK ? placement.look.colour : ColourOfNumber(number);
+    look.colour = number == dxf::COLOUR_BY_BLOCK ? placement.look.colour : ColourOfNumber(number);
   }
-  look.linetype = record.Text(dxf::CODE_LINETYPE, std::string(dxf::LINETYPE_BY_LAYER));
+  look.linetype = entity.Text(dxf::CODE_LINETYPE, dxf::LINETYPE_BY_LAYER);
   if (dxf::SameName(look.linetype, dxf::LINETYPE_BY_LAYER)) look.linetype = layer.linetype;
   if (dxf::SameName(look.linetype, dxf::LINETYPE_BY_BLOCK)) look.linetype = placement.look.linetype;
   return look;
 }
 
 bool Reader::IsVisible(const Look& look) const {
-  return styles_.Layer(look.layer).isVisible &&
+  return IsVisibleLayer(styles_.Layer(look.layer)) &&
          (wanted_.empty() || wanted_.contains(dxf::FoldedName(look.layer)));
 }
 
 std::size_t Reader::LayerIndex(const std::string& name) {
   const auto [found, isNew] = layerIndices_.try_emplace(dxf::FoldedName(name), scene_.layers.size());
-  if (isNew) scene_.layers.push_back({name, styles_.Layer(name).colour});
+  if (isNew) scene_.layers.push_back({name, ColourOfLayer(styles_.Layer(name))});
   return found->second;
 }
 
@@ -203,7 +202,7 @@ void Reader::Show(std::vector<Vec3>& points, const Placement& placement) {
   }
 }
 
-void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const Record& record, const Look& look,
+void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const dxf::TagList& entity, const Look& look,
                          const Placement& placement) {
   for (const FaceCorners& face : faces) {
     if (face.corners.size() < 3) continue;
@@ -211,7 +210,7 @@ void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const Record& re
                     false,        placement.window};
     Show(surface.corners, placement);
     if (placement.window != NO_WINDOW &&
-        record.Integer(dxf::CODE_COLOUR, COLOUR_BY_LAYER) == brevanta::GLASS_COLOUR) {
+        entity.Integer(dxf::CODE_COLOUR, dxf::COLOUR_BY_LAYER) == brevanta::GLASS_COLOUR) {
       surface.isGlass = true;
       const Vec3 normal = NormalOf(surface.corners);
       const double sign = normal.z < 0 ? -1 : 1;
@@ -222,10 +221,10 @@ void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const Record& re
   }
 }
 
-void Reader::AddCurve(CurvePoints points, const Record& record, const Look& look,
+void Reader::AddCurve(CurvePoints points, const dxf::TagList& entity, const Look& look,
                       const Placement& placement) {
   if (points.size() < 2) return;
-  const double scale = std::abs(record.Real(dxf::CODE_LINETYPE_SCALE, 1.0));
+  const double scale = std::abs(entity.Real(dxf::CODE_LINETYPE_SCALE, 1.0));
   Curve curve{std::move(points), LayerIndex(look.layer), look.colour, PatternIndex(look.linetype, scale),
               placement.window};
   Show(curve.points, placement);
@@ -233,7 +232,7 @@ void Reader::AddCurve(CurvePoints points, const Record& record, const Look& look
 }
 
 // An INSERT, or a DIMENSION, whose block is drawn where it stands.
-void Reader::ReadInsert(const Record& insert, const Look& look, const Placement& placement) {
+void Reader::ReadInsert(const dxf::TagList& insert, const Look& look, const Placement& placement) {
   const auto found = blocks_.find(dxf::FoldedName(insert.Text(dxf::CODE_NAME)));
   if (found == blocks_.end()) {
     ++scene_.leftOut[fmt::format("{} of a missing block", insert.Type())];
@@ -257,11 +256,11 @@ void Reader::ReadInsert(const Record& insert, const Look& look, const Placement&
 
 void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
   if (++entities_ > MOST_ENTITIES) drawing_.Source().Fail("holds too many entities for a picture");
-  const std::vector<Record> records = ReadRecords(drawing_, entity.text);
-  const Record& own = records.front();
+  const std::vector<dxf::TagList> lists = drawing_.TagLists(entity.text);
+  const dxf::TagList& own = lists.front();
   const Look look = LookOf(own, placement);
   const auto is = [&](std::string_view type) { return dxf::SameName(entity.type, type); };
-  if (own.Integer(dxf::CODE_INVISIBLE) != 0 || !styles_.Layer(look.layer).isVisible) return;
+  if (own.Integer(dxf::CODE_INVISIBLE) != 0 || !IsVisibleLayer(styles_.Layer(look.layer))) return;
   if (is(dxf::TYPE_INSERT) || is(dxf::TYPE_DIMENSION)) {
     ReadInsert(own, look, placement);
     return;
@@ -273,7 +272,7 @@ void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
     AddSurfaces(MeshFaces(own), own, look, placement);
   } else {
     EntityFaces faces = FacesOf(drawing_, entity);
-    std::optional<CurvePoints> points = PointsOf(records);
+    std::optional<CurvePoints> points = PointsOf(lists);
     if (faces.faces.empty() && !points) ++scene_.leftOut[std::string(entity.type)];
     if (points) {  // a closed polyline draws its edges itself
       for (FaceCorners& face : faces.faces)

@@ -3,11 +3,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <set>
 #include <tuple>
 
+#include "geometry/Vectors.h"
 #include "teskarlt/preview/HiddenLines.h"
+#include "teskarlt/preview/Picture.h"
 
 namespace teskarlt::preview {
 
@@ -17,14 +18,6 @@ namespace {
 constexpr double INSET = 1e-5;
 // Shorter parts, likewise relative, are left over by that movement.
 constexpr double SHORTEST = 1e-4;
-
-double Length(const Vec3& a, const Vec3& b) {
-  return std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y));
-}
-
-Vec3 Between(const Vec3& a, const Vec3& b, double t) {
-  return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t, a.z + (b.z - a.z) * t};
-}
 
 class Gatherer {
  public:
@@ -55,14 +48,13 @@ class Gatherer {
       if (k < HIDDEN_EDGE_BITS && (surface.hiddenEdges >> k & 1U) != 0) continue;
       const Vec3& from = corners[k];
       const Vec3& to = corners[(k + 1) % corners.size()];
-      Vec3 inwards{};
-      geometry::VecCross(normal, {to.x - from.x, to.y - from.y, to.z - from.z}, inwards);
-      const double length = std::sqrt(geometry::VecDot(inwards, inwards));
-      geometry::VecScale(inwards, length > 0 ? INSET * size_ / length : 0, inwards);
+      const Vec3 inwards = geometry::Cross(normal, geometry::Difference(to, from));
+      const double length = geometry::VecLength(inwards);
       const VisibleLine line = {
           view_.Project(from), view_.Project(to), surface.colour, surface.layer, 0, 0, true};
-      const Vec3 shift = view_.Project(inwards);
-      if (!IsOutside(line.a, line.b)) AddParts(line, hidden_.Visible(Sum(line.a, shift), Sum(line.b, shift)));
+      const Vec3 shift = view_.Project(geometry::Scaled(inwards, length > 0 ? INSET * size_ / length : 0));
+      if (!IsOutside(line.a, line.b))
+        AddParts(line, hidden_.Visible(geometry::Sum(line.a, shift), geometry::Sum(line.b, shift)));
     }
   }
 
@@ -76,24 +68,22 @@ class Gatherer {
                                 curve.pattern,
                                 offset,
                                 false};
-      offset += Length(line.a, line.b);
+      offset += DistanceInPicture(line.a, line.b);
       if (IsOutside(line.a, line.b)) continue;
       AddParts(line, view_.IsPlan() ? Parts{{0, 1}} : hidden_.Visible(line.a, line.b));
     }
   }
-
-  static Vec3 Sum(const Vec3& a, const Vec3& b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
 
   using Parts = std::vector<std::pair<double, double>>;
   void AddParts(const VisibleLine& line, const Parts& parts) {
     const double shortest = SHORTEST * size_;
     for (const auto& [from, to] : parts) {
       const bool isWhole = from == 0 && to == 1;
-      if (!isWhole && (to - from) * Length(line.a, line.b) < shortest) continue;
+      if (!isWhole && (to - from) * DistanceInPicture(line.a, line.b) < shortest) continue;
       VisibleLine part = line;
-      part.a = Between(line.a, line.b, from);
-      part.b = Between(line.a, line.b, to);
-      part.offset += from * Length(line.a, line.b);
+      part.a = geometry::Between(line.a, line.b, from);
+      part.b = geometry::Between(line.a, line.b, to);
+      part.offset += from * DistanceInPicture(line.a, line.b);
       if (!part.isEdge || IsNew(part)) lines_.push_back(part);
     }
   }

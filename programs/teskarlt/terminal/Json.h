@@ -18,9 +18,10 @@ class Json {
   using Items = std::vector<Json>;
   using Members = std::vector<std::pair<std::string, Json>>;
 
-  Json(std::nullptr_t = nullptr) {}  // NOLINT(google-explicit-constructor): values are written as they are
+  // Implicit, so that values are written as they are. NOLINTBEGIN(google-explicit-constructor)
+  Json(std::nullptr_t = nullptr) {}
   template <typename Value>
-  requires std::integral<Value> Json(Value value) {  // NOLINT(google-explicit-constructor)
+  requires std::integral<Value> Json(Value value) {
     if constexpr (std::same_as<Value, bool>) {
       value_ = value;
     } else if constexpr (std::signed_integral<Value>) {
@@ -29,11 +30,12 @@ class Json {
       value_ = std::uint64_t{value};
     }
   }
-  Json(double value) : value_(value) {}                            // NOLINT(google-explicit-constructor)
-  Json(std::string_view text) : value_(std::string(text)) {}       // NOLINT(google-explicit-constructor)
-  Json(const std::string& text) : Json(std::string_view(text)) {}  // NOLINT(google-explicit-constructor)
-  Json(const char* text) : Json(std::string_view(text)) {}         // NOLINT(google-explicit-constructor)
-  Json(const std::vector<std::string>& texts);                     // NOLINT(google-explicit-constructor)
+  Json(double value) : value_(value) {}
+  Json(std::string_view text) : value_(std::string(text)) {}
+  Json(const std::string& text) : Json(std::string_view(text)) {}
+  Json(const char* text) : Json(std::string_view(text)) {}
+  Json(const std::vector<std::string>& texts);
+  // NOLINTEND(google-explicit-constructor)
 
   static Json List(std::initializer_list<Json> items = {});
   static Json Object(std::initializer_list<std::pair<const char*, Json>> members = {});

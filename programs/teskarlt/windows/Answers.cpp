@@ -4,7 +4,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/dxf/tags/ExtendedData.h"
 #include "teskarlt/modules/DataFolder.h"
 #include "window/RecordFields.h"
 

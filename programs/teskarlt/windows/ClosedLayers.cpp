@@ -4,14 +4,14 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/drawing/LayerStates.h"
+#include "teskarlt/drawing/EntityLayers.h"
 
 namespace teskarlt {
 
 void RefuseClosedLayers(const dxf::Document& drawing, const DrawnWindow& window) {
-  const LayerStates states(drawing);
+  const dxf::Layers layersOfDrawing = drawing.ReadLayers();
   for (const std::string& layer : LayersOf(drawing, window.entities)) {
-    const LayerState state = states.Of(layer);
+    const dxf::Layer& state = layersOfDrawing.Of(layer);
     if (!state.isLocked && !state.isFrozen) continue;
     throw Error(
         fmt::format(
@@ -23,13 +23,13 @@ void RefuseClosedLayers(const dxf::Document& drawing, const DrawnWindow& window)
 
 std::vector<std::string> ClosedLayerWarnings(const dxf::Document& drawing,
                                              const std::set<std::string>& layers) {
-  const LayerStates states(drawing);
+  const dxf::Layers layersOfDrawing = drawing.ReadLayers();
   std::vector<std::string> warnings;
   const auto warn = [&](const std::string& layer, const char* what) {
     warnings.push_back(fmt::format("the layer \"{}\" is {}", layer, what));
   };
   for (const std::string& layer : layers) {
-    const LayerState state = states.Of(layer);
+    const dxf::Layer& state = layersOfDrawing.Of(layer);
     if (state.isFrozen) {
       warn(layer, "frozen; what was drawn on it is not to be seen");
     } else if (state.isOff) {

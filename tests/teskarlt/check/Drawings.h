@@ -60,46 +60,46 @@ inline std::string Damaged(std::string text, std::string_view from, std::string_
   return text.replace(place + 1, old.size(), Tags(to));
 }
 
-inline std::string Record(std::string_view type, std::string_view table, std::string_view handle,
-                          std::string_view marker, std::string_view name) {
+inline std::string Entry(std::string_view type, std::string_view table, std::string_view handle,
+                         std::string_view marker, std::string_view name) {
   return fmt::format("0|{}|{}|{}|330|{}|100|AcDbSymbolTableRecord|100|{}|2|{}|70|0|", type,
                      type == "DIMSTYLE" ? 105 : 5, handle, table, marker, name);
 }
 
 inline std::string Table(std::string_view name, std::string_view handle, int count,
-                         const std::string& records) {
+                         const std::string& entries) {
   return fmt::format("0|TABLE|2|{}|5|{}|330|0|100|AcDbSymbolTable|70|{}|{}0|ENDTAB|", name, handle, count,
-                     records);
+                     entries);
 }
 
 inline std::string Tables() {
   const auto layer = [](std::string_view handle, std::string_view name) {
-    return Record("LAYER", "2", handle, "AcDbLayerTableRecord", name) + "62|7|6|Continuous|";
+    return Entry("LAYER", "2", handle, "AcDbLayerTableRecord", name) + "62|7|6|Continuous|";
   };
   const auto linetype = [](std::string_view handle, std::string_view name) {
-    return Record("LTYPE", "5", handle, "AcDbLinetypeTableRecord", name) + "3||72|65|73|0|40|0.0|";
+    return Entry("LTYPE", "5", handle, "AcDbLinetypeTableRecord", name) + "3||72|65|73|0|40|0.0|";
   };
   return Table("VPORT", "8", 0, "") +
          Table("LTYPE", "5", 1,
                linetype("51", "ByBlock") + linetype("52", "ByLayer") + linetype("53", "Continuous")) +
          Table("LAYER", "2", 2, layer("21", "0") + layer("22", "ROOF")) +
-         Table("STYLE", "3", 1, Record("STYLE", "3", "31", "AcDbTextStyleTableRecord", "Standard")) +
+         Table("STYLE", "3", 1, Entry("STYLE", "3", "31", "AcDbTextStyleTableRecord", "Standard")) +
          Table("VIEW", "6", 0, "") + Table("UCS", "7", 0, "") +
          Table("APPID", "9", 2,
-               Record("APPID", "9", "91", "AcDbRegAppTableRecord", "ACAD") +
-                   Record("APPID", "9", "92", "AcDbRegAppTableRecord", "FOREIGN")) +
-         Table("DIMSTYLE", "A", 1, Record("DIMSTYLE", "A", "A1", "AcDbDimStyleTableRecord", "Standard")) +
+               Entry("APPID", "9", "91", "AcDbRegAppTableRecord", "ACAD") +
+                   Entry("APPID", "9", "92", "AcDbRegAppTableRecord", "FOREIGN")) +
+         Table("DIMSTYLE", "A", 1, Entry("DIMSTYLE", "A", "A1", "AcDbDimStyleTableRecord", "Standard")) +
          Table("BLOCK_RECORD", "1", 0,
-               Record("BLOCK_RECORD", "1", "1F", "AcDbBlockTableRecord", "*Model_Space") +
-                   Record("BLOCK_RECORD", "1", "1E", "AcDbBlockTableRecord", "*Paper_Space"));
+               Entry("BLOCK_RECORD", "1", "1F", "AcDbBlockTableRecord", "*Model_Space") +
+                   Entry("BLOCK_RECORD", "1", "1E", "AcDbBlockTableRecord", "*Paper_Space"));
 }
 
-inline std::string Block(std::string_view name, std::string_view record, std::string_view begin,
+inline std::string Block(std::string_view name, std::string_view entry, std::string_view begin,
                          std::string_view end) {
   return fmt::format(
       "0|BLOCK|5|{1}|330|{3}|100|AcDbEntity|8|0|100|AcDbBlockBegin|2|{0}|70|0|10|0.0|20|0.0|30|0.0|3|{0}|1||"
       "0|ENDBLK|5|{2}|330|{3}|100|AcDbEntity|8|0|100|AcDbBlockEnd|",
-      name, begin, end, record);
+      name, begin, end, entry);
 }
 
 // A sound R2000 drawing with these entities, and objects besides its dictionaries; both end with "|" unless

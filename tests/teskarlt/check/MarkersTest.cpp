@@ -37,7 +37,7 @@ TEST(CheckMarkers, UnknownEntityIsLeftAlone) {
   EXPECT_THAT(Found(Sound(Entity("MAKER_THING", ""))), IsEmpty());
 }
 
-TEST(CheckMarkers, RecordsTablesAndObjectsNeedTheirs) {
+TEST(CheckMarkers, EntriesTablesAndObjectsNeedTheirs) {
   EXPECT_THAT(Found(Damaged(Sound(), "100|AcDbLayerTableRecord|2|ROOF", "2|ROOF")),
               ElementsAre("error marker-missing LAYER"));
   EXPECT_THAT(Found(Damaged(Sound(), "5|7|330|0|100|AcDbSymbolTable", "5|7|330|0")),

@@ -1,4 +1,4 @@
-// NamesTest.cpp - names in use that the tables lack, and tables and records that a version needs.
+// NamesTest.cpp - names in use that the tables lack, and tables and entries that a version needs.
 #include "tests/teskarlt/check/Drawings.h"
 
 namespace teskarlt::check {
@@ -61,10 +61,10 @@ TEST(Names, BlockThatIsNotThereIsAnError) {
               ElementsAre("error block-undefined TREE"));
 }
 
-TEST(Names, BlockAndItsRecordNeedEachOther) {
-  const std::string record = "2|*Paper_Space|70|0|0|ENDTAB";
-  const std::string more = Record("BLOCK_RECORD", "1", "1D", "AcDbBlockTableRecord", "TREE");
-  EXPECT_THAT(Found(Damaged(Sound(), record, "2|*Paper_Space|70|0|" + more + "0|ENDTAB")),
+TEST(Names, BlockAndItsEntryNeedEachOther) {
+  const std::string entry = "2|*Paper_Space|70|0|0|ENDTAB";
+  const std::string more = Entry("BLOCK_RECORD", "1", "1D", "AcDbBlockTableRecord", "TREE");
+  EXPECT_THAT(Found(Damaged(Sound(), entry, "2|*Paper_Space|70|0|" + more + "0|ENDTAB")),
               ElementsAre("warning table-count 0", "error block-undefined TREE"));
 }
 
@@ -82,19 +82,19 @@ TEST(Names, TableThatTheVersionNeedsIsMissedOnce) {
       ElementsAre("error table-missing ENDSEC"));
 }
 
-TEST(Names, RecordThatTheVersionNeedsIsMissedAtTheEndOfItsTable) {
+TEST(Names, EntryThatTheVersionNeedsIsMissedAtTheEndOfItsTable) {
   EXPECT_THAT(Found(Damaged(Sound(), "2|Continuous|70|0", "2|DOTS|70|0")),
               ElementsAre("error record-missing ENDTAB"));
   EXPECT_THAT(Found(Damaged(Sound(), "2|ACAD|70|0", "2|OTHER|70|0")),
               ElementsAre("error record-missing ENDTAB"));
 }
 
-TEST(Names, SecondRecordOfANameIsAnError) {
+TEST(Names, SecondEntryOfANameIsAnError) {
   const std::string text = Damaged(Sound(), "2|FOREIGN|70|0", "2|Acad|70|0");
   EXPECT_THAT(Found(text), ElementsAre("error record-twice Acad"));
 }
 
-TEST(Names, TableWithMoreRecordsThanItAnnouncesIsDoubtful) {
+TEST(Names, TableWithMoreEntriesThanItAnnouncesIsDoubtful) {
   EXPECT_THAT(Found(Damaged(Sound(), "2|LAYER|5|2|330|0|100|AcDbSymbolTable|70|2",
                             "2|LAYER|5|2|330|0|100|AcDbSymbolTable|70|1")),
               ElementsAre("warning table-count 1"));

@@ -32,7 +32,7 @@ std::string Window(int handle, int lines, const std::string& data) {
 std::string WithWindows(const std::string& entities) {
   return Damaged(
       Sound(entities), "2|FOREIGN|70|0",
-      "2|TK_LT_ELEM|70|0|" + Record("APPID", "9", "93", "AcDbRegAppTableRecord", "TK_LT_DESC") + "62|0");
+      "2|TK_LT_ELEM|70|0|" + Entry("APPID", "9", "93", "AcDbRegAppTableRecord", "TK_LT_DESC") + "62|0");
 }
 
 std::vector<std::string> FoundIn(const std::string& entities) {

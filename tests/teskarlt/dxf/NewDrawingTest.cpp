@@ -77,7 +77,7 @@ TEST(NewDrawing, OwnersExist) {
     for (Tag tag; reader.Next(tag);) {
       if (tag.code == CODE_HANDLE || tag.code == CODE_DIMSTYLE_HANDLE)
         handles.insert(*ParseHandle(tag.value));
-      if (tag.code == CODE_OWNER || tag.code == 350) owners.insert(*ParseHandle(tag.value));
+      if (tag.code == CODE_OWNER || tag.code == CODE_SOFT_OWNED) owners.insert(*ParseHandle(tag.value));
     }
     EXPECT_TRUE(std::includes(handles.begin(), handles.end(), owners.begin(), owners.end()));
   }

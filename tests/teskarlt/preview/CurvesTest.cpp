@@ -11,7 +11,7 @@ namespace {
 
 CurvePoints Points(const std::string& entity) {
   const dxf::Document drawing = Drawing({.entities = entity});
-  return PointsOf(ReadRecords(drawing, drawing.Entities()[0].text)).value();
+  return PointsOf(drawing.TagLists(drawing.Entities()[0].text)).value();
 }
 
 void ExpectPoint(const Vec3& p, double x, double y, double z) {
@@ -75,7 +75,7 @@ TEST(PointsOf, WeightedSplineIsAQuarterOfACircle) {
 
 TEST(PointsOf, OtherEntitiesAreNoCurves) {
   const dxf::Document drawing = Drawing({.entities = "0 TEXT|1 Hello|"});
-  EXPECT_FALSE(PointsOf(ReadRecords(drawing, drawing.Entities()[0].text)));
+  EXPECT_FALSE(PointsOf(drawing.TagLists(drawing.Entities()[0].text)));
 }
 
 TEST(PointsOf, HugeAnglesDoNotHang) {

@@ -38,7 +38,7 @@ class Indexer {
   void ReadTable();
   void AddEntity(const Entity& entity, bool isInPaperSpace);
   bool NextInSection();
-  std::uint64_t TakeHandle();
+  std::uint64_t ReadHandle();
 
   const SourceText& source_;
   TagReader reader_;
@@ -93,7 +93,7 @@ bool Indexer::NextInSection() {
   return tag_.value != TYPE_SECTION_END;
 }
 
-std::uint64_t Indexer::TakeHandle() {
+std::uint64_t Indexer::ReadHandle() {
   const std::uint64_t handle = ParseHandle(tag_.value).value_or(0);
   index_.largestHandle = std::max(index_.largestHandle, handle);
   return handle;
@@ -134,7 +134,7 @@ void Indexer::ReadTable() {
     } else if (tag_.code == CODE_DIMSTYLE_HANDLE ||
                (tag_.code == CODE_HANDLE && !(isInEntry && SameName(table.name, TABLE_DIMENSION_STYLES)))) {
       // 5 in a dimension style is the name of an arrow block.
-      TakeHandle();
+      ReadHandle();
       Tag& owner = isInEntry ? handle : table.handle;
       if (owner.code == 0) owner = tag_;
     } else if (isInEntry && !isNamed && tag_.code == CODE_NAME) {
@@ -185,7 +185,7 @@ void Indexer::ReadEntities() {
         hasParts = tag_.value == TYPE_POLYLINE || tag_.value == TYPE_INSERT;
       }
     } else if (tag_.code == CODE_HANDLE) {
-      const std::uint64_t handle = TakeHandle();
+      const std::uint64_t handle = ReadHandle();
       if (!isInPart && entity.handle == 0) entity.handle = handle;
     } else if (tag_.code == CODE_PAPER_SPACE) {
       if (!isInPart) isInPaperSpace = ParseInteger(tag_.value).value_or(0) == 1;
@@ -196,7 +196,7 @@ void Indexer::ReadEntities() {
 
 void Indexer::ReadOther() {
   while (NextInSection()) {
-    if (tag_.code == CODE_HANDLE || tag_.code == CODE_DIMSTYLE_HANDLE) TakeHandle();
+    if (tag_.code == CODE_HANDLE || tag_.code == CODE_DIMSTYLE_HANDLE) ReadHandle();
   }
 }
 

@@ -5,15 +5,16 @@
 #include <bit>
 #include <charconv>
 #include <cstdint>
-#include <iterator>
 #include <limits>
 
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Digits.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/ValueKind.h"
 
 namespace teskarlt::dxf {
 namespace {
@@ -25,55 +26,39 @@ constexpr std::size_t BITS_OF_BYTE = 8;
 constexpr std::size_t BYTES_OF_LONG_CODE = 2;
 constexpr int LONG_CODE_FOLLOWS = 255;
 constexpr std::size_t LONGEST_CHUNK = 255;
-constexpr std::size_t LONGEST_NUMBER = 64;
-constexpr int HEXADECIMAL = 16;
 
 enum class Form { Unknown, Text, Chunk, Real, Integer8, Integer16, Integer32, Integer64 };
 
-struct FormRange {
-  int first;
-  int last;
-  Form form;
-};
+// Of codes that files have and entities do not: comments, and what is left of the texts from 100 on.
+Form FormOfOther(int code) {
+  constexpr int FIRST_TEXT = 100;
+  constexpr int LAST_TEXT = 109;
+  return code == CODE_COMMENT || (code >= FIRST_TEXT && code <= LAST_TEXT) ? Form::Text : Form::Unknown;
+}
 
-// In ascending order. Other codes are refused: how long their values are is not known.
-constexpr FormRange FORM_RANGES[] = {
-    {0, 9, Form::Text},
-    {10, 59, Form::Real},
-    {60, 79, Form::Integer16},
-    {90, 99, Form::Integer32},
-    {100, 109, Form::Text},
-    {110, 149, Form::Real},
-    {160, 169, Form::Integer64},
-    {170, 179, Form::Integer16},
-    {210, 239, Form::Real},
-    {270, 289, Form::Integer16},
-    {290, 299, Form::Integer8},
-    {300, 309, Form::Text},
-    {310, 319, Form::Chunk},
-    {320, 369, Form::Text},
-    {370, 389, Form::Integer16},
-    {390, 399, Form::Text},
-    {400, 409, Form::Integer16},
-    {410, 419, Form::Text},
-    {420, 429, Form::Integer32},
-    {430, 439, Form::Text},
-    {440, 459, Form::Integer32},
-    {460, 469, Form::Real},
-    {470, 481, Form::Text},
-    {999, 1003, Form::Text},
-    {1004, 1004, Form::Chunk},
-    {1005, 1009, Form::Text},
-    {1010, 1059, Form::Real},
-    {1060, 1070, Form::Integer16},
-    {1071, 1071, Form::Integer32},
-};
-
+// Unknown codes are refused: how long their values are is not known.
 Form FormOf(int code) {
-  const auto* const range =
-      std::lower_bound(std::begin(FORM_RANGES), std::end(FORM_RANGES), code,
-                       [](const FormRange& candidate, int wanted) { return candidate.last < wanted; });
-  return range != std::end(FORM_RANGES) && range->first <= code ? range->form : Form::Unknown;
+  switch (KindOf(code)) {
+    case ValueKind::None:
+      return FormOfOther(code);
+    case ValueKind::Text:
+    case ValueKind::Handle:
+      return Form::Text;
+    case ValueKind::Binary:
+      return Form::Chunk;
+    case ValueKind::Point:
+    case ValueKind::Real:
+      return Form::Real;
+    case ValueKind::Boolean:
+      return Form::Integer8;
+    case ValueKind::Integer16:
+      return Form::Integer16;
+    case ValueKind::Integer32:
+      return Form::Integer32;
+    case ValueKind::Integer64:
+      return Form::Integer64;
+  }
+  return Form::Unknown;
 }
 
 std::size_t SizeOf(Form form) {
@@ -132,8 +117,12 @@ void AppendLine(std::string& out, std::string_view text) {
 }
 
 void AppendHexadecimal(std::string& out, std::string_view chunk) {
-  for (const char byte : chunk)
-    fmt::format_to(std::back_inserter(out), "{:02X}", static_cast<unsigned char>(byte));
+  constexpr std::string_view DIGITS = "0123456789ABCDEF";
+  for (const char byte : chunk) {
+    const std::size_t bits = static_cast<unsigned char>(byte);
+    out += DIGITS[bits / HEXADECIMAL];
+    out += DIGITS[bits % HEXADECIMAL];
+  }
 }
 
 void AppendText(std::string& out, const BinaryTag& tag) {
@@ -267,33 +256,33 @@ bool BinaryReader::Next(BinaryTag& tag) {
   if (isAtEnd_) return false;
   tagBegin_ = at_;
   if (at_ == bytes_.size()) Fail("the file is cut short: EOF is missing at its end");
-  tag.code = TakeCode();
+  tag.code = ReadCode();
   const Form form = FormOf(tag.code);
   if (form == Form::Unknown) Fail(fmt::format("{} is not a group code", tag.code));
   if (form == Form::Text) {
-    tag.value = TakeText();
+    tag.value = ReadText();
   } else if (form == Form::Chunk) {
-    tag.value = Take(static_cast<std::size_t>(BitsOf(Take(1))));
+    tag.value = ReadBytes(static_cast<std::size_t>(BitsOf(ReadBytes(1))));
   } else {
-    tag.value = Take(SizeOf(form));
+    tag.value = ReadBytes(SizeOf(form));
   }
   isAtEnd_ = tag.code == CODE_TYPE && tag.value == TYPE_FILE_END;
   return true;
 }
 
-int BinaryReader::TakeCode() {
-  if (!hasShortCodes_) return static_cast<int>(BitsOf(Take(BYTES_OF_LONG_CODE)));
-  const int code = static_cast<int>(BitsOf(Take(1)));
-  return code == LONG_CODE_FOLLOWS ? static_cast<int>(BitsOf(Take(BYTES_OF_LONG_CODE))) : code;
+int BinaryReader::ReadCode() {
+  if (!hasShortCodes_) return static_cast<int>(BitsOf(ReadBytes(BYTES_OF_LONG_CODE)));
+  const int code = static_cast<int>(BitsOf(ReadBytes(1)));
+  return code == LONG_CODE_FOLLOWS ? static_cast<int>(BitsOf(ReadBytes(BYTES_OF_LONG_CODE))) : code;
 }
 
-std::string_view BinaryReader::Take(std::size_t size) {
+std::string_view BinaryReader::ReadBytes(std::size_t size) {
   if (bytes_.size() - at_ < size) Fail("the file is cut short in the tag that begins here");
   at_ += size;
   return bytes_.substr(at_ - size, size);
 }
 
-std::string_view BinaryReader::TakeText() {
+std::string_view BinaryReader::ReadText() {
   const auto end = bytes_.find('\0', at_);
   if (end == std::string_view::npos) Fail("the file is cut short in the tag that begins here");
   const std::string_view text = bytes_.substr(at_, end - at_);

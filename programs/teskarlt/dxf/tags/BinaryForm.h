@@ -38,9 +38,9 @@ class BinaryReader {
   bool HasShortCodes() const { return hasShortCodes_; }
 
  private:
-  int TakeCode();
-  std::string_view Take(std::size_t size);
-  std::string_view TakeText();
+  int ReadCode();
+  std::string_view ReadBytes(std::size_t size);
+  std::string_view ReadText();
   [[noreturn]] void Fail(const std::string& message) const;
 
   const std::string& name_;

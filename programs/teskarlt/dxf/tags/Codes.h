@@ -13,6 +13,7 @@ namespace teskarlt::dxf {
 constexpr int CODE_TYPE = 0;  // begins an object; its value is the object's type
 constexpr int CODE_NAME = 2;
 constexpr int CODE_HANDLE = 5;
+constexpr int CODE_FLAGS = 70;  // bits that each type has of its own
 constexpr int CODE_SUBCLASS = 100;
 constexpr int CODE_OWNER = 330;
 constexpr int CODE_COMMENT = 999;
@@ -91,9 +92,6 @@ constexpr int CODE_VPORT_GRID = 76;
 constexpr int CODE_VPORT_SNAP_STYLE = 77;
 constexpr int CODE_VPORT_SNAP_PAIR = 78;
 
-// Entries and blocks that need nothing special have flags of 0.
-constexpr int CODE_FLAGS = 70;
-
 // --- Blocks ---
 
 constexpr int CODE_BLOCK_PATH = 1;
@@ -107,7 +105,10 @@ constexpr int CODE_LAYER = 8;
 constexpr int CODE_ELEVATION = 38;
 constexpr int CODE_LINETYPE_SCALE = 48;
 constexpr int CODE_INVISIBLE = 60;
-constexpr int CODE_COLOUR = 62;  // its number
+constexpr int CODE_COLOUR = 62;  // its number; from 1 to 255 it is one of its own
+constexpr std::int64_t COLOUR_BY_BLOCK = 0;
+constexpr std::int64_t COLOUR_WHITE = 7;
+constexpr std::int64_t COLOUR_BY_LAYER = 256;
 constexpr int CODE_PAPER_SPACE = 67;
 constexpr int CODE_EXTRUSION = 210;
 constexpr int CODE_PLOT_STYLE = 390;
@@ -123,7 +124,6 @@ constexpr int CODE_FIRST_CORNER = 10;
 constexpr int CODE_SECOND_CORNER = 11;
 constexpr int CODE_THIRD_CORNER = 12;
 constexpr int CODE_FOURTH_CORNER = 13;
-constexpr int CODE_HIDDEN_EDGES = 70;  // of a 3DFACE: bit k hides the edge from corner k
 
 // Of a CIRCLE or ARC; angles in degrees.
 constexpr int CODE_CIRCLE_CENTRE = 10;
@@ -212,7 +212,6 @@ constexpr int CODE_XDATA_MARKER = -3;  // stands before extended data in value l
 constexpr int CODE_XDATA_TEXT = 1000;
 constexpr int CODE_XDATA_APPLICATION = 1001;
 constexpr int CODE_XDATA_BRACE = 1002;
-constexpr int CODE_XDATA_BINARY = 1004;
 constexpr int CODE_XDATA_WORLD_POINT = 1011;
 constexpr int CODE_XDATA_REAL = 1040;
 constexpr int CODE_XDATA_DISTANCE = 1041;

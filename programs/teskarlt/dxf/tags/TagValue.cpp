@@ -6,30 +6,10 @@
 #include <charconv>
 #include <cmath>
 
+#include "teskarlt/dxf/tags/Digits.h"
+
 namespace teskarlt::dxf {
 namespace {
-
-struct KindRange {
-  int first;
-  int last;
-  ValueKind kind;
-};
-
-// Of the codes of entities and of extended data, in ascending order.
-constexpr KindRange KIND_RANGES[] = {
-    {0, 4, ValueKind::Text},          {5, 5, ValueKind::Handle},          {6, 9, ValueKind::Text},
-    {10, 18, ValueKind::Point},       {19, 59, ValueKind::Real},          {60, 79, ValueKind::Integer16},
-    {90, 99, ValueKind::Integer32},   {100, 102, ValueKind::Text},        {105, 105, ValueKind::Handle},
-    {110, 112, ValueKind::Point},     {113, 149, ValueKind::Real},        {160, 169, ValueKind::Integer64},
-    {170, 179, ValueKind::Integer16}, {210, 210, ValueKind::Point},       {211, 239, ValueKind::Real},
-    {270, 289, ValueKind::Integer16}, {290, 299, ValueKind::Boolean},     {300, 319, ValueKind::Text},
-    {320, 369, ValueKind::Handle},    {370, 389, ValueKind::Integer16},   {390, 399, ValueKind::Handle},
-    {400, 409, ValueKind::Integer16}, {410, 419, ValueKind::Text},        {420, 429, ValueKind::Integer32},
-    {430, 439, ValueKind::Text},      {440, 459, ValueKind::Integer32},   {460, 469, ValueKind::Real},
-    {470, 479, ValueKind::Text},      {480, 481, ValueKind::Handle},      {1000, 1004, ValueKind::Text},
-    {1005, 1005, ValueKind::Handle},  {1006, 1009, ValueKind::Text},      {1010, 1013, ValueKind::Point},
-    {1014, 1059, ValueKind::Real},    {1060, 1070, ValueKind::Integer16}, {1071, 1071, ValueKind::Integer32},
-};
 
 bool IsBlank(char byte) {
   return byte == ' ' || byte == '\t';
@@ -57,13 +37,6 @@ std::optional<double> ParseTrimmedReal(std::string_view text) {
 
 }  // namespace
 
-ValueKind KindOf(int code) {
-  const auto* const range =
-      std::lower_bound(std::begin(KIND_RANGES), std::end(KIND_RANGES), code,
-                       [](const KindRange& candidate, int wanted) { return candidate.last < wanted; });
-  return range != std::end(KIND_RANGES) && range->first <= code ? range->kind : ValueKind::None;
-}
-
 std::string_view Trimmed(std::string_view text) {
   while (!text.empty() && (IsBlank(text.back()) || text.back() == '\r'))
     text.remove_suffix(1);
@@ -76,10 +49,9 @@ std::optional<double> ParseReal(std::string_view text) {
   text = WithoutPlus(Trimmed(text));
   if (const auto value = ParseTrimmedReal(text)) return value;
   // Fortran's exponent letter.
-  constexpr std::size_t LONGEST = 64;
   const auto letter = text.find_first_of("Dd");
-  if (letter == std::string_view::npos || text.size() > LONGEST) return std::nullopt;
-  std::array<char, LONGEST> copy{};
+  if (letter == std::string_view::npos || text.size() > LONGEST_NUMBER) return std::nullopt;
+  std::array<char, LONGEST_NUMBER> copy{};
   text.copy(copy.data(), text.size());
   copy[letter] = 'E';
   return ParseTrimmedReal({copy.data(), text.size()});
@@ -98,7 +70,6 @@ std::optional<std::int64_t> ParseInteger(std::string_view text) {
 }
 
 std::optional<std::uint64_t> ParseHandle(std::string_view text) {
-  constexpr int HEXADECIMAL = 16;
   text = Trimmed(text);
   std::uint64_t value = 0;
   const char* const end = text.data() + text.size();

@@ -1,4 +1,4 @@
-// TagValue.h - numbers, handles and kinds of the values of tags.
+// TagValue.h - numbers, handles and names among the values of tags.
 #pragma once
 
 #include <cstdint>
@@ -7,13 +7,6 @@
 #include <string_view>
 
 namespace teskarlt::dxf {
-
-enum class ValueKind { None, Text, Handle, Point, Real, Integer16, Integer32, Integer64, Boolean };
-
-// The kind of value that a group code stands for in an entity; None for codes that no entity has. Point is
-// the first of three codes (x; y and z follow at +10 and +20), which the writer fills from one value; the
-// codes of y and z are of kind Real.
-ValueKind KindOf(int code);
 
 // A finite number as programs write it: blanks around, a leading "+", "1.", ".5", exponents with E or D.
 // Nothing for anything else.

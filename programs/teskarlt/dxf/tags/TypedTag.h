@@ -1,15 +1,11 @@
-// TypedTag.h - one group of an entity that is to be added to a drawing.
+// TypedTag.h - a tag of an entity that is to be added to a drawing.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <variant>
 
 namespace teskarlt::dxf {
-
-// The most bytes, as they stand in the file, that a text of extended data may have.
-constexpr std::size_t LONGEST_EXTENDED_TEXT = 255;
 
 struct Point {
   double x = 0;

@@ -81,7 +81,7 @@ std::uint64_t Edits::AddEntity(std::span<const TypedTag> groups) {
 std::uint64_t Edits::AddCheckedEntity(std::span<const TypedTag> groups) {
   RequireNames(groups);
   const std::size_t extended = ExtendedDataBegin(groups);
-  const std::uint64_t handle = handles_.Take();
+  const std::uint64_t handle = handles_.Allocate();
   scratch_.clear();
   TagWriter writer(scratch_, rules_.lineEnd);
   writer.Text(CODE_TYPE, TextOf(groups[0]));
@@ -172,7 +172,7 @@ void Edits::BeginGroup(std::span<const Entity* const> replaced) {
   for (const GroupObject* const group : grouping.fileGroups)
     grouping.reactors.push_back(group->handle);
   if (grouping.fileGroups.empty()) {
-    grouping.newGroup = groups_.TakeHandle();
+    grouping.newGroup = groups_.AllocateHandle();
     grouping.reactors.push_back(grouping.newGroup);
   }
   grouping_ = std::move(grouping);

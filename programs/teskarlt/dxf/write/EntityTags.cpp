@@ -10,17 +10,15 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/ExtendedData.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/ValueKind.h"
 
 namespace teskarlt::dxf {
 namespace {
 
 constexpr std::size_t LONGEST_APPLICATION = 31;
-
-// What CAD programs hold of extended data in an entity, in bytes, all applications together.
-constexpr std::size_t MOST_EXTENDED_DATA = 16383;
-constexpr std::size_t SIZE_OF_CODE = 2;
 
 [[noreturn]] void Refuse(int code, std::string_view why) {
   throw Error(fmt::format("the new entity is refused: group {} {}", code, why));
@@ -73,6 +71,7 @@ void CheckHandle(const TypedTag& tag) {
 void CheckValue(const TypedTag& tag) {
   switch (KindOf(tag.code)) {
     case ValueKind::Text:
+    case ValueKind::Binary:
       return CheckText(tag);
     case ValueKind::Handle:
       return CheckHandle(tag);
@@ -91,16 +90,6 @@ void CheckValue(const TypedTag& tag) {
     case ValueKind::None:
       Refuse(tag.code, "is not one that an entity can have");
   }
-}
-
-// Bytes of a tag as a binary drawing holds it. A text counts as bytes of the code page.
-std::size_t SizeOf(const TypedTag& tag) {
-  if (const auto* const text = std::get_if<std::string_view>(&tag.value))
-    return SIZE_OF_CODE + text->size() + 1;
-  if (std::holds_alternative<Point>(tag.value)) return SIZE_OF_CODE + sizeof(Point);
-  if (std::holds_alternative<double>(tag.value)) return SIZE_OF_CODE + sizeof(double);
-  const bool isShort = KindOf(tag.code) == ValueKind::Integer16;
-  return SIZE_OF_CODE + (isShort ? sizeof(std::int16_t) : sizeof(std::int32_t));
 }
 
 void CheckType(std::span<const TypedTag> tags) {
@@ -143,7 +132,7 @@ void CheckTags(std::span<const TypedTag> tags) {
     isUnderApplication = isUnderApplication || tag.code == CODE_XDATA_APPLICATION;
     if (!isUnderApplication) Refuse(tag.code, "stands before the name of an application");
     CheckValue(tag);
-    size += SizeOf(tag);
+    size += ExtendedSize(tag.code, TextOf(tag).size());
   }
   if (size > MOST_EXTENDED_DATA) {
     throw Error(

@@ -19,7 +19,7 @@ class HandleSeed {
     if (largest + 1 == 0) first_ = next_ = 0;
   }
 
-  std::uint64_t Take() {
+  std::uint64_t Allocate() {
     if (!isUsed_) return 0;
     if (next_ == 0) throw Error("the drawing has used up all handles");
     return next_++;

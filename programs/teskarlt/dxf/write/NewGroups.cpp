@@ -84,8 +84,8 @@ std::vector<const GroupObject*> NewGroups::GroupsOf(std::span<const std::uint64_
   return common;
 }
 
-std::uint64_t NewGroups::TakeHandle() {
-  return HasSubclassMarkers(rules_.version) ? handles_.Take() : 0;
+std::uint64_t NewGroups::AllocateHandle() {
+  return HasSubclassMarkers(rules_.version) ? handles_.Allocate() : 0;
 }
 
 bool NewGroups::HasName(const std::string& foldedName) const {
@@ -111,8 +111,8 @@ std::uint64_t NewGroups::NamesHandle(Addition& addition) {
   if (Objects().groupNames) return Objects().groupNames->handle;
   if (const Addition* opener = Opener(); opener != nullptr) return opener->names;
   addition.opensDictionary = true;
-  addition.root = Objects().root ? Objects().root->handle : handles_.Take();
-  addition.names = handles_.Take();
+  addition.root = Objects().root ? Objects().root->handle : handles_.Allocate();
+  addition.names = handles_.Allocate();
   return addition.names;
 }
 

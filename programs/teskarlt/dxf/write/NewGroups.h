@@ -33,7 +33,7 @@ class NewGroups {
   std::vector<const GroupObject*> GroupsOf(std::span<const std::uint64_t> entities) const;
 
   // The handle of a group to be made; 0 where the drawing has none.
-  std::uint64_t TakeHandle();
+  std::uint64_t AllocateHandle();
   // Adds the group. A name that is taken gets a number behind it. Texts are bytes of the code page.
   void Add(std::uint64_t handle, std::string_view name, std::string_view description,
            std::span<const std::uint64_t> members);

@@ -127,10 +127,10 @@ const NewTableEntries::Entry* NewTableEntries::Opener(TableKind kind) const {
 
 // A table comes with the entries that every drawing has in it.
 void NewTableEntries::OpenTable(TableKind kind) {
-  const std::uint64_t table = HasSubclassMarkers(rules_.version) ? handles_.Take() : 0;
+  const std::uint64_t table = HasSubclassMarkers(rules_.version) ? handles_.Allocate() : 0;
   const std::size_t first = entries_.size();
   const auto addDefault = [&](std::string_view name) {
-    const EntryHead head{rules_.version, TakeEntryHandle(), table};
+    const EntryHead head{rules_.version, AllocateEntryHandle(), table};
     entries_.push_back(
         {kind, FoldedName(name), EntryText(kind, name, head), entries_.size() == first, table});
   };
@@ -157,15 +157,15 @@ std::uint64_t NewTableEntries::TableHandle(TableKind kind) {
 }
 
 // Entries of R12 have no handles.
-std::uint64_t NewTableEntries::TakeEntryHandle() {
-  return HasSubclassMarkers(rules_.version) ? handles_.Take() : 0;
+std::uint64_t NewTableEntries::AllocateEntryHandle() {
+  return HasSubclassMarkers(rules_.version) ? handles_.Allocate() : 0;
 }
 
 void NewTableEntries::Add(TableKind kind, std::string_view utf8Name) {
   const std::uint64_t table = TableHandle(kind);
   std::string foldedName = FoldedName(utf8Name);
   if (HasFolded(kind, foldedName)) return;  // came with the table
-  const EntryHead head{rules_.version, TakeEntryHandle(), table};
+  const EntryHead head{rules_.version, AllocateEntryHandle(), table};
   std::string raw;
   codec_.Encode(codec_.ToCodePage(utf8Name), raw);
   entries_.push_back({kind, std::move(foldedName), EntryText(kind, raw, head), false, table});

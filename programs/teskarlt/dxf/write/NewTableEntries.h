@@ -62,7 +62,7 @@ class NewTableEntries {
   std::uint64_t TableHandle(TableKind kind);
   void Add(TableKind kind, std::string_view utf8Name);
   std::string EntryText(TableKind kind, std::string_view raw, const EntryHead& head) const;
-  std::uint64_t TakeEntryHandle();
+  std::uint64_t AllocateEntryHandle();
   const char* PlaceOf(TableKind kind) const;
   static void AddCountSplice(const Table& table, std::size_t added, std::vector<Splice>& splices);
   void AddSectionSplice(const std::string& tables, std::vector<Splice>& splices) const;

@@ -42,10 +42,10 @@ Belonging BelongingOf(const SourceText& source, const ObjectText& object, const 
   return belonging;
 }
 
-// Takes out the objects that go with what is removed, adds their handles to `removed` and gives those that
+// Removes the objects that go with what is removed, adds their handles to `removed` and gives those that
 // stay.
-std::vector<ObjectText> TakeOutDependents(const SourceText& source, const std::vector<ObjectText>& objects,
-                                          Handles& removed, std::vector<Splice>& splices) {
+std::vector<ObjectText> RemoveDependents(const SourceText& source, const std::vector<ObjectText>& objects,
+                                         Handles& removed, std::vector<Splice>& splices) {
   std::vector<Belonging> belongings;
   belongings.reserve(objects.size());
   for (const ObjectText& object : objects)
@@ -69,8 +69,8 @@ std::vector<ObjectText> TakeOutDependents(const SourceText& source, const std::v
 }
 
 // Of a sort table: the tags of an entity and of the handle to sort it by.
-void TakeOutOfSortTable(const SourceText& source, const ObjectText& table, const Handles& removed,
-                        std::vector<Splice>& splices) {
+void RemoveFromSortTable(const SourceText& source, const ObjectText& table, const Handles& removed,
+                         std::vector<Splice>& splices) {
   TagReader reader(source, table.text);
   bool takesNext = false;
   for (Tag tag; reader.Next(tag);) {
@@ -82,8 +82,8 @@ void TakeOutOfSortTable(const SourceText& source, const ObjectText& table, const
 }
 
 // Of a dictionary: the tags of a name and of its object.
-void TakeOutOfDictionary(const SourceText& source, const ObjectText& dictionary, const Handles& removed,
-                         std::vector<Splice>& splices) {
+void RemoveFromDictionary(const SourceText& source, const ObjectText& dictionary, const Handles& removed,
+                          std::vector<Splice>& splices) {
   TagReader reader(source, dictionary.text);
   const char* nameBegin = nullptr;
   for (Tag tag; reader.Next(tag);) {
@@ -95,8 +95,8 @@ void TakeOutOfDictionary(const SourceText& source, const ObjectText& dictionary,
 }
 
 // Of the reactors whose first tag stands at `begin`: the removed ones, and the list when none is left.
-void TakeOutOfReactors(const SourceText& source, std::string_view text, const char* begin,
-                       const Handles& removed, std::vector<Splice>& splices) {
+void RemoveFromReactors(const SourceText& source, std::string_view text, const char* begin,
+                        const Handles& removed, std::vector<Splice>& splices) {
   TagReader reader(source, text.substr(static_cast<std::size_t>(begin - text.data())));
   std::vector<Splice> taken;
   bool isAnyLeft = false;
@@ -123,8 +123,8 @@ const char* TagAround(std::string_view text, std::size_t at) {
 }
 
 // Reactors stand in entities, objects and entries of tables: the text is searched for them.
-void TakeOutOfAllReactors(const SourceText& source, const Index& index, const Handles& removed,
-                          std::vector<Splice>& splices) {
+void RemoveFromAllReactors(const SourceText& source, const Index& index, const Handles& removed,
+                           std::vector<Splice>& splices) {
   const char* const begin = source.Tags().data();
   const std::string_view text(begin, static_cast<std::size_t>(index.sections.back().end - begin));
   for (auto at = text.find(REACTORS_BEGIN); at != std::string_view::npos;
@@ -133,7 +133,7 @@ void TakeOutOfAllReactors(const SourceText& source, const Index& index, const Ha
     Tag tag;
     TagReader(source, text.substr(static_cast<std::size_t>(tagBegin - text.data()))).Next(tag);
     if (tag.code == CODE_CONTROL && tag.value == REACTORS_BEGIN)
-      TakeOutOfReactors(source, text, tagBegin, removed, splices);
+      RemoveFromReactors(source, text, tagBegin, removed, splices);
   }
 }
 
@@ -143,11 +143,11 @@ void AddReferrerSplices(const SourceText& source, const Index& index, const Hand
                         std::vector<Splice>& splices) {
   if (removedHandles.empty()) return;
   Handles removed = removedHandles;
-  for (const ObjectText& object : TakeOutDependents(source, ReadObjects(source, index), removed, splices)) {
-    if (object.type == TYPE_SORT_TABLE) TakeOutOfSortTable(source, object, removed, splices);
-    if (IsDictionaryType(object.type)) TakeOutOfDictionary(source, object, removed, splices);
+  for (const ObjectText& object : RemoveDependents(source, ReadObjects(source, index), removed, splices)) {
+    if (object.type == TYPE_SORT_TABLE) RemoveFromSortTable(source, object, removed, splices);
+    if (IsDictionaryType(object.type)) RemoveFromDictionary(source, object, removed, splices);
   }
-  TakeOutOfAllReactors(source, index, removed, splices);
+  RemoveFromAllReactors(source, index, removed, splices);
 }
 
 }  // namespace teskarlt::dxf

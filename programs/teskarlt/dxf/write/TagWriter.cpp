@@ -6,19 +6,16 @@
 #include <cmath>
 
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Digits.h"
 
 namespace teskarlt::dxf {
 namespace {
 
 constexpr std::size_t CODE_COLUMNS = 3;
-constexpr int HEXADECIMAL = 16;
 
 // Between these, numbers are written without an exponent.
 constexpr double SMALLEST_FIXED = 1e-20;
 constexpr double LARGEST_FIXED = 1e20;
-
-// Enough for the digits of both bounds and for an exponent.
-constexpr std::size_t LONGEST_NUMBER = 64;
 
 char* Scientific(char* begin, char* end, double value) {
   char* const last = std::to_chars(begin, end, value, std::chars_format::scientific).ptr;
