@@ -37,7 +37,8 @@ install(TARGETS ${libraries} EXPORT BrevantaKernelTargets
 install(DIRECTORY Library/src/geometry Library/src/lttools DESTINATION ${headers} COMPONENT kernel
   FILES_MATCHING PATTERN "*.h")
 install(FILES Library16/Inc/xsort.h DESTINATION ${headers} COMPONENT kernel)
-install(FILES programs/common/brevanta/inc/ValueList.h programs/common/brevanta/inc/ValueNode.h
+install(FILES programs/common/brevanta/inc/HostStatus.h programs/common/brevanta/inc/ValueList.h
+  programs/common/brevanta/inc/ValueNode.h
   DESTINATION ${headers}/inc COMPONENT kernel)
 install(FILES platform/Heap.h DESTINATION ${headers}/platform COMPONENT kernel)
 

@@ -1,4 +1,4 @@
-// main.cpp - the stand-alone host of the roof window module.
+// main.cpp - the command-line program.
 #include "platform/ProgramArguments.h"
 #include "platform/Terminal.h"
 #include "teskarlt/commands/CommandLine.h"

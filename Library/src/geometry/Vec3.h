@@ -16,7 +16,7 @@ struct Vec3 {
 // cross products and, in PointLineDistance, a squared length.
 constexpr double KernelTolerance = 0.0001;
 
-// Results shared with the host.
+// Results shared with the host, which has them under the same names.
 constexpr int STATUS_NORMAL = 5100;
 constexpr int STATUS_ERROR = -5001;
 

@@ -6,6 +6,8 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "inc/HostStatus.h"
+
 namespace lttools {
 
 // Size of the buffers in which texts and patterns are compared and joined, terminator included. What is
@@ -57,7 +59,7 @@ int ConcatStrings(char* destination, int size, bool append, std::initializer_lis
 int MatchWildcard(std::string_view text, std::string_view pattern);
 
 // What MatchPatternList gives for a match.
-constexpr int PATTERN_MATCHES = 5100;
+constexpr int PATTERN_MATCHES = brevanta::STATUS_NORMAL;
 
 // PATTERN_MATCHES when the text matches one of the patterns that `patterns` lists, separated by commas, else
 // 0. Blanks around commas belong to the patterns; the list is cut to the working buffer.

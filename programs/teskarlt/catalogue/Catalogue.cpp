@@ -35,23 +35,23 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
   return first == std::string_view::npos ? std::string_view() : text.substr(first);
 }
 
-// Takes the lines of a catalogue one by one.
+// Puts a catalogue together, line by line.
 class CatalogueBuilder {
  public:
   explicit CatalogueBuilder(Catalogue& catalogue) : catalogue_(catalogue) {}
 
   // A line of the file; one that is too long comes in pieces, as the module reads it.
-  void TakePhysicalLine(std::string_view line) {
+  void AddPhysicalLine(std::string_view line) {
     const bool hasReturn = line.ends_with('\r');
     if (hasReturn) catalogue_.hasWindowsLineEnds = true;
     if (line.size() - (hasReturn ? 1 : 0) > LONGEST_LINE) ++catalogue_.cutLines;
     for (; line.size() > LONGEST_LINE; line.remove_prefix(LONGEST_LINE))
-      TakeLine(line.substr(0, LONGEST_LINE));
-    TakeLine(line);
+      AddLine(line.substr(0, LONGEST_LINE));
+    AddLine(line);
   }
 
  private:
-  void TakeLine(std::string_view line) {
+  void AddLine(std::string_view line) {
     if (line.ends_with('\r')) line.remove_suffix(1);
     if (line.empty()) return;
     if (line.starts_with(HEADER_KEYWORD)) {
@@ -60,7 +60,7 @@ class CatalogueBuilder {
       section_ = found->second;
       hasSection_ = true;
     } else if (hasSection_) {
-      const std::string_view key = WithoutLeadingBlanks(line.substr(0, line.find(';')));
+      const std::string_view key = WithoutLeadingBlanks(line.substr(0, line.find(brevanta::FIELD_DELIMITER)));
       catalogue_.items.push_back({section_, key, line});
     }
   }
@@ -108,7 +108,7 @@ Catalogue ReadCatalogue(const std::string& path) {
   CatalogueBuilder builder(catalogue);
   while (!rest.empty()) {
     const std::string_view line = rest.substr(0, rest.find('\n'));
-    builder.TakePhysicalLine(line);
+    builder.AddPhysicalLine(line);
     rest.remove_prefix(std::min(line.size() + 1, rest.size()));
   }
   if (catalogue.sections.empty()) {
@@ -131,11 +131,11 @@ std::string CatalogueText(std::string_view bytes) {
 
 std::string_view ItemField(std::string_view line, std::size_t index) {
   for (; index > 0; --index) {
-    const auto separator = line.find(';');
+    const auto separator = line.find(brevanta::FIELD_DELIMITER);
     if (separator == std::string_view::npos) return {};
     line.remove_prefix(separator + 1);
   }
-  return dxf::Trimmed(line.substr(0, line.find(';')));
+  return dxf::Trimmed(line.substr(0, line.find(brevanta::FIELD_DELIMITER)));
 }
 
 }  // namespace teskarlt

@@ -1,4 +1,4 @@
-// Catalogue.h - a window catalogue as the host shows it and chooses from it.
+// Catalogue.h - a window catalogue as it is shown and chosen from.
 #pragma once
 
 #include <cstddef>

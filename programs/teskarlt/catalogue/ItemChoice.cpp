@@ -97,11 +97,13 @@ const CatalogueItem& ChooseItem(const Catalogue& catalogue, std::string_view nam
     });
     if (oneItem) return first;
     throw Error(fmt::format("--window {}: {} holds {} of that name: {}", name, catalogue.path, matches.size(),
-                            Quoted(catalogue, matches)));
+                            Quoted(catalogue, matches)),
+                {.value = std::string(name)});
   }
   const Matches nearest = Nearest(catalogue, name);
   throw Error(fmt::format("--window {}: {} has no such window{}{}", name, catalogue.path,
-                          nearest.empty() ? "" : "; near it are ", Quoted(catalogue, nearest)));
+                          nearest.empty() ? "" : "; near it are ", Quoted(catalogue, nearest)),
+              {.value = std::string(name)});
 }
 
 }  // namespace teskarlt

@@ -77,7 +77,6 @@ void PrintVerdict(const Verdict& verdict, const std::string& file) {
   fmt::print("{}: {}, {}\n", file, Counted(verdict.errors, "error"), Counted(verdict.warnings, "warning"));
 }
 
-// The file layer knows no error of the host's; its own says all that is to say.
 int RunCheck(const CheckOptions& options) {
   const Verdict verdict =
       check::CheckDrawing(dxf::SourceText(options.file, platform::ReadWholeFile(options.file)));

@@ -42,17 +42,17 @@ class JobsTeller {
   JobsTeller(std::string file, std::size_t jobs, bool asJson)
       : file_(std::move(file)), asJson_(asJson), progress_("windows", jobs) {}
 
-  void Take(const Job& job, const JobResult& result) {
+  void Add(const Job& job, const JobResult& result) {
     if (const auto* window = std::get_if<PlacedWindow>(&result)) {
-      TakeWindow(job, *window);
+      AddWindow(job, *window);
     } else {
-      TakeRefusal(job, std::get<Error>(result));
+      AddRefusal(job, std::get<Error>(result));
     }
     progress_.Step();
   }
 
   // For programs: the windows that came into the drawing, and the jobs that were refused.
-  Json TakeAnswer() {
+  Json ReleaseAnswer() {
     Json answer = Json::Object({{"version", JSON_VERSION}});
     answer["windows"] = std::move(windows_);
     answer["refused"] = std::move(refused_);
@@ -60,7 +60,7 @@ class JobsTeller {
   }
 
  private:
-  void TakeWindow(const Job& job, const PlacedWindow& window) {
+  void AddWindow(const Job& job, const PlacedWindow& window) {
     if (asJson_) {
       Json entry = Json::Object({{"line", job.line}});
       entry.AddMembers(WindowJson(window));
@@ -70,7 +70,7 @@ class JobsTeller {
     if (!warning.empty()) TellOf(job, "warning: " + warning);
   }
 
-  void TakeRefusal(const Job& job, const Error& error) {
+  void AddRefusal(const Job& job, const Error& error) {
     TellOf(job, error.what());
     refused_.Add(Json::Object({{"line", job.line}, {"message", error.what()}}));
   }
@@ -98,8 +98,8 @@ JobsReport RunAll(WindowInserter& inserter, const std::vector<Job>& jobs, const 
   JobsTeller teller(file, jobs.size(), defaults.asJson);
   JobsReport report;
   report.totals = InsertJobs(inserter, jobs, OrderOf(defaults),
-                             [&](const Job& job, const JobResult& result) { teller.Take(job, result); });
-  report.answer = teller.TakeAnswer();
+                             [&](const Job& job, const JobResult& result) { teller.Add(job, result); });
+  report.answer = teller.ReleaseAnswer();
   return report;
 }
 

@@ -15,7 +15,7 @@ platform::FolderLock& Lock() {
   return lock;
 }
 
-// The host holds the folder around the module's own request, so only the last release gives it back.
+// A merge holds the folder around the module's own request, so only the last release gives it back.
 int requests = 0;
 
 void ReleaseFolder() {

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <new>
 
+#include "geometry/Vec3.h"
+#include "inc/HostStatus.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/modules/KeptException.h"
 #include "teskarlt/modules/ValueListTags.h"
@@ -13,8 +15,8 @@ namespace teskarlt {
 
 namespace {
 
-constexpr std::int32_t HOST_DONE = 5100;
-constexpr std::int32_t HOST_FAILED = -5001;
+static_assert(brevanta::STATUS_NORMAL == geometry::STATUS_NORMAL);
+static_assert(brevanta::STATUS_ERROR == geometry::STATUS_ERROR);
 
 ModuleSession* currentSession = nullptr;
 
@@ -126,13 +128,13 @@ ModuleSession* ModuleSession::Current() {
 }
 
 std::int32_t ModuleSession::MakeEntity(const brevanta::ValueNode* list) {
-  return AnswerModule(HOST_FAILED, [&] {
+  return AnswerModule(brevanta::STATUS_ERROR, [&] {
     try {
       AddEntity(list);
-      return HOST_DONE;
+      return brevanta::STATUS_NORMAL;
     } catch (const Error& error) {
       if (outcome_.failure.empty()) outcome_.failure = error.what();
-      return HOST_FAILED;
+      return brevanta::STATUS_ERROR;
     }
   });
 }

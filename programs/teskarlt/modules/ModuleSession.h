@@ -1,5 +1,5 @@
-// ModuleSession.h - one command of the module as the host
-// sees it: what the dialog asks for, and what comes back.
+// ModuleSession.h - one command of the module as its host sees it: what the dialog asks for, and what comes
+// back.
 #pragma once
 
 #include <array>

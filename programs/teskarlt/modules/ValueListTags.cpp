@@ -14,7 +14,7 @@ namespace teskarlt {
 
 namespace {
 
-constexpr std::size_t MOST_GROUPS = 10000;  // far above any entity; a list that closes on itself ends here
+constexpr std::size_t MOST_TAGS = 10000;  // far above any entity; a list that closes on itself ends here
 constexpr std::string_view DEFAULT_LAYER = "0";
 
 using NodeValue = decltype(dxf::TypedTag::value);
@@ -50,7 +50,7 @@ NodeValue ValueOf(const brevanta::ValueNode& node) {
 std::vector<dxf::TypedTag> TagsOf(const brevanta::ValueNode* list) {
   std::vector<dxf::TypedTag> tags;
   for (; list != nullptr; list = list->next) {
-    if (tags.size() == MOST_GROUPS) throw Error("the module handed over an entity without an end");
+    if (tags.size() == MOST_TAGS) throw Error("the module handed over an entity without an end");
     if (list->typeCode != dxf::CODE_XDATA_MARKER) tags.push_back({list->typeCode, ValueOf(*list)});
   }
   return tags;

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "inc/DialogModule.h"
+#include "inc/HostFunctionTable.h"
 #include "inc/LibraryMerge.h"
 #include "platform/SystemFolders.h"
 #include "teskarlt/Error.h"
@@ -16,7 +17,6 @@ namespace teskarlt {
 
 namespace {
 
-constexpr const char* PROGRAM = "TESKARLT.EXE";
 constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
 constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
 constexpr const char* INSERT_EXPORT = "Brevanta";
@@ -35,9 +35,9 @@ std::string ProgramFolder() {
   return path.substr(0, path.find_last_of("\\/") + 1);
 }
 
-// The modules find the host by the name of its program.
+// The modules find their host, this program, by its name.
 void CheckProgramName() {
-  if (GetModuleHandleA(PROGRAM) == GetModuleHandleA(nullptr)) return;
+  if (GetModuleHandleA(brevanta::HOST_PROGRAM) == GetModuleHandleA(nullptr)) return;
   throw Error(
       fmt::format("this program must be called teskarlt for the roof window module to find it; it is {}",
                   platform::FromSystemPath(ProgramPath())));

@@ -1,4 +1,4 @@
-// WindowModule.h - the roof window module as the host loads and runs it.
+// WindowModule.h - the roof window module as the program loads and runs it.
 #pragma once
 
 #include <cstdint>

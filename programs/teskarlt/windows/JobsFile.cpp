@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
+#include "inc/DialogServices.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/windows/PointText.h"
 
@@ -42,7 +43,7 @@ std::string ValueText(const std::string& name, const json& value) {
   const bool isListOfLists = !value.empty() && value.front().is_array();
   std::string text;
   for (const json& item : value) {
-    if (!text.empty()) text += isListOfLists ? ';' : ',';
+    if (!text.empty()) text += isListOfLists ? brevanta::POINT_DELIMITER : ',';
     text += isListOfLists ? ValueText(name, item) : ScalarText(name, item);
   }
   return text;

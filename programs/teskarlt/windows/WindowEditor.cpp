@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "inc/DialogServices.h"
 #include "inc/RecordPoints.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/windows/Answers.h"
@@ -39,7 +40,8 @@ void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers
   if (window.roofBuildUp != brevanta::BUILD_UP_SECOND_PLANE || IsUnderside(window, tolerance)) return;
   std::string points;
   for (const RecordPoint& p : window.secondPlanePoints)
-    points += fmt::format("{}{},{},{}", points.empty() ? "" : ";", p.x, p.y, p.z);
+    points += fmt::format("{},{},{}{}", p.x, p.y, p.z, brevanta::POINT_DELIMITER);
+  points.pop_back();
   answers.emplace("secondPlanePoints", points);
 }
 

@@ -3,6 +3,7 @@
 
 #include "dialog/FieldText.h"
 #include "dialog/Refusal.h"
+#include "inc/LibraryMerge.h"
 
 namespace brevanta {
 
@@ -20,7 +21,7 @@ void TakeText(std::string_view name, std::string_view text, char (&field)[SIZE])
 }
 
 void TakeFields(std::string_view line, WindowParams& record) {
-  const auto next = [&line] { return Trimmed(CutField(line, ';')); };
+  const auto next = [&line] { return Trimmed(CutField(line, FIELD_DELIMITER)); };
   TakeText("text2", next(), record.text2);
   TakeSize("width", next(), record.width);
   TakeSize("length", next(), record.length);
@@ -36,7 +37,7 @@ void TakeCatalogueItem(std::string_view line, WindowParams& record) {
   try {
     TakeFields(line, record);
   } catch (const Refusal& refusal) {
-    throw Refusal("the catalogue's window " + Quoted(Trimmed(line.substr(0, line.find(';')))) +
+    throw Refusal("the catalogue's window " + Quoted(Trimmed(line.substr(0, line.find(FIELD_DELIMITER)))) +
                   " cannot be used: " + refusal.what());
   }
 }

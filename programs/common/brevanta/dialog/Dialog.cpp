@@ -9,6 +9,7 @@
 #include "dialog/WindowRules.h"
 #include "inc/DialogModule.h"
 #include "inc/DialogServices.h"
+#include "inc/HostFunctionTable.h"
 #include "platform/ModuleServices.h"
 
 namespace brevanta {
@@ -16,7 +17,6 @@ namespace brevanta {
 namespace {
 
 constexpr std::int32_t NOT_CONFIRMED = 0;
-constexpr const char* HOST_PROGRAM = "TESKARLT.EXE";
 
 // The services when they are of the version that this module was built for, else null.
 const DialogServices* UsableServices(void* hostContext) {

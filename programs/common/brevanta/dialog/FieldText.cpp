@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "dialog/Refusal.h"
+#include "inc/DialogServices.h"
 #include "inc/WindowParams.h"
 
 namespace brevanta {
@@ -55,7 +56,7 @@ std::string_view CutField(std::string_view& rest, char separator) {
 void ParsePoints(std::string_view field, std::string_view text, std::size_t count, void* place) {
   std::string_view rest = text;
   for (std::size_t i = 0; i < count; ++i) {
-    std::string_view point = CutField(rest, ';');
+    std::string_view point = CutField(rest, POINT_DELIMITER);
     const double x = ParseReal(field, CutField(point, ','));
     const double y = ParseReal(field, CutField(point, ','));
     const double z = ParseReal(field, CutField(point, ','));

@@ -14,6 +14,9 @@ constexpr std::int32_t DIALOG_SERVICES_VERSION = 1;
 constexpr const char* ANSWER_CATALOGUE_ITEM = "catalogueItem";
 constexpr const char* ANSWER_CATALOGUE_MAKER = "catalogueMaker";
 
+// Stands between the points of a field of several: "X,Y,Z;X,Y,Z".
+constexpr char POINT_DELIMITER = ';';
+
 // How grave a message of the dialog is.
 constexpr std::int32_t REPORT_NOTE = 0;
 constexpr std::int32_t REPORT_WARNING = 1;

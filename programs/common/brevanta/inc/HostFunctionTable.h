@@ -9,6 +9,9 @@ namespace brevanta {
 
 using HostFunction = void (*)();
 
+// The name by which the modules find the stand-alone host among the modules of the process.
+constexpr const char* HOST_PROGRAM = "TESKARLT.EXE";
+
 // Positions in the table, fixed for every host. An entry may be null: the host does not offer that operation.
 constexpr int ENTRY_GET_DATA_FOLDER = 1;
 constexpr int ENTRY_MAKE_ENTITY = 15;
@@ -21,7 +24,8 @@ constexpr int HOST_FUNCTION_COUNT = 45;
 // `buffer` of `size` characters; true when it is there.
 using GetDataFolderFunction = bool (*)(std::int32_t kind, char* buffer, std::int32_t size);
 
-// Entry 15. Makes an entity of the list, which stays the caller's; `reserved` is always 0. Negative: failed.
+// Entry 15. Makes an entity of the list, which stays the caller's; `reserved` is always 0. STATUS_NORMAL
+// (HostStatus.h), or negative: failed.
 using MakeEntityFunction = std::int32_t (*)(ValueNode* list, std::int32_t reserved);
 
 // Entry 17 comes before the first and entry 19, with 1, behind the last entity of one window.

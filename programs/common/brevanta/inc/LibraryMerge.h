@@ -13,7 +13,7 @@ constexpr const char* CATALOGUE_FILE = "BREVANTA.LIB";
 constexpr const char* SECTION_PATTERN = "VYROBCE*";
 
 // Stands between the fields of an item; the first field, leading blanks removed, is the item's key.
-constexpr const char* FIELD_DELIMITER = ";";
+constexpr char FIELD_DELIMITER = ';';
 
 // The three characters that replace the last three of the catalogue's path while it is rewritten. A merge
 // that was stopped leaves the whole old catalogue there.

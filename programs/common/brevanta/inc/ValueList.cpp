@@ -107,7 +107,7 @@ std::int32_t ReleaseValueList(ValueNode* list, bool keepReferences) {
     HeapRelease(list);
     list = next;
   }
-  return LIST_RELEASED;
+  return STATUS_NORMAL;
 }
 
 void FreeValueList(ValueNode* list) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "inc/HostStatus.h"
 #include "inc/ValueNode.h"
 
 namespace brevanta {
@@ -31,9 +32,6 @@ constexpr std::uint32_t KIND_UNDEFINED =
 constexpr int FIRST_TYPE_CODE = -5;
 constexpr int LAST_TYPE_CODE = 5023;
 
-// What ReleaseValueList returns: the host's normal completion.
-constexpr std::int32_t LIST_RELEASED = 5100;
-
 // The kind word of a code; KIND_NONE outside FIRST_TYPE_CODE to LAST_TYPE_CODE.
 std::uint32_t TypeCodeKind(int code);
 
@@ -41,7 +39,7 @@ std::uint32_t TypeCodeKind(int code);
 bool SameValueKind(std::uint32_t kindA, std::uint32_t kindB);
 
 // Releases the list's nodes with the texts and chunks that they own; with `keepReferences` the texts that
-// refer to objects are left alone. A null list is empty. Returns LIST_RELEASED in every case.
+// refer to objects are left alone. A null list is empty. Returns STATUS_NORMAL in every case.
 std::int32_t ReleaseValueList(ValueNode* list, bool keepReferences);
 
 // Releases the list with everything that it owns.

@@ -3,13 +3,14 @@
 
 #include <cstring>
 
+#include "inc/HostFunctionTable.h"
 #include "platform/ModuleState.h"
 
 namespace brevanta {
 
 namespace {
 
-constexpr const char* HOST_MODULES[] = {"TESKARLT.EXE", "TESKAR2D.ARX"};
+constexpr const char* HOST_MODULES[] = {HOST_PROGRAM, "TESKAR2D.ARX"};
 
 bool HoldsPath(const char* name) {
   return std::strpbrk(name, "\\/") != nullptr;

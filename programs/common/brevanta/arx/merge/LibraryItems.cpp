@@ -14,7 +14,7 @@ namespace {
 // The key of an item line: what SplitFields gives as the first field, without its leading blanks. Only this
 // field is wanted, so the others are not copied.
 std::string_view KeyOf(std::string_view line) {
-  const std::string_view field = line.substr(0, line.find(*FIELD_DELIMITER));
+  const std::string_view field = line.substr(0, line.find(FIELD_DELIMITER));
   return field.substr(std::min(field.find_first_not_of(' '), field.size()));
 }
 
