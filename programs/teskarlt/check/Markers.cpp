@@ -14,12 +14,12 @@
 namespace teskarlt::check {
 namespace {
 
-using Names = std::array<std::string_view, 5>;  // empty ones do not count
+using MarkerNames = std::array<std::string_view, 5>;  // empty ones do not count
 
 struct Expected {
   std::string_view type;
-  Names all;      // each has to be there
-  Names oneOf{};  // if there are any, one of them
+  MarkerNames all;      // each has to be there
+  MarkerNames oneOf{};  // if there are any, one of them
 };
 
 // In the order of their types. Types that are not here are not checked.
@@ -96,7 +96,7 @@ void AddTo(std::string& list, std::string_view name) {
 }
 
 // The marker that is missing; empty when one of these is there.
-std::string MissingOne(const Object& object, const Names& names) {
+std::string MissingOne(const Object& object, const MarkerNames& names) {
   std::string list;
   for (const std::string_view name : names) {
     if (name.empty()) continue;

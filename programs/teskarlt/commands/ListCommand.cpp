@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <span>
 
 #include <fmt/format.h>
 
@@ -14,6 +15,7 @@
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
+#include "window/RecordFields.h"
 
 namespace teskarlt {
 
@@ -29,42 +31,43 @@ Json PointJson(const brevanta::RecordPoint& p) {
   return Json::List({p.x, p.y, p.z});
 }
 
-Json PointsJson(const brevanta::RecordPoint (&points)[3]) {
-  return Json::List({PointJson(points[0]), PointJson(points[1]), PointJson(points[2])});
+Json PointsJson(std::span<const brevanta::RecordPoint> points) {
+  Json list = Json::List();
+  for (const brevanta::RecordPoint& p : points)
+    list.Add(PointJson(p));
+  return list;
+}
+
+// Texts in UTF-8, as they were read; the opening code, which is ASCII, as the window stands now.
+Json TextJson(const DrawnWindow& window, const brevanta::WindowParams& params,
+              const brevanta::RecordField& field) {
+  const bool isCode = field.name == "openingCode";
+  return isCode ? Json(TextIn(params, field)) : Json(window.*TextMember(field));
+}
+
+Json FieldJson(const DrawnWindow& window, const brevanta::WindowParams& params,
+               const brevanta::RecordField& field) {
+  switch (field.kind) {
+    case brevanta::FieldKind::Length:
+    case brevanta::FieldKind::Real:
+      return RealIn(params, field);
+    case brevanta::FieldKind::Integer:
+      return IntegerIn(params, field);
+    case brevanta::FieldKind::Text:
+      return TextJson(window, params, field);
+    case brevanta::FieldKind::Points: {
+      const auto points = PointsIn(params, field);
+      return points.size() == 1 ? PointJson(points[0]) : PointsJson(points);
+    }
+  }
+  return nullptr;
 }
 
 // Every field, under its name in the record.
 Json FieldsJson(const DrawnWindow& window, const brevanta::WindowParams& params) {
   Json json;
-  json["width"] = params.width;
-  json["length"] = params.length;
-  json["frameWidth"] = params.frameWidth;
-  json["frameDepth"] = params.frameDepth;
-  json["skirtHeight"] = params.skirtHeight;
-  json["lowerEdgeHeight"] = params.lowerEdgeHeight;
-  json["upperEdgeHeight"] = params.upperEdgeHeight;
-  json["placeByHeight"] = params.placeByHeight;
-  json["heightReference"] = params.heightReference;
-  json["widthAnchor"] = params.widthAnchor;
-  json["pickOffset"] = params.pickOffset;
-  json["roofBuildUp"] = params.roofBuildUp;
-  json["bodyAsFaces"] = params.bodyAsFaces;
-  json["slopeOffset"] = params.slopeOffset;
-  json["layerThickness"] = params.layerThickness;
-  json["pitch"] = params.pitch;
-  json["drawOpeningSymbol"] = params.drawOpeningSymbol;
-  json["text1"] = window.text1;
-  json["text2"] = window.text2;
-  json["text3"] = window.text3;
-  json["openingCode"] = params.openingCode;
-  json["storedPoint"] = PointJson(params.storedPoint);
-  json["insertionPoint"] = PointJson(params.insertionPoint);
-  json["rotation"] = params.rotation;
-  json["rotation2"] = params.rotation2;
-  json["secondPlanePoints"] = PointsJson(params.secondPlanePoints);
-  json["roofPlanePoints"] = PointsJson(params.roofPlanePoints);
-  json["unitFactor"] = params.unitFactor;
-  json["markerValue"] = params.markerValue;
+  for (const brevanta::RecordField* field : brevanta::LISTED_FIELDS)
+    json[field->name] = FieldJson(window, params, *field);
   return json;
 }
 

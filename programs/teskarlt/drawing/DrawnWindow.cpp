@@ -2,7 +2,7 @@
 #include "teskarlt/drawing/DrawnWindow.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <string_view>
@@ -11,6 +11,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/drawing/DescriptionReader.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -21,75 +22,17 @@ namespace teskarlt {
 
 namespace {
 
-using brevanta::RecordPoint;
-using brevanta::WindowParams;
-
-// The items of the description, by kind and in their order. What cannot be read stands as 0 and marks the
-// description as damaged: a drawing stays usable when one of its windows is not.
-struct Description {
-  std::vector<std::string> texts;
-  std::vector<std::int32_t> shorts;
-  std::vector<double> reals;
-  std::vector<double> distances;
-  std::vector<double> scales;
-  std::vector<RecordPoint> points;
-  bool isDamaged = false;
-};
+constexpr std::int32_t NO_NUMBER = 0;
+constexpr std::int32_t ANY_UNIT = 1;
 
 enum class Section { Foreign, Element, WindowElement, Description };
 
-// Where the extended data of our applications stands in an entity, and what it says.
+// What the extended data of an entity says of its window.
 struct Marks {
   bool isWindow = false;
-  std::int32_t number = 0;
   std::optional<dxf::Tag> numberTag;
-  Description description;
+  DrawnWindow window;  // without its entities
 };
-
-double RealOf(const dxf::Tag& tag, Description& of) {
-  const std::optional<double> value = dxf::ParseReal(tag.value);
-  of.isDamaged = of.isDamaged || !value;
-  return value.value_or(0.0);
-}
-
-std::int32_t IntegerOf(const dxf::Tag& tag, Description& of) {
-  const std::optional<std::int64_t> value = dxf::ParseInteger(tag.value);
-  const bool fits = value && *value >= std::numeric_limits<std::int32_t>::min() &&
-                    *value <= std::numeric_limits<std::int32_t>::max();
-  of.isDamaged = of.isDamaged || !fits;
-  return fits ? static_cast<std::int32_t>(*value) : 0;
-}
-
-void TakeDescription(const dxf::Document& drawing, const dxf::Tag& tag, Description& to) {
-  switch (tag.code) {
-    case dxf::CODE_XDATA_TEXT:
-      to.texts.push_back(drawing.Text(tag));
-      break;
-    case dxf::CODE_XDATA_INTEGER16:
-      to.shorts.push_back(IntegerOf(tag, to));
-      break;
-    case dxf::CODE_XDATA_REAL:
-      to.reals.push_back(RealOf(tag, to));
-      break;
-    case dxf::CODE_XDATA_DISTANCE:
-      to.distances.push_back(RealOf(tag, to));
-      break;
-    case dxf::CODE_XDATA_SCALE:
-      to.scales.push_back(RealOf(tag, to));
-      break;
-    case dxf::CODE_XDATA_WORLD_POINT:
-      to.points.push_back({RealOf(tag, to), 0, 0});
-      break;
-    case dxf::CODE_XDATA_WORLD_POINT + dxf::Y_DISTANCE:
-      if (!to.points.empty()) to.points.back().y = RealOf(tag, to);
-      break;
-    case dxf::CODE_XDATA_WORLD_POINT + dxf::Z_DISTANCE:
-      if (!to.points.empty()) to.points.back().z = RealOf(tag, to);
-      break;
-    default:
-      break;
-  }
-}
 
 Section SectionOf(std::string_view application) {
   if (dxf::SameName(application, brevanta::ELEMENT_APPLICATION)) return Section::Element;
@@ -97,19 +40,8 @@ Section SectionOf(std::string_view application) {
   return Section::Foreign;
 }
 
-void TakeTag(const dxf::Document& drawing, const dxf::Tag& tag, Section& section, Marks& marks) {
-  if (tag.code == dxf::CODE_XDATA_APPLICATION) {
-    section = SectionOf(dxf::Trimmed(tag.value));
-  } else if (section == Section::Element && tag.code == dxf::CODE_XDATA_TEXT &&
-             dxf::Trimmed(tag.value) == brevanta::WINDOW_ELEMENT) {
-    section = Section::WindowElement;
-    marks.isWindow = true;
-  } else if (section == Section::WindowElement && tag.code == dxf::CODE_XDATA_INTEGER32) {
-    marks.number = IntegerOf(tag, marks.description);
-    marks.numberTag = tag;
-  } else if (section == Section::Description) {
-    TakeDescription(drawing, tag, marks.description);
-  }
+bool IsWindowMark(const dxf::Tag& tag) {
+  return tag.code == dxf::CODE_XDATA_TEXT && dxf::Trimmed(tag.value) == brevanta::WINDOW_ELEMENT;
 }
 
 // The part of the entity's text from its first application name on; empty when nothing of ours can be in it.
@@ -124,47 +56,35 @@ std::string_view ExtendedData(const dxf::Document& drawing, const dxf::Entity& e
   return {};
 }
 
-Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData) {
+// Reads all but the entities; what no complete description tells stays as it is by default.
+Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, std::int32_t unitFactor) {
   Marks marks;
+  DrawnWindow described;
+  DescriptionReader description(drawing, unitFactor, described);
   Section section = Section::Foreign;
   dxf::TagReader reader(drawing.Source(), extendedData);
-  for (dxf::Tag tag; reader.Next(tag);)
-    TakeTag(drawing, tag, section, marks);
-  return marks;
-}
-
-bool IsComplete(const Description& d) {
-  return !d.isDamaged && d.texts.size() >= 4 && d.shorts.size() >= 5 && d.reals.size() >= 7 &&
-         !d.distances.empty() && !d.scales.empty() && d.points.size() >= 8;
-}
-
-// The window that a complete description tells of; the
-// items come in the order in which the module writes them.
-void TakeComplete(const Description& d, double unitFactor, DrawnWindow& window) {
-  WindowParams& params = window.params;
-  params.length = d.reals[0] / unitFactor;
-  params.width = d.distances[0] / unitFactor;
-  params.frameWidth = d.scales[0] / unitFactor;
-  window.text1 = d.texts[0];
-  window.text3 = d.texts[1];
-  window.openingCode = d.texts[2];
-  window.text2 = d.texts[3];
-  params.drawOpeningSymbol = d.shorts[1];
-  params.frameDepth = d.reals[1] / unitFactor;
-  params.lowerEdgeHeight = d.reals[2] / unitFactor;
-  params.heightReference = d.shorts[2];
-  params.widthAnchor = d.shorts[3];
-  params.roofBuildUp = d.shorts[4];
-  params.storedPoint = d.points[0];
-  params.insertionPoint = d.points[1];
-  params.rotation = d.reals[3];
-  params.rotation2 = d.reals[4];
-  params.layerThickness = d.reals[5] / unitFactor;
-  params.pitch = d.reals[6];
-  for (std::size_t i = 0; i < 3; ++i) {
-    params.secondPlanePoints[i] = d.points[2 + 2 * i];
-    params.roofPlanePoints[i] = d.points[3 + 2 * i];
+  for (dxf::Tag tag; reader.Next(tag);) {
+    if (tag.code == dxf::CODE_XDATA_APPLICATION) {
+      section = SectionOf(dxf::Trimmed(tag.value));
+    } else if (section == Section::Element && IsWindowMark(tag)) {
+      section = Section::WindowElement;
+      marks.isWindow = true;
+    } else if (section == Section::WindowElement && tag.code == dxf::CODE_XDATA_INTEGER32) {
+      marks.numberTag = tag;
+    } else if (section == Section::Description) {
+      description.Read(tag);
+    }
   }
+  const std::optional<std::int32_t> number = marks.numberTag ? IntegerOf(*marks.numberTag) : NO_NUMBER;
+  DrawnWindow& window = marks.window;
+  if (number && description.IsComplete()) {
+    window = std::move(described);
+    window.isComplete = true;
+  }
+  window.number = number.value_or(NO_NUMBER);
+  window.params.markerValue = window.number;
+  window.params.unitFactor = unitFactor;
+  return marks;
 }
 
 bool IsFace(const dxf::Entity& entity) {
@@ -197,16 +117,6 @@ void AddWithCopies(DrawnWindow window, std::vector<DrawnWindow>& windows) {
   }
 }
 
-DrawnWindow MakeWindow(const Marks& marks, std::int32_t unitFactor) {
-  DrawnWindow window;
-  window.number = marks.number;
-  window.params.markerValue = marks.number;
-  window.params.unitFactor = unitFactor;
-  window.isComplete = IsComplete(marks.description);
-  if (window.isComplete) TakeComplete(marks.description, unitFactor, window);
-  return window;
-}
-
 }  // namespace
 
 bool CanBePart(std::string_view type) {
@@ -215,7 +125,13 @@ bool CanBePart(std::string_view type) {
 
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
   const std::string_view extendedData = ExtendedData(drawing, entity);
-  return !extendedData.empty() && ReadMarks(drawing, extendedData).isWindow;
+  return !extendedData.empty() && ReadMarks(drawing, extendedData, ANY_UNIT).isWindow;
+}
+
+std::string DrawnWindow::*TextMember(const brevanta::RecordField& field) {
+  const auto* text = std::find_if(std::begin(DRAWN_TEXTS), std::end(DRAWN_TEXTS),
+                                  [&](const DrawnText& drawn) { return drawn.field == field.name; });
+  return text->text;
 }
 
 std::size_t LinesOf(const DrawnWindow& window) {
@@ -236,7 +152,7 @@ std::string EntityMismatch(const DrawnWindow& window) {
 }
 
 std::optional<dxf::Tag> NumberTagOf(const dxf::Document& drawing, const dxf::Entity& entity) {
-  return ReadMarks(drawing, ExtendedData(drawing, entity)).numberTag;
+  return ReadMarks(drawing, ExtendedData(drawing, entity), ANY_UNIT).numberTag;
 }
 
 std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor) {
@@ -248,10 +164,10 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
     if (extendedData.empty() || !CanBePart(entity.type)) continue;
     auto [found, isNew] = windowOf.try_emplace(extendedData, notOurs);
     if (isNew) {
-      const Marks marks = ReadMarks(drawing, extendedData);
+      Marks marks = ReadMarks(drawing, extendedData, unitFactor);
       if (!marks.isWindow) continue;
       found->second = windows.size();
-      windows.push_back(MakeWindow(marks, unitFactor));
+      windows.push_back(std::move(marks.window));
     }
     if (found->second == notOurs) continue;
     DrawnWindow& window = windows[found->second];

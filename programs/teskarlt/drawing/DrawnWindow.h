@@ -10,6 +10,7 @@
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/dxf/Document.h"
+#include "window/RecordFields.h"
 
 namespace teskarlt {
 
@@ -26,6 +27,19 @@ struct DrawnWindow {
   std::vector<const dxf::Entity*> entities;
   std::size_t faces = 0;  // of the entities
 };
+
+// The texts by the record's fields.
+struct DrawnText {
+  std::string_view field;
+  std::string DrawnWindow::*text;
+};
+inline constexpr DrawnText DRAWN_TEXTS[] = {{"text1", &DrawnWindow::text1},
+                                            {"text2", &DrawnWindow::text2},
+                                            {"text3", &DrawnWindow::text3},
+                                            {"openingCode", &DrawnWindow::openingCode}};
+
+// Where a window has the text of that field, which is one of the texts.
+std::string DrawnWindow::*TextMember(const brevanta::RecordField& field);
 
 // Whether windows have entities of that type.
 bool CanBePart(std::string_view type);

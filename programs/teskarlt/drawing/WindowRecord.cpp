@@ -19,6 +19,7 @@
 #include "window/Choices.h"
 #include "window/EdgeHeights.h"
 #include "window/Outlines.h"
+#include "window/RecordFields.h"
 #include "window/SecondPlane.h"
 
 namespace teskarlt {
@@ -33,10 +34,11 @@ constexpr double SAME_LENGTH = 0.001;  // metres
 constexpr double SAME_ANGLE = 0.01;    // degrees
 constexpr double ROUNDING = 1e6;       // sizes out of the geometry are whole micrometres
 
-template <std::size_t SIZE>
-void StoreText(const dxf::Document& drawing, const std::string& utf8, char (&field)[SIZE]) {
-  const std::string bytes = drawing.ToCodePage(utf8).substr(0, SIZE - 1);
-  std::memcpy(field, bytes.c_str(), bytes.size() + 1);
+// As much of the text as the field holds, terminated, in the drawing's code page.
+void StoreText(const dxf::Document& drawing, const std::string& utf8, const brevanta::RecordField& field,
+               WindowParams& params) {
+  const std::string bytes = drawing.ToCodePage(utf8).substr(0, field.size - 1);
+  std::memcpy(FieldPlace(params, field), bytes.c_str(), bytes.size() + 1);
 }
 
 // The opening code of the mirrored window: hinges on the left without a word go to the right.
@@ -245,10 +247,8 @@ WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window
     reading.obstacle = "its description is damaged";
     return reading;
   }
-  StoreText(drawing, window.text1, reading.params.text1);
-  StoreText(drawing, window.text2, reading.params.text2);
-  StoreText(drawing, window.text3, reading.params.text3);
-  StoreText(drawing, window.openingCode, reading.params.openingCode);
+  for (const DrawnText& drawn : DRAWN_TEXTS)
+    StoreText(drawing, window.*drawn.text, *brevanta::FindRecordField(drawn.field), reading.params);
   reading.obstacle = EntityMismatch(window);
   if (!reading.obstacle.empty()) return reading;
   const WindowReading described = reading;

@@ -15,6 +15,7 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "window/Choices.h"
+#include "window/Outlines.h"
 #include "window/Parts.h"
 
 namespace teskarlt {
@@ -111,14 +112,11 @@ class ShapeReader {
     return std::abs(geometry::VecDot(Unit(normal), Difference(topEdge[0], lines_[0][0])));
   }
 
-  // How much longer than the window its opening is: where it is cut at the lower or upper edge.
+  // How much longer than the window its opening is.
   double Lengthening(const Vec3& up) const {
-    const double depth = Depth();
     const double tangent = up.z / std::hypot(up.x, up.y);
-    double longer = 0.0;
-    if (HasPlumbLowerReveal(window_.params)) longer += std::abs(depth * tangent);
-    if (HasLevelUpperReveal(window_.params) && tangent != 0.0) longer += std::abs(depth / tangent);
-    return longer;
+    const auto [lower, upper] = brevanta::RevealLengthsOf(window_.params, Depth(), tangent);
+    return lower + (tangent != 0.0 ? upper : 0.0);
   }
 
   void CheckRectangle(const Corners& outline) const {

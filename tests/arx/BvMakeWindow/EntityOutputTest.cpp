@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "arx/BvMakeWindow/ExtendedData.h"
+#include "arx/BvMakeWindow/DescriptionOutput.h"
 #include "arx/BvMakeWindow/FaceOutput.h"
 #include "arx/BvMakeWindow/LineOutput.h"
 #include "inc/ValueList.h"

@@ -20,7 +20,8 @@ struct RecordPoint {
 
 // One roof window. The layout is the interface between separately built modules: little-endian, natural
 // alignment, every offset asserted below. Lengths are metres, each consumer multiplies them by `unitFactor`.
-// Texts are zero-terminated bytes in the drawing's code page; a reader never goes past the field's size.
+// Texts are zero-terminated bytes in the drawing's code page; a reader never goes past the field's size. The
+// values of its choices have names in window/Choices.h.
 struct WindowParams {
   double width;            // 0    0.94   m, across the slope
   double length;           // 8    1.4    m, along the slope; the rise is length * sin(pitch)
@@ -30,7 +31,7 @@ struct WindowParams {
   double lowerEdgeHeight;  // 40   0      m, lower edge above the base level (drawing units when written by
                            //             ComputeEdgeHeights in the mode that derives it)
   std::int32_t placeByHeight;    // 48   1   1: placed at `lowerEdgeHeight`; other: at the insertion point
-  std::int32_t heightReference;  // 52   1   0 to 3: which line of the window the heights refer to
+  std::int32_t heightReference;  // 52   1   0 to 3: how the reveals of the opening run
   std::int32_t widthAnchor;      // 56   0   0 centred at the insertion point, 1 starting, 2 ending there
   std::int32_t padding60;        // 60   -   not used
   double pickOffset;             // 64   0   m, the insertion point is moved by it in the direction `rotation`

@@ -40,9 +40,8 @@ struct Sizes {
 
 // What the roof's layer does to the opening.
 struct LayerPart {
-  double below = 0.0;  // lengthening along the slope, at the plumb lower reveal
-  double above = 0.0;  // and at the level upper one
-  double dy = 0.0;     // displacement between window and opening
+  RevealLengths longer;  // along the slope
+  double dy = 0.0;       // displacement between window and opening
   double dz = 0.0;
 };
 
@@ -62,11 +61,8 @@ void MoveUpSlope(const Slope& slope, double distance, Vec3& p) {
 LayerPart PartOfLayer(const Slope& slope, double thickness, const WindowParams& params) {
   LayerPart part;
   if (!(thickness > 0.0)) return part;
-  if (HasPlumbLowerReveal(params)) {
-    part.below = std::abs(thickness * slope.tangent);
-    part.dz = std::abs(thickness / slope.cosine);
-  }
-  if (HasLevelUpperReveal(params)) part.above = std::abs(thickness / slope.tangent);
+  part.longer = RevealLengthsOf(params, thickness, slope.tangent);
+  if (HasPlumbLowerReveal(params)) part.dz = std::abs(thickness / slope.cosine);
   if (HasSquareLowerReveal(params)) {
     part.dy = -slope.side * std::abs(thickness * slope.sine);
     part.dz = std::abs(thickness * slope.cosine);
@@ -137,7 +133,14 @@ WindowOutlines OutlinesAt(const Vec3& anchor, const WindowParams& params, double
   const double glazedWidth = starts.direction * (size.width - 2 * size.frame);
   return {Rectangle(starts.outer, slope, size.length, width),
           Rectangle(starts.inner, slope, size.length - 2 * size.frame, glazedWidth),
-          Rectangle(starts.opening, slope, size.length + layer.below + layer.above, width)};
+          Rectangle(starts.opening, slope, size.length + layer.longer.lower + layer.longer.upper, width)};
+}
+
+RevealLengths RevealLengthsOf(const WindowParams& params, double thickness, double tangent) {
+  RevealLengths lengths;
+  if (HasPlumbLowerReveal(params)) lengths.lower = std::abs(thickness * tangent);
+  if (HasLevelUpperReveal(params)) lengths.upper = std::abs(thickness / tangent);
+  return lengths;
 }
 
 Vec3 MovedInsertionPoint(const WindowParams& params, double unitFactor) {
@@ -164,6 +167,7 @@ Outline DrawnFrame(const WindowParams& params) {
 Vec3 OnPlacingPlane(const Vec3& onEdge, const Vec3& normal, double pitch, const WindowParams& params) {
   if (!UsesSecondPlane(params)) return onEdge;
   if (HasSquareLowerReveal(params)) return OnUnderside(onEdge, normal, params);
+  if (!HasPlumbLowerReveal(params)) return onEdge;
   const double depth = params.layerThickness * params.unitFactor;
   return Moved(onEdge, {0, 0, -1}, depth / geometry::Cosine(pitch));
 }

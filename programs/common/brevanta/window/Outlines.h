@@ -32,6 +32,15 @@ struct LocalSlope {
 WindowOutlines OutlinesAt(const geometry::Vec3& anchor, const WindowParams& params, double unitFactor,
                           const LocalSlope& slope);
 
+// What a roof layer adds to the length of the opening, at a plumb lower and a level upper reveal.
+struct RevealLengths {
+  double lower = 0.0;
+  double upper = 0.0;  // infinite on a flat roof
+};
+
+// For a layer of that thickness, in any unit, on a roof whose slope has that tangent.
+RevealLengths RevealLengthsOf(const WindowParams& params, double thickness, double tangent);
+
 // The record's insertion point, moved by its `pickOffset` in the direction `rotation`. Roof-local.
 geometry::Vec3 MovedInsertionPoint(const WindowParams& params, double unitFactor);
 

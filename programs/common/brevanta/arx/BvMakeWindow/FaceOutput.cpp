@@ -1,7 +1,7 @@
 // FaceOutput.cpp - the typed value list of one face.
 #include "arx/BvMakeWindow/FaceOutput.h"
 
-#include "arx/BvMakeWindow/ExtendedData.h"
+#include "arx/BvMakeWindow/DescriptionOutput.h"
 #include "arx/BvMakeWindow/LayerName.h"
 #include "arx/BvMakeWindow/ListBuilder.h"
 #include "arx/exports/HostTable.h"
@@ -36,7 +36,7 @@ ValueNode* BuildFaceList(const CbvMakeWindow& window, const std::array<GcGePoint
     list.Point(code++, corner.x, corner.y, corner.z);
   }
   list.Short(70, HiddenEdges(edges));
-  AppendExtendedData(window, list);
+  AppendDescription(window, list);
   return list.Head();
 }
 

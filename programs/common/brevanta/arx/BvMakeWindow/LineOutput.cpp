@@ -1,7 +1,7 @@
 // LineOutput.cpp - the typed value list of one line.
 #include "arx/BvMakeWindow/LineOutput.h"
 
-#include "arx/BvMakeWindow/ExtendedData.h"
+#include "arx/BvMakeWindow/DescriptionOutput.h"
 #include "arx/BvMakeWindow/ListBuilder.h"
 #include "arx/exports/HostTable.h"
 #include "inc/ValueList.h"
@@ -22,7 +22,7 @@ ValueNode* BuildLineList(const CbvMakeWindow& window, const GcGePoint3d& start, 
   to.transformBy(window.roofTransform);
   list.Point(10, from.x, from.y, from.z);
   list.Point(11, to.x, to.y, to.z);
-  AppendExtendedData(window, list);
+  AppendDescription(window, list);
   return list.Head();
 }
 

@@ -1,7 +1,9 @@
 // RecordText.h - reads a text field of the record within the field's size.
 #pragma once
 
+#include <algorithm>
 #include <cstring>
+#include <string_view>
 
 #include "inc/WindowParams.h"
 
@@ -15,6 +17,13 @@ class RecordText {
     static_assert(SIZE < sizeof text_);
     std::memcpy(text_, field, SIZE);
     text_[SIZE] = '\0';
+  }
+
+  // What TextIn gives for a field (RecordFields.h).
+  explicit RecordText(std::string_view bytes) {
+    const std::size_t size = std::min(bytes.size(), sizeof text_ - 1);
+    std::memcpy(text_, bytes.data(), size);
+    text_[size] = '\0';
   }
 
   const char* Text() const { return text_; }
