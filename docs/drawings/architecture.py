@@ -6,7 +6,7 @@ from paper import HERE, INK, OUTER, SOFT, Svg
 sys.path.insert(0, str(HERE.parents[1] / "tests" / "rules"))
 from test_includes import PARTS  # noqa: E402 (the one table of the arrows)
 
-WIDTH, SIDE, FLOOR_HEIGHT, BOX_HEIGHT = 920, 12, 92, 42
+WIDTH, SIDE, FLOOR_HEIGHT, BOX_HEIGHT = 920, 12, 82, 42
 GAP, LANE = 14, 10  # between boxes; as wide as an arrow that passes a floor
 TEXT_WIDTH, BOX_MARGIN = 6.4, 18  # of a letter at size 12; of both sides of a box's words
 SWEEPS = 24
@@ -49,7 +49,7 @@ class Place:
     def __init__(self, floor, name="", folder=""):
         self.floor, self.name, self.folder = floor, name, folder
         self.above, self.below, self.x = [], [], 0.0
-        letters = max(len(name) * 1.25, len(short(folder)) * 0.9)
+        letters = max(len(name) * 1.35, len(short(folder)) * 0.9)
         self.width = letters * TEXT_WIDTH + BOX_MARGIN if name else LANE
 
 
@@ -131,7 +131,7 @@ def draw_arrow(svg, upper, lower, y):
     """From the foot of the upper place to the head of the lower one."""
     points = [(upper.x, y - BOX_HEIGHT / 2 - FLOOR_HEIGHT + BOX_HEIGHT), (lower.x, y - BOX_HEIGHT / 2)]
     (x1, y1), (x2, y2) = points
-    svg.parts.append(f'<path d="M{x1:.1f},{y1:.1f} C{x1:.1f},{y1 + 26:.1f} {x2:.1f},{y2 - 30:.1f} {x2:.1f},{y2:.1f}" '
+    svg.parts.append(f'<path d="M{x1:.1f},{y1:.1f} C{x1:.1f},{y1 + 24:.1f} {x2:.1f},{y2 - 26:.1f} {x2:.1f},{y2:.1f}" '
                      f'stroke="{SOFT}" fill="none" stroke-width="1.2"/>')
     if lower.name:
         svg.polygon([(x2, y2), (x2 - 4, y2 - 9), (x2 + 4, y2 - 9)], SOFT, SOFT, 0)
