@@ -199,8 +199,8 @@ std::size_t Document::EncodedSize(std::string_view bytes) const {
   return raw.size();
 }
 
-std::uint64_t Document::AddEntity(std::span<const TypedTag> groups) {
-  return state_->edits.AddEntity(groups);
+std::uint64_t Document::AddEntity(std::span<const TypedTag> tags) {
+  return state_->edits.AddEntity(tags);
 }
 
 void Document::RemoveEntity(const Entity& entity) {

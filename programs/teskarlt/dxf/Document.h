@@ -84,12 +84,12 @@ class Document {
 
   // --- Edits ---
 
-  // Adds an entity behind the last one and gives its handle, 0 in a drawing without handles. The groups come
+  // Adds an entity behind the last one and gives its handle, 0 in a drawing without handles. The tags come
   // in the order 0, 100, 8, (6), (62), 100, points and numbers, 1001 with its extended data; -3 is passed
   // over. Handle, owner and what the version wants otherwise are added here; so are layer, linetype and
   // applications that the drawing lacks. Refused whole: unknown codes, values of a wrong kind or range,
   // numbers that are not finite, extended texts of more than 255 bytes, unknown linetypes.
-  std::uint64_t AddEntity(std::span<const TypedTag> groups);
+  std::uint64_t AddEntity(std::span<const TypedTag> tags);
 
   // Takes an entity of Entities() out, and out of the groups and drawing orders that list it; a group that
   // loses its last member goes too, and so does what the entity owns. A second time does nothing.

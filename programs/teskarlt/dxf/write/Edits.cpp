@@ -29,19 +29,19 @@ void AppendBytes(std::string& key, const Plain& value) {
   key.append(reinterpret_cast<const char*>(&value), sizeof value);
 }
 
-// Equal for equal groups alone.
-void AppendKey(std::string& key, const TypedTag& group) {
-  AppendBytes(key, group.code);
-  AppendBytes(key, group.value.index());
-  if (const auto* const text = std::get_if<std::string_view>(&group.value)) {
+// Equal for equal tags alone.
+void AppendKey(std::string& key, const TypedTag& tag) {
+  AppendBytes(key, tag.code);
+  AppendBytes(key, tag.value.index());
+  if (const auto* const text = std::get_if<std::string_view>(&tag.value)) {
     AppendBytes(key, text->size());
     key.append(*text);
-  } else if (const auto* const point = std::get_if<Point>(&group.value)) {
+  } else if (const auto* const point = std::get_if<Point>(&tag.value)) {
     AppendBytes(key, *point);
-  } else if (const auto* const real = std::get_if<double>(&group.value)) {
+  } else if (const auto* const real = std::get_if<double>(&tag.value)) {
     AppendBytes(key, *real);
   } else {
-    AppendBytes(key, std::get<std::int64_t>(group.value));
+    AppendBytes(key, std::get<std::int64_t>(tag.value));
   }
 }
 
@@ -67,51 +67,51 @@ Edits::Edits(const SourceText& source, const Index& index, const TextCodec& code
       groups_(source, index, codec, rules, handles_),
       isRemoved_(index.entities.size()) {}
 
-std::uint64_t Edits::AddEntity(std::span<const TypedTag> groups) {
+std::uint64_t Edits::AddEntity(std::span<const TypedTag> tags) {
   const EditMark mark = Mark();
   try {
-    CheckTags(groups);
-    return AddCheckedEntity(groups);
+    CheckTags(tags);
+    return AddCheckedEntity(tags);
   } catch (...) {
     Rollback(mark);
     throw;
   }
 }
 
-std::uint64_t Edits::AddCheckedEntity(std::span<const TypedTag> groups) {
-  RequireNames(groups);
-  const std::size_t extended = ExtendedDataBegin(groups);
+std::uint64_t Edits::AddCheckedEntity(std::span<const TypedTag> tags) {
+  RequireNames(tags);
+  const std::size_t extended = ExtendedDataBegin(tags);
   const std::uint64_t handle = handles_.Allocate();
   scratch_.clear();
   TagWriter writer(scratch_, rules_.lineEnd);
-  writer.Text(CODE_TYPE, TextOf(groups[0]));
+  writer.Text(CODE_TYPE, TextOf(tags[0]));
   if (handle != 0) writer.Handle(CODE_HANDLE, handle);
   if (grouping_) {
     grouping_->members.push_back(handle);
     if (HasOwners(rules_.version)) WriteReactors(writer, grouping_->reactors);
   }
   if (const std::uint64_t owner = ModelSpaceHandle(); owner != 0) writer.Handle(CODE_OWNER, owner);
-  for (const TypedTag& group : groups.subspan(1, extended - 1)) {
-    if (group.code == CODE_SUBCLASS && !HasSubclassMarkers(rules_.version)) continue;
-    if (group.code == CODE_LAYER) {
-      WriteTag(writer, codec_, {CODE_LAYER, std::string_view(entries_.RequireLayer(TextOf(group)))});
+  for (const TypedTag& tag : tags.subspan(1, extended - 1)) {
+    if (tag.code == CODE_SUBCLASS && !HasSubclassMarkers(rules_.version)) continue;
+    if (tag.code == CODE_LAYER) {
+      WriteTag(writer, codec_, {CODE_LAYER, std::string_view(entries_.RequireLayer(TextOf(tag)))});
     } else {
-      WriteTag(writer, codec_, group);
+      WriteTag(writer, codec_, tag);
     }
   }
   const std::string_view body = store_.Add(scratch_);
-  const std::string_view extendedData = ExtendedData(groups.subspan(extended));
+  const std::string_view extendedData = ExtendedData(tags.subspan(extended));
   added_.push_back(body);
   if (!extendedData.empty()) added_.push_back(extendedData);
   return handle;
 }
 
 // What the entity refers to by name must be in the drawing, else strict programs refuse all of it.
-void Edits::RequireNames(std::span<const TypedTag> groups) {
-  for (const TypedTag& group : groups) {
-    if (group.code == CODE_LAYER) entries_.RequireLayer(TextOf(group));
-    if (group.code == CODE_LINETYPE) entries_.RequireLinetype(TextOf(group));
-    if (group.code == CODE_XDATA_APPLICATION) entries_.RequireApplication(TextOf(group));
+void Edits::RequireNames(std::span<const TypedTag> tags) {
+  for (const TypedTag& tag : tags) {
+    if (tag.code == CODE_LAYER) entries_.RequireLayer(TextOf(tag));
+    if (tag.code == CODE_LINETYPE) entries_.RequireLinetype(TextOf(tag));
+    if (tag.code == CODE_XDATA_APPLICATION) entries_.RequireApplication(TextOf(tag));
   }
 }
 
@@ -124,16 +124,16 @@ std::uint64_t Edits::ModelSpaceHandle() const {
                              Quoted(index_.modelSpace.value)));
 }
 
-std::string_view Edits::ExtendedData(std::span<const TypedTag> groups) {
-  if (groups.empty()) return {};
+std::string_view Edits::ExtendedData(std::span<const TypedTag> tags) {
+  if (tags.empty()) return {};
   std::string key;
-  for (const TypedTag& group : groups)
-    AppendKey(key, group);
+  for (const TypedTag& tag : tags)
+    AppendKey(key, tag);
   if (key == lastKey_) return lastExtendedData_;
   scratch_.clear();
   TagWriter writer(scratch_, rules_.lineEnd);
-  for (const TypedTag& group : groups)
-    if (group.code != CODE_XDATA_MARKER) WriteTag(writer, codec_, group);
+  for (const TypedTag& tag : tags)
+    if (tag.code != CODE_XDATA_MARKER) WriteTag(writer, codec_, tag);
   lastExtendedData_ = store_.Add(scratch_);
   lastKey_ = std::move(key);
   return lastExtendedData_;

@@ -37,7 +37,7 @@ class Edits {
  public:
   Edits(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules);
 
-  std::uint64_t AddEntity(std::span<const TypedTag> groups);
+  std::uint64_t AddEntity(std::span<const TypedTag> tags);
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
   void ReplaceValue(const Tag& tag, std::string value);
@@ -62,10 +62,10 @@ class Edits {
     std::vector<std::uint64_t> members;          // in ascending order
   };
 
-  std::uint64_t AddCheckedEntity(std::span<const TypedTag> groups);
-  void RequireNames(std::span<const TypedTag> groups);
+  std::uint64_t AddCheckedEntity(std::span<const TypedTag> tags);
+  void RequireNames(std::span<const TypedTag> tags);
   std::uint64_t ModelSpaceHandle() const;
-  std::string_view ExtendedData(std::span<const TypedTag> groups);
+  std::string_view ExtendedData(std::span<const TypedTag> tags);
   std::size_t NumberOf(const Entity& entity) const;
   std::vector<Splice> Splices() const;
   void AddSeedSplice(std::vector<Splice>& splices) const;
