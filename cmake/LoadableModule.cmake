@@ -1,3 +1,13 @@
+# brevanta_show_only(<target> <name>...)
+# Hides everything of a Linux module or program but the named functions.
+function(brevanta_show_only target)
+  set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}.map)
+  list(JOIN ARGN "; " names)
+  file(CONFIGURE OUTPUT ${script} CONTENT "{ global: ${names}; local: *; };\n")
+  target_link_options(${target} PRIVATE -Wl,--version-script=${script})
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
+endfunction()
+
 # brevanta_loadable_module(<target> <file name> EXPORTS <name>...)
 # Gives a module target its file name and limits what it shows to the named exports.
 function(brevanta_loadable_module target file_name)
@@ -11,11 +21,7 @@ function(brevanta_loadable_module target file_name)
     # The exports are those that PLATFORM_EXPORT marks; mingw must not add the rest.
     target_link_options(${target} PRIVATE -Wl,--exclude-all-symbols)
   else()
-    set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}.map)
-    list(JOIN ARG_EXPORTS "; " names)
-    file(CONFIGURE OUTPUT ${script} CONTENT "{ global: ${names}; local: *; };\n")
-    target_link_options(${target} PRIVATE -Wl,--version-script=${script})
-    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
+    brevanta_show_only(${target} ${ARG_EXPORTS})
   endif()
 endfunction()
 
@@ -28,5 +34,6 @@ function(brevanta_program_exports target)
     foreach(name IN LISTS ARGN)
       target_link_options(${target} PRIVATE -Wl,--export-dynamic-symbol=${name})
     endforeach()
+    brevanta_show_only(${target} ${ARGN})  # of the standard library's inline functions, the linker shows some
   endif()
 endfunction()

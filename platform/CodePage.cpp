@@ -88,9 +88,10 @@ CodePage::CodePage(int number) {
   auto tables = std::make_shared<Tables>();
   tables->number = number;
   const CodePageDecoder decoder(number);
-  if (!decoder.IsKnown())
+  if (!decoder.IsKnown()) {
     throw Error("the code page " + std::to_string(number) + " is not known to this system",
                 {.value = std::to_string(number)});
+  }
   for (unsigned byte = 0; byte < BYTE_VALUES; ++byte) {
     const char text[] = {static_cast<char>(byte)};
     // Control characters and ASCII are the same in every page that drawings use, yen signs of 932 included.

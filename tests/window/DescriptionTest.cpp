@@ -75,7 +75,7 @@ class RandomRecord {
     WindowParams record{};
     record.markerValue = 1;  // 0 damages the list
     for (const DescriptionItem& item : DESCRIPTION)
-      if (item.field != nullptr) Fill(*item.field, record);
+      if (item.Field() != nullptr) Fill(*item.Field(), record);
     return record;
   }
 
@@ -126,7 +126,7 @@ TEST(Description, ReadBackGivesTheRecordAgain) {
     const Reading reading = Read(WrittenDescription(record));
     ASSERT_TRUE(reading.isComplete) << "round " << round;
     for (const DescriptionItem& item : DESCRIPTION)
-      if (item.field != nullptr) ExpectSame(*item.field, record, reading.window);
+      if (item.Field() != nullptr) ExpectSame(*item.Field(), record, reading.window);
   }
 }
 

@@ -45,24 +45,25 @@ bool DescriptionReader::IsComplete() const {
 }
 
 void DescriptionReader::Store(const DescriptionItem& item, const dxf::Tag& tag) {
-  if (item.field == nullptr) {
+  const brevanta::RecordField* const field = item.Field();
+  if (field == nullptr) {
     Integer(tag);  // the version, of which there is one
     return;
   }
   brevanta::WindowParams& params = window_.params;
-  switch (item.field->kind) {
+  switch (field->kind) {
     case FieldKind::Length:
     case FieldKind::Real:
-      RealIn(params, *item.field) = Real(tag) / ItemFactor(*item.field, unitFactor_);
+      RealIn(params, *field) = Real(tag) / ItemFactor(*field, unitFactor_);
       break;
     case FieldKind::Integer:
-      IntegerIn(params, *item.field) = Integer(tag);
+      IntegerIn(params, *field) = Integer(tag);
       break;
     case FieldKind::Text:
-      window_.*TextMember(*item.field) = drawing_.Text(tag);
+      window_.*TextMember(*field) = drawing_.Text(tag);
       break;
     case FieldKind::Points:
-      point_ = &PointsIn(params, *item.field)[item.point];
+      point_ = &PointsIn(params, *field)[item.point];
       point_->x = Real(tag);
       break;
   }

@@ -166,9 +166,10 @@ class Reconciliation {
   // Of a scaled window the second plane still is the underside, of a thicker layer.
   void TakeThickness() {
     std::array<double, 3> depths{};
-    for (std::size_t i = 0; i < depths.size(); ++i)
+    for (std::size_t i = 0; i < depths.size(); ++i) {
       depths[i] =
           VecDot(shape_.Normal(), Difference(shape_.outline[0], ToVec3(params_.secondPlanePoints[i])));
+    }
     const auto [least, most] = std::minmax_element(depths.begin(), depths.end());
     if (*most - *least > SAME_LENGTH * factor_ || *least <= 0) return;
     TakeLength("layerThickness", "deep in its roof", depths[0], params_.layerThickness);

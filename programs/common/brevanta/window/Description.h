@@ -20,23 +20,28 @@ constexpr std::int16_t ITEM_SHORT = 1070;
 
 constexpr std::int32_t DESCRIPTION_VERSION = 1;
 
+constexpr std::size_t NO_FIELD = RECORD_FIELDS.size();
+
 struct DescriptionItem {
   std::int16_t code;
-  const RecordField* field;  // whose value it is; null: DESCRIPTION_VERSION
-  std::size_t point = 0;     // of the field's points, the one that it is
+  std::size_t fieldNumber;  // in RECORD_FIELDS, of the field whose value it is; NO_FIELD: DESCRIPTION_VERSION
+  std::size_t point = 0;    // of the field's points, the one that it is
+
+  // The field; null for the version.
+  const RecordField* Field() const { return fieldNumber == NO_FIELD ? nullptr : &RECORD_FIELDS[fieldNumber]; }
 };
 
-// The field of a description's item; a name that no field has does not compile.
-consteval const RecordField* DescribedField(std::string_view name) {
-  const RecordField* field = FindRecordField(name);
-  if (field == nullptr) throw "no field of the record has this name";
-  return field;
+// The number of a description's field; a name that no field has does not compile.
+consteval std::size_t DescribedField(std::string_view name) {
+  for (std::size_t number = 0; number < NO_FIELD; ++number)
+    if (RECORD_FIELDS[number].name == name) return number;
+  throw "no field of the record has this name";
 }
 
 // The description, in the order in which it is written. A length is written in drawing units, an integer by
 // its low 16 bits. Two numbers have codes of their own, so each code's items can also be told by their order.
 inline constexpr std::array DESCRIPTION = {
-    DescriptionItem{ITEM_SHORT, nullptr},
+    DescriptionItem{ITEM_SHORT, NO_FIELD},
     DescriptionItem{ITEM_REAL, DescribedField("length")},
     DescriptionItem{ITEM_DISTANCE, DescribedField("width")},
     DescriptionItem{ITEM_SCALE, DescribedField("frameWidth")},

@@ -22,11 +22,12 @@ void AppendMarker(std::int32_t markerValue, ListBuilder& list) {
 
 void AppendItem(const DescriptionItem& item, const CbvMakeWindow& window, ListBuilder& list) {
   const WindowParams& params = *window.params;
-  if (item.field == nullptr) {
+  const RecordField* const described = item.Field();
+  if (described == nullptr) {
     list.Short(item.code, DESCRIPTION_VERSION);
     return;
   }
-  const RecordField& field = *item.field;
+  const RecordField& field = *described;
   switch (field.kind) {
     case FieldKind::Length:
     case FieldKind::Real:
