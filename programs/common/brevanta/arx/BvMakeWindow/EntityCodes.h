@@ -1,4 +1,4 @@
-// EntityCodes.h - the type codes of the values that lines and faces are handed to the host with.
+// EntityCodes.h - the type codes of the values with which lines and faces are handed to the host.
 #pragma once
 
 #include <cstdint>
@@ -13,5 +13,8 @@ constexpr std::int16_t CODE_SECOND_POINT = 11;
 constexpr std::int16_t CODE_COLOUR = 62;
 constexpr std::int16_t CODE_HIDDEN_EDGES = 70;
 constexpr std::int16_t CODE_SUBCLASS = 100;
+
+// Colour number of an entity that takes its layer's colour.
+constexpr std::int32_t NO_COLOUR = -1;
 
 }  // namespace brevanta

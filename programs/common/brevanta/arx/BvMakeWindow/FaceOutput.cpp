@@ -2,7 +2,6 @@
 #include "arx/BvMakeWindow/FaceOutput.h"
 
 #include "arx/BvMakeWindow/DescriptionOutput.h"
-#include "arx/BvMakeWindow/EntityCodes.h"
 #include "arx/BvMakeWindow/LayerName.h"
 #include "arx/BvMakeWindow/ListBuilder.h"
 #include "arx/exports/HostTable.h"

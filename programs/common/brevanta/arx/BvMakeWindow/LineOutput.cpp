@@ -2,7 +2,6 @@
 #include "arx/BvMakeWindow/LineOutput.h"
 
 #include "arx/BvMakeWindow/DescriptionOutput.h"
-#include "arx/BvMakeWindow/EntityCodes.h"
 #include "arx/BvMakeWindow/ListBuilder.h"
 #include "arx/exports/HostTable.h"
 #include "inc/ValueList.h"
