@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
-#include <vector>
 
 #include <benchmark/benchmark.h>
 

@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cstdint>
 #include <unordered_map>
-#include <vector>
 
 #include "platform/CodePageDecoder.h"
 #include "platform/Error.h"

@@ -1,6 +1,7 @@
 # kept.py - results of suites that are kept between runs: as long as nothing that decides them has changed.
 """A suite that passed whole leaves its result files in the user's cache folder, under a hash of contents: the built
 programs and modules, all sources, tests and examples, and the versions of all installed packages. Never by time stamps."""
+import contextlib
 import functools
 import hashlib
 import os
@@ -71,8 +72,9 @@ def keep(name, results):
         return
     folder().mkdir(parents=True, exist_ok=True)
     for old in folder().iterdir():
-        if time.time() - old.stat().st_mtime > KEPT_DAYS * 24 * 3600:
-            shutil.rmtree(old, ignore_errors=True)
+        with contextlib.suppress(FileNotFoundError):  # another run has forgotten it meanwhile
+            if time.time() - old.stat().st_mtime > KEPT_DAYS * 24 * 3600:
+                shutil.rmtree(old, ignore_errors=True)
     half_way = folder() / f".{name}.{os.getpid()}"
     shutil.copytree(results, half_way, dirs_exist_ok=True)
     shutil.rmtree(folder() / name, ignore_errors=True)

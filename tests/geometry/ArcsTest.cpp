@@ -1,6 +1,5 @@
 // ArcsTest.cpp - circular arcs in the plan and their intersections.
 #include <cmath>
-#include <string>
 
 #include <gtest/gtest.h>
 

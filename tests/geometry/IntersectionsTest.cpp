@@ -1,6 +1,5 @@
 // IntersectionsTest.cpp - elementary intersections, distances and incidence tests.
 #include <cmath>
-#include <string>
 
 #include <gtest/gtest.h>
 

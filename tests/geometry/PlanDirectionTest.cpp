@@ -1,6 +1,5 @@
 // PlanDirectionTest.cpp - a point against a segment by directions in the plan.
 #include <cmath>
-#include <string>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,5 @@
 // RoofPlaneTest.cpp - the roof-plane fit, its local frame, and intersections with planes.
-#include <algorithm>
 #include <cmath>
-#include <string>
 
 #include <gtest/gtest.h>
 

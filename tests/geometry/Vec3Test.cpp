@@ -1,7 +1,6 @@
 // Vec3Test.cpp - elementary operations on points and vectors.
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,4 @@
 // CStringTest.cpp - shared texts.
-#include <string>
 #include <utility>
 
 #include <gtest/gtest.h>

@@ -1,7 +1,6 @@
 // FileOperationsTest.cpp - whole files, and every operation on them that can fail.
 #include <cstdio>
 #include <filesystem>
-#include <functional>
 #include <set>
 
 #include <gmock/gmock.h>

@@ -2,7 +2,7 @@
 import pathlib
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
-CODE_FOLDERS = ("platform", "Library", "Library16", "programs", "tests", "fuzz", "benchmarks")
+CODE_FOLDERS = ("platform", "Library", "Library16", "programs", "tests", "benchmarks")
 
 
 def files(folders, *endings):

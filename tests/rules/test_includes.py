@@ -46,7 +46,7 @@ SLOW_LIBRARIES = {"CLI/": {"terminal/Options.cpp"},
 SYSTEM_HEADERS = re.compile(r"<\w+\.h>|<sys/")
 INCLUDE = re.compile(r'^\s*#\s*include\s+(["<])([^">]+)[">]', re.M)
 
-SHIPPED = [path for path in code() if path.parts[0] not in ("tests", "fuzz", "benchmarks")]
+SHIPPED = [path for path in code() if path.parts[0] not in ("tests", "benchmarks")]
 
 
 def part_of(path):

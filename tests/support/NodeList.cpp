@@ -1,4 +1,4 @@
-// NodeList.cpp - copies, compares and prints group lists.
+// NodeList.cpp - copies, compares and prints value lists.
 #include "tests/support/NodeList.h"
 
 #include <algorithm>
@@ -67,10 +67,10 @@ Kind ValueOf(const NodeList& list, int code) {
 }  // namespace
 
 NodeList Copy(const brevanta::ValueNode* list) {
-  NodeList groups;
+  NodeList nodes;
   for (; list != nullptr; list = list->next)
-    groups.push_back(CopyNode(*list));
-  return groups;
+    nodes.push_back(CopyNode(*list));
+  return nodes;
 }
 
 std::string ToString(const Node& node) {

@@ -1,4 +1,4 @@
-// NodeList.h - the group list of an entity as plain data that a test can write down, compare and print.
+// NodeList.h - the value list of an entity as plain data that a test can write down, compare and print.
 #pragma once
 
 #include <array>

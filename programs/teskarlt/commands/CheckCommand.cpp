@@ -17,6 +17,7 @@ namespace {
 using check::Finding;
 using check::Severity;
 using check::Verdict;
+
 struct CheckOptions {
   std::string file;
   bool asJson = false;

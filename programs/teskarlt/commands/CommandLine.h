@@ -1,4 +1,4 @@
-// CommandLine.h - the program's subcommands.
+// CommandLine.h - parses the command line and runs the subcommand.
 #pragma once
 
 #include <string>

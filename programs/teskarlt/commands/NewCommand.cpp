@@ -9,6 +9,7 @@
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/NewDrawing.h"
+#include "window/Parts.h"
 
 namespace teskarlt {
 
@@ -40,7 +41,7 @@ void RunNew(const NewOptions& options) {
   drawing.units = UnitByName(options.units).insUnits;
   drawing.layers = {"ROOF", "ROOF_WINDOW_BODY", "ROOF_WINDOW_OPENING", "ROOF_WINDOW_OUTLINE",
                     "ROOF_WINDOW_SYMBOL"};
-  drawing.applications = {"TK_LT_ELEM", "TK_LT_DESC"};
+  drawing.applications = {brevanta::ELEMENT_APPLICATION, brevanta::DESCRIPTION_APPLICATION};
   platform::WriteWholeFile(options.file, dxf::NewDrawing(drawing));
   fmt::print("Empty drawing in {} written to {}.\n", options.units, options.file);
 }

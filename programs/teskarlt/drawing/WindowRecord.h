@@ -16,8 +16,8 @@ namespace teskarlt {
 struct WindowReading {
   brevanta::WindowParams params{};  // texts in the drawing's code page
   bool isMirrored = false;  // since it was inserted; its hinges and its anchor have changed sides then
-  std::vector<std::string>
-      recovered;  // names of the fields that are not as the description says, or not in it
+  // Names of the fields that are not as the description says, or not in it.
+  std::vector<std::string> recovered;
   std::vector<std::string> defaults;  // names of the fields that nothing tells
   std::vector<std::string> notes;     // what another program did to it, for people; UTF-8
   std::string obstacle;               // why it cannot be inserted again; empty: it can

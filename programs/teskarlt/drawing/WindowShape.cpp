@@ -2,11 +2,10 @@
 #include "teskarlt/drawing/WindowShape.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
 #include <vector>
-
-#include <fmt/format.h>
 
 #include "geometry/Matrix4.h"
 #include "geometry/Vectors.h"
@@ -15,7 +14,6 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "window/Choices.h"
-#include "window/Outlines.h"
 #include "window/Parts.h"
 
 namespace teskarlt {
@@ -23,7 +21,7 @@ namespace teskarlt {
 namespace {
 
 using geometry::Vec3;
-using Corners = std::array<Vec3, 4>;
+using Corners = std::array<Vec3, 4>;  // of a face, or of the outline; of a line the first two
 
 constexpr double SAME_PLACE = 1e-3;      // metres; parts that are farther apart do not belong together
 constexpr double SAME_DIRECTION = 1e-4;  // sine of the angle

@@ -1,12 +1,12 @@
 // WindowShape.h - the shape of a roof window as its entities show it, whatever their description says.
 #pragma once
 
-#include <array>
 #include <optional>
 
 #include "geometry/Vec3.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/dxf/Document.h"
+#include "window/Outlines.h"
 
 namespace teskarlt {
 
@@ -14,7 +14,7 @@ namespace teskarlt {
 struct WindowShape {
   // The frame's outline on the roof: from the start of the lower edge up, across and down to its end. From
   // below the eaves the start is on the left, and on the right when the window is mirrored.
-  std::array<geometry::Vec3, 4> outline;
+  brevanta::Outline outline;
   double width;
   double length;
   std::optional<double> frameWidth;      // none without symbol and body, or where the sides differ
@@ -30,7 +30,7 @@ struct WindowShape {
   double Pitch() const;           // degrees from the horizontal
 };
 
-// The shape of a window with all its entities (MissingEntities gives none). Throws Error, naming what is
+// The shape of a window with all its entities (EntityMismatch finds nothing). Throws Error, naming what is
 // wrong, when they do not show a window that can stand in a roof: its parts were moved apart, it is no
 // rectangle, its lower edge is not horizontal, it stands upside down or upright, or lies turned on a flat
 // roof.

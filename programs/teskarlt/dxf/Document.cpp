@@ -2,11 +2,8 @@
 #include "teskarlt/dxf/Document.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 #include <utility>
-
-#include <fmt/format.h>
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"

@@ -8,6 +8,8 @@
 #include "geometry/Vec3.h"
 #include "inc/HostStatus.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/modules/KeptException.h"
 #include "teskarlt/modules/ValueListTags.h"
 
@@ -142,8 +144,7 @@ std::int32_t ModuleSession::MakeEntity(const brevanta::ValueNode* list) {
 void ModuleSession::AddEntity(const brevanta::ValueNode* list) {
   const std::vector<dxf::TypedTag> tags = TagsOf(list);
   drawing_.AddEntity(tags);
-  const bool isFace =
-      !tags.empty() && tags[0].value == decltype(dxf::TypedTag::value)(std::string_view("3DFACE"));
+  const bool isFace = !tags.empty() && tags[0].value == decltype(dxf::TypedTag::value)(dxf::TYPE_FACE);
   ++(isFace ? batchFaces_ : batchLines_);
   for (const dxf::TypedTag& tag : tags) {
     if (tag.code != dxf::CODE_LAYER) continue;

@@ -9,13 +9,13 @@
 #include "inc/ValueList.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 
 namespace teskarlt {
 
 namespace {
 
 constexpr std::size_t MOST_TAGS = 10000;  // far above any entity; a list that closes on itself ends here
-constexpr std::string_view DEFAULT_LAYER = "0";
 
 using NodeValue = decltype(dxf::TypedTag::value);
 
@@ -24,7 +24,7 @@ NodeValue TextOf(const brevanta::ValueNode& node) {
     throw Error(fmt::format("the module handed over an entity without a text in group {}", node.typeCode));
   }
   const std::string_view text = node.value.text;
-  if (node.typeCode == dxf::CODE_LAYER && text.empty()) return DEFAULT_LAYER;
+  if (node.typeCode == dxf::CODE_LAYER && text.empty()) return dxf::DEFAULT_LAYER;
   return text;
 }
 

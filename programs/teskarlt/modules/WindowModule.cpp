@@ -9,6 +9,7 @@
 #include "inc/DialogModule.h"
 #include "inc/HostFunctionTable.h"
 #include "inc/LibraryMerge.h"
+#include "inc/StringModule.h"
 #include "platform/SystemFolders.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/modules/KeptException.h"
@@ -18,7 +19,6 @@ namespace teskarlt {
 namespace {
 
 constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
-constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
 constexpr const char* INSERT_EXPORT = "Brevanta";
 constexpr const char* EDIT_EXPORT = "EditBrevanta";
 constexpr std::int32_t EDIT_MODE_DIALOG = 0;
@@ -125,7 +125,7 @@ WindowModule::WindowModule() {
   CheckProgramName();
   CheckCompanion(brevanta::DIALOG_MODULE, "the dialog module",
                  {brevanta::DIALOG_EXPORT, brevanta::ERASE_WINDOW_EXPORT});
-  CheckCompanion(RESOURCE_MODULE, "the string module", {});
+  CheckCompanion(brevanta::RESOURCE_MODULE, "the string module", {});
   CheckCompanion(WINDOW_MODULE, "the roof window module",
                  {INSERT_EXPORT, EDIT_EXPORT, brevanta::MERGE_LIBRARY_FILES_EXPORT});
   module_ = LoadFromFolder(WINDOW_MODULE);

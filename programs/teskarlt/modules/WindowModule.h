@@ -35,9 +35,9 @@ class WindowModule {
   // does.
   CommandOutcome Erase(dxf::Document& drawing, const WindowRequest& request) const;
 
-  // Runs the command `mergeLibraryFiles` over two catalogues and gives its
-  // result; without a target it is the one in the data folder. Paths are UTF-8.
-  // Throws Error for a path that the system's 8-bit code page cannot hold.
+  // Runs the command `mergeLibraryFiles` over two catalogues and gives its result; without a target it is the
+  // one in the data folder. Paths are UTF-8. Throws Error for a path that the system's 8-bit code page cannot
+  // hold.
   std::int32_t Merge(const std::string& source, const std::optional<std::string>& target) const;
 
  private:

@@ -27,6 +27,9 @@ Colour Ink(const Colour& colour);
 // The colour of a surface in even light: full colours are toned down so that light and shade show.
 Colour Paint(const Colour& colour);
 
+// The panes of roof windows, which no layer colours.
+constexpr Colour GLASS = {150, 190, 215};
+
 // The colour of a surface's edges.
 Colour EdgeInk(const Colour& colour);
 

@@ -1,7 +1,6 @@
 // Glb.cpp - writes the 3D model.
 #include "teskarlt/preview/Glb.h"
 
-#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>

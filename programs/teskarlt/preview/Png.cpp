@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
-#include <vector>
 
 #include <zlib.h>
 

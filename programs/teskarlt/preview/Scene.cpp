@@ -94,8 +94,7 @@ std::vector<std::size_t> Triangles(const std::vector<Vec3>& corners) {
 }
 
 Colour PaintOf(const Surface& surface) {
-  constexpr Colour glass = {150, 190, 215};
-  return surface.isGlass ? glass : Paint(surface.colour);
+  return surface.isGlass ? GLASS : Paint(surface.colour);
 }
 
 std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern,

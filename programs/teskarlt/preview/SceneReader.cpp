@@ -1,7 +1,6 @@
 // SceneReader.cpp - turns entities into surfaces and curves.
 #include "teskarlt/preview/SceneReader.h"
 
-#include <algorithm>
 #include <cmath>
 #include <set>
 

@@ -1,7 +1,6 @@
 // Options.h - the subcommands of the program, their arguments and options, and the parsing of a command line.
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>

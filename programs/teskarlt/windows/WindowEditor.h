@@ -16,6 +16,8 @@ class WindowEditor {
   // locked or frozen and `isLockedToo` is false.
   WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit, int number,
                bool isLockedToo);
+  WindowEditor(const WindowEditor&) = delete;
+  WindowEditor& operator=(const WindowEditor&) = delete;
 
   // The window as it stands in the drawing.
   const WindowReading& Reading() const { return reading_; }

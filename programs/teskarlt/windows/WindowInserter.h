@@ -15,6 +15,8 @@ class WindowInserter {
  public:
   // Module and drawing must outlive the object.
   WindowInserter(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit);
+  WindowInserter(const WindowInserter&) = delete;
+  WindowInserter& operator=(const WindowInserter&) = delete;
 
   // Inserts the window. Throws Error with the reason when it is refused; the drawing is what it was before
   // then.

@@ -1,4 +1,4 @@
-// EntityOutputTest.cpp - the group lists of faces and lines and what becomes of them.
+// EntityOutputTest.cpp - the value lists of faces and lines and what becomes of them.
 #include <cstring>
 
 #include <gmock/gmock.h>

@@ -1,6 +1,5 @@
 // DefaultParamsTest.cpp - the defaults of a window record.
 #include <cstring>
-#include <string>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// EntitiesTest.cpp - every group of every entity that the built module hands to its host.
+// EntitiesTest.cpp - every value of every entity that the built module hands to its host.
 #include <algorithm>
 #include <map>
 #include <ostream>

@@ -1,7 +1,5 @@
 // BrevantaSetTest.cpp - the ordered, owning list of items.
-#include <cstdint>
 #include <memory>
-#include <new>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,5 @@
 // CatalogueMergeTest.cpp - merges of catalogues through the real module, and what stops them.
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <new>
 

@@ -119,7 +119,7 @@ inline std::string Sound(const std::string& entities = "", const std::string& ob
   return Tags(text);
 }
 
-// A line on the layer ROOF; `more` are groups behind its points.
+// A line on the layer ROOF; `more` are tags behind its points.
 inline std::string Line(std::string_view handle, std::string_view more = "") {
   return fmt::format(
       "0|LINE|5|{}|330|1F|100|AcDbEntity|8|ROOF|100|AcDbLine|10|0.0|20|0.0|30|0.0|11|1.5|21|0.0|31|0.0|{}",

@@ -4,10 +4,10 @@
 namespace teskarlt::check {
 namespace {
 
-// A drawing whose linetype Continuous has these groups for its dashes.
-std::string WithDashes(std::string_view groups) {
+// A drawing whose linetype Continuous has these tags for its dashes.
+std::string WithDashes(std::string_view tags) {
   const std::string head = "2|Continuous|70|0|3||72|65|";
-  return Damaged(Sound(), head + "73|0|40|0.0", fmt::format("{}{}", head, groups));
+  return Damaged(Sound(), head + "73|0|40|0.0", fmt::format("{}{}", head, tags));
 }
 
 TEST(CheckLinetype, DashesAreAsManyAsAnnounced) {

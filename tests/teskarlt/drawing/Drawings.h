@@ -7,7 +7,7 @@
 
 namespace teskarlt {
 
-// An R2000 drawing with these header variables and entities; both are groups as they stand in a file.
+// An R2000 drawing with these header variables and entities; both are tags as they stand in a file.
 inline dxf::Document Drawing(const std::string& header, const std::string& entities) {
   return dxf::Document::FromText("test.dxf", "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n" +
                                                  header + "  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n" +

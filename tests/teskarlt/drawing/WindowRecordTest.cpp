@@ -1,6 +1,5 @@
 // WindowRecordTest.cpp - the record of windows that stand where they were inserted, and of those that were
 // changed since.
-#include <cmath>
 #include <cstring>
 
 #include <gmock/gmock.h>

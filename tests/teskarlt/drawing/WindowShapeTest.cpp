@@ -1,6 +1,5 @@
 // WindowShapeTest.cpp - the shape of windows that stand where they were inserted, and of those that were
 // changed since.
-#include <cmath>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

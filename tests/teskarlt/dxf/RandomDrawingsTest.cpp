@@ -1,6 +1,5 @@
 // RandomDrawingsTest.cpp - whatever a file holds, it is refused with a message or kept byte for byte.
 #include <random>
-#include <vector>
 
 #include "teskarlt/dxf/NewDrawing.h"
 #include "tests/teskarlt/dxf/SmallDrawings.h"

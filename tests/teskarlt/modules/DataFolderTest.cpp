@@ -1,5 +1,4 @@
 // DataFolderTest.cpp - who may work in the data folder, and how long.
-#include <cstdlib>
 #include <filesystem>
 
 #include <gtest/gtest.h>

@@ -32,13 +32,13 @@ struct LineList {
   ValueNode nodes[6];
 };
 
-class HostSessionTest : public testing::Test {
+class ModuleSessionTest : public testing::Test {
  protected:
   dxf::Document drawing = Drawing("", "");
   WindowRequest request;
 };
 
-TEST_F(HostSessionTest, SessionIsCurrentWhileItLives) {
+TEST_F(ModuleSessionTest, SessionIsCurrentWhileItLives) {
   EXPECT_EQ(ModuleSession::Current(), nullptr);
   {
     const ModuleSession session(drawing, request);
@@ -47,7 +47,7 @@ TEST_F(HostSessionTest, SessionIsCurrentWhileItLives) {
   EXPECT_EQ(ModuleSession::Current(), nullptr);
 }
 
-TEST_F(HostSessionTest, AnswersAreCutToTheBufferButTheirLengthIsToldWhole) {
+TEST_F(ModuleSessionTest, AnswersAreCutToTheBufferButTheirLengthIsToldWhole) {
   request.answers["text1"] = "abcdef";
   ModuleSession session(drawing, request);
   DialogServices& services = *session.Services();
@@ -57,7 +57,7 @@ TEST_F(HostSessionTest, AnswersAreCutToTheBufferButTheirLengthIsToldWhole) {
   EXPECT_EQ(services.answer(services.context, "text2", buffer, 4), -1);
 }
 
-TEST_F(HostSessionTest, LowestFreeNumberIsGiven) {
+TEST_F(ModuleSessionTest, LowestFreeNumberIsGiven) {
   const WindowNumbers numbers{1, 2, 5};
   request.numbersInUse = &numbers;
   ModuleSession session(drawing, request);
@@ -67,7 +67,7 @@ TEST_F(HostSessionTest, LowestFreeNumberIsGiven) {
   EXPECT_EQ(services.numberInUse(services.context, 4), 0);
 }
 
-TEST_F(HostSessionTest, FacesAreGivenOneByOne) {
+TEST_F(ModuleSessionTest, FacesAreGivenOneByOne) {
   request.faces = {{{1, 2, 3}, {4, 5, 6}, {7, 8, 9}}};
   request.isBounded = true;
   ModuleSession session(drawing, request);
@@ -80,7 +80,7 @@ TEST_F(HostSessionTest, FacesAreGivenOneByOne) {
   EXPECT_EQ(services.roofFace(services.context, 1, corners, 2, &isBoundary), 0);
 }
 
-TEST_F(HostSessionTest, EntitiesOfAKeptBatchCount) {
+TEST_F(ModuleSessionTest, EntitiesOfAKeptBatchCount) {
   ModuleSession session(drawing, request);
   LineList line(5);
   session.BeginBatch();
@@ -92,7 +92,7 @@ TEST_F(HostSessionTest, EntitiesOfAKeptBatchCount) {
   EXPECT_NE(drawing.Serialize().find("LINE"), std::string::npos);
 }
 
-TEST_F(HostSessionTest, EntitiesOfADroppedBatchLeaveTheDrawing) {
+TEST_F(ModuleSessionTest, EntitiesOfADroppedBatchLeaveTheDrawing) {
   const std::string before = drawing.Serialize();
   ModuleSession session(drawing, request);
   LineList line(5);
@@ -103,7 +103,7 @@ TEST_F(HostSessionTest, EntitiesOfADroppedBatchLeaveTheDrawing) {
   EXPECT_EQ(drawing.Serialize(), before);
 }
 
-TEST_F(HostSessionTest, EntityWithANumberThatIsNotFiniteIsRefused) {
+TEST_F(ModuleSessionTest, EntityWithANumberThatIsNotFiniteIsRefused) {
   ModuleSession session(drawing, request);
   LineList line(INFINITY);
   session.BeginBatch();
@@ -111,7 +111,7 @@ TEST_F(HostSessionTest, EntityWithANumberThatIsNotFiniteIsRefused) {
   EXPECT_NE(session.Outcome().failure, "");
 }
 
-TEST_F(HostSessionTest, LackOfMemoryInTheDialogIsKeptForTheHost) {
+TEST_F(ModuleSessionTest, LackOfMemoryInTheDialogIsKeptForTheHost) {
   ModuleSession session(drawing, request);
   DialogServices& services = *session.Services();
   services.report(services.context, brevanta::REPORT_OUT_OF_MEMORY, "");

@@ -1,5 +1,4 @@
 // CurvesTest.cpp - points along curves.
-#include <cmath>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// ValueNode.h - one group of the typed value lists in which entities are handed to the host.
+// ValueNode.h - one node of the typed value lists in which entities are handed to the host.
 #pragma once
 
 #include <cstddef>
@@ -6,7 +6,7 @@
 
 namespace brevanta {
 
-// The value of one group, read according to the kind of its type code (ValueList.h). The node owns `text` of
+// The value of one node, read according to the kind of its type code (ValueList.h). The node owns `text` of
 // a text kind and the bytes of a binary chunk; both come from the process heap (std::malloc).
 union NodeValue {
   char* text;       // zero-terminated, may be null
@@ -22,11 +22,11 @@ union NodeValue {
   } chunk;
 };
 
-// One group of a singly linked list. A list is named by its first node and belongs to whoever built it.
+// One node of a singly linked list. A list is named by its first node and belongs to whoever built it.
 struct ValueNode {
-  ValueNode* next;  // following group; null ends the list
-  std::int16_t
-      typeCode;  // drawing-interchange group code, or one of the host's codes (-5 to -1, 5001 to 5023)
+  ValueNode* next;  // following node; null ends the list
+  // A group code of the drawing interchange format, or one of the host's codes (-5 to -1, 5001 to 5023).
+  std::int16_t typeCode;
   NodeValue value;
 };
 

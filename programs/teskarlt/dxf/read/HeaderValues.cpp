@@ -1,4 +1,4 @@
-// HeaderValues.cpp - version and code page.
+// HeaderValues.cpp - version and code page of a drawing, by the texts of header variables.
 #include "teskarlt/dxf/read/HeaderValues.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// HeaderValues.h - how the texts of header variables are to be read.
+// HeaderValues.h - version and code page of a drawing, by the texts of header variables.
 #pragma once
 
 #include <optional>

@@ -29,7 +29,7 @@ class Indexer {
 
  private:
   void ReadSection();
-  // Each takes the tags of one section up to its ENDSEC.
+  // Each reads the tags of one section up to its ENDSEC.
   void ReadHeader();
   void ReadTables();
   void ReadEntities();

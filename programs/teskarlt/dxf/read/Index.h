@@ -13,8 +13,8 @@ namespace teskarlt::dxf {
 
 // An entity of the file. The views lie in the document's bytes.
 struct Entity {
-  std::string_view
-      text;  // all its tags, with those of the vertices of a POLYLINE and the attributes of an INSERT
+  // All its tags, with those of the vertices of a POLYLINE and the attributes of an INSERT.
+  std::string_view text;
   std::string_view type;  // "3DFACE"
   std::uint64_t handle;   // 0: none, or one that cannot be read
 };

@@ -1,4 +1,4 @@
-// HandleSeed.h - gives out the handles of new objects.
+// HandleSeed.h - gives out the handles of new objects, and the seed that the header gets for the next ones.
 #pragma once
 
 #include <algorithm>
@@ -12,8 +12,7 @@ namespace teskarlt::dxf {
 class HandleSeed {
  public:
   // `largest`: of the handles in the drawing; `seed`: its $HANDSEED, 0 when it has none. A drawing without
-  // handles
-  // (`isUsed` false) gets 0 for each.
+  // handles (`isUsed` false) gets 0 for each.
   HandleSeed(std::uint64_t largest, std::uint64_t seed, bool isUsed)
       : first_(std::max(largest + 1, seed)), next_(first_), isUsed_(isUsed) {
     if (largest + 1 == 0) first_ = next_ = 0;
@@ -25,7 +24,7 @@ class HandleSeed {
     return next_++;
   }
 
-  // The value for $HANDSEED.
+  // The value for $HANDSEED, which Edits writes.
   std::uint64_t Next() const { return next_; }
   bool HasMoved() const { return next_ != first_; }
   void GoBack(std::uint64_t next) { next_ = next; }

@@ -65,7 +65,6 @@ class NewGroups {
   std::string FreeName(std::string_view name) const;
   std::uint64_t NamesHandle(Addition& addition);
   const Addition* Opener() const;
-  bool IsEmptied(const GroupObject& group, const std::unordered_set<std::uint64_t>& removedEntities) const;
   void AddRemovals(const std::unordered_set<std::uint64_t>& removedEntities,
                    std::vector<Splice>& splices) const;
   void AddDictionarySplices(const std::string& entries, std::string& objects,

@@ -1,7 +1,6 @@
 // Rules.h - what a drawing's header decides about everything that is written into it.
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
 namespace teskarlt::dxf {

@@ -24,9 +24,6 @@ class TagWriter {
   void Coordinates(int code, const Point& point);
   void Handle(int code, std::uint64_t handle);
 
-  std::string& Out() { return out_; }
-  std::string_view LineEnd() const { return lineEnd_; }
-
  private:
   void Code(int code);
   void Value(std::string_view text);

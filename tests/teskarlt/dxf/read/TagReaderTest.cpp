@@ -1,5 +1,4 @@
 // TagReaderTest.cpp - walking over pairs of lines.
-#include <vector>
 
 #include "teskarlt/dxf/read/TagReader.h"
 #include "tests/teskarlt/dxf/SmallDrawings.h"

@@ -1,5 +1,4 @@
 // EditsTest.cpp - entities that come and go.
-#include <limits>
 #include <vector>
 
 #include "teskarlt/dxf/write/Edits.h"

@@ -1,5 +1,4 @@
 // EntityTagsTest.cpp - tag lists that become entities, and those that are refused.
-#include <cmath>
 #include <limits>
 #include <vector>
 

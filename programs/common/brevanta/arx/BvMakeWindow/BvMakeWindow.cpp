@@ -11,6 +11,7 @@
 #include "arx/exports/HostTable.h"
 #include "geometry/RoofPlane.h"
 #include "inc/RecordPoints.h"
+#include "inc/StringModule.h"
 #include "platform/GcGeVector3d.h"
 #include "window/Choices.h"
 #include "window/EdgeHeights.h"

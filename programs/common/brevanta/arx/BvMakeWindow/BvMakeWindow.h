@@ -12,8 +12,6 @@
 
 namespace brevanta {
 
-constexpr const char* RESOURCE_MODULE = "Brevanta_d.tkr";
-
 constexpr int LINETYPE_NAME_SIZE = 260;
 
 // Results of CbvMakeWindow::Make.

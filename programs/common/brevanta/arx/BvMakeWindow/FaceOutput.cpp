@@ -25,17 +25,17 @@ std::int32_t HiddenEdges(const EdgeFlags& edges) {
 ValueNode* BuildFaceList(const CbvMakeWindow& window, const std::array<GcGePoint3d, 4>& corners,
                          const EdgeFlags& edges, std::int32_t colour) {
   const LayerName layer(window.resourceModule, LAYER_BODY);
-  ListBuilder list(0, "3DFACE");
-  list.Text(100, "AcDbEntity");
-  list.Text(8, layer.Text());
-  if (colour > NO_COLOUR) list.Short(62, colour);
-  list.Text(100, "AcDbFace");
-  std::int16_t code = 10;
+  ListBuilder list(CODE_TYPE, "3DFACE");
+  list.Text(CODE_SUBCLASS, "AcDbEntity");
+  list.Text(CODE_LAYER, layer.Text());
+  if (colour > NO_COLOUR) list.Short(CODE_COLOUR, colour);
+  list.Text(CODE_SUBCLASS, "AcDbFace");
+  std::int16_t code = CODE_FIRST_POINT;
   for (GcGePoint3d corner : corners) {
     corner.transformBy(window.roofTransform);
     list.Point(code++, corner.x, corner.y, corner.z);
   }
-  list.Short(70, HiddenEdges(edges));
+  list.Short(CODE_HIDDEN_EDGES, HiddenEdges(edges));
   AppendDescription(window, list);
   return list.Head();
 }

@@ -5,11 +5,9 @@
 #include <cstdint>
 
 #include "arx/BvMakeWindow/BvMakeWindow.h"
+#include "arx/BvMakeWindow/EntityCodes.h"
 
 namespace brevanta {
-
-// Colour number of an entity that takes its layer's colour.
-constexpr std::int32_t NO_COLOUR = -1;
 
 // 1 when the edge that starts at corner 1 to 4 is visible; any other value hides it.
 using EdgeFlags = std::array<std::uint8_t, 4>;

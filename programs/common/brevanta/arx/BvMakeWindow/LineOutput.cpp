@@ -10,18 +10,18 @@ namespace brevanta {
 
 ValueNode* BuildLineList(const CbvMakeWindow& window, const GcGePoint3d& start, const GcGePoint3d& end,
                          const char* layer, std::int32_t colour) {
-  ListBuilder list(0, "LINE");
-  list.Text(100, "AcDbEntity");
-  list.Text(8, layer);
-  if (window.currentLinetype[0] != '\0') list.Text(6, window.currentLinetype);
-  if (colour > NO_COLOUR) list.Short(62, colour);
-  list.Text(100, "AcDbLine");
+  ListBuilder list(CODE_TYPE, "LINE");
+  list.Text(CODE_SUBCLASS, "AcDbEntity");
+  list.Text(CODE_LAYER, layer);
+  if (window.currentLinetype[0] != '\0') list.Text(CODE_LINETYPE, window.currentLinetype);
+  if (colour > NO_COLOUR) list.Short(CODE_COLOUR, colour);
+  list.Text(CODE_SUBCLASS, "AcDbLine");
   GcGePoint3d from = start;
   GcGePoint3d to = end;
   from.transformBy(window.roofTransform);
   to.transformBy(window.roofTransform);
-  list.Point(10, from.x, from.y, from.z);
-  list.Point(11, to.x, to.y, to.z);
+  list.Point(CODE_FIRST_POINT, from.x, from.y, from.z);
+  list.Point(CODE_SECOND_POINT, to.x, to.y, to.z);
   AppendDescription(window, list);
   return list.Head();
 }

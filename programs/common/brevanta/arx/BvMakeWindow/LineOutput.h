@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "arx/BvMakeWindow/BvMakeWindow.h"
-#include "arx/BvMakeWindow/FaceOutput.h"
+#include "arx/BvMakeWindow/EntityCodes.h"
 
 namespace brevanta {
 

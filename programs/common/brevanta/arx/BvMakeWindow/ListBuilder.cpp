@@ -1,4 +1,4 @@
-// ListBuilder.cpp - appends groups to a typed value list.
+// ListBuilder.cpp - appends nodes to a typed value list.
 #include "arx/BvMakeWindow/ListBuilder.h"
 
 #include "arx/BvMakeWindow/ValueNodes.h"
