@@ -35,6 +35,14 @@ def test_options_beside_jobs_hold_where_a_job_says_nothing(teskarlt, house, tmp_
     assert [window["fields"]["width"] for window in listed] == [1.14, 0.78]
 
 
+def test_malformed_option_beside_jobs_is_told_once(teskarlt, house, tmp_path):
+    before = house.read_bytes()
+    answer = teskarlt("insert", house, "--jobs", jobs_file(tmp_path, GOOD, OTHER), "--set", "width")
+    assert answer.status == 1
+    assert answer.stderr == "teskarlt: --set width: a setting is FIELD=VALUE, as in --set width=0.94\n"
+    assert house.read_bytes() == before
+
+
 def test_one_refused_job_writes_nothing_and_all_lines_are_reported(teskarlt, house, tmp_path):
     before = house.read_bytes()
     path = jobs_file(tmp_path, GOOD, OFF_THE_ROOF, OTHER, {"set": {"width": -1}, **GOOD})
