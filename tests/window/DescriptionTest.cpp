@@ -42,9 +42,10 @@ TagTexts WrittenDescription(WindowParams record) {
       tags.emplace_back(node.code, fmt::format("{}", *real));
     if (const auto* whole = std::get_if<std::int64_t>(&node.value))
       tags.emplace_back(node.code, fmt::format("{}", *whole));
-    if (const auto* point = std::get_if<node_list::Point>(&node.value))
+    if (const auto* point = std::get_if<node_list::Point>(&node.value)) {
       for (int k = 0; k < 3; ++k)
         tags.emplace_back(node.code + 10 * k, fmt::format("{}", (*point)[static_cast<std::size_t>(k)]));
+    }
   }
   return tags;
 }

@@ -59,9 +59,10 @@ constexpr std::size_t CODES = 1072;
 // By code: a town is some twenty million values.
 constexpr auto KINDS = [] {
   std::array<ValueKind, CODES> kinds{};
-  for (const KindRange& range : KIND_RANGES)
+  for (const KindRange& range : KIND_RANGES) {
     for (int code = range.first; code <= range.last; ++code)
       kinds[static_cast<std::size_t>(code)] = range.kind;
+  }
   return kinds;
 }();
 
