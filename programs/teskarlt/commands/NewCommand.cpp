@@ -1,4 +1,5 @@
 // NewCommand.cpp - the subcommand "new": makes an empty drawing.
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -19,9 +20,9 @@ const std::map<std::string, int> VERSIONS = {
     {"R12", dxf::VERSION_R12}, {"R2000", dxf::VERSION_R2000}, {"R2018", dxf::VERSION_R2018}};
 
 std::vector<std::string> VersionNames() {
-  std::vector<std::string> names;
-  for (const auto& [name, number] : VERSIONS)
-    names.push_back(name);
+  std::vector<std::string> names(VERSIONS.size());
+  std::transform(VERSIONS.begin(), VERSIONS.end(), names.begin(),
+                 [](const auto& version) { return version.first; });
   return names;
 }
 
