@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include <fmt/format.h>
+
 #include "arx/BvMakeWindow/BvMakeWindow.h"
 #include "arx/exports/DefaultParams.h"
 #include "dialog/Dialog.h"
@@ -13,11 +15,16 @@
 #include "teskarlt/dxf/NewDrawing.h"
 #include "teskarlt/modules/ModuleSession.h"
 #include "tests/support/RecordingHost.h"
+#include "window/RecordFields.h"
 
 namespace teskarlt {
 
 namespace {
 
+using brevanta::FieldKind;
+using brevanta::RecordField;
+using brevanta::RecordPoint;
+using brevanta::WindowParams;
 using geometry::Vec3;
 using node_list::NodeList;
 
@@ -31,6 +38,42 @@ bool IsGeometry(int code) {
 
 Vec3 ToVec3(const node_list::Point& p) {
   return {p[0], p[1], p[2]};
+}
+
+bool IsSameValue(const WindowParams& a, const WindowParams& b, const RecordField& field, double tolerance) {
+  switch (field.kind) {
+    case FieldKind::Length:
+    case FieldKind::Real:
+      return std::abs(brevanta::RealIn(a, field) - brevanta::RealIn(b, field)) <= tolerance;
+    case FieldKind::Integer:
+      return brevanta::IntegerIn(a, field) == brevanta::IntegerIn(b, field);
+    case FieldKind::Text:
+      return brevanta::TextIn(a, field) == brevanta::TextIn(b, field);
+    case FieldKind::Points:
+      return std::ranges::equal(brevanta::PointsIn(a, field), brevanta::PointsIn(b, field),
+                                [&](const RecordPoint& p, const RecordPoint& q) {
+                                  return std::hypot(p.x - q.x, p.y - q.y, p.z - q.z) <= tolerance;
+                                });
+  }
+  return false;
+}
+
+std::string ValueText(const WindowParams& record, const RecordField& field) {
+  switch (field.kind) {
+    case FieldKind::Length:
+    case FieldKind::Real:
+      return fmt::format("{}", brevanta::RealIn(record, field));
+    case FieldKind::Integer:
+      return fmt::format("{}", brevanta::IntegerIn(record, field));
+    case FieldKind::Text:
+      return fmt::format("\"{}\"", brevanta::TextIn(record, field));
+    case FieldKind::Points:
+      break;
+  }
+  std::string points;
+  for (const RecordPoint& p : brevanta::PointsIn(record, field))
+    points += fmt::format("({}, {}, {})", p.x, p.y, p.z);
+  return points;
 }
 
 bool IsNear(const node_list::Point& a, const node_list::Point& b, double tolerance) {
@@ -229,6 +272,21 @@ std::string RefusedShape(const Entities& entities) {
   } catch (const Error& error) {
     return error.what();
   }
+}
+
+testing::AssertionResult SameFields(const WindowParams& expected, const WindowParams& actual,
+                                    const std::vector<std::string_view>& names, double tolerance) {
+  testing::AssertionResult different = testing::AssertionFailure();
+  bool isSame = true;
+  for (std::string_view name : names) {
+    const RecordField* field = brevanta::FindRecordField(name);
+    if (field == nullptr) return testing::AssertionFailure() << "no field is called " << name;
+    if (IsSameValue(expected, actual, *field, tolerance)) continue;
+    different << name << " is not " << ValueText(expected, *field) << " but " << ValueText(actual, *field)
+              << ". ";
+    isSame = false;
+  }
+  return isSame ? testing::AssertionSuccess() : different;
 }
 
 testing::AssertionResult SamePlace(const Entities& expected, const Entities& actual, double tolerance) {

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -87,6 +88,12 @@ WindowReading ReadBack(const Entities& entities);
 WindowShape ShapeFrom(const Entities& entities);
 // Why ShapeOf refuses it; empty when it does not.
 std::string RefusedShape(const Entities& entities);
+
+// Whether both records have the same values in the fields of those names; numbers may differ by the
+// tolerance.
+testing::AssertionResult SameFields(const brevanta::WindowParams& expected,
+                                    const brevanta::WindowParams& actual,
+                                    const std::vector<std::string_view>& names, double tolerance);
 
 // Whether every entity of the one lies where one of the other lies, whichever way round its points run.
 testing::AssertionResult SamePlace(const Entities& expected, const Entities& actual, double tolerance);

@@ -75,19 +75,12 @@ void ExpectNear(const Vec3& actual, const Vec3& expected) {
 }
 
 // What no motion changes.
-void ExpectSameSizes(const WindowParams& actual, const WindowParams& expected) {
-  EXPECT_NEAR(actual.width, expected.width, SAME);
-  EXPECT_NEAR(actual.length, expected.length, SAME);
-  EXPECT_NEAR(actual.frameWidth, expected.frameWidth, SAME);
-  EXPECT_NEAR(actual.frameDepth, expected.frameDepth, SAME);
-  EXPECT_NEAR(actual.layerThickness, expected.layerThickness, SAME);
-  EXPECT_NEAR(actual.pitch, expected.pitch, SAME);
-  EXPECT_EQ(actual.bodyAsFaces, expected.bodyAsFaces);
-  EXPECT_EQ(actual.markerValue, expected.markerValue);
-  const bool isDrawn = expected.bodyAsFaces == 1 || expected.drawOpeningSymbol != 0;
-  if (isDrawn) {
-    EXPECT_NEAR(actual.skirtHeight, expected.skirtHeight, SAME);
-  }
+testing::AssertionResult SameSizes(const WindowParams& expected, const WindowParams& actual) {
+  std::vector<std::string_view> names = {"width",          "length", "frameWidth",  "frameDepth",
+                                         "layerThickness", "pitch",  "bodyAsFaces", "markerValue"};
+  const bool isSkirtDrawn = expected.bodyAsFaces == 1 || expected.drawOpeningSymbol != 0;
+  if (isSkirtDrawn) names.emplace_back("skirtHeight");
+  return SameFields(expected, actual, names, SAME);
 }
 
 double AngleBetween(double a, double b) {
@@ -102,7 +95,7 @@ TEST(WindowReading, UnmovedWindowGivesItsRecord) {
     const WindowReading reading = ReadBack(window.entities);
     ASSERT_THAT(reading.obstacle, IsEmpty());
     EXPECT_THAT(reading.notes, IsEmpty());
-    ExpectSameSizes(reading.params, window.record);
+    EXPECT_TRUE(SameSizes(window.record, reading.params));
     ExpectNear(ToVec3(reading.params.storedPoint), ToVec3(window.record.storedPoint));
     EXPECT_EQ(reading.params.widthAnchor, window.record.widthAnchor);
     EXPECT_STREQ(reading.params.openingCode, window.record.openingCode);
@@ -123,7 +116,7 @@ TEST(WindowReading, MovedWindowGivesItsMovedRecord) {
     const Motion motion = RandomMotion(random);
     const WindowReading reading = ReadBack(Changed(window.entities, motion));
     ASSERT_THAT(reading.obstacle, IsEmpty());
-    ExpectSameSizes(reading.params, window.record);
+    EXPECT_TRUE(SameSizes(window.record, reading.params));
     const Vec3 place = motion(ToVec3(window.record.storedPoint));
     ExpectNear(ToVec3(reading.params.storedPoint), place);
     EXPECT_NEAR(reading.params.lowerEdgeHeight, place.z / UNITS_PER_METRE, SAME);
@@ -142,7 +135,7 @@ TEST(WindowReading, MirroringTwiceGivesTheRecord) {
     const WindowReading once = ReadBack(mirrored);
     ASSERT_THAT(once.obstacle, IsEmpty());
     EXPECT_TRUE(once.isMirrored);
-    ExpectSameSizes(once.params, window.record);
+    EXPECT_TRUE(SameSizes(window.record, once.params));
     const WindowReading twice = ReadBack(Changed(mirrored, Mirror()));
     EXPECT_FALSE(twice.isMirrored);
     ExpectNear(ToVec3(twice.params.storedPoint), ToVec3(window.record.storedPoint));
