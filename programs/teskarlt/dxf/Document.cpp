@@ -29,11 +29,13 @@ std::string_view LineEndOf(std::string_view text) {
   return end != std::string_view::npos && end > 0 && text[end - 1] == '\r' ? "\r\n" : "\n";
 }
 
-// Old drawings have handles when $HANDLING says so, or else when their entities have some.
+// Old drawings have handles when $HANDLING says so, or else when something in them has one. Entities without
+// handles beside objects that have some are numbered by whoever reads the drawing, and then some of them as
+// those objects.
 bool UsesHandles(const Index& index, int version) {
-  if (NeedsHandles(version)) return true;
+  if (NeedsHandles(version) || index.hasObjectHandles) return true;
   const auto handling = ParseInteger(VariableText(index, VARIABLE_HANDLING));
-  return handling ? *handling == 1 : index.hasEntityHandles;
+  return handling ? *handling == 1 : index.largestHandle > 0;
 }
 
 // A number far above the units there are counts as none.
@@ -234,6 +236,10 @@ void Document::RequireApplication(std::string_view name) {
 
 bool Document::IsChanged() const {
   return state_->edits.IsChanged();
+}
+
+std::vector<std::string> Document::Notes() const {
+  return state_->edits.Notes();
 }
 
 EditMark Document::Mark() const {

@@ -115,6 +115,8 @@ class Document {
   void RequireApplication(std::string_view name);
 
   bool IsChanged() const;
+  // What of the drawing's own damage the edits mend, in sentences for the user.
+  std::vector<std::string> Notes() const;
   EditMark Mark() const;
   // Undoes the edits made since the mark was taken. Marks taken later are void then.
   void Rollback(const EditMark& mark);
