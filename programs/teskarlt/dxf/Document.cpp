@@ -59,6 +59,14 @@ bool IsSameFile(const std::string& a, const std::string& b) {
   return a == b || std::filesystem::equivalent(path(a), path(b), error);
 }
 
+platform::FileState StateAfterSave(const std::string& path) {
+  try {
+    return platform::StateOfFile(path);
+  } catch (const Error& error) {
+    throw Error("is written; since then it " + error.Message(), error.Place());
+  }
+}
+
 Rules RulesOf(const SourceText& source, const Index& index) {
   Rules rules;
   rules.version = VersionNumber(VariableText(index, VARIABLE_VERSION)).value_or(VERSION_R12);
@@ -250,6 +258,14 @@ void Document::Rollback(const EditMark& mark) {
   state_->edits.Rollback(mark);
 }
 
+Excerpts Document::MakeExcerpts() const {
+  return state_->edits.MakeExcerpts();
+}
+
+bool Document::HasModelSpaceHandle() const {
+  return ParseHandle(state_->index.modelSpace.value).value_or(0) != 0;
+}
+
 void Document::Save(const std::string& path) const {
   const bool isLoadedFile = state_->file.exists && IsSameFile(path, FileName());
   const auto refuseIfChanged = [&] {
@@ -261,7 +277,7 @@ void Document::Save(const std::string& path) const {
   state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
   refuseIfChanged();  // large drawings take a while
   file.Commit();
-  if (isLoadedFile) state_->file = platform::StateOfFile(path);
+  if (isLoadedFile) state_->file = StateAfterSave(path);
 }
 
 std::string Document::Serialize() const {

@@ -265,6 +265,10 @@ std::vector<Splice> Edits::Splices() const {
   return splices;
 }
 
+Excerpts Edits::MakeExcerpts() const {
+  return dxf::MakeExcerpts(source_, index_, Splices());
+}
+
 void Edits::Write(const std::function<void(std::string_view)>& sink) const {
   source_.Write(Splices(), sink);
 }

@@ -13,6 +13,7 @@
 #include "teskarlt/dxf/read/Index.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/dxf/write/Excerpts.h"
 #include "teskarlt/dxf/write/HandleSeed.h"
 #include "teskarlt/dxf/write/NewGroups.h"
 #include "teskarlt/dxf/write/NewTableEntries.h"
@@ -51,6 +52,8 @@ class Edits {
   void Rollback(const EditMark& mark);
 
   std::vector<std::string> Notes() const { return groups_.Notes(); }
+
+  Excerpts MakeExcerpts() const;
 
   // Gives the drawing's bytes with the edits to `sink`, piece by piece.
   void Write(const std::function<void(std::string_view)>& sink) const;
