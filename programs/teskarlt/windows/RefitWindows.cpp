@@ -25,24 +25,22 @@ namespace {
 using brevanta::RecordPoint;
 
 // A floor is no roof for a window that had a pitch, nor is a roof that falls the other way.
-bool CanFollow(const RoofFace& face, const geometry::Vec3& normal) {
+bool CanFollow(const Plane& plane, const geometry::Vec3& normal) {
   constexpr double FLAT = 1.0;  // degrees
   if (std::hypot(normal.x, normal.y) <= geometry::Sine(geometry::DegToRad(FLAT))) return true;
-  return Pitch(face) > FLAT && face.normal.x * normal.x + face.normal.y * normal.y > 0.0;
+  return Pitch(plane) > FLAT && plane.normal.x * normal.x + plane.normal.y * normal.y > 0.0;
 }
 
 // The face over the window's place that is nearest to it in height, of those that a roof with that normal can
 // have become; null when there is none.
-const RoofFace* FaceOver(const RecordPoint& place, const geometry::Vec3& normal,
-                         const std::vector<RoofFace>& faces) {
+const RoofFace* NearestFace(const RecordPoint& place, const geometry::Vec3& normal, const Roofs& roofs) {
   const RoofFace* nearest = nullptr;
   double least = 0.0;
-  for (const RoofFace& face : faces) {
-    const std::optional<double> height = HeightOver(face, place.x, place.y);
-    if (!height || !CanFollow(face, normal)) continue;
-    const double distance = std::abs(*height - place.z);
+  for (const FaceOver& over : roofs.FacesAt(place.x, place.y)) {
+    if (!over.surface->isPlanar || !CanFollow(over.surface->plane, normal)) continue;
+    const double distance = std::abs(over.height - place.z);
     if (nearest != nullptr && distance >= least) continue;
-    nearest = &face;
+    nearest = over.face;
     least = distance;
   }
   return nearest;
@@ -97,14 +95,14 @@ class Refitter {
   // can neither stay nor go.
   const RoofFace* NewFace(const DrawnWindow& window, const WindowReading& reading) const {
     if (HasOwnSecondPlane(reading.params, work_.tolerance)) {
-      if (FaceUnder(reading.params, work_.faces, work_.tolerance) != nullptr) return nullptr;
+      if (FaceUnder(reading.params, work_.roofs) != nullptr) return nullptr;
       throw Error("its roof was changed, and its second plane is not the roof's underside");
     }
     const WindowShape shape = ShapeOf(work_.drawing, window);
-    const double covered = CoveredPart(shape.outline, work_.faces, work_.tolerance);
+    const double covered = CoveredPart(shape.outline, work_.roofs);
     if (IsWhole(covered)) return nullptr;
     if (covered > 0.0) throw Error("a part of it lies outside its roof face; move it or make it smaller");
-    const RoofFace* const face = FaceOver(reading.params.storedPoint, shape.Normal(), work_.faces);
+    const RoofFace* const face = NearestFace(reading.params.storedPoint, shape.Normal(), work_.roofs);
     if (face == nullptr) throw Error("no roof face that falls its way lies over or under its place");
     return face;
   }
@@ -119,13 +117,13 @@ class Refitter {
     request.point = {reading.params.storedPoint.x, reading.params.storedPoint.y};
     if (order_.keeps == RefitKeeps::Height)
       request.answers["lowerEdgeHeight"] = fmt::format("{}", reading.params.lowerEdgeHeight);
-    PutRoof(OnFace(face, work_.faces, work_.tolerance), request);
+    PutRoof(OnFace(face, work_.roofs), request);
     return request;
   }
 
   // What the windows overlap in their new places.
   void FindMisfits() {
-    WindowFit fit(work_.faces, work_.tolerance);
+    WindowFit fit(work_.roofs);
     for (const DrawnWindow& window : work_.windows) {
       const std::optional<Outline> outline =
           moved_.contains(&window) ? std::nullopt : DrawnOutline(work_.drawing, window);
