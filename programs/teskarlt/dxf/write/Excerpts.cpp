@@ -83,7 +83,7 @@ class Keeper {
       const char* const touched = IsInsertion(*splice) ? splice->begin - 1 : splice->begin;
       if (touched < known) continue;  // in the object that was found last
       Kept object = ObjectAround(touched, std::max(known, EntityBefore(section, touched)), section.end);
-      object.end = std::max(object.end, splice->end);
+      if (splice->end > object.end) object.end = object.extended = splice->end;  // goes with its parts
       known = object.end;
       kept_.push_back(object);
     }
