@@ -1,6 +1,10 @@
 // WindowEditor.cpp - changes a window of a drawing.
 #include "teskarlt/windows/WindowEditor.h"
 
+#include <algorithm>
+#include <array>
+#include <optional>
+
 #include <fmt/format.h>
 
 #include "inc/DialogServices.h"
@@ -45,6 +49,17 @@ void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers
   answers.emplace("secondPlanePoints", points);
 }
 
+// The picked point: where the window is to stand, or where it stands; none where the order says it in the
+// roof's own frame.
+std::optional<std::array<double, 2>> PointOf(const WindowOrder& order, const WindowParams& window) {
+  if (order.at) return std::array{order.at->x, order.at->y};
+  const bool setsPoint = std::any_of(order.settings.begin(), order.settings.end(), [](const auto& setting) {
+    return setting.field == "insertionPoint";
+  });
+  if (setsPoint) return std::nullopt;
+  return std::array{window.storedPoint.x, window.storedPoint.y};
+}
+
 }  // namespace
 
 WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
@@ -65,8 +80,7 @@ PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
   request.replaced = window_.entities;
   request.numbersInUse = &work_.numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf);
-  request.point = order.at ? std::array{order.at->x, order.at->y}
-                           : std::array{record.storedPoint.x, record.storedPoint.y};
+  request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
   if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
   const RoofChoice roof =
