@@ -26,9 +26,9 @@ namespace teskarlt {
 
 namespace {
 
+using brevanta::Outline;
 using brevanta::RecordPoint;
 using brevanta::WindowParams;
-using brevanta::Outline;
 using geometry::Vec3;
 
 constexpr double SAME_LENGTH = 0.001;  // metres
@@ -125,8 +125,8 @@ class Reconciliation {
     }
   }
 
-  // Whether the window lies in the roof plane of its description. That plane is looked at where the window is:
-  // its points may be far away.
+  // Whether the window lies in the roof plane of its description. That plane is looked at where the window
+  // is: its points may be far away.
   bool LiesOnRoof() const {
     const auto roof = brevanta::PlaneThrough(params_.roofPlanePoints);
     if (!roof || !shape_.keepsDirections) return false;
@@ -281,17 +281,17 @@ WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window
     StoreText(drawing, window.*drawn.text, *brevanta::FindRecordField(drawn.field), reading.params);
   reading.obstacle = EntityMismatch(window);
   if (!reading.obstacle.empty()) return reading;
-  const WindowReading described = reading;
+  WindowReading described = reading;
   try {
-    Reconciliation(ShapeOf(drawing, window), reading).Run();
+    const WindowShape shape = ShapeOf(drawing, window);
+    described.outline = reading.outline = shape.outline;
+    Reconciliation(shape, reading).Run();
   } catch (const Error& error) {
     reading.obstacle = error.what();
   }
   if (reading.obstacle.empty()) return reading;
-  const std::string obstacle = std::move(reading.obstacle);
-  reading = described;
-  reading.obstacle = obstacle;
-  return reading;
+  described.obstacle = std::move(reading.obstacle);
+  return described;
 }
 
 WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow& window) {

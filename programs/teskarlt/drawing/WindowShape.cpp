@@ -147,7 +147,8 @@ class ShapeReader {
     const auto plane =
         shape.keepsDirections ? described : geometry::RoofPlaneThrough(outline[0], outline[1], outline[3]);
     if (!plane) Fail("it was squeezed to a line");
-    if (!LiesAlong(*plane, shape)) Fail("it lies turned on a flat roof, where a window lies along the x axis");
+    if (!LiesAlong(*plane, shape))
+      Fail("it lies turned on a flat roof, where a window lies along the x axis");
     shape.isMirrored = geometry::VecDot(shape.Across(), InWorld(*plane, {1, 0, 0})) < 0;
   }
 
@@ -160,7 +161,8 @@ class ShapeReader {
   // Whether the window's edges run as the module draws them in that plane, mirrored or not.
   static bool LiesAlong(const geometry::RoofPlane& plane, const WindowShape& shape) {
     const brevanta::LocalSlope slope = brevanta::SlopeOf(plane);
-    const Vec3 up = InWorld(plane, {0, slope.ySide * geometry::Cosine(slope.angle), geometry::Sine(slope.angle)});
+    const Vec3 up =
+        InWorld(plane, {0, slope.ySide * geometry::Cosine(slope.angle), geometry::Sine(slope.angle)});
     const Vec3 across = Cross(InWorld(plane, {1, 0, 0}), shape.Across());
     return Distance(up, shape.Up()) <= SAME_DIRECTION && geometry::VecLength(across) <= SAME_DIRECTION;
   }

@@ -53,9 +53,8 @@ void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers
 // roof's own frame.
 std::optional<std::array<double, 2>> PointOf(const WindowOrder& order, const WindowParams& window) {
   if (order.at) return std::array{order.at->x, order.at->y};
-  const bool setsPoint = std::any_of(order.settings.begin(), order.settings.end(), [](const auto& setting) {
-    return setting.field == "insertionPoint";
-  });
+  const bool setsPoint = std::any_of(order.settings.begin(), order.settings.end(),
+                                     [](const auto& setting) { return setting.field == "insertionPoint"; });
   if (setsPoint) return std::nullopt;
   return std::array{window.storedPoint.x, window.storedPoint.y};
 }
@@ -91,7 +90,7 @@ PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
   PlacedWindow edited = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
   WindowFit fit(work_.faces, work_.tolerance);
   fit.AddAll(work_.drawing, work_.windows, &window_);
-  edited.misfits = fit.Misfits(edited.record, OutlineOf(edited.record));
+  edited.misfits = fit.Misfits(edited.record, edited.outline);
   if (order.isStrict && !edited.misfits.empty()) {
     work_.drawing.Rollback(before);
     RefuseMisfits(edited.misfits);

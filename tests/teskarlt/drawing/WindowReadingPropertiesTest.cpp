@@ -168,10 +168,12 @@ Place FallingBy(double tangent) {
 TEST(WindowReading, NearlyFlatWindowInsertedAgainStandsWhereItStood) {
   const Motion motions[] = {Motion{}, Move(3000, -2000, 500), Mirror(), Turn(180), Mirror().Then(Turn(180))};
   for (const double tangent : {1e-10, 1e-7, 9e-5, 1.1e-4, -1e-10, -1e-7, -9e-5}) {
-    const Entities window = Insert({{"heightReference", "0"}, {"openingCode", "E"}}, FallingBy(tangent)).entities;
+    const Entities window =
+        Insert({{"heightReference", "0"}, {"openingCode", "E"}}, FallingBy(tangent)).entities;
     for (const Motion& motion : motions) {
       for (const Description description : {Description::Left, Description::MovedAlong}) {
-        SCOPED_TRACE(fmt::format("{} {} {} {}", tangent, motion.x.x, motion.y.y, static_cast<int>(description)));
+        SCOPED_TRACE(
+            fmt::format("{} {} {} {}", tangent, motion.x.x, motion.y.y, static_cast<int>(description)));
         const Entities changed = Changed(window, motion, description);
         const WindowReading reading = ReadBack(changed);
         ASSERT_THAT(reading.obstacle, IsEmpty());

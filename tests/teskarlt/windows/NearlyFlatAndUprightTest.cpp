@@ -22,8 +22,8 @@ namespace {
 using geometry::Vec3;
 using testing::IsEmpty;
 
-constexpr double HALF = 5.0;       // metres, of the roof's sides
-constexpr double SAME = 1e-5;      // metres
+constexpr double HALF = 5.0;        // metres, of the roof's sides
+constexpr double SAME = 1e-5;       // metres
 constexpr double TOLERANCE = 1e-4;  // of the kernel
 
 // Around the kernel's tolerance for a horizontal plane: the plan length of unit normals.
@@ -33,14 +33,15 @@ constexpr double FLAT[] = {0,
                            1e-10,
                            1e-7,
                            TOLERANCE / 2,
-                           TOLERANCE * (1 - 1e-12),
+                           TOLERANCE*(1 - 1e-12),
                            TOLERANCE,
                            TOLERANCE*(1 + 1e-12),
                            TOLERANCE * 1.2,  // below the tolerance along both axes, in some directions
                            1e-3};
 // And for a vertical one: their upward part.
 constexpr double UPRIGHT[] = {TOLERANCE * 1.001, 1e-3};
-constexpr double DIRECTIONS[] = {0, 30, 45, 90, 135, 180, 200, 225, 270, 300};  // degrees, of the normal's plan
+constexpr double DIRECTIONS[] = {0,   30,  45,  90,  135,
+                                 180, 200, 225, 270, 300};  // degrees, of the normal's plan
 
 // A square roof of 10 m around its centre.
 struct Roof {
@@ -69,8 +70,7 @@ struct Roof {
 Roof RoofWith(double planLength, double upward, double direction, double scale) {
   const double angle = geometry::DegToRad(direction);
   const Vec3 normal{planLength * std::cos(angle), planLength * std::sin(angle), upward};
-  const Vec3 across =
-      planLength == 0.0 ? Vec3{1, 0, 0} : Vec3{-std::sin(angle), std::cos(angle), 0};
+  const Vec3 across = planLength == 0.0 ? Vec3{1, 0, 0} : Vec3{-std::sin(angle), std::cos(angle), 0};
   return {{12 * scale, -7 * scale, 300 * scale}, normal, across, Cross(normal, across), scale};
 }
 
@@ -146,7 +146,8 @@ INSTANTIATE_TEST_SUITE_P(Units, RoofAroundTolerances, testing::Values("mm", "m")
 TEST(NearlyFlatFace, WindowIsRefusedWhereItWouldLeaveTheFace) {
   const WindowModule module;
   const double low = 2999.999999;  // a millionth lower, along +y: the window runs from its point to -y
-  dxf::Document drawing = DrawingWithFaces({{{0, 0, 3000}, {10000, 0, 3000}, {10000, 8000, low}, {0, 8000, low}}});
+  dxf::Document drawing =
+      DrawingWithFaces({{{0, 0, 3000}, {10000, 0, 3000}, {10000, 8000, low}, {0, 8000, low}}});
   WindowOrder order = OrderAt(5000, 500);
   order.settings = {{"heightReference", "0"}};
   WindowInserter inserter(module, drawing, Millimetres());
