@@ -38,7 +38,7 @@ TEST_F(DialogTest, AnswersGoIntoTheRecord) {
   EXPECT_EQ(host.record.storedPoint.z, 3);
 }
 
-TEST_F(DialogTest, NewWindowGetsTheLowestFreeNumber) {
+TEST_F(DialogTest, NewWindowGetsTheNumberThatIsFree) {
   host.numbers = {1, 2, 4};
   EXPECT_EQ(host.RunDialog(), 1);
   EXPECT_EQ(host.record.markerValue, 3);

@@ -1,4 +1,5 @@
 // ListCommand.cpp - the subcommand "list": lists the roof windows of a drawing.
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <optional>
@@ -80,6 +81,7 @@ struct Row {
 
 std::vector<Row> ReadRows(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows) {
   std::vector<Row> rows;
+  rows.reserve(windows.size());
   std::set<std::int32_t> numbers;
   for (const DrawnWindow& window : windows) {
     Row& row = rows.emplace_back(Row{window, ReadWindow(drawing, window)});
@@ -178,10 +180,18 @@ void PrintTable(const std::vector<Row>& rows) {
   }
 }
 
+// By their numbers; windows that share one in the order of the file.
+std::vector<DrawnWindow> WindowsByNumber(const dxf::Document& drawing, const DrawingUnit& unit) {
+  std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  std::stable_sort(windows.begin(), windows.end(),
+                   [](const DrawnWindow& a, const DrawnWindow& b) { return a.number < b.number; });
+  return windows;
+}
+
 void RunList(const ListOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
   const DrawingUnit& unit = UnitOf(drawing, options.units);
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  const std::vector<DrawnWindow> windows = WindowsByNumber(drawing, unit);
   const std::vector<Row> rows = ReadRows(drawing, windows);
   if (options.asJson) {
     PrintRows(rows, unit);

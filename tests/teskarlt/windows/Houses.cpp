@@ -66,11 +66,14 @@ dxf::Document HouseWithCopy() {
   return dxf::Document::FromText("house.dxf", twice.insert(end, text.substr(begin, end - begin)));
 }
 
+dxf::Document WithRisenRoof(dxf::Document house, double height) {
+  house.RemoveEntity(house.Entities().front());  // the roof
+  AddFace(RoofAt(height), house);
+  return Reloaded(house);
+}
+
 dxf::Document HouseWithRisenRoof(double height) {
-  dxf::Document drawing = HouseWithWindow();
-  drawing.RemoveEntity(drawing.Entities().front());  // the roof
-  AddFace(RoofAt(height), drawing);
-  return Reloaded(drawing);
+  return WithRisenRoof(HouseWithWindow(), height);
 }
 
 WindowOrder OrderAt(double x, double y) {

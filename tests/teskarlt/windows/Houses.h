@@ -34,6 +34,9 @@ dxf::Document HouseWithWindow();
 // The same with a copy of the window in its place, as CAD programs make it: with the same number.
 dxf::Document HouseWithCopy();
 
+// A drawing that House began, whose roof then rose by `height`.
+dxf::Document WithRisenRoof(dxf::Document house, double height);
+
 // HouseWithWindow, whose roof then rose by `height`.
 dxf::Document HouseWithRisenRoof(double height);
 
