@@ -61,11 +61,11 @@ Header ReadHeader(const Object& section) {
 
 class Checks {
  public:
-  Checks(const dxf::SourceText& source, Findings& findings)
+  Checks(const dxf::SourceText& source, const dxf::HandleRange& elsewhere, Findings& findings)
       : walk_(source, findings),
         findings_(findings),
         texts_(header_, findings),
-        handles_(header_, findings),
+        handles_(header_, elsewhere, findings),
         names_(header_, findings),
         entities_(findings) {}
 
@@ -122,10 +122,10 @@ class Checks {
 
 }  // namespace
 
-Verdict CheckObjects(const dxf::SourceText& source) {
+Verdict CheckObjects(const dxf::SourceText& source, const dxf::HandleRange& elsewhere) {
   dxf::RefuseOtherFiles(source);
   Findings findings;
-  Checks(source, findings).Run();
+  Checks(source, elsewhere, findings).Run();
   return findings.Finish(source);
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "teskarlt/check/Findings.h"
+#include "teskarlt/dxf/Document.h"
 #include "teskarlt/dxf/tags/SourceText.h"
 
 namespace teskarlt::check {
@@ -13,7 +14,7 @@ namespace teskarlt::check {
 // The time is linear in the size of the file.
 Verdict CheckDrawing(dxf::SourceText source);
 
-// The same without its windows.
-Verdict CheckObjects(const dxf::SourceText& source);
+// The same without its windows. References to `elsewhere` lead to objects that were left out of the text.
+Verdict CheckObjects(const dxf::SourceText& source, const dxf::HandleRange& elsewhere = {});
 
 }  // namespace teskarlt::check

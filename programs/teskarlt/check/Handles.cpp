@@ -155,6 +155,7 @@ void Handles::CheckReference(const Reference& reference) {
     CheckOwner(reference, *found);
     return;
   }
+  if (elsewhere_.Holds(reference.handle)) return;
   findings_.Error(KindOfUse(reference.use), reference.place,
                   fmt::format("{} {:X} does not exist", NameOfUse(reference.use), reference.handle),
                   reference.from);

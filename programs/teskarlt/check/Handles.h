@@ -7,13 +7,15 @@
 
 #include "teskarlt/check/Findings.h"
 #include "teskarlt/check/Object.h"
+#include "teskarlt/dxf/Document.h"
 
 namespace teskarlt::check {
 
 class Handles {
  public:
-  // `header` must outlive this and be filled before the first object.
-  Handles(const Header& header, Findings& findings) : header_(header), findings_(findings) {}
+  // `header` must outlive this and be filled before the first object. References to `elsewhere` are right.
+  Handles(const Header& header, const dxf::HandleRange& elsewhere, Findings& findings)
+      : header_(header), elsewhere_(elsewhere), findings_(findings) {}
 
   void Check(const Object& object);
 
@@ -68,6 +70,7 @@ class Handles {
   static std::string_view NameOfUse(Use use);
 
   const Header& header_;
+  dxf::HandleRange elsewhere_;
   Findings& findings_;
   std::vector<Known> known_;
   std::vector<Reference> references_;

@@ -25,11 +25,11 @@ bool Holds(const Kind (&kinds)[SIZE], Kind kind) {
   return std::find(std::begin(kinds), std::end(kinds), kind) != std::end(kinds);
 }
 
-Verdict CheckedText(const std::string& name, std::string_view text) {
+Verdict CheckedText(const std::string& name, std::string_view text, const dxf::HandleRange& elsewhere) {
   platform::FileBytes bytes;
   bytes.bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
   bytes.size = text.copy(bytes.bytes.get(), text.size());
-  return CheckObjects({name, std::move(bytes)});
+  return CheckObjects({name, std::move(bytes)}, elsewhere);
 }
 
 bool IsError(const Finding& finding, Kind kind) {
@@ -69,8 +69,8 @@ bool Has(const Verdict& verdict, const Finding& wanted) {
 
 void ProveChanges(const dxf::Document& drawing) {
   const dxf::Excerpts excerpts = drawing.MakeExcerpts();
-  const Verdict before = CheckedText(drawing.FileName(), excerpts.loaded);
-  const Verdict after = CheckedText(drawing.FileName(), excerpts.edited);
+  const Verdict before = CheckedText(drawing.FileName(), excerpts.loaded, {});
+  const Verdict after = CheckedText(drawing.FileName(), excerpts.edited, excerpts.newHandles);
   if (after.errors == 0) return;
   for (std::size_t i = 0; i < static_cast<std::size_t>(Kind::KindCount); ++i) {
     const auto kind = static_cast<Kind>(i);

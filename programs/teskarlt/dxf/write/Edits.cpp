@@ -2,6 +2,7 @@
 #include "teskarlt/dxf/write/Edits.h"
 
 #include <algorithm>
+#include <bit>
 #include <unordered_set>
 
 #include <fmt/format.h>
@@ -102,9 +103,20 @@ std::uint64_t Edits::AddCheckedEntity(std::span<const TypedTag> tags) {
   }
   const std::string_view body = store_.Add(scratch_);
   const std::string_view extendedData = ExtendedData(tags.subspan(extended));
+  const std::size_t place = added_.size();
   added_.push_back(body);
   if (!extendedData.empty()) added_.push_back(extendedData);
+  NoteShape(tags.first(extended), place);
   return handle;
+}
+
+// `own` are the tags before the extended data, `text` is the place of the entity in added_.
+void Edits::NoteShape(std::span<const TypedTag> own, std::size_t text) {
+  const std::size_t texts = added_.size() - text;
+  std::size_t shape = ShapeOf(own, Integers::Count);
+  if (texts > 1) shape = std::rotl(shape, 1) ^ lastShape_;
+  if (grouping_) shape += grouping_->reactors.size();
+  if (shapes_.insert(shape).second) firsts_.push_back({shape, text, texts});
 }
 
 // What the entity refers to by name must be in the drawing, else strict programs refuse all of it.
@@ -152,6 +164,7 @@ std::string_view Edits::ExtendedData(std::span<const TypedTag> tags) {
     if (tag.code != CODE_XDATA_MARKER) WriteTag(writer, codec_, tag);
   lastExtendedData_ = store_.Add(scratch_);
   lastKey_ = std::move(key);
+  lastShape_ = ShapeOf(tags, Integers::DoNotCount);
   return lastExtendedData_;
 }
 
@@ -215,6 +228,8 @@ EditMark Edits::Mark() const {
 
 void Edits::Rollback(const EditMark& mark) {
   added_.resize(std::min(mark.addedTexts, added_.size()));
+  for (; !firsts_.empty() && firsts_.back().text >= added_.size(); firsts_.pop_back())
+    shapes_.erase(firsts_.back().shape);
   while (removed_.size() > mark.removedEntities) {
     isRemoved_[removed_.back()] = false;
     removed_.pop_back();
@@ -266,7 +281,14 @@ std::vector<Splice> Edits::Splices() const {
 }
 
 Excerpts Edits::MakeExcerpts() const {
-  return dxf::MakeExcerpts(source_, index_, Splices());
+  std::vector<std::string_view> entities;
+  for (const FirstOfShape& first : firsts_) {
+    const auto begin = added_.begin() + static_cast<std::ptrdiff_t>(first.text);
+    entities.insert(entities.end(), begin, begin + static_cast<std::ptrdiff_t>(first.texts));
+  }
+  Excerpts excerpts = dxf::MakeExcerpts(source_, index_, Splices(), entities);
+  excerpts.newHandles = {handles_.First(), handles_.Next()};
+  return excerpts;
 }
 
 void Edits::Write(const std::function<void(std::string_view)>& sink) const {

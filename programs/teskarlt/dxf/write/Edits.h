@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "teskarlt/dxf/read/Index.h"
@@ -67,11 +68,19 @@ class Edits {
     std::vector<std::uint64_t> members;          // in ascending order
   };
 
+  // A new entity that stands for all others that differ from it in numbers and handles alone.
+  struct FirstOfShape {
+    std::size_t shape;
+    std::size_t text;  // its place in added_
+    std::size_t texts;
+  };
+
   std::uint64_t AddCheckedEntity(std::span<const TypedTag> tags);
   void RequireNames(std::span<const TypedTag> tags);
   std::uint64_t OwnerOfNew();
   std::uint64_t FindOwner() const;
   std::string_view ExtendedData(std::span<const TypedTag> tags);
+  void NoteShape(std::span<const TypedTag> own, std::size_t text);
   std::size_t NumberOf(const Entity& entity) const;
   std::vector<Splice> Splices() const;
   void AddSeedSplice(std::vector<Splice>& splices) const;
@@ -88,7 +97,9 @@ class Edits {
 
   TextStore store_;
   std::vector<std::string_view> added_;  // texts of new entities, one behind the other
-  std::vector<std::size_t> removed_;     // numbers of entities in the order of their removal
+  std::vector<FirstOfShape> firsts_;
+  std::unordered_set<std::size_t> shapes_;  // of new entities
+  std::vector<std::size_t> removed_;        // numbers of entities in the order of their removal
   std::vector<bool> isRemoved_;
   std::vector<Splice> replaced_;  // values of tags
 
@@ -96,6 +107,7 @@ class Edits {
   // The extended data that were written last: the entities of one window share theirs.
   std::string lastKey_;
   std::string_view lastExtendedData_;
+  std::size_t lastShape_ = 0;
 };
 
 }  // namespace teskarlt::dxf

@@ -2,8 +2,10 @@
 #include "teskarlt/dxf/write/EntityTags.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <limits>
 
 #include <fmt/format.h>
@@ -115,6 +117,23 @@ std::size_t ExtendedDataBegin(std::span<const TypedTag> tags) {
     return IsExtendedData(tag.code) || tag.code == CODE_XDATA_MARKER;
   });
   return static_cast<std::size_t>(first - tags.begin());
+}
+
+std::size_t ShapeOf(std::span<const TypedTag> tags, Integers integers) {
+  constexpr std::size_t SPREAD = 0x9E3779B9;  // an odd number whose bits look like chance
+  constexpr int TURN = 5;
+  std::size_t shape = tags.size();
+  const auto add = [&](std::size_t value) { shape = (std::rotl(shape, TURN) ^ value) * SPREAD; };
+  for (const TypedTag& tag : tags) {
+    add(static_cast<std::size_t>(tag.code));
+    if (const auto* const text = std::get_if<std::string_view>(&tag.value)) {
+      add(std::hash<std::string_view>()(*text));
+    } else if (const auto* const integer = std::get_if<std::int64_t>(&tag.value);
+               integer != nullptr && integers == Integers::Count) {
+      add(static_cast<std::size_t>(*integer));
+    }
+  }
+  return shape;
 }
 
 void CheckTags(std::span<const TypedTag> tags) {

@@ -19,6 +19,13 @@ void CheckTags(std::span<const TypedTag> tags);
 // Number of tags before the extended data.
 std::size_t ExtendedDataBegin(std::span<const TypedTag> tags);
 
+// What integers say is part of what an entity is (flags, colours), or a mere number.
+enum class Integers { Count, DoNotCount };
+
+// A number that is the same for lists that differ in nothing but the values of reals and points and of
+// integers that do not count. Others have, as good as always, another one.
+std::size_t ShapeOf(std::span<const TypedTag> tags, Integers integers);
+
 // The text of a tag that holds one.
 std::string_view TextOf(const TypedTag& tag);
 

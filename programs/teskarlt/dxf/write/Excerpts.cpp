@@ -129,18 +129,10 @@ void Append(std::string& text, const char* begin, const char* end) {
   if (begin < end) text.append(begin, end);
 }
 
-// Texts of new entities and of their extended data, which entities of one window share.
-void AppendAdded(std::string& text, const std::vector<std::string_view>& added) {
-  constexpr std::size_t DISTANCE = 2;  // of the extended data of one entity from those of the next
-  for (std::size_t i = 0; i < added.size(); ++i) {
-    const bool isShared = i >= DISTANCE && added[i].data() == added[i - DISTANCE].data();
-    if (!isShared) text += added[i];
-  }
-}
-
 }  // namespace
 
-Excerpts MakeExcerpts(const SourceText& source, const Index& index, const std::vector<Splice>& splices) {
+Excerpts MakeExcerpts(const SourceText& source, const Index& index, const std::vector<Splice>& splices,
+                      std::span<const std::string_view> entities) {
   Excerpts excerpts;
   auto splice = splices.begin();
   for (const Kept& kept : Keeper(source, index, splices).Run()) {
@@ -148,7 +140,10 @@ Excerpts MakeExcerpts(const SourceText& source, const Index& index, const std::v
     for (; splice != splices.end() && IsIn(kept, *splice); ++splice) {
       Append(excerpts.edited, at, splice->begin);
       excerpts.edited += splice->text;
-      if (splice->more != nullptr) AppendAdded(excerpts.edited, *splice->more);
+      if (splice->more != nullptr) {
+        for (const std::string_view text : entities)
+          excerpts.edited += text;
+      }
       at = splice->end;
     }
     Append(excerpts.edited, at, kept.end);

@@ -24,6 +24,9 @@ class HandleSeed {
     return next_++;
   }
 
+  // The first handle that was given out, if one was.
+  std::uint64_t First() const { return first_; }
+
   // The value for $HANDSEED, which Edits writes.
   std::uint64_t Next() const { return next_; }
   bool HasMoved() const { return next_ != first_; }

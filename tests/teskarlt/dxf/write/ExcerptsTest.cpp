@@ -1,6 +1,8 @@
 // ExcerptsTest.cpp - what a save changes, as small drawings.
 #include <vector>
 
+#include <fmt/format.h>
+
 #include "teskarlt/dxf/write/Excerpts.h"
 #include "tests/teskarlt/dxf/SmallDrawings.h"
 
@@ -49,14 +51,27 @@ TEST(Excerpts, TouchedEntityIsThereBeforeAndAfter) {
   EXPECT_EQ(drawing.MakeExcerpts().edited, Excerpt("0|LINE|5|A|8|X"));
 }
 
-TEST(Excerpts, SharedExtendedDataStandAtTheFirstNewEntity) {
+TEST(Excerpts, OneNewEntityStandsForAllThatDifferInNumbersAlone) {
   Document drawing = Parsed(Drawing());
-  for (int i = 0; i < 2; ++i)
-    drawing.AddEntity(std::vector<TypedTag>{{0, "POINT"sv}, {8, "0"sv}, {1001, "X"sv}, {1000, "text"sv}});
-  const std::string edited = drawing.MakeExcerpts().edited;
-  EXPECT_THAT(edited,
-              testing::HasSubstr(Tags("  0|POINT|  5|20|  8|0|1001|X|1000|text|  0|POINT|  5|21|  8|0|0|"
-                                      "ENDSEC")));
+  const auto add = [&](double x, std::int64_t number, std::string_view text) {
+    return drawing.AddEntity(std::vector<TypedTag>{
+        {0, "POINT"sv}, {8, "0"sv}, {10, Point{x, 0, 0}}, {1001, "X"sv}, {1070, number}, {1000, text}});
+  };
+  add(1, 1, "a");
+  const EditMark mark = drawing.Mark();
+  add(2, 2, "b");
+  drawing.Rollback(mark);
+  for (const std::string_view text : {"a", "b", "a"})
+    add(3, 3, text);
+  const Excerpts excerpts = drawing.MakeExcerpts();
+  const auto point = [](std::string_view handle, int number, std::string_view text) {
+    return fmt::format("  0|POINT|  5|{}|  8|0| 10|{}.0| 20|0.0| 30|0.0|1001|X|1070|{}|1000|{}", handle,
+                       number, number, text);
+  };
+  EXPECT_EQ(
+      excerpts.edited.substr(excerpts.edited.find("  0\n")),
+      Tags(point("20", 1, "a") + "|" + point("22", 3, "b") + "|0|ENDSEC|0|SECTION|2|OBJECTS|0|ENDSEC|0|EOF"));
+  EXPECT_EQ(excerpts.newHandles.end, 0x24U);
 }
 
 // Members and entries come in at the end of an object, where the next one begins.
