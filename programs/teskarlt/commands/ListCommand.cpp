@@ -16,6 +16,7 @@
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
+#include "window/EdgeHeights.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
@@ -115,6 +116,7 @@ Json ToJson(const Row& row) {
   json["faces"] = window.faces;
   json["lines"] = window.entities.size() - window.faces;
   json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
+  json["frame"] = FrameJson(reading.outline, reading.params);
   json["fields"] = window.isComplete ? FieldsJson(window, reading.params) : Json(nullptr);
   json["sources"] = SourcesJson(reading);
   json["notes"] = reading.notes;
@@ -144,19 +146,30 @@ std::string FallText(const brevanta::WindowParams& params) {
   return fall ? fmt::format("{:.1f}", *fall) : "flat";
 }
 
+// The height of an edge of the frame as it is drawn, and in brackets what the record says where it is
+// another.
+std::string EdgeText(const WindowReading& reading, double brevanta::Edges::*edge) {
+  const std::string recorded = fmt::format("{:.3f}", brevanta::RecordedEdges(reading.params).*edge);
+  if (!reading.outline) return fmt::format("({})", recorded);
+  const std::string drawn =
+      fmt::format("{:.3f}", brevanta::EdgesOf(*reading.outline, reading.params.unitFactor).*edge);
+  return drawn == recorded ? drawn : fmt::format("{} ({})", drawn, recorded);
+}
+
 void PrintTable(const std::vector<Row>& rows) {
-  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "x", "y", "z", "code",
-               "entities", "texts"});
+  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "lower edge m", "upper edge m",
+               "x", "y", "z", "code", "entities", "texts"});
   for (const auto& [window, reading] : rows) {
     const brevanta::WindowParams& p = reading.params;
     const std::string entities = std::to_string(window.entities.size());
     if (!window.isComplete) {
-      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", entities,
+      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", "?", "?", entities,
                  "(description damaged)"});
       continue;
     }
     table.Add({std::to_string(window.number), fmt::format("{:g}", p.width), fmt::format("{:g}", p.length),
-               fmt::format("{:.2f}", p.pitch), FallText(p), fmt::format("{:.3f}", p.storedPoint.x),
+               fmt::format("{:.2f}", p.pitch), FallText(p), EdgeText(reading, &brevanta::Edges::lower),
+               EdgeText(reading, &brevanta::Edges::upper), fmt::format("{:.3f}", p.storedPoint.x),
                fmt::format("{:.3f}", p.storedPoint.y), fmt::format("{:.3f}", p.storedPoint.z), p.openingCode,
                entities, Texts(window)});
   }
@@ -199,7 +212,10 @@ void AddListCommand(OptionParser& parser) {
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
       "Sizes are in metres, the place in drawing units; the direction in which the roof falls is in degrees\n"
-      "counter-clockwise from the drawing's x axis. Windows that another program moved, turned, mirrored or\n"
+      "counter-clockwise from the drawing's x axis. The edges are those of the frame as it is drawn; in "
+      "brackets\n"
+      "stands what the record says where it is another height. Windows that another program moved, turned, "
+      "mirrored or\n"
       "scaled are listed as they stand in the drawing, with a note; those that cannot be changed any more "
       "as\n"
       "their descriptions say.\n"
