@@ -45,7 +45,7 @@ void PrintText(const WindowOptions& options, const PlacedWindow& window, const W
 
 }  // namespace
 
-const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const std::string& asked) {
+const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const AskedUnit& asked) {
   const UnitChoice choice = ChooseUnit(drawing, asked);
   if (!choice.warning.empty()) TellWarning(choice.warning);
   return choice.unit;
