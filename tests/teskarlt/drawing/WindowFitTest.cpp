@@ -130,7 +130,7 @@ TEST(UnevennessIn, IsMeasuredWhereTheWindowLies) {
     const auto corner = [](double x, double up) { return Vec3{x, up, 30 + (up - 1e4) * 0.006}; };
     return UnevennessIn({corner(0, y), corner(0, y + 1000), corner(1000, y + 1000), corner(1000, y)}, roofs);
   };
-  EXPECT_NEAR(unevenness(9500), 27, 0.1);  // 0.5 m from the edge
+  EXPECT_NEAR(unevenness(9500), 30, 0.1);  // over the edge, an end of which it covers
   EXPECT_NEAR(unevenness(4500), 3, 0.1);   // at 5 m the plane passes through the first face
 }
 
