@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/ClosedLayers.h"
@@ -98,7 +99,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
   const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
   if (!misfit.empty()) TellWarning(misfit);
   WarnOfClosedLayers(drawing, window.layers);
-  options.target.Write([&](const std::string& path) { drawing.Save(path); });
+  SaveDrawing(drawing, options.target);
   if (options.asJson) {
     PrintJson(AnswerJson(options, window, edited));
   } else {
