@@ -26,10 +26,10 @@ namespace {
 using brevanta::RecordPoint;
 
 // A floor is no roof for a window that had a pitch, nor is a roof that falls the other way.
-bool CanFollow(const RoofFace& face, const geometry::Vec3& normal) {
+bool CanFollow(const Plane& plane, const geometry::Vec3& normal) {
   constexpr double FLAT = 1.0;  // degrees
   if (std::hypot(normal.x, normal.y) <= geometry::Sine(geometry::DegToRad(FLAT))) return true;
-  return Pitch(face) > FLAT && face.normal.x * normal.x + face.normal.y * normal.y > 0.0;
+  return Pitch(plane) > FLAT && plane.normal.x * normal.x + plane.normal.y * normal.y > 0.0;
 }
 
 // A face over or under a window's place.
@@ -39,15 +39,13 @@ struct NearFace {
 };
 
 // Of the faces that a roof with that normal can have become, the one nearest in height.
-NearFace NearestFace(const RecordPoint& place, const geometry::Vec3& normal,
-                     const std::vector<RoofFace>& faces) {
+NearFace NearestFace(const RecordPoint& place, const geometry::Vec3& normal, const Roofs& roofs) {
   NearFace nearest;
-  for (const RoofFace& face : faces) {
-    const std::optional<double> height = HeightOver(face, place.x, place.y);
-    if (!height || !CanFollow(face, normal)) continue;
-    const double difference = *height - place.z;
+  for (const FaceOver& over : roofs.FacesAt(place.x, place.y)) {
+    if (!over.surface->isPlanar || !CanFollow(over.surface->plane, normal)) continue;
+    const double difference = over.height - place.z;
     if (nearest.face == nullptr || std::abs(difference) < std::abs(nearest.height))
-      nearest = {&face, difference};
+      nearest = {over.face, difference};
   }
   return nearest;
 }
@@ -110,12 +108,12 @@ class Refitter {
   // Throws Error for a window that can neither stay nor go.
   Verdict VerdictOn(const DrawnWindow& window, const WindowReading& reading) const {
     const bool hasOwnSecondPlane = HasOwnSecondPlane(reading.params, work_.tolerance);
-    if (hasOwnSecondPlane && FaceUnder(reading.params, work_.faces, work_.tolerance) != nullptr) return {};
+    if (hasOwnSecondPlane && FaceUnder(reading.params, work_.roofs) != nullptr) return {};
     const WindowShape shape = ShapeOf(work_.drawing, window);
-    const double covered = hasOwnSecondPlane ? 0.0 : CoveredPart(shape.outline, work_.faces, work_.tolerance);
+    const double covered = hasOwnSecondPlane ? 0.0 : CoveredPart(shape.outline, work_.roofs);
     if (IsWhole(covered)) return {};
     if (covered > 0.0) throw Error("a part of it lies outside its roof face; move it or make it smaller");
-    const NearFace nearest = NearestFace(reading.params.storedPoint, shape.Normal(), work_.faces);
+    const NearFace nearest = NearestFace(reading.params.storedPoint, shape.Normal(), work_.roofs);
     if (std::string reason = ReasonToStay(nearest); !reason.empty()) return {nullptr, std::move(reason)};
     if (hasOwnSecondPlane)
       throw Error("its roof was changed, and its second plane is not the roof's underside");
@@ -141,13 +139,13 @@ class Refitter {
     request.point = {reading.params.storedPoint.x, reading.params.storedPoint.y};
     if (order_.keeps == RefitKeeps::Height)
       request.answers["lowerEdgeHeight"] = fmt::format("{}", reading.params.lowerEdgeHeight);
-    PutRoof(OnFace(face, work_.faces, work_.tolerance), request);
+    PutRoof(OnFace(face, work_.roofs), request);
     return request;
   }
 
   // What the windows overlap in their new places.
   void FindMisfits() {
-    WindowFit fit(work_.faces, work_.tolerance);
+    WindowFit fit(work_.roofs);
     for (const DrawnWindow& window : work_.windows) {
       const std::optional<Outline> outline =
           moved_.contains(&window) ? std::nullopt : DrawnOutline(work_.drawing, window);

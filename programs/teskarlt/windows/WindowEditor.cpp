@@ -22,17 +22,17 @@ using brevanta::WindowParams;
 
 // The window stays where it is, on the face there, or on its own plane where that face is gone.
 RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
-  const RoofFace* face = FaceUnder(window, work.faces, work.tolerance);
+  const RoofFace* face = FaceUnder(window, work.roofs);
   if (face == nullptr) {
     std::vector<geometry::Vec3> plane;
     for (const RecordPoint& p : window.roofPlanePoints)
       plane.push_back(brevanta::ToVec3(p));
     return OnPlane(plane);
   }
-  RoofChoice roof = OnFace(*face, work.faces, work.tolerance);
+  RoofChoice roof = OnFace(*face, work.roofs);
   // What stuck out before may do so still.
-  roof.isBounded = HasOwnSecondPlane(window, work.tolerance) ||
-                   IsWhole(CoveredPart(OutlineOf(window), work.faces, work.tolerance));
+  roof.isBounded =
+      HasOwnSecondPlane(window, work.tolerance) || IsWhole(CoveredPart(OutlineOf(window), work.roofs));
   return roof;
 }
 
@@ -76,13 +76,13 @@ EditedWindow WindowEditor::Edit(const WindowOrder& order) {
   const bool moves = NamesPlace(order);
   if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
   const RoofChoice roof =
-      moves ? ChooseRoof(order, work_.drawing, work_.faces, work_.tolerance) : RoofUnder(record, work_);
+      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(record, work_);
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
   edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
-  WindowFit fit(work_.faces, work_.tolerance);
+  WindowFit fit(work_.roofs);
   fit.AddAll(work_.drawing, work_.windows, &window_);
   const WindowParams& after = edited.placed.record;
   edited.placed.misfits = fit.Misfits(after, OutlineOf(after));
