@@ -108,5 +108,40 @@ TEST(PartOrder, WindowInAnyOrderCanBeEdited) {
     EXPECT_EQ(ReadBack(Reversed(Insert(kind).entities)).obstacle, "");
 }
 
+// --- Copies, whose entities all carry the description of their model ---
+
+// The window and copies of it, 20 m from one to the next, turned and mirrored.
+Entities WithCopies(const Answers& kind, int count) {
+  Entities all;
+  for (int copy = 0; copy < count; ++copy) {
+    const Motion turned = copy % 2 == 0 ? Turn(20 * copy) : Mirror();
+    const Entities entities = Changed(Insert(kind).entities, turned.Then(Move(20000 * copy, 0, 0)));
+    all.insert(all.end(), entities.begin(), entities.end());
+  }
+  return all;
+}
+
+bool AreAllEditable(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows) {
+  return std::all_of(windows.begin(), windows.end(),
+                     [&](const DrawnWindow& window) { return ReadWindow(drawing, window).obstacle.empty(); });
+}
+
+TEST(PartOrder, CopiesInAnyOrderAreWindowsOfTheirOwn) {
+  for (const Answers& kind : KINDS) {
+    SCOPED_TRACE(testing::PrintToString(kind));
+    const dxf::Document drawing = DrawingOf(Shuffled(WithCopies(kind, 5), 1));
+    const std::vector<DrawnWindow> windows = FindWindows(drawing, UNITS_PER_METRE);
+    EXPECT_EQ(windows.size(), 5U);
+    EXPECT_TRUE(AreAllEditable(drawing, windows));
+  }
+}
+
+TEST(PartOrder, ReversedCopiesAreWindowsOfTheirOwn) {
+  const dxf::Document drawing = DrawingOf(Reversed(WithCopies({}, 3)));
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, UNITS_PER_METRE);
+  EXPECT_EQ(windows.size(), 3U);
+  EXPECT_TRUE(AreAllEditable(drawing, windows));
+}
+
 }  // namespace
 }  // namespace teskarlt
