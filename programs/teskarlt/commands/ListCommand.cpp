@@ -10,12 +10,14 @@
 #include "geometry/Matrix4.h"
 #include "teskarlt/commands/FieldWords.h"
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
+#include "window/EdgeHeights.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
@@ -24,7 +26,7 @@ namespace {
 
 struct ListOptions {
   std::string file;
-  std::string units;
+  AskedUnit units;
   bool asJson = false;
 };
 
@@ -88,6 +90,7 @@ Json ToJson(const Row& row, const dxf::Document& drawing) {
   json["faces"] = window.faces;
   json["lines"] = window.entities.size() - window.faces;
   json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
+  json["frame"] = FrameJson(reading.outline, reading.params);
   json["fields"] = window.isComplete ? FieldsJson(window, reading.params, drawing) : Json(nullptr);
   json["sources"] = SourcesJson(reading);
   json["notes"] = reading.notes;
@@ -117,19 +120,30 @@ std::string FallText(const brevanta::WindowParams& params) {
   return fall ? fmt::format("{:.1f}", *fall) : "flat";
 }
 
+// The height of an edge of the frame as it is drawn, and in brackets what the record says where it is
+// another.
+std::string EdgeText(const WindowReading& reading, double brevanta::Edges::*edge) {
+  const std::string recorded = fmt::format("{:.3f}", brevanta::RecordedEdges(reading.params).*edge);
+  if (!reading.outline) return fmt::format("({})", recorded);
+  const std::string drawn =
+      fmt::format("{:.3f}", brevanta::EdgesOf(*reading.outline, reading.params.unitFactor).*edge);
+  return drawn == recorded ? drawn : fmt::format("{} ({})", drawn, recorded);
+}
+
 void PrintTable(const std::vector<Row>& rows) {
-  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "x", "y", "z", "code",
-               "entities", "texts"});
+  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "lower edge m", "upper edge m",
+               "x", "y", "z", "code", "entities", "texts"});
   for (const auto& [window, reading] : rows) {
     const brevanta::WindowParams& p = reading.params;
     const std::string entities = std::to_string(window.entities.size());
     if (!window.isComplete) {
-      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", entities,
+      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", "?", "?", entities,
                  "(description damaged)"});
       continue;
     }
     table.Add({std::to_string(window.number), fmt::format("{:g}", p.width), fmt::format("{:g}", p.length),
-               fmt::format("{:.2f}", p.pitch), FallText(p), fmt::format("{:.3f}", p.storedPoint.x),
+               fmt::format("{:.2f}", p.pitch), FallText(p), EdgeText(reading, &brevanta::Edges::lower),
+               EdgeText(reading, &brevanta::Edges::upper), fmt::format("{:.3f}", p.storedPoint.x),
                fmt::format("{:.3f}", p.storedPoint.y), fmt::format("{:.3f}", p.storedPoint.z), p.openingCode,
                entities, Texts(window)});
   }
@@ -168,11 +182,14 @@ void AddListCommand(OptionParser& parser) {
   Subcommand command = parser.Add("list", "List the roof windows of a drawing");
   const auto options = std::make_shared<ListOptions>();
   command.Argument("FILE", options->file, "the drawing").Required();
-  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  AddUnitOptions(command, options->units);
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
       "Sizes are in metres, the place in drawing units; the direction in which the roof falls is in degrees\n"
-      "counter-clockwise from the drawing's x axis. Windows that another program moved, turned, mirrored or\n"
+      "counter-clockwise from the drawing's x axis. The edges are those of the frame as it is drawn; in "
+      "brackets\n"
+      "stands what the record says where it is another height. Windows that another program moved, turned, "
+      "mirrored or\n"
       "scaled are listed as they stand in the drawing, with a note; those that cannot be changed any more "
       "as\n"
       "their descriptions say.\n"

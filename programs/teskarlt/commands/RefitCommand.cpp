@@ -5,6 +5,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/terminal/Json.h"
@@ -25,7 +26,7 @@ struct RefitOptions {
   std::vector<int> numbers;
   std::string keep = KEEP_PLAN;
   double reach = REFIT_REACH;
-  std::string units;
+  AskedUnit units;
   bool isLockedToo = false;
   bool keepGoing = false;
   bool isStrict = false;
@@ -146,7 +147,7 @@ void AddRefitCommand(OptionParser& parser) {
   command.Flag("--keep-going", options->keepGoing, "write the others when some windows cannot be refitted");
   AddLockedOption(command, options->isLockedToo);
   options->target.AddOutput(command);
-  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  AddUnitOptions(command, options->units);
   command.Flag("--strict", options->isStrict, "refuse when a window would overlap another");
   options->target.AddDryRun(command);
   command.Flag("--json", options->asJson, JSON_HELP);

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/terminal/Json.h"
@@ -16,8 +18,9 @@
 
 namespace teskarlt {
 
-// The unit in which the drawing is worked on, with a warning where it is not that of the header.
-const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const std::string& asked);
+// The unit in which the drawing is worked on, with a warning where the user forced another than the
+// drawing's.
+const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const AskedUnit& asked);
 
 // A warning about a window that does not fit; empty when it fits.
 std::string MisfitWarning(std::int32_t number, const std::vector<std::string>& misfits);
@@ -27,6 +30,9 @@ void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string
 
 // For programs: the window that came into the drawing.
 Json WindowJson(const PlacedWindow& window);
+
+// For programs: the heights of the frame's edges as it is drawn, in metres; null without an outline.
+Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowParams& record);
 
 // For programs: of the fields that are not as the description says, or not in it, where their values come
 // from.

@@ -1,6 +1,10 @@
 // WindowEditor.cpp - changes a window of a drawing.
 #include "teskarlt/windows/WindowEditor.h"
 
+#include <algorithm>
+#include <array>
+#include <optional>
+
 #include <fmt/format.h>
 
 #include "inc/DialogServices.h"
@@ -46,6 +50,16 @@ void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers
   answers.emplace("secondPlanePoints", points);
 }
 
+// The picked point: where the window is to stand, or where it stands; none where the order says it in the
+// roof's own frame.
+std::optional<std::array<double, 2>> PointOf(const WindowOrder& order, const WindowParams& window) {
+  if (order.at) return std::array{order.at->x, order.at->y};
+  const bool setsPoint = std::any_of(order.settings.begin(), order.settings.end(),
+                                     [](const auto& setting) { return setting.field == "insertionPoint"; });
+  if (setsPoint) return std::nullopt;
+  return std::array{window.storedPoint.x, window.storedPoint.y};
+}
+
 }  // namespace
 
 WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
@@ -71,8 +85,7 @@ EditedWindow WindowEditor::Edit(const WindowOrder& order) {
   request.replaced = window_.entities;
   request.numbersInUse = &work_.numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf);
-  request.point = order.at ? std::array{order.at->x, order.at->y}
-                           : std::array{record.storedPoint.x, record.storedPoint.y};
+  request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
   if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
   const RoofChoice roof =
@@ -85,7 +98,7 @@ EditedWindow WindowEditor::Edit(const WindowOrder& order) {
   WindowFit fit(work_.roofs);
   fit.AddAll(work_.drawing, work_.windows, &window_);
   const WindowParams& after = edited.placed.record;
-  edited.placed.misfits = fit.Misfits(after, OutlineOf(after));
+  edited.placed.misfits = fit.Misfits(after, edited.placed.outline);
   edited.changes = ChangedFields(record, after);
   edited.isRewritten = !StandsAs(after);
   const bool isRefused = order.isStrict && !edited.placed.misfits.empty();

@@ -21,13 +21,12 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
 
   const dxf::EditMark before = work_.drawing.Mark();
   PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof.face);
-  const Outline outline = OutlineOf(window.record);
-  window.misfits = fit_.Misfits(window.record, outline);
+  window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) {
     work_.drawing.Rollback(before);
     RefuseMisfits(window.misfits);
   }
-  fit_.Add(window.record.markerValue, outline);
+  fit_.Add(window.record.markerValue, window.outline);
   numbers_.Take(window.record.markerValue);
   return window;
 }

@@ -31,9 +31,8 @@ void InsertWindow(dxf::Document& drawing) {
 
 }  // namespace
 
-dxf::Document DrawingWithFaces(const std::vector<std::vector<geometry::Vec3>>& faces) {
-  const dxf::NewDrawingOptions options{
-      .units = dxf::UNITS_MILLIMETRES, .layers = {"ROOF"}, .applications = {}};
+dxf::Document DrawingWithFaces(const std::vector<std::vector<geometry::Vec3>>& faces, int units) {
+  const dxf::NewDrawingOptions options{.units = units, .layers = {"ROOF"}, .applications = {}};
   dxf::Document drawing = dxf::Document::FromText("house.dxf", dxf::NewDrawing(options));
   for (const std::vector<geometry::Vec3>& face : faces)
     AddFace(face, drawing);
