@@ -119,7 +119,7 @@ def test_erasing_tells_what_went_and_the_others_stay(teskarlt, with_windows):
 
 def test_edit_tells_what_changed_with_both_values(teskarlt, with_windows):
     answer = teskarlt.done("edit", with_windows, "2", "--set", "width=1.2", "--set", "text1=Other", "--dry-run")
-    assert answer.stdout.splitlines()[2:] == ["width: 0.94 m -> 1.2 m", 'text1: "Maker" -> "Other"']
+    assert answer.stdout.splitlines()[3:] == ["width: 0.94 m -> 1.2 m", 'text1: "Maker" -> "Other"']
     changes = teskarlt.done("edit", with_windows, "2", "--set", "width=1.2", "--json").json["changes"]
     assert changes == [{"field": "width", "from": 0.94, "to": 1.2}]
 
@@ -127,7 +127,7 @@ def test_edit_tells_what_changed_with_both_values(teskarlt, with_windows):
 def test_edit_that_changes_nothing_writes_nothing_and_says_so(teskarlt, with_windows, tmp_path):
     before, output = with_windows.read_bytes(), tmp_path / "out.dxf"
     answer = teskarlt.done("edit", with_windows, "1", "--set", "text1=Maker")
-    assert answer.stdout.splitlines()[1:] == ["Nothing changes: it stands there as ordered; nothing was written."]
+    assert answer.stdout.splitlines()[2:] == ["Nothing changes: it stands there as ordered; nothing was written."]
     answer = teskarlt.done("edit", with_windows, "1", "--json").json
     assert answer["changes"] == [] and answer["file"] is None
     assert with_windows.read_bytes() == before
