@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowOptions.h"
@@ -116,7 +117,7 @@ void RunRefit(RefitOptions& options) {
   TellProblems(options, report);
   const bool isWanted = report.problems.empty() || options.keepGoing;
   const bool isChanged = !report.refitted.empty() || options.target.IsNamed();
-  if (isWanted && isChanged) options.target.Write([&](const std::string& path) { drawing.Save(path); });
+  if (isWanted && isChanged) SaveDrawing(drawing, options.target);
   (options.asJson ? PrintAnswer : PrintText)(options, report);
   if (!report.problems.empty()) {
     throw Error(fmt::format("{} of the windows cannot be refitted{}", report.problems.size(),

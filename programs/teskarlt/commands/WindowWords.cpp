@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/commands/FieldWords.h"
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/ClosedLayers.h"
@@ -129,7 +130,7 @@ Json SourcesJson(const WindowReading& reading) {
 
 void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window) {
   Warn(drawing, window);
-  options.target.Write([&](const std::string& path) { drawing.Save(path); });
+  SaveDrawing(drawing, options.target);
   if (options.asJson) {
     PrintJson(AnswerJson(options, window));
   } else {
@@ -142,7 +143,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Edi
                  const WindowReading& before) {
   Warn(drawing, window.placed);
   if (window.isRewritten || options.target.IsNamed())
-    options.target.Write([&](const std::string& path) { drawing.Save(path); });
+    SaveDrawing(drawing, options.target);
   if (options.asJson) {
     Json json = AnswerJson(options, window.placed);
     json["sources"] = SourcesJson(before);
