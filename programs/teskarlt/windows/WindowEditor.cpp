@@ -83,6 +83,7 @@ EditedWindow WindowEditor::Edit(const WindowOrder& order) {
   request.unitFactor = work_.unit.perMetre;
   request.edited = record;
   request.replaced = window_.entities;
+  request.parts = PartsByRole(work_.drawing, window_);
   request.numbersInUse = &work_.numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf);
   request.point = PointOf(order, record);
