@@ -117,6 +117,37 @@ def test_erasing_tells_what_went_and_the_others_stay(teskarlt, with_windows):
     readers.audited(with_windows)
 
 
+def test_edit_tells_what_changed_with_both_values(teskarlt, with_windows):
+    answer = teskarlt.done("edit", with_windows, "2", "--set", "width=1.2", "--set", "text1=Other", "--dry-run")
+    assert answer.stdout.splitlines()[3:] == ["width: 0.94 m -> 1.2 m", 'text1: "Maker" -> "Other"']
+    changes = teskarlt.done("edit", with_windows, "2", "--set", "width=1.2", "--json").json["changes"]
+    assert changes == [{"field": "width", "from": 0.94, "to": 1.2}]
+
+
+def test_edit_that_changes_nothing_writes_nothing_and_says_so(teskarlt, with_windows, tmp_path):
+    before, output = with_windows.read_bytes(), tmp_path / "out.dxf"
+    answer = teskarlt.done("edit", with_windows, "1", "--set", "text1=Maker")
+    assert answer.stdout.splitlines()[2:] == ["Nothing changes: it stands there as ordered; nothing was written."]
+    answer = teskarlt.done("edit", with_windows, "1", "--json").json
+    assert answer["changes"] == [] and answer["file"] is None
+    assert with_windows.read_bytes() == before
+    teskarlt.done("edit", with_windows, "1", "-o", output)
+    assert output.read_bytes() == before
+
+
+def test_windows_are_listed_by_their_numbers_after_an_edit_too(teskarlt, with_windows):
+    teskarlt.done("edit", with_windows, "1", "--set", "text1=first\nsecond")
+    assert [window["number"] for window in listed(teskarlt, with_windows)] == [1, 2, 3]
+    table = teskarlt.done("list", with_windows).stdout.splitlines()
+    assert [line.split()[0] for line in table] == ["number", "1", "2", "3"]
+    assert table[1].endswith("  first second")
+
+
+def test_number_of_an_erased_window_is_not_given_again(teskarlt, with_windows):
+    teskarlt.done("erase", with_windows, "2")
+    assert teskarlt.done("insert", with_windows, "--at", "2500,1200", "--json").json["number"] == 4
+
+
 def test_erasing_dry_writes_nothing(teskarlt, with_windows):
     before = with_windows.read_bytes()
     assert "nothing was written" in teskarlt.done("erase", with_windows, "2", "--dry-run").stdout

@@ -1,20 +1,23 @@
 // ListCommand.cpp - the subcommand "list": lists the roof windows of a drawing.
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <optional>
 #include <set>
-#include <span>
 
 #include <fmt/format.h>
 
 #include "geometry/Matrix4.h"
+#include "teskarlt/commands/FieldWords.h"
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
+#include "window/EdgeHeights.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
@@ -23,51 +26,24 @@ namespace {
 
 struct ListOptions {
   std::string file;
-  std::string units;
+  AskedUnit units;
   bool asJson = false;
 };
 
-Json PointJson(const brevanta::RecordPoint& p) {
-  return Json::List({p.x, p.y, p.z});
-}
-
-Json PointsJson(std::span<const brevanta::RecordPoint> points) {
-  Json list = Json::List();
-  for (const brevanta::RecordPoint& p : points)
-    list.Add(PointJson(p));
-  return list;
-}
-
-// Texts in UTF-8, as they were read; the opening code, which is ASCII, as the window stands now.
-Json TextJson(const DrawnWindow& window, const brevanta::WindowParams& params,
-              const brevanta::RecordField& field) {
-  const bool isCode = field.name == "openingCode";
-  return isCode ? Json(TextIn(params, field)) : Json(window.*TextMember(field));
-}
-
-Json FieldJson(const DrawnWindow& window, const brevanta::WindowParams& params,
-               const brevanta::RecordField& field) {
-  switch (field.kind) {
-    case brevanta::FieldKind::Length:
-    case brevanta::FieldKind::Real:
-      return RealIn(params, field);
-    case brevanta::FieldKind::Integer:
-      return IntegerIn(params, field);
-    case brevanta::FieldKind::Text:
-      return TextJson(window, params, field);
-    case brevanta::FieldKind::Points: {
-      const auto points = PointsIn(params, field);
-      return points.size() == 1 ? PointJson(points[0]) : PointsJson(points);
-    }
-  }
-  return nullptr;
+// Texts as they were read, which may be longer than the record holds; the opening code, which is ASCII, as
+// the window stands now.
+Json ListedJson(const DrawnWindow& window, const brevanta::WindowParams& params,
+                const brevanta::RecordField& field, const dxf::Document& drawing) {
+  const bool isText = field.kind == brevanta::FieldKind::Text && field.name != "openingCode";
+  return isText ? Json(window.*TextMember(field)) : FieldJson(params, field, drawing);
 }
 
 // Every field, under its name in the record.
-Json FieldsJson(const DrawnWindow& window, const brevanta::WindowParams& params) {
+Json FieldsJson(const DrawnWindow& window, const brevanta::WindowParams& params,
+                const dxf::Document& drawing) {
   Json json;
   for (const brevanta::RecordField* field : brevanta::LISTED_FIELDS)
-    json[field->name] = FieldJson(window, params, *field);
+    json[field->name] = ListedJson(window, params, *field, drawing);
   return json;
 }
 
@@ -79,6 +55,7 @@ struct Row {
 
 std::vector<Row> ReadRows(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows) {
   std::vector<Row> rows;
+  rows.reserve(windows.size());
   std::set<std::int32_t> numbers;
   for (const DrawnWindow& window : windows) {
     Row& row = rows.emplace_back(Row{window, ReadWindow(drawing, window)});
@@ -102,7 +79,7 @@ std::optional<double> FallDirection(const brevanta::WindowParams& params) {
   return std::fmod(geometry::RadToDeg(params.rotation) + 0.75 * FULL_TURN, FULL_TURN);
 }
 
-Json ToJson(const Row& row) {
+Json ToJson(const Row& row, const dxf::Document& drawing) {
   const auto& [window, reading] = row;
   const std::optional<double> fall = window.isComplete ? FallDirection(reading.params) : std::nullopt;
   Json json;
@@ -113,19 +90,20 @@ Json ToJson(const Row& row) {
   json["faces"] = window.faces;
   json["lines"] = window.entities.size() - window.faces;
   json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
-  json["fields"] = window.isComplete ? FieldsJson(window, reading.params) : Json(nullptr);
+  json["frame"] = FrameJson(reading.outline, reading.params);
+  json["fields"] = window.isComplete ? FieldsJson(window, reading.params, drawing) : Json(nullptr);
   json["sources"] = SourcesJson(reading);
   json["notes"] = reading.notes;
   return json;
 }
 
-void PrintRows(const std::vector<Row>& rows, const DrawingUnit& unit) {
+void PrintRows(const std::vector<Row>& rows, const dxf::Document& drawing, const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
   json["windows"] = Json::List();
   for (const Row& row : rows)
-    json["windows"].Add(ToJson(row));
+    json["windows"].Add(ToJson(row, drawing));
   PrintJson(json);
 }
 
@@ -142,19 +120,30 @@ std::string FallText(const brevanta::WindowParams& params) {
   return fall ? fmt::format("{:.1f}", *fall) : "flat";
 }
 
+// The height of an edge of the frame as it is drawn, and in brackets what the record says where it is
+// another.
+std::string EdgeText(const WindowReading& reading, double brevanta::Edges::*edge) {
+  const std::string recorded = fmt::format("{:.3f}", brevanta::RecordedEdges(reading.params).*edge);
+  if (!reading.outline) return fmt::format("({})", recorded);
+  const std::string drawn =
+      fmt::format("{:.3f}", brevanta::EdgesOf(*reading.outline, reading.params.unitFactor).*edge);
+  return drawn == recorded ? drawn : fmt::format("{} ({})", drawn, recorded);
+}
+
 void PrintTable(const std::vector<Row>& rows) {
-  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "x", "y", "z", "code",
-               "entities", "texts"});
+  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "lower edge m", "upper edge m",
+               "x", "y", "z", "code", "entities", "texts"});
   for (const auto& [window, reading] : rows) {
     const brevanta::WindowParams& p = reading.params;
     const std::string entities = std::to_string(window.entities.size());
     if (!window.isComplete) {
-      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", entities,
+      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", "?", "?", entities,
                  "(description damaged)"});
       continue;
     }
     table.Add({std::to_string(window.number), fmt::format("{:g}", p.width), fmt::format("{:g}", p.length),
-               fmt::format("{:.2f}", p.pitch), FallText(p), fmt::format("{:.3f}", p.storedPoint.x),
+               fmt::format("{:.2f}", p.pitch), FallText(p), EdgeText(reading, &brevanta::Edges::lower),
+               EdgeText(reading, &brevanta::Edges::upper), fmt::format("{:.3f}", p.storedPoint.x),
                fmt::format("{:.3f}", p.storedPoint.y), fmt::format("{:.3f}", p.storedPoint.z), p.openingCode,
                entities, Texts(window)});
   }
@@ -165,13 +154,21 @@ void PrintTable(const std::vector<Row>& rows) {
   }
 }
 
+// By their numbers; windows that share one in the order of the file.
+std::vector<DrawnWindow> WindowsByNumber(const dxf::Document& drawing, const DrawingUnit& unit) {
+  std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  std::stable_sort(windows.begin(), windows.end(),
+                   [](const DrawnWindow& a, const DrawnWindow& b) { return a.number < b.number; });
+  return windows;
+}
+
 void RunList(const ListOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
   const DrawingUnit& unit = UnitOf(drawing, options.units);
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  const std::vector<DrawnWindow> windows = WindowsByNumber(drawing, unit);
   const std::vector<Row> rows = ReadRows(drawing, windows);
   if (options.asJson) {
-    PrintRows(rows, unit);
+    PrintRows(rows, drawing, unit);
   } else if (windows.empty()) {
     fmt::print("{} holds no roof window.\n", options.file);
   } else {
@@ -185,11 +182,14 @@ void AddListCommand(OptionParser& parser) {
   Subcommand command = parser.Add("list", "List the roof windows of a drawing");
   const auto options = std::make_shared<ListOptions>();
   command.Argument("FILE", options->file, "the drawing").Required();
-  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  AddUnitOptions(command, options->units);
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
       "Sizes are in metres, the place in drawing units; the direction in which the roof falls is in degrees\n"
-      "counter-clockwise from the drawing's x axis. Windows that another program moved, turned, mirrored or\n"
+      "counter-clockwise from the drawing's x axis. The edges are those of the frame as it is drawn; in "
+      "brackets\n"
+      "stands what the record says where it is another height. Windows that another program moved, turned, "
+      "mirrored or\n"
       "scaled are listed as they stand in the drawing, with a note; those that cannot be changed any more "
       "as\n"
       "their descriptions say.\n"

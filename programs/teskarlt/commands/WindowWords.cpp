@@ -1,46 +1,86 @@
 // WindowWords.cpp - what commands say of the windows that they insert, change and list.
 #include "teskarlt/commands/WindowWords.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
+#include "teskarlt/commands/FieldWords.h"
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/ClosedLayers.h"
 #include "teskarlt/windows/UnitChoice.h"
+#include "window/Choices.h"
+#include "window/EdgeHeights.h"
 
 namespace teskarlt {
 
 namespace {
 
-Json AnswerJson(const WindowOptions& options, const PlacedWindow& window, const WindowReading* edited) {
+Json AnswerJson(const WindowOptions& options, const PlacedWindow& window) {
   Json json;
   json["version"] = JSON_VERSION;
   json.AddMembers(WindowJson(window));
-  if (edited != nullptr) {
-    json["sources"] = SourcesJson(*edited);
-    json["notes"] = edited->notes;
-  }
   options.target.AddTo(json);
   return json;
 }
 
-void PrintText(const WindowOptions& options, const PlacedWindow& window, const WindowReading* edited) {
+Json ChangesJson(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+  Json json = Json::List();
+  for (const brevanta::RecordField* const field : window.changes) {
+    json.Add(Json::Object({{"field", field->name},
+                           {"from", FieldJson(before.params, *field, drawing)},
+                           {"to", FieldJson(window.placed.record, *field, drawing)}}));
+  }
+  return json;
+}
+
+void PrintPlace(const PlacedWindow& window) {
   const brevanta::WindowParams& record = window.record;
   const std::string where = window.face
                                 ? fmt::format("face {} of layer {}", window.face->name, window.face->layer)
                                 : "the given plane";
-  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees, lower edge at {:.3f} m.\n",
-             record.markerValue, record.width, record.length, where, record.pitch, record.lowerEdgeHeight);
+  const brevanta::Edges frame = brevanta::EdgesOf(window.outline, record.unitFactor);
+  const brevanta::Edges recorded = brevanta::RecordedEdges(record);
+  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees.\n", record.markerValue, record.width,
+             record.length, where, record.pitch);
+  fmt::print("Its frame lies from {:.3f} m to {:.3f} m; lowerEdgeHeight {:.3f}, upperEdgeHeight {:.3f}.\n",
+             frame.lower, frame.upper, recorded.lower, recorded.upper);
+}
+
+void PrintEntities(const WindowOptions& options, const PlacedWindow& window) {
   fmt::print("{} faces and {} lines {}.\n", window.faces, window.lines,
              options.target.Ending("added", "be added"));
-  if (edited == nullptr) return;
-  fmt::print("Not in its description: {} from the geometry; {} by default.\n",
-             fmt::join(edited->recovered, ", "), fmt::join(edited->defaults, ", "));
+}
+
+// Nothing drawn told the skirt's height, and the window now has one.
+bool AssumesSkirt(const WindowReading& before, const brevanta::WindowParams& after) {
+  const bool isUnknown =
+      std::find(before.defaults.begin(), before.defaults.end(), "skirtHeight") != before.defaults.end();
+  return isUnknown && (after.bodyAsFaces != brevanta::LINES_ONLY || DrawsSymbol(after));
+}
+
+void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+  const brevanta::WindowParams& after = window.placed.record;
+  if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
+  for (const brevanta::RecordField* const field : window.changes) {
+    fmt::print("{}: {} -> {}\n", field->name, OneLine(FieldText(before.params, *field, drawing)),
+               OneLine(FieldText(after, *field, drawing)));
+  }
+  if (AssumesSkirt(before, after))
+    fmt::print("skirtHeight: {:g} m by default, since nothing drawn told it\n", after.skirtHeight);
+}
+
+void Warn(const dxf::Document& drawing, const PlacedWindow& window) {
+  const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
+  if (!misfit.empty()) TellWarning(misfit);
+  WarnOfClosedLayers(drawing, window.layers);
 }
 
 }  // namespace
 
-const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const std::string& asked) {
+const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const AskedUnit& asked) {
   const UnitChoice choice = ChooseUnit(drawing, asked);
   if (!choice.warning.empty()) TellWarning(choice.warning);
   return choice.unit;
@@ -62,12 +102,21 @@ Json WindowJson(const PlacedWindow& window) {
   json["face"] = window.face ? Json(window.face->name) : Json(nullptr);
   json["pitch"] = record.pitch;
   json["place"] = Json::List({record.storedPoint.x, record.storedPoint.y, record.storedPoint.z});
-  json["lowerEdgeHeight"] = record.lowerEdgeHeight;
+  const brevanta::Edges recorded = brevanta::RecordedEdges(record);
+  json["lowerEdgeHeight"] = recorded.lower;
+  json["upperEdgeHeight"] = recorded.upper;
+  json["frame"] = FrameJson(window.outline, record);
   json["unitFactor"] = record.unitFactor;
   json["faces"] = window.faces;
   json["lines"] = window.lines;
   json["warnings"] = window.misfits;
   return json;
+}
+
+Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowParams& record) {
+  if (!outline) return nullptr;
+  const brevanta::Edges frame = brevanta::EdgesOf(*outline, record.unitFactor);
+  return Json::Object({{"lowerEdge", frame.lower}, {"upperEdge", frame.upper}});
 }
 
 Json SourcesJson(const WindowReading& reading) {
@@ -79,16 +128,36 @@ Json SourcesJson(const WindowReading& reading) {
   return json;
 }
 
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window,
-                 const WindowReading* edited) {
-  const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
-  if (!misfit.empty()) TellWarning(misfit);
-  WarnOfClosedLayers(drawing, window.layers);
-  options.target.Write([&](const std::string& path) { drawing.Save(path); });
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window) {
+  Warn(drawing, window);
+  SaveDrawing(drawing, options.target);
   if (options.asJson) {
-    PrintJson(AnswerJson(options, window, edited));
+    PrintJson(AnswerJson(options, window));
   } else {
-    PrintText(options, window, edited);
+    PrintPlace(window);
+    PrintEntities(options, window);
+  }
+}
+
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
+                 const WindowReading& before) {
+  Warn(drawing, window.placed);
+  if (window.isRewritten || options.target.IsNamed())
+    SaveDrawing(drawing, options.target);
+  if (options.asJson) {
+    Json json = AnswerJson(options, window.placed);
+    json["sources"] = SourcesJson(before);
+    json["notes"] = before.notes;
+    json["changes"] = ChangesJson(window, before, drawing);
+    PrintJson(json);
+    return;
+  }
+  PrintPlace(window.placed);
+  if (window.isRewritten) {
+    PrintEntities(options, window.placed);
+    PrintChanges(window, before, drawing);
+  } else {
+    fmt::print("Nothing changes: it stands there as ordered; {}.\n", options.target.UnchangedEnding());
   }
 }
 

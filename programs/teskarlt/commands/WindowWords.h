@@ -2,21 +2,25 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/windows/PlacedWindow.h"
+#include "teskarlt/windows/WindowEditor.h"
 
 namespace teskarlt {
 
-// The unit in which the drawing is worked on, with a warning where it is not that of the header.
-const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const std::string& asked);
+// The unit in which the drawing is worked on, with a warning where the user forced another than the
+// drawing's.
+const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const AskedUnit& asked);
 
 // A warning about a window that does not fit; empty when it fits.
 std::string MisfitWarning(std::int32_t number, const std::vector<std::string>& misfits);
@@ -27,13 +31,19 @@ void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string
 // For programs: the window that came into the drawing.
 Json WindowJson(const PlacedWindow& window);
 
+// For programs: the heights of the frame's edges as it is drawn, in metres; null without an outline.
+Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowParams& record);
+
 // For programs: of the fields that are not as the description says, or not in it, where their values come
 // from.
 Json SourcesJson(const WindowReading& reading);
 
-// Warns of what is doubtful about the window, saves the drawing and tells what became of it; `edited` is what
-// it was, null for a new one.
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window,
-                 const WindowReading* edited = nullptr);
+// Warns of what is doubtful about the new window, saves the drawing and tells what became of it.
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window);
+
+// The same for a window that was changed. One that stood there as ordered is not written, but to a file that
+// the user named.
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
+                 const WindowReading& before);
 
 }  // namespace teskarlt

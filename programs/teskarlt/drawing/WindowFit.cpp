@@ -63,6 +63,19 @@ geometry::PlanPolygon PlanOf(const Corners& corners, const Vec3& origin) {
   return plan;
 }
 
+// The faces near the outline of surfaces in whose plane it lies.
+std::vector<const RoofFace*> FacesInPlaneOf(const Outline& outline, const Roofs& roofs) {
+  const auto isElsewhere = [&](const RoofFace* face) {
+    const RoofSurface* surface = roofs.SurfaceOf(*face);
+    return surface == nullptr || !surface->isPlanar ||
+           !LiesInPlane(outline, surface->plane.point, surface->plane.normal,
+                        roofs.Tolerance() + surface->warp);
+  };
+  std::vector<const RoofFace*> faces = roofs.FacesNear(PlanBoxOf(outline));
+  faces.erase(std::remove_if(faces.begin(), faces.end(), isElsewhere), faces.end());
+  return faces;
+}
+
 }  // namespace
 
 std::optional<Outline> DrawnOutline(const dxf::Document& drawing, const DrawnWindow& window) {
@@ -90,28 +103,39 @@ bool Overlap(const Outline& a, const Outline& b, double tolerance) {
   return true;
 }
 
-const RoofFace* FaceUnder(const WindowParams& window, const std::vector<RoofFace>& faces, double tolerance) {
-  const auto isUnder = [&](const RoofFace& face) {
+const RoofFace* FaceUnder(const WindowParams& window, const Roofs& roofs) {
+  for (const FaceOver& over : roofs.FacesAt(window.storedPoint.x, window.storedPoint.y)) {
     const auto liesInIt = [&](const RecordPoint& point) {
-      return std::abs(geometry::VecDot(face.normal, Difference(ToVec3(point), face.corners[0]))) <= tolerance;
+      return std::abs(DistanceFrom(over.surface->plane, ToVec3(point))) <=
+             roofs.Tolerance() + over.surface->warp;
     };
-    return std::all_of(std::begin(window.roofPlanePoints), std::end(window.roofPlanePoints), liesInIt) &&
-           HeightOver(face, window.storedPoint.x, window.storedPoint.y).has_value();
-  };
-  const auto found = std::find_if(faces.begin(), faces.end(), isUnder);
-  return found == faces.end() ? nullptr : &*found;
+    const bool isIts =
+        std::all_of(std::begin(window.roofPlanePoints), std::end(window.roofPlanePoints), liesInIt);
+    if (isIts && over.surface->isPlanar) return over.face;
+  }
+  return nullptr;
 }
 
-double CoveredPart(const Outline& outline, const std::vector<RoofFace>& faces, double tolerance) {
-  const Vec3& origin = outline[0];
+double CoveredPart(const Outline& outline, const Roofs& roofs) {
   std::vector<geometry::PlanPolygon> polygons;
-  for (const RoofFace& face : faces) {
-    const double first = geometry::VecDot(Difference(origin, face.corners[0]), face.normal);  // most go here
-    if (std::abs(first) <= tolerance && LiesInPlane(outline, face.corners[0], face.normal, tolerance))
-      polygons.push_back(PlanOf(face.corners, origin));
-  }
-  const geometry::PlanPolygon plan = PlanOf(outline, origin);
+  for (const RoofFace* face : FacesInPlaneOf(outline, roofs))
+    polygons.push_back(PlanOf(face->corners, outline[0]));
+  const geometry::PlanPolygon plan = PlanOf(outline, outline[0]);
   return polygons.empty() ? 0.0 : geometry::CoveredArea(plan, polygons) / geometry::PlanArea(plan);
+}
+
+double UnevennessIn(const Outline& outline, const Roofs& roofs) {
+  const Plane plane{outline[0], UnitNormal(outline)};
+  const std::vector<Vec3> corners(outline.begin(), outline.end());
+  double most = 0.0;
+  const auto measure = [&](const Vec3& p) { most = std::max(most, std::abs(DistanceFrom(plane, p))); };
+  for (const RoofFace* face : FacesInPlaneOf(outline, roofs)) {
+    for (const Vec3& corner : face->corners)
+      if (LiesOver(corners, corner.x, corner.y)) measure(corner);
+    for (const Vec3& corner : corners)
+      if (LiesOver(face->corners, corner.x, corner.y)) measure(Plumb(face->plane, corner));
+  }
+  return most;
 }
 
 void WindowFit::AddAll(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows,
@@ -139,7 +163,7 @@ std::string WindowFit::Overlapped(const Outline& outline) const {
   for (auto at = places_.lower_bound(least - widest_); at != end; ++at) {
     const Place& place = at->second;
     const bool isNear = place.leastY <= mostY && place.mostY >= leastY;
-    if (isNear && Overlap(outline, place.outline, tolerance_)) numbers.insert(place.number);
+    if (isNear && Overlap(outline, place.outline, roofs_.Tolerance())) numbers.insert(place.number);
   }
   if (numbers.empty()) return {};
   const std::size_t named = std::min(numbers.size(), MOST_NAMED);
@@ -155,13 +179,16 @@ std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Ou
   std::vector<std::string> misfits;
   if (std::string overlapped = Overlapped(outline); !overlapped.empty())
     misfits.push_back(std::move(overlapped));
-  if (faces_.empty() || HasOwnSecondPlane(record, tolerance_)) return misfits;
-  const double covered = CoveredPart(outline, faces_, tolerance_);
+  if (roofs_.IsEmpty() || HasOwnSecondPlane(record, roofs_.Tolerance())) return misfits;
+  const double covered = CoveredPart(outline, roofs_);
   if (covered <= 0.0) {
     misfits.emplace_back("it lies on no roof face");
   } else if (!IsWhole(covered)) {
     misfits.push_back(fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT));
   }
+  const double unevenness = UnevennessIn(outline, roofs_) / roofs_.Tolerance();
+  if (unevenness > ROOF_UNEVENNESS)
+    misfits.push_back(fmt::format("its roof is uneven there, {:.0f} mm off its plane", unevenness));
   return misfits;
 }
 

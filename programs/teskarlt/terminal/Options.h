@@ -18,6 +18,7 @@ namespace teskarlt {
 constexpr int EXIT_DONE = 0;
 constexpr int EXIT_REFUSED = 1;  // refused or failed; nothing was changed
 constexpr int EXIT_USAGE = 2;
+constexpr int EXIT_WRITTEN = 3;  // a file was written, and then something failed or was left out
 
 // A command line that cannot be meant so; `what()` is one sentence about it.
 class UsageError : public std::runtime_error {
@@ -39,6 +40,7 @@ class Option {
   // The same without regard to case; the value becomes the word as it stands in the list.
   Option& OneOfAnyCase(const std::vector<std::string>& words);
   Option& Within(int least, int most);
+  Option& NotNegative();  // nor infinite nor no number
   // The value that it has before the parsing stands in the help.
   Option& ShowDefault();
   // A command line that has both options, or this one without the other, is refused.
@@ -64,6 +66,7 @@ class Subcommand {
   Option Arguments(const char* name, std::vector<int>& values, const char* help);
   Option Value(const char* name, std::string& value, const char* help);
   Option Value(const char* name, std::optional<int>& value, const char* help);
+  Option Value(const char* name, double& value, const char* help);
   // Takes `count` values behind its name.
   Option Values(const char* name, int count, std::vector<std::string>& values, const char* help);
   // May stand several times, with one value each.

@@ -11,13 +11,13 @@ namespace teskarlt {
 // Raised with every change of the JSON output that a reader would notice.
 constexpr int JSON_VERSION = 1;
 
-constexpr const char* UNITS_HELP = "unit of the drawing, mm, cm, dm or m, in place of what its header says";
 constexpr const char* JSON_HELP = "print JSON, for programs";
 
 // To standard output.
 void PrintJson(const Json& json);
 
-// A table in aligned columns for people; the texts are UTF-8.
+// A table in aligned columns for people; the texts are UTF-8. Line breaks and other control characters of
+// theirs become blanks.
 class Table {
  public:
   explicit Table(std::vector<std::string> headings);

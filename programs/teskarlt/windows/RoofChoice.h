@@ -1,11 +1,11 @@
 // RoofChoice.h - the roof onto which a window goes.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "geometry/Vec3.h"
-#include "teskarlt/drawing/RoofFace.h"
-#include "teskarlt/dxf/Document.h"
+#include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/modules/ModuleSession.h"
 #include "teskarlt/windows/WindowOrder.h"
 
@@ -14,21 +14,21 @@ namespace teskarlt {
 // Drawing coordinates and units.
 struct RoofChoice {
   const RoofFace* face = nullptr;  // one of the drawing's faces; null where points give a plane
-  std::vector<std::vector<geometry::Vec3>> faces = {};  // as WindowRequest has them
-  bool isBounded = false;
+  FaceCorners corners = {};        // of a face, or three points, that span the plane
+  FacesNear facesNear = {};        // null where the plane has no bounds
 };
 
-// The face and those that continue its plane within `tolerance` (drawing units); the window stays inside.
-RoofChoice OnFace(const RoofFace& face, const std::vector<RoofFace>& faces, double tolerance);
+// The surface of the face, which must be one that takes a window; the window stays inside it. Its plane is
+// the face's own where that is the surface's too, else the best fit. The roofs must outlive the choice.
+RoofChoice OnFace(const RoofFace& face, const Roofs& roofs);
 
 // The plane without bounds through three points.
 RoofChoice OnPlane(std::vector<geometry::Vec3> points);
 
 // What the order says of the roof: its plane, the face that it names, or the uppermost at its point. Empty
 // where the order sets the field of the roof's points, which the dialog reads itself. Throws Error, naming
-// the option, when there is no such face, several, or too much is said.
-RoofChoice ChooseRoof(const WindowOrder& order, const dxf::Document& drawing,
-                      const std::vector<RoofFace>& faces, double tolerance);
+// the option, when there is no such face in the file, several, one that takes no window, or too much is said.
+RoofChoice ChooseRoof(const WindowOrder& order, const std::string& file, const Roofs& roofs);
 
 // Whether the order says on which roof the window goes, or where on it.
 bool NamesPlace(const WindowOrder& order);

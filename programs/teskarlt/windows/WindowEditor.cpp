@@ -1,6 +1,10 @@
 // WindowEditor.cpp - changes a window of a drawing.
 #include "teskarlt/windows/WindowEditor.h"
 
+#include <algorithm>
+#include <array>
+#include <optional>
+
 #include <fmt/format.h>
 
 #include "inc/DialogServices.h"
@@ -9,6 +13,7 @@
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/ClosedLayers.h"
 #include "teskarlt/windows/RoofChoice.h"
+#include "teskarlt/windows/WindowChanges.h"
 #include "teskarlt/windows/WindowChoice.h"
 #include "window/Choices.h"
 
@@ -21,17 +26,18 @@ using brevanta::WindowParams;
 
 // The window stays where it is, on the face there, or on its own plane where that face is gone.
 RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
-  const RoofFace* face = FaceUnder(window, work.faces, work.tolerance);
+  const RoofFace* face = FaceUnder(window, work.roofs);
   if (face == nullptr) {
     std::vector<geometry::Vec3> plane;
     for (const RecordPoint& p : window.roofPlanePoints)
       plane.push_back(brevanta::ToVec3(p));
     return OnPlane(plane);
   }
-  RoofChoice roof = OnFace(*face, work.faces, work.tolerance);
+  RoofChoice roof = OnFace(*face, work.roofs);
   // What stuck out before may do so still.
-  roof.isBounded = HasOwnSecondPlane(window, work.tolerance) ||
-                   IsWhole(CoveredPart(OutlineOf(window), work.faces, work.tolerance));
+  const bool wasInside =
+      HasOwnSecondPlane(window, work.tolerance) || IsWhole(CoveredPart(OutlineOf(window), work.roofs));
+  if (!wasInside) roof.facesNear = nullptr;
   return roof;
 }
 
@@ -45,6 +51,16 @@ void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers
   answers.emplace("secondPlanePoints", points);
 }
 
+// The picked point: where the window is to stand, or where it stands; none where the order says it in the
+// roof's own frame.
+std::optional<std::array<double, 2>> PointOf(const WindowOrder& order, const WindowParams& window) {
+  if (order.at) return std::array{order.at->x, order.at->y};
+  const bool setsPoint = std::any_of(order.settings.begin(), order.settings.end(),
+                                     [](const auto& setting) { return setting.field == "insertionPoint"; });
+  if (setsPoint) return std::nullopt;
+  return std::array{window.storedPoint.x, window.storedPoint.y};
+}
+
 }  // namespace
 
 WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
@@ -56,7 +72,12 @@ WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, c
   reading_ = ReadEditableWindow(drawing, window_);
 }
 
-PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
+bool WindowEditor::StandsAs(const WindowParams& record) const {
+  return reading_.notes.empty() && !DiffersFromDescription(window_.params, record) &&
+         ChangedFields(reading_.params, record).empty();
+}
+
+EditedWindow WindowEditor::Edit(const WindowOrder& order) {
   const WindowParams& record = reading_.params;
   CatalogueShelf shelf;
   WindowRequest request;
@@ -65,23 +86,25 @@ PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
   request.replaced = window_.entities;
   request.numbersInUse = &work_.numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf);
-  request.point = order.at ? std::array{order.at->x, order.at->y}
-                           : std::array{record.storedPoint.x, record.storedPoint.y};
+  request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
   if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
   const RoofChoice roof =
-      moves ? ChooseRoof(order, work_.drawing, work_.faces, work_.tolerance) : RoofUnder(record, work_);
+      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(record, work_);
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
-  PlacedWindow edited = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
-  WindowFit fit(work_.faces, work_.tolerance);
+  EditedWindow edited;
+  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
+  WindowFit fit(work_.roofs);
   fit.AddAll(work_.drawing, work_.windows, &window_);
-  edited.misfits = fit.Misfits(edited.record, OutlineOf(edited.record));
-  if (order.isStrict && !edited.misfits.empty()) {
-    work_.drawing.Rollback(before);
-    RefuseMisfits(edited.misfits);
-  }
+  const WindowParams& after = edited.placed.record;
+  edited.placed.misfits = fit.Misfits(after, edited.placed.outline);
+  edited.changes = ChangedFields(record, after);
+  edited.isRewritten = !StandsAs(after);
+  const bool isRefused = order.isStrict && !edited.placed.misfits.empty();
+  if (isRefused || !edited.isRewritten) work_.drawing.Rollback(before);
+  if (isRefused) RefuseMisfits(edited.placed.misfits);
   return edited;
 }
 

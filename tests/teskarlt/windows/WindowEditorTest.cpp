@@ -1,4 +1,5 @@
 // WindowEditorTest.cpp - windows of a drawing that are changed.
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,12 +11,15 @@
 namespace teskarlt {
 namespace {
 
+using brevanta::RecordPoint;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
 class WindowEditorTest : public testing::Test {
  protected:
-  PlacedWindow Edit(const WindowOrder& order) {
+  PlacedWindow Edit(const WindowOrder& order) { return EditedBy(order).placed; }
+
+  EditedWindow EditedBy(const WindowOrder& order) {
     return WindowEditor(module, drawing, Millimetres(), 1, false).Edit(order);
   }
 
@@ -43,6 +47,34 @@ TEST_F(WindowEditorTest, ReadingShowsTheWindowAsItStands) {
   const WindowEditor editor(module, drawing, Millimetres(), 1, false);
   EXPECT_NEAR(editor.Reading().params.storedPoint.y, 2000, 1e-6);
   EXPECT_TRUE(editor.Reading().notes.empty());
+}
+
+TEST_F(WindowEditorTest, WindowMovesToAPointOfTheRoofsOwnFrame) {
+  RecordPoint point = WindowEditor(module, drawing, Millimetres(), 1, false).Reading().params.insertionPoint;
+  point.x += 500;  // along the eaves, which run along the drawing's x axis
+  WindowOrder order;
+  order.settings = {{"insertionPoint", fmt::format("{},{},{}", point.x, point.y, point.z)}};
+  const PlacedWindow window = Edit(order);
+  EXPECT_NEAR(window.record.storedPoint.x, 4500, 1e-6);
+  EXPECT_NEAR(window.record.storedPoint.y, 2000, 1e-6);
+}
+
+// Turned by 90 degrees: the roof rises along -x, and its own x axis is the drawing's y axis.
+TEST_F(WindowEditorTest, OffsetRunsInTheRoofsOwnFrameAsItDoesAtFirst) {
+  std::vector<geometry::Vec3> turned = RoofAt(0);
+  for (geometry::Vec3& corner : turned)
+    corner = {-corner.y, corner.x, corner.z};
+  WindowOrder order = OrderAt(-2000, 4000);
+  order.settings = {{"pickOffset", "1"}};
+  dxf::Document house = DrawingWithFaces({turned});
+  const PlacedWindow inserted = WindowInserter(module, house, Millimetres()).Insert(order);
+  EXPECT_NEAR(inserted.record.storedPoint.y, 5000, 1e-6);
+
+  drawing = Reloaded(house);
+  order.at.reset();
+  const PlacedWindow edited = Edit(order);
+  EXPECT_NEAR(edited.record.storedPoint.x, -2000, 1e-6);
+  EXPECT_NEAR(edited.record.storedPoint.y, 6000, 1e-6);
 }
 
 TEST_F(WindowEditorTest, RefusedChangeLeavesTheDrawingAsItWas) {
@@ -85,6 +117,25 @@ TEST_F(WindowEditorTest, SecondPlaneOfItsOwnStays) {
   WindowOrder order;
   order.settings = {{"width", "1.14"}};
   EXPECT_EQ(Edit(order).record.secondPlanePoints[2].z, 5000);
+}
+
+TEST_F(WindowEditorTest, OrderWithoutAChangeLeavesTheDrawing) {
+  WindowOrder order = OrderAt(4000, 2000);  // where it stands
+  order.settings = {{"text1", ""}};
+  const EditedWindow window = EditedBy(order);
+  EXPECT_FALSE(window.isRewritten);
+  EXPECT_TRUE(window.changes.empty());
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
+TEST_F(WindowEditorTest, ChangesAreTheFieldsThatDiffer) {
+  WindowOrder order;
+  order.settings = {{"width", "1.14"}, {"text1", "x"}};
+  const EditedWindow window = EditedBy(order);
+  EXPECT_TRUE(window.isRewritten);
+  ASSERT_EQ(window.changes.size(), 2U);
+  EXPECT_EQ(window.changes[0]->name, "width");
+  EXPECT_EQ(window.changes[1]->name, "text1");
 }
 
 TEST_F(WindowEditorTest, StrictOrderRefusesAnOverlapAndLeavesTheDrawing) {
