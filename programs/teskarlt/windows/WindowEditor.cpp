@@ -35,8 +35,9 @@ RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
   }
   RoofChoice roof = OnFace(*face, work.roofs);
   // What stuck out before may do so still.
-  roof.isBounded =
+  const bool wasInside =
       HasOwnSecondPlane(window, work.tolerance) || IsWhole(CoveredPart(OutlineOf(window), work.roofs));
+  if (!wasInside) roof.facesNear = nullptr;
   return roof;
 }
 
