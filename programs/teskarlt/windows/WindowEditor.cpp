@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
+#include <string>
 
 #include <fmt/format.h>
 
@@ -39,14 +41,27 @@ RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
   return roof;
 }
 
+std::string TextOf(std::span<const RecordPoint> points) {
+  std::string text;
+  for (const RecordPoint& p : points)
+    text += fmt::format("{},{},{}{}", p.x, p.y, p.z, brevanta::POINT_DELIMITER);
+  text.pop_back();
+  return text;
+}
+
+// The window stays in its own plane: the face's may differ from it by a hair, which on a nearly flat roof
+// decides which way the window runs.
+void KeepRoofPlane(const WindowReading& reading, DialogAnswers& answers) {
+  const auto& recovered = reading.recovered;
+  const bool isDescribed =
+      std::find(recovered.begin(), recovered.end(), "roofPlanePoints") == recovered.end();
+  if (isDescribed) answers.emplace("roofPlanePoints", TextOf(reading.params.roofPlanePoints));
+}
+
 // A second plane of the user's own stays; the dialog would put the roof's underside in its place.
 void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers& answers) {
   if (window.roofBuildUp != brevanta::BUILD_UP_SECOND_PLANE || IsUnderside(window, tolerance)) return;
-  std::string points;
-  for (const RecordPoint& p : window.secondPlanePoints)
-    points += fmt::format("{},{},{}{}", p.x, p.y, p.z, brevanta::POINT_DELIMITER);
-  points.pop_back();
-  answers.emplace("secondPlanePoints", points);
+  answers.emplace("secondPlanePoints", TextOf(window.secondPlanePoints));
 }
 
 // The picked point: where the window is to stand, or where it stands; none where the order says it in the
@@ -81,7 +96,10 @@ PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
   request.answers = AnswersOf(order, work_.drawing, shelf);
   request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
-  if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
+  if (!moves) {
+    KeepRoofPlane(reading_, request.answers);
+    KeepSecondPlane(record, work_.tolerance, request.answers);
+  }
   const RoofChoice roof =
       moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(record, work_);
   PutRoof(roof, request);

@@ -171,8 +171,7 @@ void PlaceWindow(const DialogServices& services, const Answers& answers, WindowP
   TakePoint(services, answers, plane, record);
   const Vec3 anchor = TakeHeights(answers, plane, record);
 
-  if (roof.isBounded && !answers.Has("roofPlanePoints"))
-    CheckInside(roof, plane, FrameInPlan(plane, anchor, record), record);
+  if (roof.isBounded) CheckInside(roof, plane, FrameInPlan(plane, anchor, record), record);
   if (!answers.Has("storedPoint")) record.storedPoint = ToRecordPoint(ToWorld(plane, anchor));
 }
 
