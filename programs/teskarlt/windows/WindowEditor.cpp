@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <span>
 #include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -26,43 +26,35 @@ namespace {
 using brevanta::RecordPoint;
 using brevanta::WindowParams;
 
-// The window stays where it is, on the face there, or on its own plane where that face is gone.
-RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
+// The window stays where it is, on the face there, or on its own plane where that face is gone. It stays in
+// its own plane on the face too: the two may differ by a hair, which on a nearly flat roof decides which way
+// the window runs.
+RoofChoice RoofUnder(const WindowReading& reading, const WorkedDrawing& work) {
+  const WindowParams& window = reading.params;
+  std::vector<geometry::Vec3> plane;
+  for (const RecordPoint& p : window.roofPlanePoints)
+    plane.push_back(brevanta::ToVec3(p));
   const RoofFace* face = FaceUnder(window, work.roofs);
-  if (face == nullptr) {
-    std::vector<geometry::Vec3> plane;
-    for (const RecordPoint& p : window.roofPlanePoints)
-      plane.push_back(brevanta::ToVec3(p));
-    return OnPlane(plane);
-  }
+  if (face == nullptr) return OnPlane(plane);
   RoofChoice roof = OnFace(*face, work.roofs);
-  // What stuck out before may do so still.
-  roof.isBounded =
-      HasOwnSecondPlane(window, work.tolerance) || IsWhole(CoveredPart(OutlineOf(window), work.roofs));
-  return roof;
-}
-
-std::string TextOf(std::span<const RecordPoint> points) {
-  std::string text;
-  for (const RecordPoint& p : points)
-    text += fmt::format("{},{},{}{}", p.x, p.y, p.z, brevanta::POINT_DELIMITER);
-  text.pop_back();
-  return text;
-}
-
-// The window stays in its own plane: the face's may differ from it by a hair, which on a nearly flat roof
-// decides which way the window runs.
-void KeepRoofPlane(const WindowReading& reading, DialogAnswers& answers) {
   const auto& recovered = reading.recovered;
-  const bool isDescribed =
-      std::find(recovered.begin(), recovered.end(), "roofPlanePoints") == recovered.end();
-  if (isDescribed) answers.emplace("roofPlanePoints", TextOf(reading.params.roofPlanePoints));
+  if (std::find(recovered.begin(), recovered.end(), "roofPlanePoints") == recovered.end())
+    roof.corners = plane;
+  // What stuck out before may do so still.
+  const bool wasInside =
+      HasOwnSecondPlane(window, work.tolerance) || IsWhole(CoveredPart(OutlineOf(window), work.roofs));
+  if (!wasInside) roof.facesNear = nullptr;
+  return roof;
 }
 
 // A second plane of the user's own stays; the dialog would put the roof's underside in its place.
 void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers& answers) {
   if (window.roofBuildUp != brevanta::BUILD_UP_SECOND_PLANE || IsUnderside(window, tolerance)) return;
-  answers.emplace("secondPlanePoints", TextOf(window.secondPlanePoints));
+  std::string points;
+  for (const RecordPoint& p : window.secondPlanePoints)
+    points += fmt::format("{},{},{}{}", p.x, p.y, p.z, brevanta::POINT_DELIMITER);
+  points.pop_back();
+  answers.emplace("secondPlanePoints", points);
 }
 
 // The picked point: where the window is to stand, or where it stands; none where the order says it in the
@@ -102,12 +94,9 @@ EditedWindow WindowEditor::Edit(const WindowOrder& order) {
   request.answers = AnswersOf(order, work_.drawing, shelf);
   request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
-  if (!moves) {
-    KeepRoofPlane(reading_, request.answers);
-    KeepSecondPlane(record, work_.tolerance, request.answers);
-  }
+  if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
   const RoofChoice roof =
-      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(record, work_);
+      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(reading_, work_);
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();

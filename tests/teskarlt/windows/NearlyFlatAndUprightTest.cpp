@@ -169,7 +169,7 @@ TEST(NearlyFlatFace, WindowStaysWhereItLiesWhenItsRoofIsMadeLevel) {
   WindowInserter(module, drawing, Millimetres()).Insert(order);
   drawing.RemoveEntity(drawing.Entities().front());
   drawing = Reloaded(drawing);
-  const Outline edited = WindowEditor(module, drawing, Millimetres(), 1, false).Edit(Wider()).outline;
+  const Outline edited = WindowEditor(module, drawing, Millimetres(), 1, false).Edit(Wider()).placed.outline;
   EXPECT_NEAR(edited[0].y, 4000, 1e-6);
   EXPECT_NEAR(edited[1].y, 2000, 1e-6);
 }
