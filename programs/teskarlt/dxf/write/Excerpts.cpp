@@ -129,6 +129,12 @@ void Append(std::string& text, const char* begin, const char* end) {
   if (begin < end) text.append(begin, end);
 }
 
+// What stands behind the text of a splice: new entities, or the extended data of one of the file.
+void AppendTexts(std::string& text, const Splice& splice, std::span<const std::string_view> entities) {
+  for (const std::string_view more : BringsObjects(splice) ? entities : std::span(*splice.more))
+    text += more;
+}
+
 }  // namespace
 
 Excerpts MakeExcerpts(const SourceText& source, const Index& index, const std::vector<Splice>& splices,
@@ -140,10 +146,7 @@ Excerpts MakeExcerpts(const SourceText& source, const Index& index, const std::v
     for (; splice != splices.end() && IsIn(kept, *splice); ++splice) {
       Append(excerpts.edited, at, splice->begin);
       excerpts.edited += splice->text;
-      if (splice->more != nullptr) {
-        for (const std::string_view text : entities)
-          excerpts.edited += text;
-      }
+      if (splice->more != nullptr) AppendTexts(excerpts.edited, *splice, entities);
       at = splice->end;
     }
     Append(excerpts.edited, at, kept.end);
