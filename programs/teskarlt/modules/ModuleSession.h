@@ -22,8 +22,8 @@ namespace teskarlt {
 // Record fields, and the other names of DialogServices.h, to the user's texts.
 using DialogAnswers = std::map<std::string, std::string, std::less<>>;
 
-// What the user wants, as the dialog asks for it. Coordinates are those of the drawing; texts are bytes in
-// its code page.
+// What the user wants, as the dialog asks for it. Coordinates are those of the drawing; texts are as they
+// stand in its file.
 struct WindowRequest {
   std::int32_t unitFactor = 1;  // drawing units per metre
   DialogAnswers answers;
@@ -42,6 +42,7 @@ struct DialogReport {
 
 // What a command left behind.
 struct CommandOutcome {
+  bool isDialogRun = false;                         // it asked for something
   std::optional<brevanta::WindowParams> confirmed;  // the record that the dialog confirmed
   std::size_t faces = 0;                            // entities of finished batches
   std::size_t lines = 0;
