@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Json.h"
@@ -87,6 +88,7 @@ void RunRoofs(const RoofsOptions& options) {
   const DrawingUnit& unit = UnitOf(drawing, options.units);
   const RoofFaces faces = FindAllRoofFaces(drawing, RoofTolerance(unit));
   TellOfWarped(faces.warped, unit);
+  WarnOfTexts(drawing);
   if (options.asJson) {
     PrintRoofs(faces, unit);
   } else if (faces.planar.empty()) {

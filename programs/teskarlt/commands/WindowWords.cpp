@@ -55,6 +55,11 @@ void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string
     TellWarning(warning);
 }
 
+void WarnOfTexts(const dxf::Document& drawing) {
+  const std::string note = drawing.TextNote();
+  if (!note.empty()) TellWarning(fmt::format("{}: {}", drawing.FileName(), note));
+}
+
 Json WindowJson(const PlacedWindow& window) {
   const brevanta::WindowParams& record = window.record;
   Json json;
@@ -84,6 +89,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
   const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
   if (!misfit.empty()) TellWarning(misfit);
   WarnOfClosedLayers(drawing, window.layers);
+  WarnOfTexts(drawing);
   options.target.Write([&](const std::string& path) { drawing.Save(path); });
   if (options.asJson) {
     PrintJson(AnswerJson(options, window, edited));
