@@ -154,6 +154,45 @@ def references():
     svg.save("references.svg")
 
 
+def build_ups():
+    """Sections along the slope: where the anchor lies for each build-up, and which edges the record's heights mean."""
+    svg = Svg(940, 400, "Anchor and edges by build-up")
+    angle, depth, length, offset = math.radians(40), 0.5, 1.5, 0.45
+    slope = (math.cos(angle), math.sin(angle))
+    titles = ("0: on the second plane", "1: plain", "2: with a slope offset")
+    for build_up, title in enumerate(titles):
+        panel = Panel(svg, 160 + build_up * 305, 320, 88)
+        start = (slope[0] * offset, slope[1] * offset) if build_up == 2 else (0, 0)
+        window, opening = ([(y + start[0], z + start[1]) for y, z in ends]
+                           for ends in outline_ends(0, build_up == 0, depth, length, angle))
+        for (y, z), colour in ((window[0], ROOF), (opening[0], SOFT)):
+            panel.line((y - slope[0] * .6, z - slope[1] * .6), (y + slope[0] * 1.7, z + slope[1] * 1.7), colour, 1, "6 3")
+        panel.polygon([*window, *reversed(opening)], "none", "#f0e6dc")
+        panel.line(*window, OUTER, 4)
+        panel.line(*opening, OPENING, 4)
+        for end in (0, 1):
+            panel.line(window[end], opening[end], MARK, 2)
+        left = -1.5
+        for (y, z), name, colour in ((window[0], "frame", OUTER), (window[1], "frame", OUTER),
+                                     ((0, 0), "lowerEdgeHeight", INK), (opening[1], "upperEdgeHeight", OPENING)):
+            if name == "frame" and build_up == 1 and (y, z) == (0, 0):
+                continue  # the anchor's height
+            panel.line((y, z), (left, z), colour, 0.8, "3 3")
+            panel.text((left, z), name, colour, dy=-4, size=12)
+        panel.dot((0, 0), INK, 5)
+        panel.text((0, 0), "P", INK, dx=-18, dy=20)
+        if build_up == 2:
+            panel.measure((0, 0), window[0], "", SOFT, side=-1)
+            panel.text((0.1, 0), "slopeOffset", SOFT, dx=-4, dy=34, size=12)
+        svg.text(30 + build_up * 305, 90, f"roofBuildUp {title}", INK)
+    svg.text(20, 30, "Where the anchor P lies, and which edges the heights of the record mean", INK, size=16)
+    svg.text(20, 56, "frame: the height that is drawn", OUTER)
+    svg.text(250, 56, "opening", OPENING)
+    svg.text(330, 56, "reveals, here square (heightReference 0)", MARK)
+    svg.text(640, 56, "roof plane and underside (dashed)", ROOF)
+    svg.save("build-ups.svg")
+
+
 def arcs():
     """Fractions along an arc in both directions."""
     svg = Svg(920, 400, "Fractions along an arc")

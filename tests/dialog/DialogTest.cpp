@@ -38,7 +38,7 @@ TEST_F(DialogTest, AnswersGoIntoTheRecord) {
   EXPECT_EQ(host.record.storedPoint.z, 3);
 }
 
-TEST_F(DialogTest, NewWindowGetsTheLowestFreeNumber) {
+TEST_F(DialogTest, NewWindowGetsTheNumberThatIsFree) {
   host.numbers = {1, 2, 4};
   EXPECT_EQ(host.RunDialog(), 1);
   EXPECT_EQ(host.record.markerValue, 3);
@@ -61,6 +61,18 @@ TEST_F(DialogTest, EditedWindowKeepsItsNumberAndItsOldEntitiesGo) {
   EXPECT_EQ(host.record.markerValue, 12);
   EXPECT_EQ(host.record.width, 1.2);
   EXPECT_EQ(host.erased, 1);
+}
+
+// The window's direction in the drawing is stored, the offset runs in the roof's own frame.
+TEST_F(DialogTest, StoredRotationIsNotTheDirectionOfTheOffset) {
+  ASSERT_EQ(host.RunDialog(), 1);
+  host.edited = host.record;
+  host.edited->rotation = 1.5;
+  EXPECT_EQ(host.RunDialog(1), 1);
+  EXPECT_EQ(host.record.rotation, 0.0);
+  host.answers["rotation"] = "0.5";
+  EXPECT_EQ(host.RunDialog(1), 1);
+  EXPECT_EQ(host.record.rotation, 0.5);
 }
 
 TEST_F(DialogTest, RefusedEditErasesNothing) {

@@ -117,6 +117,19 @@ def test_erasing_tells_what_went_and_the_others_stay(teskarlt, with_windows):
     readers.audited(with_windows)
 
 
+def test_windows_are_listed_by_their_numbers_after_an_edit_too(teskarlt, with_windows):
+    teskarlt.done("edit", with_windows, "1", "--set", "text1=first\nsecond")
+    assert [window["number"] for window in listed(teskarlt, with_windows)] == [1, 2, 3]
+    table = teskarlt.done("list", with_windows).stdout.splitlines()
+    assert [line.split()[0] for line in table] == ["number", "1", "2", "3"]
+    assert table[1].endswith("  first second")
+
+
+def test_number_of_an_erased_window_is_not_given_again(teskarlt, with_windows):
+    teskarlt.done("erase", with_windows, "2")
+    assert teskarlt.done("insert", with_windows, "--at", "2500,1200", "--json").json["number"] == 4
+
+
 def test_erasing_dry_writes_nothing(teskarlt, with_windows):
     before = with_windows.read_bytes()
     assert "nothing was written" in teskarlt.done("erase", with_windows, "2", "--dry-run").stdout

@@ -4,6 +4,7 @@ import pictures
 import pytest
 from browser import Browser
 from conftest import ROOT
+from plain_dxf import Drawing
 from program import Program
 
 DRAWING = (300, 150, 700, 560)  # left, top, right and bottom of the middle of the page
@@ -93,3 +94,29 @@ def test_page_fits_a_phone(browser, page):
     assert browser.evaluate("document.documentElement.scrollWidth") == 390
     assert browser.evaluate("document.querySelector('#panel').open") is False
     assert shown(browser).share(pictures.is_red) > 0.03
+
+
+def blue_pixels(picture):
+    """Those in the middle of the page."""
+    left, top, right, bottom = DRAWING
+    middle = (picture.at(x, y) for x in range(left, right) for y in range(top, bottom))
+    return sum(blue > red + 40 and blue > green + 40 for red, green, blue in middle)
+
+
+@pytest.mark.parametrize("form", ["face", "closed_polyline"])
+def test_wall_tops_do_not_shine_through_the_roof(teskarlt, running, tmp_path, form):
+    """A red roof ten metres wide over blue walls of half a metre, whose tops lie in its plane two metres inside."""
+    drawing = Drawing(units="m")
+    drawing.layer("ROOF", 1), drawing.layer("WALLS", 5)
+    draw = getattr(drawing, form)
+    corners = [(2, 2), (8, 2), (8, 8), (2, 8)]
+    for (x0, y0), (x1, y1) in zip(corners, corners[1:] + corners[:1]):
+        draw("WALLS", (x0, y0, 2.5), (x1, y1, 2.5), (x1, y1, 3), (x0, y0, 3))
+    draw("ROOF", (0, 0, 3), (10, 0, 3), (10, 10, 3), (0, 10, 3))
+    teskarlt.done("preview", drawing.save(tmp_path / "in.dxf"), "-o", tmp_path / "out.html")
+    running.open(tmp_path / "out.html")
+    assert shown(running).share(pictures.is_red) > 0.05
+    assert blue_pixels(shown(running)) == 0
+    running.evaluate("[...document.querySelectorAll('#directions button')].find(b => b.textContent === 'South').click()")
+    running.settle(1200)
+    assert blue_pixels(shown(running)) > 100

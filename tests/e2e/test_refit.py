@@ -113,8 +113,8 @@ def test_window_that_fits_keeps_its_bytes_when_others_are_refitted(teskarlt, hou
 
 
 @pytest.fixture
-def with_problem(teskarlt, tmp_path):
-    """A roof that was raised and of which a part was cut off: one window fits it no more."""
+def without_roof(teskarlt, tmp_path):
+    """A roof that was raised and of which a part was cut off: one window has no face any more."""
     path = tmp_path / "old.dxf"
     Roof().save(path)
     insert(teskarlt, path, Roof())
@@ -122,21 +122,52 @@ def with_problem(teskarlt, tmp_path):
     return path
 
 
-def test_window_without_a_roof_is_told_and_nothing_is_written(teskarlt, with_problem):
+def test_window_without_a_roof_stays_and_the_others_are_refitted(teskarlt, without_roof):
+    before = shapes(without_roof, 1)
+    answer = teskarlt.done("refit", without_roof)
+    assert answer.stderr == ("teskarlt: note: window 1: it stays where it is: "
+                             "no roof face that falls its way lies over or under its place\n")
+    assert "1 window refitted" in answer.stdout and "1 window has no roof face of its own." in answer.stdout
+    assert shapes(without_roof, 1) == before
+    first, second = listed(teskarlt, without_roof)
+    assert abs(second["fields"]["lowerEdgeHeight"] - first["fields"]["lowerEdgeHeight"]
+               - (1.0 * math.tan(math.radians(35)) + 0.5)) < 1e-6
+
+
+def test_window_on_a_given_plane_over_a_face_stays(teskarlt, house):
+    teskarlt.done("insert", house, "--at", "2500,1200", "--roof", "0,0,9000", "5000,0,9000", "0,4000,12000")
+    before = house.read_bytes()
+    answer = teskarlt.done("refit", house, "--json")
+    [staying] = answer.json["staying"]
+    assert staying["number"] == 1 and "m under it, and --reach is 3 m" in staying["message"]
+    assert answer.json["windows"] == [] and house.read_bytes() == before
+
+
+@pytest.fixture
+def with_problem(teskarlt, tmp_path):
+    """A roof that was raised, and a window on it of which a line was deleted."""
+    path = tmp_path / "old.dxf"
+    Roof().save(path)
+    insert(teskarlt, path, Roof())
+    change_roof(path, Roof(centre=(0, 0, 3.5)))
+    drawing = ezdxf.readfile(path)
+    drawing.modelspace().delete_entity(windows.window_entities(drawing)[-1])  # of window 2
+    drawing.saveas(path)
+    return path
+
+
+def test_window_that_cannot_be_refitted_is_told_and_nothing_is_written(teskarlt, with_problem):
     before = with_problem.read_bytes()
     answer = teskarlt("refit", with_problem)
     assert answer.status == 1 and with_problem.read_bytes() == before
-    assert answer.stderr == ("teskarlt: window 1: no roof face that falls its way lies over or under its place\n"
-                             "teskarlt: 1 of the windows cannot be refitted; nothing was written\n")
+    assert "teskarlt: window 2: it cannot be changed: it has 17 faces and 15 lines" in answer.stderr
+    assert "teskarlt: 1 of the windows cannot be refitted; nothing was written\n" in answer.stderr
     assert "1 window could be refitted; nothing was written." in answer.stdout
 
 
 def test_others_are_refitted_where_the_user_wants_to_go_on(teskarlt, with_problem):
     answer = teskarlt("refit", with_problem, "--keep-going")
     assert answer.status == 1 and "1 window refitted" in answer.stdout
-    first, second = listed(teskarlt, with_problem)
-    assert abs(second["fields"]["lowerEdgeHeight"] - first["fields"]["lowerEdgeHeight"]
-               - (1.0 * math.tan(math.radians(35)) + 0.5)) < 1e-6
 
 
 def test_window_that_leaves_its_smaller_roof_is_told(teskarlt, tmp_path):

@@ -93,5 +93,23 @@ TEST(EdgeHeight, PartsOfTheLayerAreAddedOneAfterTheOther) {
   EXPECT_EQ(EdgeHeight(record, 1, 1), 1e17);
 }
 
+// What the record's heights mean: those of the anchor and of the opening's upper edge.
+TEST(RecordedEdges, AreTheAnchorAndTheUpperEdgeOfTheOpening) {
+  for (const std::int32_t buildUp : {0, 1, 2}) {
+    for (const std::int32_t reference : {0, 1, 2, 3}) {
+      const WindowParams record = LayeredRecord(reference, buildUp);
+      const Outline opening = OutlinesAt({0, 0, 1000}, record, 1, {round_record::SLOPE}).opening;
+      EXPECT_EQ(RecordedEdges(record).lower, 1000);
+      EXPECT_NEAR(RecordedEdges(record).upper, opening[1].z, 1e-9) << buildUp << ' ' << reference;
+    }
+  }
+}
+
+TEST(EdgesOf, AreTheFramesInMetres) {
+  const Edges edges = EdgesOf({{{0, 0, 6244}, {0, 800, 7047}, {940, 800, 7047}, {940, 0, 6244}}}, 1000);
+  EXPECT_EQ(edges.lower, 6.244);
+  EXPECT_EQ(edges.upper, 7.047);
+}
+
 }  // namespace
 }  // namespace brevanta

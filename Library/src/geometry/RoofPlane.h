@@ -9,17 +9,18 @@
 
 namespace geometry {
 
-// The fitted roof plane. In its local frame the fall line runs in the y-z
-// plane, the roof rises along +y, z is up and the origin is the third picked
-// point's place in the plan at height 0. World means drawing coordinates.
+// The fitted roof plane. In its local frame the fall line runs in the y-z plane, the roof rises along +y, z
+// is up and the origin is the third picked point's place in the plan at height 0. World means drawing
+// coordinates. A plane is horizontal when both plan components of its unit normal are below the tolerance:
+// its local frame is not turned, and it may fall any way by that much.
 struct RoofPlane {
   Vec3 corners[4];  // the picked points, world; the fourth repeats the third
   // The picked points, local, ordered along x by two exchanges: the first with the second, the third with the
   // fourth. The fourth is never computed, only exchanged.
   Vec3 localCorners[4];
-  Vec3 normal;                // unit normal, world, z never negative
-  Vec3 localNormal;           // the normal in the local frame: x = 0, y not positive
-  double originZ;             // z of the local origin; always 0
+  Vec3 normal;       // unit normal, world, z never negative
+  Vec3 localNormal;  // the normal in the local frame: x = 0, y not positive but in a horizontal plane
+  double originZ;    // z of the local origin; always 0
   std::int32_t isHorizontal;  // reset to 0 by each fit
   Matrix4 worldToLocal;
   Matrix4 localToWorld;  // the placement matrix

@@ -12,7 +12,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/DrawnWindow.h"
-#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
@@ -90,9 +90,8 @@ void CheckShapes(const Scene& scene) {
 // Windows in each other's way, and those whose roof was changed.
 void CheckFits(const Scene& scene) {
   if (scene.unit == nullptr) return;
-  const double tolerance = RoofTolerance(*scene.unit);
-  const std::vector<RoofFace> faces = FindRoofFaces(scene.drawing, tolerance);
-  WindowFit fit(faces, tolerance);
+  const Roofs roofs = FindRoofs(scene.drawing, RoofTolerance(*scene.unit));
+  WindowFit fit(roofs);
   for (const DrawnWindow& window : scene.windows) {
     const std::optional<Outline> outline = DrawnOutline(scene.drawing, window);
     if (!outline) continue;

@@ -49,8 +49,14 @@ void AddInsertCommand(OptionParser& parser) {
       .Needs(jobsFile);
   command.FlagInstead("--fields", PrintFields, "list the fields for --set");
   command.Footer(
-      "The window's anchor comes to lie exactly at the point. With --set lowerEdgeHeight=H or\n"
-      "upperEdgeHeight=H it is moved up or down the slope until that edge lies at H metres.\n"
+      "The window's anchor comes to lie exactly at the point. What it is, roofBuildUp says:\n"
+      "  0  a point of the opening's lower edge, on the second plane, which is the underside of the layer\n"
+      "  1  a point of the frame's lower edge\n"
+      "  2  a point of the roof plane, slopeOffset below the frame's lower edge\n"
+      "With --set lowerEdgeHeight=H the window is moved up or down the slope until its anchor lies at H\n"
+      "metres, with upperEdgeHeight=H until the upper edge of its opening does. Where the frame then lies "
+      "is\n"
+      "told with the answer.\n"
       "Examples:\n"
       "  teskarlt insert house.dxf --at 3000,2000 -o out.dxf\n"
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"

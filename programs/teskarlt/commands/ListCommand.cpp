@@ -1,4 +1,5 @@
 // ListCommand.cpp - the subcommand "list": lists the roof windows of a drawing.
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <optional>
@@ -15,6 +16,7 @@
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
+#include "window/EdgeHeights.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
@@ -79,6 +81,7 @@ struct Row {
 
 std::vector<Row> ReadRows(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows) {
   std::vector<Row> rows;
+  rows.reserve(windows.size());
   std::set<std::int32_t> numbers;
   for (const DrawnWindow& window : windows) {
     Row& row = rows.emplace_back(Row{window, ReadWindow(drawing, window)});
@@ -113,6 +116,7 @@ Json ToJson(const Row& row) {
   json["faces"] = window.faces;
   json["lines"] = window.entities.size() - window.faces;
   json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
+  json["frame"] = FrameJson(reading.outline, reading.params);
   json["fields"] = window.isComplete ? FieldsJson(window, reading.params) : Json(nullptr);
   json["sources"] = SourcesJson(reading);
   json["notes"] = reading.notes;
@@ -142,19 +146,30 @@ std::string FallText(const brevanta::WindowParams& params) {
   return fall ? fmt::format("{:.1f}", *fall) : "flat";
 }
 
+// The height of an edge of the frame as it is drawn, and in brackets what the record says where it is
+// another.
+std::string EdgeText(const WindowReading& reading, double brevanta::Edges::*edge) {
+  const std::string recorded = fmt::format("{:.3f}", brevanta::RecordedEdges(reading.params).*edge);
+  if (!reading.outline) return fmt::format("({})", recorded);
+  const std::string drawn =
+      fmt::format("{:.3f}", brevanta::EdgesOf(*reading.outline, reading.params.unitFactor).*edge);
+  return drawn == recorded ? drawn : fmt::format("{} ({})", drawn, recorded);
+}
+
 void PrintTable(const std::vector<Row>& rows) {
-  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "x", "y", "z", "code",
-               "entities", "texts"});
+  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "lower edge m", "upper edge m",
+               "x", "y", "z", "code", "entities", "texts"});
   for (const auto& [window, reading] : rows) {
     const brevanta::WindowParams& p = reading.params;
     const std::string entities = std::to_string(window.entities.size());
     if (!window.isComplete) {
-      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", entities,
+      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", "?", "?", entities,
                  "(description damaged)"});
       continue;
     }
     table.Add({std::to_string(window.number), fmt::format("{:g}", p.width), fmt::format("{:g}", p.length),
-               fmt::format("{:.2f}", p.pitch), FallText(p), fmt::format("{:.3f}", p.storedPoint.x),
+               fmt::format("{:.2f}", p.pitch), FallText(p), EdgeText(reading, &brevanta::Edges::lower),
+               EdgeText(reading, &brevanta::Edges::upper), fmt::format("{:.3f}", p.storedPoint.x),
                fmt::format("{:.3f}", p.storedPoint.y), fmt::format("{:.3f}", p.storedPoint.z), p.openingCode,
                entities, Texts(window)});
   }
@@ -165,10 +180,18 @@ void PrintTable(const std::vector<Row>& rows) {
   }
 }
 
+// By their numbers; windows that share one in the order of the file.
+std::vector<DrawnWindow> WindowsByNumber(const dxf::Document& drawing, const DrawingUnit& unit) {
+  std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  std::stable_sort(windows.begin(), windows.end(),
+                   [](const DrawnWindow& a, const DrawnWindow& b) { return a.number < b.number; });
+  return windows;
+}
+
 void RunList(const ListOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
   const DrawingUnit& unit = UnitOf(drawing, options.units);
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  const std::vector<DrawnWindow> windows = WindowsByNumber(drawing, unit);
   const std::vector<Row> rows = ReadRows(drawing, windows);
   WarnOfTexts(drawing);
   if (options.asJson) {
@@ -190,7 +213,10 @@ void AddListCommand(OptionParser& parser) {
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
       "Sizes are in metres, the place in drawing units; the direction in which the roof falls is in degrees\n"
-      "counter-clockwise from the drawing's x axis. Windows that another program moved, turned, mirrored or\n"
+      "counter-clockwise from the drawing's x axis. The edges are those of the frame as it is drawn; in "
+      "brackets\n"
+      "stands what the record says where it is another height. Windows that another program moved, turned, "
+      "mirrored or\n"
       "scaled are listed as they stand in the drawing, with a note; those that cannot be changed any more "
       "as\n"
       "their descriptions say.\n"

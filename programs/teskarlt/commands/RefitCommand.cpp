@@ -24,6 +24,7 @@ struct RefitOptions {
   ResultTarget target;
   std::vector<int> numbers;
   std::string keep = KEEP_PLAN;
+  double reach = REFIT_REACH;
   std::string units;
   bool isLockedToo = false;
   bool keepGoing = false;
@@ -44,15 +45,21 @@ Json ToJson(const Refitted& window) {
   return json;
 }
 
+Json ToJson(const std::vector<NotRefitted>& windows) {
+  Json list = Json::List();
+  for (const NotRefitted& window : windows)
+    list.Add(Json::Object({{"number", window.number}, {"message", window.message}}));
+  return list;
+}
+
 void PrintAnswer(const RefitOptions& options, const RefitReport& report) {
   Json json = Json::Object({{"version", JSON_VERSION}});
   json["windows"] = Json::List();
   for (const Refitted& window : report.refitted)
     json["windows"].Add(ToJson(window));
   json["fitting"] = report.fitting;
-  json["problems"] = Json::List();
-  for (const RefitProblem& problem : report.problems)
-    json["problems"].Add(Json::Object({{"number", problem.number}, {"message", problem.message}}));
+  json["staying"] = ToJson(report.staying);
+  json["problems"] = ToJson(report.problems);
   options.target.AddTo(json);
   PrintJson(json);
 }
@@ -78,13 +85,18 @@ void PrintText(const RefitOptions& options, const RefitReport& report) {
     fmt::print("{} window{} fit{} as {}.\n", report.fitting, report.fitting == 1 ? "" : "s",
                report.fitting == 1 ? "s" : "", report.fitting == 1 ? "it is" : "they are");
   }
-  if (count + report.fitting + report.problems.size() == 0)
+  if (const std::size_t staying = report.staying.size(); staying > 0)
+    fmt::print("{} window{} no roof face of {} own.\n", staying, staying == 1 ? " has" : "s have",
+               staying == 1 ? "its" : "their");
+  if (count + report.fitting + report.staying.size() + report.problems.size() == 0)
     fmt::print("{} holds no roof window.\n", options.target.File());
 }
 
-// What is wrong with the windows, in words.
+// What is wrong with the windows, and why others stay, in words.
 void TellProblems(const RefitOptions& options, const RefitReport& report) {
-  for (const RefitProblem& problem : report.problems)
+  for (const NotRefitted& window : report.staying)
+    TellNote(fmt::format("window {}: {}", window.number, window.message));
+  for (const NotRefitted& problem : report.problems)
     Tell(fmt::format("window {}: {}", problem.number, problem.message));
   for (const Refitted& window : report.refitted) {
     if (window.misfits.empty()) continue;
@@ -99,7 +111,7 @@ void RunRefit(RefitOptions& options) {
   const DrawingUnit& unit = ChooseUnitAndWarn(drawing, options.units);
   const RefitKeeps keeps = options.keep == KEEP_HEIGHT ? RefitKeeps::Height : RefitKeeps::Plan;
   const RefitReport report =
-      RefitWindows(module, drawing, unit, {options.numbers, keeps, options.isLockedToo});
+      RefitWindows(module, drawing, unit, {options.numbers, keeps, options.isLockedToo, options.reach});
   TellProblems(options, report);
   WarnOfTexts(drawing);
   const bool isWanted = report.problems.empty() || options.keepGoing;
@@ -125,6 +137,13 @@ void AddRefitCommand(OptionParser& parser) {
       .Named("plan|height")
       .OneOfListed({KEEP_PLAN, KEEP_HEIGHT})
       .ShowDefault();
+  command
+      .Value("--reach", options->reach,
+             "how far over or under a window its roof may have come, in metres; a window with no face that "
+             "near stays")
+      .Named("METRES")
+      .NotNegative()
+      .ShowDefault();
   command.Flag("--keep-going", options->keepGoing, "write the others when some windows cannot be refitted");
   AddLockedOption(command, options->isLockedToo);
   options->target.AddOutput(command);
@@ -136,7 +155,8 @@ void AddRefitCommand(OptionParser& parser) {
       "A window whose roof face was moved or has another pitch since is inserted again on the face that now\n"
       "lies over or under its place, with its number and all its values; of several faces, on the one "
       "nearest\n"
-      "in height. Windows that lie on a roof face stay as they are.\n"
+      "in height. Windows that lie on a roof face stay as they are, and so do those on planes of their own,\n"
+      "without a roof face within --reach.\n"
       "Examples:\n"
       "  teskarlt refit house.dxf --dry-run\n"
       "  teskarlt refit house.dxf 3 4 --keep height");

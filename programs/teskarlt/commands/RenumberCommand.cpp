@@ -64,7 +64,7 @@ void AddRenumberCommand(OptionParser& parser) {
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
       "A window that was copied in a CAD program bears the number of its model, and edit and erase know\n"
-      "windows by their numbers. The first window of a number keeps it, all others get free ones; nothing\n"
+      "windows by their numbers. The first window of a number keeps it, all others get new ones; nothing\n"
       "else of them changes.\n"
       "Example: teskarlt renumber house-with-copies.dxf");
   command.Run([options] { RunRenumber(*options); });

@@ -7,6 +7,7 @@
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/ClosedLayers.h"
 #include "teskarlt/windows/UnitChoice.h"
+#include "window/EdgeHeights.h"
 
 namespace teskarlt {
 
@@ -29,8 +30,12 @@ void PrintText(const WindowOptions& options, const PlacedWindow& window, const W
   const std::string where = window.face
                                 ? fmt::format("face {} of layer {}", window.face->name, window.face->layer)
                                 : "the given plane";
-  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees, lower edge at {:.3f} m.\n",
-             record.markerValue, record.width, record.length, where, record.pitch, record.lowerEdgeHeight);
+  const brevanta::Edges frame = brevanta::EdgesOf(window.outline, record.unitFactor);
+  const brevanta::Edges recorded = brevanta::RecordedEdges(record);
+  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees.\n", record.markerValue, record.width,
+             record.length, where, record.pitch);
+  fmt::print("Its frame lies from {:.3f} m to {:.3f} m; lowerEdgeHeight {:.3f}, upperEdgeHeight {:.3f}.\n",
+             frame.lower, frame.upper, recorded.lower, recorded.upper);
   fmt::print("{} faces and {} lines {}.\n", window.faces, window.lines,
              options.target.Ending("added", "be added"));
   if (edited == nullptr) return;
@@ -67,12 +72,21 @@ Json WindowJson(const PlacedWindow& window) {
   json["face"] = window.face ? Json(window.face->name) : Json(nullptr);
   json["pitch"] = record.pitch;
   json["place"] = Json::List({record.storedPoint.x, record.storedPoint.y, record.storedPoint.z});
-  json["lowerEdgeHeight"] = record.lowerEdgeHeight;
+  const brevanta::Edges recorded = brevanta::RecordedEdges(record);
+  json["lowerEdgeHeight"] = recorded.lower;
+  json["upperEdgeHeight"] = recorded.upper;
+  json["frame"] = FrameJson(window.outline, record);
   json["unitFactor"] = record.unitFactor;
   json["faces"] = window.faces;
   json["lines"] = window.lines;
   json["warnings"] = window.misfits;
   return json;
+}
+
+Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowParams& record) {
+  if (!outline) return nullptr;
+  const brevanta::Edges frame = brevanta::EdgesOf(*outline, record.unitFactor);
+  return Json::Object({{"lowerEdge", frame.lower}, {"upperEdge", frame.upper}});
 }
 
 Json SourcesJson(const WindowReading& reading) {

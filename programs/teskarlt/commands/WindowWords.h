@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/terminal/Json.h"
@@ -29,6 +31,9 @@ void WarnOfTexts(const dxf::Document& drawing);
 
 // For programs: the window that came into the drawing.
 Json WindowJson(const PlacedWindow& window);
+
+// For programs: the heights of the frame's edges as it is drawn, in metres; null without an outline.
+Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowParams& record);
 
 // For programs: of the fields that are not as the description says, or not in it, where their values come
 // from.

@@ -1,11 +1,9 @@
-// RoofFace.cpp - planar faces: making, measuring and finding them.
+// RoofFace.cpp - makes and measures the faces of a drawing.
 #include "teskarlt/drawing/RoofFace.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "geometry/Matrix4.h"
-#include "geometry/Trigonometry.h"
 #include "geometry/Vectors.h"
 
 namespace teskarlt {
@@ -15,7 +13,6 @@ namespace {
 using geometry::Vec3;
 
 constexpr double VERTICAL_LIMIT = 1e-4;  // of the unit normal's z; the module takes no steeper roof
-constexpr double FLAT_LIMIT = 1e-4;      // of the unit normal's plan length
 
 bool Coincide(const Vec3& a, const Vec3& b) {
   return a.x == b.x && a.y == b.y && a.z == b.z;
@@ -31,32 +28,36 @@ std::vector<Vec3> WithoutRepeats(const std::vector<Vec3>& corners) {
   return kept;
 }
 
-double DistanceFromPlane(const RoofFace& face, const Vec3& p) {
-  return geometry::VecDot(face.normal, Difference(p, face.corners[0]));
+// The point in the middle of the corners, of which there is at least one; seen from the first one, since far
+// from the origin sums lose their last digits.
+Vec3 Middle(const std::vector<Vec3>& corners) {
+  Vec3 sum{};
+  for (const Vec3& corner : corners)
+    sum = Sum(sum, Difference(corner, corners[0]));
+  return Moved(corners[0], sum, 1.0 / static_cast<double>(corners.size()));
+}
+
+// The diagonal of the box around the face.
+double Extent(const RoofFace& face) {
+  Vec3 low = face.corners[0];
+  Vec3 high = low;
+  for (const Vec3& corner : face.corners) {
+    low = {std::min(low.x, corner.x), std::min(low.y, corner.y), std::min(low.z, corner.z)};
+    high = {std::max(high.x, corner.x), std::max(high.y, corner.y), std::max(high.z, corner.z)};
+  }
+  return Distance(low, high);
 }
 
 bool OnPlanEdge(const Vec3& a, const Vec3& b, double x, double y) {
   const double dx = b.x - a.x;
   const double dy = b.y - a.y;
+  if (dx == 0.0 && dy == 0.0) return x == a.x && y == a.y;  // an upright edge is a point of the plan
   const double across = dx * (y - a.y) - dy * (x - a.x);
   const double length = std::hypot(dx, dy);
   constexpr double relative = 1e-9;
   if (std::abs(across) > relative * length * length) return false;
   const double along = dx * (x - a.x) + dy * (y - a.y);
   return along >= -relative * length * length && along <= (1 + relative) * length * length;
-}
-
-// Even-odd rule; points on an edge are inside.
-bool InsidePlan(const std::vector<Vec3>& corners, double x, double y) {
-  bool inside = false;
-  for (std::size_t i = 0; i < corners.size(); ++i) {
-    const Vec3& a = corners[i];
-    const Vec3& b = corners[(i + 1) % corners.size()];
-    if (OnPlanEdge(a, b, x, y)) return true;
-    if ((a.y > y) == (b.y > y)) continue;
-    if (x < a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x)) inside = !inside;
-  }
-  return inside;
 }
 
 }  // namespace
@@ -68,60 +69,60 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, double to
   const Vec3 area = AreaVector(face.corners);
   const double twiceArea = geometry::VecLength(area);
   if (!(twiceArea > tolerance * tolerance)) return std::nullopt;
-  face.normal = Scaled(area, (area.z < 0 ? -1.0 : 1.0) / twiceArea);
-  if (face.normal.z < VERTICAL_LIMIT) return std::nullopt;
+  face.plane = {Middle(face.corners), Scaled(area, (area.z < 0 ? -1.0 : 1.0) / twiceArea)};
+  if (!(face.plane.normal.z >= VERTICAL_LIMIT)) return std::nullopt;  // nor where numbers end
   return face;
 }
 
-double Warp(const RoofFace& face) {
+double Warp(const RoofFace& face, const Plane& plane) {
   double warp = 0.0;
   for (const Vec3& corner : face.corners)
-    warp = std::max(warp, std::abs(DistanceFromPlane(face, corner)));
+    warp = std::max(warp, std::abs(DistanceFrom(plane, corner)));
   return warp;
 }
 
-double Pitch(const RoofFace& face) {
-  return geometry::RadToDeg(geometry::ArcTangent2(std::hypot(face.normal.x, face.normal.y), face.normal.z));
+double Warp(const RoofFace& face) {
+  return Warp(face, face.plane);
 }
 
-std::optional<double> FallDirection(const RoofFace& face) {
-  if (std::hypot(face.normal.x, face.normal.y) < FLAT_LIMIT) return std::nullopt;
-  const double degrees = geometry::RadToDeg(geometry::ArcTangent2(face.normal.y, face.normal.x));
-  return degrees < 0 ? degrees + 360.0 : degrees;
+double WarpLimit(const RoofFace& face, double tolerance) {
+  constexpr double MILLIMETRES = 20.0;
+  constexpr double PART_OF_EXTENT = 1.0 / 500.0;
+  return std::max(MILLIMETRES * tolerance, PART_OF_EXTENT * Extent(face));
+}
+
+bool IsPlanar(const RoofFace& face, double tolerance) {
+  return Warp(face) <= WarpLimit(face, tolerance);
+}
+
+bool IsSteep(const RoofFace& face) {
+  constexpr double STEEPEST = 85.0;  // degrees
+  return Pitch(face.plane) > STEEPEST;
+}
+
+bool IsNarrow(const RoofFace& face, double tolerance) {
+  constexpr double MILLIMETRES = 50.0;
+  double longest = 0.0;
+  for (std::size_t i = 0; i < face.corners.size(); ++i)
+    longest = std::max(longest, Distance(face.corners[i], face.corners[(i + 1) % face.corners.size()]));
+  return 2 * Area(face) < MILLIMETRES * tolerance * longest;
 }
 
 double Area(const RoofFace& face) {
   return geometry::VecLength(AreaVector(face.corners)) / 2;
 }
 
-std::optional<double> HeightOver(const RoofFace& face, double x, double y) {
-  if (!InsidePlan(face.corners, x, y)) return std::nullopt;
-  const Vec3& o = face.corners[0];
-  return o.z - (face.normal.x * (x - o.x) + face.normal.y * (y - o.y)) / face.normal.z;
-}
-
-const RoofFace* UppermostOver(const std::vector<RoofFace>& faces, double x, double y) {
-  const RoofFace* uppermost = nullptr;
-  double best = 0.0;
-  for (const RoofFace& face : faces) {
-    const std::optional<double> height = HeightOver(face, x, y);
-    if (!height || (uppermost != nullptr && *height <= best)) continue;
-    uppermost = &face;
-    best = *height;
+// Even-odd rule.
+bool LiesOver(const RoofFace& face, double x, double y) {
+  bool inside = false;
+  for (std::size_t i = 0; i < face.corners.size(); ++i) {
+    const Vec3& a = face.corners[i];
+    const Vec3& b = face.corners[(i + 1) % face.corners.size()];
+    if (OnPlanEdge(a, b, x, y)) return true;
+    if ((a.y > y) == (b.y > y)) continue;
+    if (x < a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x)) inside = !inside;
   }
-  return uppermost;
-}
-
-std::vector<const RoofFace*> CoplanarWith(const RoofFace& face, const std::vector<RoofFace>& faces,
-                                          double tolerance) {
-  std::vector<const RoofFace*> found;
-  for (const RoofFace& other : faces) {
-    const bool coplanar = std::all_of(other.corners.begin(), other.corners.end(), [&](const Vec3& corner) {
-      return std::abs(DistanceFromPlane(face, corner)) <= tolerance;
-    });
-    if (coplanar && &other != &face) found.push_back(&other);
-  }
-  return found;
+  return inside;
 }
 
 }  // namespace teskarlt

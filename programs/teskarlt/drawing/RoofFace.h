@@ -1,12 +1,12 @@
-// RoofFace.h - a planar face of a drawing that can take a roof window, and which face lies over a point.
+// RoofFace.h - a face of a drawing: its plane, how even and how steep it is, and what lies under it.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "geometry/Vec3.h"
+#include "teskarlt/drawing/Plane.h"
 
 namespace teskarlt {
 
@@ -16,36 +16,36 @@ struct RoofFace {
   std::string layer;  // UTF-8
   std::string type;   // "3DFACE", "POLYFACE MESH", "POLYGON MESH" or "3D POLYLINE"
   std::vector<geometry::Vec3> corners;
-  geometry::Vec3 normal;  // unit length, z positive
+  Plane plane;  // of the face's mean normal (Newell), through the middle of the corners
 };
 
-// The face with these corners when it has an area, for which `tolerance` (drawing units) is a length, and is
-// not vertical; consecutive corners that coincide become one. Names and layer stay empty.
+// `tolerance` is a millimetre in drawing units (RoofTolerance in Units.h) in all of these.
+
+// The face with these corners when it has an area, for which the tolerance is a length, and is not vertical;
+// consecutive corners that coincide become one. Names and layer stay empty.
 std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners, double tolerance);
 
-// How far the farthest corner lies off the plane through the first one with the face's mean normal, in
-// drawing units; 0 but for rounding in a planar face.
+// How far the farthest corner lies off the plane; for the face's own plane 0 but for rounding when it is
+// planar.
+double Warp(const RoofFace& face, const Plane& plane);
 double Warp(const RoofFace& face);
 
-// Degrees from the horizontal, from 0 up to but not 90.
-double Pitch(const RoofFace& face);
+// How far a corner may lie off the plane of a roof: 20 mm, or 1/500 of the face's extent where that is more,
+// as roofs are in models of real towns.
+double WarpLimit(const RoofFace& face, double tolerance);
 
-// Direction in which the face falls, in the plan: degrees counter-clockwise from the drawing's x axis, from 0
-// up to but not 360; none for a flat face.
-std::optional<double> FallDirection(const RoofFace& face);
+bool IsPlanar(const RoofFace& face, double tolerance);
+
+// True above 85 degrees: such a face is a wall that is not quite upright, and no roof.
+bool IsSteep(const RoofFace& face);
+
+// True below 50 mm: the direction of such a sliver between two triangles says little.
+bool IsNarrow(const RoofFace& face, double tolerance);
 
 // The face's own area, in square drawing units.
 double Area(const RoofFace& face);
 
-// Height of the face over (x, y); none when the point does not lie within the face in the plan. The edges
-// belong to it.
-std::optional<double> HeightOver(const RoofFace& face, double x, double y);
-
-// The uppermost face over (x, y), the first of several at the same height; null when there is none.
-const RoofFace* UppermostOver(const std::vector<RoofFace>& faces, double x, double y);
-
-// The other faces that lie in the plane of `face` within `tolerance` (drawing units).
-std::vector<const RoofFace*> CoplanarWith(const RoofFace& face, const std::vector<RoofFace>& faces,
-                                          double tolerance);
+// Whether the point lies within the face in the plan; the edges belong to it.
+bool LiesOver(const RoofFace& face, double x, double y);
 
 }  // namespace teskarlt

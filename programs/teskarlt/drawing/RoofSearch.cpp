@@ -1,11 +1,10 @@
-// RoofSearch.cpp - finds the faces of a drawing that can take a roof window.
+// RoofSearch.cpp - finds the faces of a drawing of which roofs can be made.
 #include "teskarlt/drawing/RoofSearch.h"
 
 #include <fmt/format.h>
 
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/EntityFaces.h"
-#include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
 
@@ -21,8 +20,8 @@ std::string FaceName(const dxf::Entity& entity, std::size_t entityNumber, std::s
 
 }  // namespace
 
-RoofFaces FindAllRoofFaces(const dxf::Document& drawing, double tolerance) {
-  RoofFaces found;
+std::vector<RoofFace> FindFaces(const dxf::Document& drawing, double tolerance) {
+  std::vector<RoofFace> found;
   std::size_t entityNumber = 0;
   for (const dxf::Entity& entity : drawing.Entities()) {
     ++entityNumber;
@@ -34,22 +33,10 @@ RoofFaces FindAllRoofFaces(const dxf::Document& drawing, double tolerance) {
       face->name = FaceName(entity, entityNumber, i + 1, entityFaces.faces.size());
       face->layer = entityFaces.layer;
       face->type = entityFaces.type;
-      (Warp(*face) <= tolerance ? found.planar : found.warped).push_back(*std::move(face));
+      found.push_back(*std::move(face));
     }
   }
   return found;
-}
-
-std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double tolerance) {
-  return FindAllRoofFaces(drawing, tolerance).planar;
-}
-
-std::vector<const RoofFace*> FacesNamed(const std::vector<RoofFace>& faces, std::string_view name) {
-  std::vector<const RoofFace*> named;
-  for (const RoofFace& face : faces) {
-    if (dxf::SameName(face.name, name)) named.push_back(&face);
-  }
-  return named;
 }
 
 }  // namespace teskarlt

@@ -1,7 +1,6 @@
-// RoofSearch.h - finds the faces of a drawing that can take a roof window.
+// RoofSearch.h - finds the faces of a drawing of which roofs can be made.
 #pragma once
 
-#include <string_view>
 #include <vector>
 
 #include "teskarlt/drawing/RoofFace.h"
@@ -9,20 +8,9 @@
 
 namespace teskarlt {
 
-struct RoofFaces {
-  std::vector<RoofFace> planar;
-  std::vector<RoofFace> warped;  // no window fits into them
-};
-
 // The faces of the model space in the order of the file: 3D faces, the faces of polyface and polygon meshes,
-// and closed 3D polylines. Planar are those whose warp is at most `tolerance` (drawing units). Left out are
-// vertical faces and the faces of roof windows.
-RoofFaces FindAllRoofFaces(const dxf::Document& drawing, double tolerance);
-
-// The planar ones of them.
-std::vector<RoofFace> FindRoofFaces(const dxf::Document& drawing, double tolerance);
-
-// The faces of that name (RoofFace.h), without regard to case; several where the drawing uses a handle twice.
-std::vector<const RoofFace*> FacesNamed(const std::vector<RoofFace>& faces, std::string_view name);
+// and closed 3D polylines. Left out are vertical faces and those of roof windows. `tolerance` is a millimetre
+// in drawing units.
+std::vector<RoofFace> FindFaces(const dxf::Document& drawing, double tolerance);
 
 }  // namespace teskarlt

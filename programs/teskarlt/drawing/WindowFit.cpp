@@ -90,25 +90,28 @@ bool Overlap(const Outline& a, const Outline& b, double tolerance) {
   return true;
 }
 
-const RoofFace* FaceUnder(const WindowParams& window, const std::vector<RoofFace>& faces, double tolerance) {
-  const auto isUnder = [&](const RoofFace& face) {
+const RoofFace* FaceUnder(const WindowParams& window, const Roofs& roofs) {
+  for (const FaceOver& over : roofs.FacesAt(window.storedPoint.x, window.storedPoint.y)) {
     const auto liesInIt = [&](const RecordPoint& point) {
-      return std::abs(geometry::VecDot(face.normal, Difference(ToVec3(point), face.corners[0]))) <= tolerance;
+      return std::abs(DistanceFrom(over.surface->plane, ToVec3(point))) <=
+             roofs.Tolerance() + over.surface->warp;
     };
-    return std::all_of(std::begin(window.roofPlanePoints), std::end(window.roofPlanePoints), liesInIt) &&
-           HeightOver(face, window.storedPoint.x, window.storedPoint.y).has_value();
-  };
-  const auto found = std::find_if(faces.begin(), faces.end(), isUnder);
-  return found == faces.end() ? nullptr : &*found;
+    const bool isIts =
+        std::all_of(std::begin(window.roofPlanePoints), std::end(window.roofPlanePoints), liesInIt);
+    if (isIts && over.surface->isPlanar) return over.face;
+  }
+  return nullptr;
 }
 
-double CoveredPart(const Outline& outline, const std::vector<RoofFace>& faces, double tolerance) {
+double CoveredPart(const Outline& outline, const Roofs& roofs) {
   const Vec3& origin = outline[0];
   std::vector<geometry::PlanPolygon> polygons;
-  for (const RoofFace& face : faces) {
-    const double first = geometry::VecDot(Difference(origin, face.corners[0]), face.normal);  // most go here
-    if (std::abs(first) <= tolerance && LiesInPlane(outline, face.corners[0], face.normal, tolerance))
-      polygons.push_back(PlanOf(face.corners, origin));
+  for (const RoofFace* face : roofs.FacesNear(PlanBoxOf(outline))) {
+    const RoofSurface* surface = roofs.SurfaceOf(*face);
+    if (surface == nullptr || !surface->isPlanar) continue;
+    const double tolerance = roofs.Tolerance() + surface->warp;
+    if (LiesInPlane(outline, surface->plane.point, surface->plane.normal, tolerance))
+      polygons.push_back(PlanOf(face->corners, origin));
   }
   const geometry::PlanPolygon plan = PlanOf(outline, origin);
   return polygons.empty() ? 0.0 : geometry::CoveredArea(plan, polygons) / geometry::PlanArea(plan);
@@ -139,7 +142,7 @@ std::string WindowFit::Overlapped(const Outline& outline) const {
   for (auto at = places_.lower_bound(least - widest_); at != end; ++at) {
     const Place& place = at->second;
     const bool isNear = place.leastY <= mostY && place.mostY >= leastY;
-    if (isNear && Overlap(outline, place.outline, tolerance_)) numbers.insert(place.number);
+    if (isNear && Overlap(outline, place.outline, roofs_.Tolerance())) numbers.insert(place.number);
   }
   if (numbers.empty()) return {};
   const std::size_t named = std::min(numbers.size(), MOST_NAMED);
@@ -155,8 +158,8 @@ std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Ou
   std::vector<std::string> misfits;
   if (std::string overlapped = Overlapped(outline); !overlapped.empty())
     misfits.push_back(std::move(overlapped));
-  if (faces_.empty() || HasOwnSecondPlane(record, tolerance_)) return misfits;
-  const double covered = CoveredPart(outline, faces_, tolerance_);
+  if (roofs_.IsEmpty() || HasOwnSecondPlane(record, roofs_.Tolerance())) return misfits;
+  const double covered = CoveredPart(outline, roofs_);
   if (covered <= 0.0) {
     misfits.emplace_back("it lies on no roof face");
   } else if (!IsWhole(covered)) {

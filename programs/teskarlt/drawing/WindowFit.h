@@ -9,7 +9,7 @@
 
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/DrawnWindow.h"
-#include "teskarlt/drawing/RoofFace.h"
+#include "teskarlt/drawing/Roofs.h"
 #include "window/Outlines.h"
 
 namespace teskarlt {
@@ -27,24 +27,23 @@ Outline OutlineOf(const brevanta::WindowParams& record);
 // be greater than `tolerance`, and the windows' planes no farther apart (drawing units).
 bool Overlap(const Outline& a, const Outline& b, double tolerance);
 
-// The face on which a window stands by its record; null when the roof is not there any more. `tolerance` is
-// in drawing units; the result is one of `faces`.
-const RoofFace* FaceUnder(const brevanta::WindowParams& window, const std::vector<RoofFace>& faces,
-                          double tolerance);
+// The face on which a window stands by its record; null when the roof is not there any more.
+const RoofFace* FaceUnder(const brevanta::WindowParams& window, const Roofs& roofs);
 
-// How much of the outline, from 0 to 1, lies on those of the faces in whose plane it lies within `tolerance`.
-double CoveredPart(const Outline& outline, const std::vector<RoofFace>& faces, double tolerance);
+// How much of the outline, from 0 to 1, lies on the surfaces in whose plane it lies, within the tolerance and
+// what the surface itself lies off it.
+double CoveredPart(const Outline& outline, const Roofs& roofs);
 
 // True for the part of a window that lies on its roof but for what rounding leaves.
 constexpr bool IsWhole(double part) {
   return part >= 1.0 - 1e-6;
 }
 
-// The faces of a drawing and the windows that stand on them.
+// The roofs of a drawing and the windows that stand on them.
 class WindowFit {
  public:
-  // The faces must outlive the object. `tolerance` is in drawing units.
-  WindowFit(const std::vector<RoofFace>& faces, double tolerance) : faces_(faces), tolerance_(tolerance) {}
+  // The roofs must outlive the object.
+  explicit WindowFit(const Roofs& roofs) : roofs_(roofs) {}
 
   // Adds the windows of the drawing but `except`, as far as their entities show an outline.
   void AddAll(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows,
@@ -52,7 +51,7 @@ class WindowFit {
   void Add(std::int32_t number, const Outline& outline);
 
   // What is wrong with a window that is to come or stands there, for people: "it overlaps window 3". The
-  // faces have no part in it where the drawing has none and where the window has a second plane of its own.
+  // roofs have no part in it where the drawing has none and where the window has a second plane of its own.
   std::vector<std::string> Misfits(const brevanta::WindowParams& record, const Outline& outline) const;
 
  private:
@@ -65,8 +64,7 @@ class WindowFit {
 
   std::string Overlapped(const Outline& outline) const;
 
-  const std::vector<RoofFace>& faces_;
-  double tolerance_;
+  const Roofs& roofs_;
   std::multimap<double, Place> places_;  // by the least x
   double widest_ = 0.0;                  // along x
 };

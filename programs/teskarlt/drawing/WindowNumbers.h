@@ -1,8 +1,10 @@
 // WindowNumbers.h - the numbers that the windows of a drawing carry, and the next one that is free.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
+#include <limits>
 #include <unordered_set>
 
 namespace teskarlt {
@@ -16,18 +18,23 @@ class WindowNumbers {
   }
 
   bool IsTaken(std::int32_t number) const { return taken_.contains(number); }
-  // The lowest number from 1 on that is not taken.
-  std::int32_t Free() const { return free_; }
+  // The number behind the highest: one in a gap was a window's that is gone, and people may still mean that
+  // window by it. Where no number is higher, the lowest from 1 on that is not taken.
+  std::int32_t Free() const {
+    return highest_ < std::numeric_limits<std::int32_t>::max() ? highest_ + 1 : lowestFree_;
+  }
 
   void Take(std::int32_t number) {
     taken_.insert(number);
-    while (taken_.contains(free_))
-      ++free_;
+    highest_ = std::max(highest_, number);
+    while (taken_.contains(lowestFree_))
+      ++lowestFree_;
   }
 
  private:
   std::unordered_set<std::int32_t> taken_;
-  std::int32_t free_ = 1;
+  std::int32_t highest_ = 0;
+  std::int32_t lowestFree_ = 1;
 };
 
 }  // namespace teskarlt

@@ -26,6 +26,7 @@ namespace teskarlt {
 
 namespace {
 
+using brevanta::Outline;
 using brevanta::RecordPoint;
 using brevanta::WindowParams;
 using geometry::Vec3;
@@ -85,6 +86,7 @@ class Reconciliation {
     TakePlane();
     TakePlace();
     TakeDefaults();
+    if (reading_.obstacle.empty()) CheckReturn();
   }
 
  private:
@@ -130,16 +132,19 @@ class Reconciliation {
     }
   }
 
-  bool LiesOnRoof(const RecordPoint (&plane)[3]) const {
-    const Vec3 normal = shape_.Normal();
-    return std::all_of(std::begin(plane), std::end(plane), [&](const RecordPoint& point) {
-      return std::abs(VecDot(normal, Difference(ToVec3(point), shape_.outline[0]))) <= SAME_LENGTH * factor_;
+  // Whether the window lies in the roof plane of its description. That plane is looked at where the window
+  // is: its points may be far away.
+  bool LiesOnRoof() const {
+    const auto roof = brevanta::PlaneThrough(params_.roofPlanePoints);
+    if (!roof || !shape_.keepsDirections) return false;
+    return std::all_of(shape_.outline.begin(), shape_.outline.end(), [&](const Vec3& corner) {
+      return std::abs(VecDot(roof->normal, Difference(corner, roof->corners[0]))) <= SAME_LENGTH * factor_;
     });
   }
 
   // The window lies in its roof's plane. Only a second plane of the user's own leaves the two apart.
   void TakePlane() {
-    if (LiesOnRoof(params_.roofPlanePoints)) {
+    if (LiesOnRoof()) {
       TakePitch();
       if (UsesSecondPlane(params_)) TakeThickness();
       return;
@@ -150,15 +155,39 @@ class Reconciliation {
       return;
     }
     TakePitch();
-    constexpr std::size_t CORNERS[] = {0, 1, 3};
-    for (std::size_t i = 0; i < std::size(CORNERS); ++i) {
-      const Vec3& corner = shape_.outline[CORNERS[i]];
+    const std::array<Vec3, 3> corners = PlaneOfWindow();
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+      const Vec3& corner = corners[i];
       params_.roofPlanePoints[i] = brevanta::ToRecordPoint(corner);
       params_.secondPlanePoints[i] =
           brevanta::ToRecordPoint(brevanta::OnUnderside(corner, shape_.Normal(), params_));
     }
     reading_.recovered.emplace_back("roofPlanePoints");
     reading_.recovered.emplace_back("secondPlanePoints");
+  }
+
+  // Three points of the plane that the window lies in now. Where that one is parallel to the plane of its
+  // description, it is exactly so: on a nearly flat roof the last digits decide which way the window runs.
+  std::array<Vec3, 3> PlaneOfWindow() const {
+    std::array<Vec3, 3> corners = {shape_.outline[0], shape_.outline[1], shape_.outline[3]};
+    const auto described = shape_.keepsDirections ? PlacingPlane(params_) : std::nullopt;
+    if (!described) return corners;
+    const auto heightOver = [&](const Vec3& p) { return PointOver(*described, ToLocal(*described, p)).z; };
+    for (std::size_t i = 1; i < corners.size(); ++i)
+      corners[i].z = corners[0].z + (heightOver(corners[i]) - heightOver(corners[0]));
+    return corners;
+  }
+
+  // A window that would not come back where it stands is not changed.
+  void CheckReturn() {
+    constexpr double RETURNS = 0.01;  // metres; more than all that counts as rounding
+    Outline again = brevanta::DrawnFrame(params_);
+    if (shape_.isMirrored) std::reverse(again.begin(), again.end());
+    for (std::size_t i = 0; i < again.size(); ++i) {
+      if (Distance(again[i], shape_.outline[i]) <= RETURNS * factor_) continue;
+      reading_.obstacle = "it lies as no window is drawn on its roof";
+      return;
+    }
   }
 
   void TakePitch() {
@@ -259,17 +288,17 @@ WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window
     StoreText(drawing, window.*drawn.text, *brevanta::FindRecordField(drawn.field), reading);
   reading.obstacle = EntityMismatch(window);
   if (!reading.obstacle.empty()) return reading;
-  const WindowReading described = reading;
+  WindowReading described = reading;
   try {
-    Reconciliation(ShapeOf(drawing, window), reading).Run();
+    const WindowShape shape = ShapeOf(drawing, window);
+    described.outline = reading.outline = shape.outline;
+    Reconciliation(shape, reading).Run();
   } catch (const Error& error) {
     reading.obstacle = error.what();
   }
   if (reading.obstacle.empty()) return reading;
-  const std::string obstacle = std::move(reading.obstacle);
-  reading = described;
-  reading.obstacle = obstacle;
-  return reading;
+  described.obstacle = std::move(reading.obstacle);
+  return described;
 }
 
 WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow& window) {

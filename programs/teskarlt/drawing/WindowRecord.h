@@ -1,12 +1,14 @@
 // WindowRecord.h - the record with which a window that stands in a drawing can be inserted again.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/dxf/Document.h"
+#include "window/Outlines.h"
 #include "window/SecondPlane.h"
 
 namespace teskarlt {
@@ -15,6 +17,8 @@ namespace teskarlt {
 // leave the description as it was or change parts of it: where the two disagree, the geometry holds.
 struct WindowReading {
   brevanta::WindowParams params{};  // texts as in the drawing's file
+  // Of the frame as it is drawn, drawing coordinates; none where the entities show no window.
+  std::optional<brevanta::Outline> outline;
   bool isMirrored = false;  // since it was inserted; its hinges and its anchor have changed sides then
   // Names of the fields that are not as the description says, or not in it.
   std::vector<std::string> recovered;

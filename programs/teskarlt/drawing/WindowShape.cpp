@@ -8,12 +8,15 @@
 #include <vector>
 
 #include "geometry/Matrix4.h"
+#include "geometry/RoofPlane.h"
+#include "geometry/Trigonometry.h"
 #include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "window/Choices.h"
+#include "window/Outlines.h"
 #include "window/Parts.h"
 
 namespace teskarlt {
@@ -50,8 +53,8 @@ class ShapeReader {
     CheckRectangle(shape.outline);
     shape.length = Distance(shape.outline[0], shape.outline[1]);
     shape.width = Distance(shape.outline[0], shape.outline[3]);
-    shape.isMirrored = Cross(shape.Across(), shape.Up()).z < 0;
     CheckStand(shape);
+    TakeSide(shape);
     TakeBody(shape);
     TakeFrame(shape);
     CheckParts(shape);
@@ -132,10 +135,36 @@ class ShapeReader {
     if (shape.Normal().z < STEEPEST) Fail("it stands upright, as in a wall");
     if (std::abs(across.z) > SAME_DIRECTION) Fail("its lower edge is not horizontal any more");
     if (shape.Up().z < -SAME_DIRECTION) Fail("it stands upside down");
-    const bool isFlat = std::abs(shape.Up().z) <= SAME_DIRECTION;
-    const double alongX = shape.isMirrored ? -across.x : across.x;
-    if (isFlat && (alongX < 0 || std::abs(across.y) > SAME_DIRECTION))
+  }
+
+  // Which way the module would lay the window into the plane of its description, or into its own where it has
+  // left that one. Handedness does not tell a mirrored window: on some nearly flat roofs the module lays
+  // windows the other way round.
+  void TakeSide(WindowShape& shape) const {
+    const Corners& outline = shape.outline;
+    const auto described = brevanta::PlacingPlane(window_.params);
+    shape.keepsDirections = described && LiesAlong(*described, shape);
+    const auto plane =
+        shape.keepsDirections ? described : geometry::RoofPlaneThrough(outline[0], outline[1], outline[3]);
+    if (!plane) Fail("it was squeezed to a line");
+    if (!LiesAlong(*plane, shape))
       Fail("it lies turned on a flat roof, where a window lies along the x axis");
+    shape.isMirrored = geometry::VecDot(shape.Across(), InWorld(*plane, {1, 0, 0})) < 0;
+  }
+
+  static Vec3 InWorld(const geometry::RoofPlane& plane, const Vec3& direction) {
+    Vec3 world{};
+    MatTransformVector(plane.localToWorld, direction, world);
+    return world;
+  }
+
+  // Whether the window's edges run as the module draws them in that plane, mirrored or not.
+  static bool LiesAlong(const geometry::RoofPlane& plane, const WindowShape& shape) {
+    const brevanta::LocalSlope slope = brevanta::SlopeOf(plane);
+    const Vec3 up =
+        InWorld(plane, {0, slope.ySide * geometry::Cosine(slope.angle), geometry::Sine(slope.angle)});
+    const Vec3 across = Cross(InWorld(plane, {1, 0, 0}), shape.Across());
+    return Distance(up, shape.Up()) <= SAME_DIRECTION && geometry::VecLength(across) <= SAME_DIRECTION;
   }
 
   // Skirt and frame, by the walls that stand on the outline.
@@ -214,7 +243,7 @@ Vec3 WindowShape::Up() const {
 
 Vec3 WindowShape::Normal() const {
   const Vec3 normal = Cross(Across(), Up());
-  return Unit(isMirrored ? Scaled(normal, -1.0) : normal);
+  return Unit(normal.z < 0 ? Scaled(normal, -1.0) : normal);
 }
 
 double WindowShape::Pitch() const {

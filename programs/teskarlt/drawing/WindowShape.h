@@ -21,8 +21,9 @@ struct WindowShape {
   std::optional<double> frameDepth;      // none without a body
   std::optional<double> skirtHeight;     // none without symbol and body
   std::optional<double> layerThickness;  // none with a symbol
-  bool isMirrored;
-  bool isLeaning;  // the body is not square to the roof
+  bool keepsDirections;                  // its edges run as the module drew them, by its description
+  bool isMirrored;                       // its width runs against the local x axis of its roof
+  bool isLeaning;                        // the body is not square to the roof
 
   geometry::Vec3 Across() const;  // unit vectors along the lower edge from its start, and up the slope
   geometry::Vec3 Up() const;

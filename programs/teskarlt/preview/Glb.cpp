@@ -24,6 +24,7 @@ constexpr int FLOATS = 5126;  // component type of an accessor
 constexpr int VERTICES = 34962;
 constexpr int LINES = 1;
 constexpr int TRIANGLES = 4;
+constexpr std::size_t MOST_NUMBERS = (1U << 24) - 1;  // that a float tells apart
 
 void PutNumber(std::string& to, std::uint32_t value) {
   for (int shift = 0; shift < 32; shift += 8)
@@ -44,7 +45,7 @@ double Light(std::uint8_t channel) {
   return std::round(value * value * 1000) / 1000;
 }
 
-enum class Kind { Surface, Glass, Edge };
+enum class Kind { Surface, Glass, Edge, Line };
 
 // The primitives of a layer are told apart by these.
 struct Material {
@@ -56,6 +57,15 @@ struct Material {
   }
 };
 
+// Corners of triangles or ends of lines. Those of surfaces and their edges have the number of the surface
+// beside them, from 1 on, as it is exact in a float.
+struct Vertices {
+  std::vector<Vec3> points;
+  std::vector<float> surfaces;
+};
+
+using Primitives = std::map<Material, Vertices>;
+
 class Writer {
  public:
   explicit Writer(const Scene& scene) : scene_(scene) {
@@ -65,16 +75,11 @@ class Writer {
   }
 
   std::string Run() {
-    std::vector<std::map<Material, std::vector<Vec3>>> layers(scene_.layers.size());
-    for (const Surface& surface : scene_.surfaces)
-      AddSurface(surface, layers[surface.layer]);
-    for (const Curve& curve : scene_.curves) {
-      std::vector<Vec3>& lines = layers[curve.layer][MaterialOf(Kind::Edge, Ink(curve.colour))];
-      for (const std::vector<Vec3>& dash : Dashes(curve.points, scene_.patterns[curve.pattern])) {
-        for (std::size_t i = 1; i < dash.size(); ++i)
-          AddLine(dash[i - 1], dash[i], lines);
-      }
-    }
+    std::vector<Primitives> layers(scene_.layers.size());
+    for (std::size_t i = 0; i < scene_.surfaces.size(); ++i)
+      AddSurface(i, layers[scene_.surfaces[i].layer]);
+    for (const Curve& curve : scene_.curves)
+      AddCurve(curve, layers[curve.layer]);
     Begin();
     for (std::size_t i = 0; i < layers.size(); ++i)
       PutLayer(scene_.layers[i], layers[i]);
@@ -82,25 +87,48 @@ class Writer {
   }
 
  private:
+  static bool IsLine(const Material& material) {
+    return material.kind == Kind::Edge || material.kind == Kind::Line;
+  }
+
   static Material MaterialOf(Kind kind, const Colour& colour) {
     return {kind, colour.red, colour.green, colour.blue};
   }
 
-  static void AddLine(const Vec3& a, const Vec3& b, std::vector<Vec3>& lines) {
-    lines.push_back(a);
-    lines.push_back(b);
+  static float NumberOf(std::size_t surface) { return static_cast<float>(surface % MOST_NUMBERS + 1); }
+
+  static void AddLine(const Vec3& a, const Vec3& b, Vertices& lines) {
+    lines.points.push_back(a);
+    lines.points.push_back(b);
   }
 
-  static void AddSurface(const Surface& surface, std::map<Material, std::vector<Vec3>>& layer) {
-    const Kind kind = surface.isGlass ? Kind::Glass : Kind::Surface;
-    std::vector<Vec3>& triangles = layer[MaterialOf(kind, PaintOf(surface))];
-    for (const std::size_t index : Triangles(surface.corners))
-      triangles.push_back(surface.corners[index]);
-    std::vector<Vec3>& edges = layer[MaterialOf(Kind::Edge, EdgeInk(surface.colour))];
-    for (std::size_t k = 0; k < surface.corners.size(); ++k) {
+  static void NumberAll(Vertices& vertices, std::size_t surface) {
+    vertices.surfaces.resize(vertices.points.size(), NumberOf(surface));
+  }
+
+  void AddSurface(std::size_t index, Primitives& layer) const {
+    const Surface& surface = scene_.surfaces[index];
+    const std::vector<Vec3>& corners = surface.corners;
+    Vertices& triangles = layer[MaterialOf(surface.isGlass ? Kind::Glass : Kind::Surface, PaintOf(surface))];
+    for (const std::size_t corner : Triangles(corners))
+      triangles.points.push_back(corners[corner]);
+    NumberAll(triangles, index);
+    Vertices& edges = layer[MaterialOf(Kind::Edge, EdgeInk(surface.colour))];
+    for (std::size_t k = 0; k < corners.size(); ++k) {
       if (k >= HIDDEN_EDGE_BITS || (surface.hiddenEdges >> k & 1U) == 0)
-        AddLine(surface.corners[k], surface.corners[(k + 1) % surface.corners.size()], edges);
+        AddLine(corners[k], corners[(k + 1) % corners.size()], edges);
     }
+    NumberAll(edges, index);
+  }
+
+  void AddCurve(const Curve& curve, Primitives& layer) const {
+    const bool isOutline = curve.outlined != NO_SURFACE;
+    Vertices& lines = layer[MaterialOf(isOutline ? Kind::Edge : Kind::Line, Ink(curve.colour))];
+    for (const std::vector<Vec3>& dash : Dashes(curve.points, scene_.patterns[curve.pattern])) {
+      for (std::size_t i = 1; i < dash.size(); ++i)
+        AddLine(dash[i - 1], dash[i], lines);
+    }
+    if (isOutline) NumberAll(lines, curve.outlined);
   }
 
   // Drawing to model: metres from the origin, y up.
@@ -139,9 +167,9 @@ class Writer {
     if (!isNew) return found->second;
     const bool isGlass = material.kind == Kind::Glass;
     json_["materials"].push_back(
-        {{"name", material.kind == Kind::Edge ? "line"
-                  : isGlass                   ? "glass"
-                                              : "surface"},
+        {{"name", IsLine(material) ? "line"
+                  : isGlass        ? "glass"
+                                   : "surface"},
          {"pbrMetallicRoughness",
           {{"baseColorFactor", {Light(material.red), Light(material.green), Light(material.blue), 1.0}},
            {"metallicFactor", 0.0},
@@ -150,13 +178,15 @@ class Writer {
     return found->second;
   }
 
-  void PutLayer(const SceneLayer& layer, const std::map<Material, std::vector<Vec3>>& content) {
+  void PutLayer(const SceneLayer& layer, const Primitives& content) {
     Json primitives = Json::array();
-    for (const auto& [material, points] : content) {
-      if (points.empty()) continue;
-      primitives.push_back({{"attributes", {{"POSITION", PutPoints(points)}}},
+    for (const auto& [material, vertices] : content) {
+      if (vertices.points.empty()) continue;
+      Json attributes = {{"POSITION", PutPoints(vertices.points)}};
+      if (!vertices.surfaces.empty()) attributes["_SURFACE"] = PutNumbers(vertices.surfaces);
+      primitives.push_back({{"attributes", attributes},
                             {"material", MaterialIndex(material)},
-                            {"mode", material.kind == Kind::Edge ? LINES : TRIANGLES}});
+                            {"mode", IsLine(material) ? LINES : TRIANGLES}});
     }
     if (primitives.empty()) return;
     json_["scenes"][0]["nodes"].push_back(json_["nodes"].size());
@@ -175,17 +205,32 @@ class Writer {
       const float coordinates[3] = {static_cast<float>(p.x), static_cast<float>(p.y),
                                     static_cast<float>(p.z)};
       for (const float coordinate : coordinates)
-        PutNumber(binary_, std::bit_cast<std::uint32_t>(coordinate));
+        PutFloat(coordinate);
       box.Add({coordinates[0], coordinates[1], coordinates[2]});
     }
+    const std::size_t accessor = PutAccessor(begin, points.size(), "VEC3");
+    json_["accessors"][accessor]["min"] = {box.low.x, box.low.y, box.low.z};
+    json_["accessors"][accessor]["max"] = {box.high.x, box.high.y, box.high.z};
+    return accessor;
+  }
+
+  std::size_t PutNumbers(const std::vector<float>& numbers) {
+    const std::size_t begin = binary_.size();
+    for (const float number : numbers)
+      PutFloat(number);
+    return PutAccessor(begin, numbers.size(), "SCALAR");
+  }
+
+  void PutFloat(float value) { PutNumber(binary_, std::bit_cast<std::uint32_t>(value)); }
+
+  // Adds an accessor of so many values from `begin` to the end of the bytes, and gives its index.
+  std::size_t PutAccessor(std::size_t begin, std::size_t count, const char* type) {
     json_["bufferViews"].push_back(
         {{"buffer", 0}, {"byteOffset", begin}, {"byteLength", binary_.size() - begin}, {"target", VERTICES}});
     json_["accessors"].push_back({{"bufferView", json_["bufferViews"].size() - 1},
                                   {"componentType", FLOATS},
-                                  {"count", points.size()},
-                                  {"type", "VEC3"},
-                                  {"min", {box.low.x, box.low.y, box.low.z}},
-                                  {"max", {box.high.x, box.high.y, box.high.z}}});
+                                  {"count", count},
+                                  {"type", type}});
     return json_["accessors"].size() - 1;
   }
 

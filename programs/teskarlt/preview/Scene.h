@@ -29,6 +29,7 @@ struct Box {
 };
 
 constexpr int NO_WINDOW = -1;
+constexpr std::size_t NO_SURFACE = std::numeric_limits<std::size_t>::max();
 
 constexpr std::size_t HIDDEN_EDGE_BITS = 32;
 
@@ -50,6 +51,8 @@ struct Curve {
   Colour colour;
   std::size_t pattern = 0;  // index in Scene::patterns
   int window = NO_WINDOW;
+  std::size_t outlined =
+      NO_SURFACE;  // index in Scene::surfaces of the one whose corners it connects, in their order
 };
 
 struct SceneLayer {

@@ -124,7 +124,8 @@ class Reader {
   std::size_t PatternIndex(const std::string& linetype, double scale);
   void AddSurfaces(const std::vector<FaceCorners>& faces, const dxf::TagList& entity, const Look& look,
                    const Placement& placement);
-  void AddCurve(CurvePoints points, const dxf::TagList& entity, const Look& look, const Placement& placement);
+  void AddCurve(CurvePoints points, const dxf::TagList& entity, const Look& look, const Placement& placement,
+                std::size_t outlined);
   void Show(std::vector<Vec3>& points, const Placement& placement);
 
   const dxf::Document& drawing_;
@@ -221,11 +222,12 @@ void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const dxf::TagLi
 }
 
 void Reader::AddCurve(CurvePoints points, const dxf::TagList& entity, const Look& look,
-                      const Placement& placement) {
+                      const Placement& placement, std::size_t outlined) {
   if (points.size() < 2) return;
   const double scale = std::abs(entity.Real(dxf::CODE_LINETYPE_SCALE, 1.0));
-  Curve curve{std::move(points), LayerIndex(look.layer), look.colour, PatternIndex(look.linetype, scale),
-              placement.window};
+  Curve curve{std::move(points), LayerIndex(look.layer),
+              look.colour,       PatternIndex(look.linetype, scale),
+              placement.window,  outlined};
   Show(curve.points, placement);
   scene_.curves.push_back(std::move(curve));
 }
@@ -273,12 +275,15 @@ void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
     EntityFaces faces = FacesOf(drawing_, entity);
     std::optional<CurvePoints> points = PointsOf(lists);
     if (faces.faces.empty() && !points) ++scene_.leftOut[std::string(entity.type)];
-    if (points) {  // a closed polyline draws its edges itself
-      for (FaceCorners& face : faces.faces)
-        face.hiddenEdges = ~0U;
+    if (!points) {
+      AddSurfaces(faces.faces, own, look, placement);
+      return;
     }
+    for (FaceCorners& face : faces.faces)  // a closed polyline draws its edges itself
+      face.hiddenEdges = ~0U;
+    const std::size_t next = scene_.surfaces.size();
     AddSurfaces(faces.faces, own, look, placement);
-    if (points) AddCurve(*std::move(points), own, look, placement);
+    AddCurve(*std::move(points), own, look, placement, next < scene_.surfaces.size() ? next : NO_SURFACE);
   }
 }
 

@@ -48,18 +48,26 @@ class Gatherer {
       if (k < HIDDEN_EDGE_BITS && (surface.hiddenEdges >> k & 1U) != 0) continue;
       const Vec3& from = corners[k];
       const Vec3& to = corners[(k + 1) % corners.size()];
-      const Vec3 inwards = geometry::Cross(normal, geometry::Difference(to, from));
-      const double length = geometry::VecLength(inwards);
       const VisibleLine line = {
           view_.Project(from), view_.Project(to), surface.colour, surface.layer, 0, 0, true};
-      const Vec3 shift = view_.Project(geometry::Scaled(inwards, length > 0 ? INSET * size_ / length : 0));
-      if (!IsOutside(line.a, line.b))
-        AddParts(line, hidden_.Visible(geometry::Sum(line.a, shift), geometry::Sum(line.b, shift)));
+      if (!IsOutside(line.a, line.b)) AddParts(line, VisibleInside(line, from, to, normal));
     }
+  }
+
+  using Parts = std::vector<std::pair<double, double>>;
+
+  // The visible parts of a line along the rim of a surface with that normal, asked for a little inside of it.
+  Parts VisibleInside(const VisibleLine& line, const Vec3& from, const Vec3& to, const Vec3& normal) {
+    const Vec3 inwards = geometry::Cross(normal, geometry::Difference(to, from));
+    const double length = geometry::VecLength(inwards);
+    const Vec3 shift = view_.Project(geometry::Scaled(inwards, length > 0 ? INSET * size_ / length : 0));
+    return hidden_.Visible(geometry::Sum(line.a, shift), geometry::Sum(line.b, shift));
   }
 
   void AddCurve(const Curve& curve) {
     double offset = 0;
+    const Vec3 normal =
+        curve.outlined == NO_SURFACE ? Vec3{0, 0, 0} : NormalOf(scene_.surfaces[curve.outlined].corners);
     for (std::size_t i = 1; i < curve.points.size(); ++i) {
       const VisibleLine line = {view_.Project(curve.points[i - 1]),
                                 view_.Project(curve.points[i]),
@@ -70,11 +78,11 @@ class Gatherer {
                                 false};
       offset += DistanceInPicture(line.a, line.b);
       if (IsOutside(line.a, line.b)) continue;
-      AddParts(line, view_.IsPlan() ? Parts{{0, 1}} : hidden_.Visible(line.a, line.b));
+      AddParts(line, view_.IsPlan() ? Parts{{0, 1}}
+                                    : VisibleInside(line, curve.points[i - 1], curve.points[i], normal));
     }
   }
 
-  using Parts = std::vector<std::pair<double, double>>;
   void AddParts(const VisibleLine& line, const Parts& parts) {
     const double shortest = SHORTEST * size_;
     for (const auto& [from, to] : parts) {

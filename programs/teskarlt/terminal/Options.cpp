@@ -1,6 +1,7 @@
 // Options.cpp - the command line by way of CLI11, which no other source includes: it takes long to compile.
 #include "teskarlt/terminal/Options.h"
 
+#include <limits>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -53,6 +54,11 @@ Option& Option::Within(int least, int most) {
   return *this;
 }
 
+Option& Option::NotNegative() {
+  option_->check(CLI::Range(0.0, std::numeric_limits<double>::max()).description(""));
+  return *this;
+}
+
 Option& Option::ShowDefault() {
   option_->capture_default_str();
   return *this;
@@ -89,6 +95,10 @@ Option Subcommand::Value(const char* name, std::string& value, const char* help)
 }
 
 Option Subcommand::Value(const char* name, std::optional<int>& value, const char* help) {
+  return Option(app_->add_option(name, value, help));
+}
+
+Option Subcommand::Value(const char* name, double& value, const char* help) {
   return Option(app_->add_option(name, value, help));
 }
 

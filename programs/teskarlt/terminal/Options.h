@@ -39,6 +39,7 @@ class Option {
   // The same without regard to case; the value becomes the word as it stands in the list.
   Option& OneOfAnyCase(const std::vector<std::string>& words);
   Option& Within(int least, int most);
+  Option& NotNegative();  // nor infinite nor no number
   // The value that it has before the parsing stands in the help.
   Option& ShowDefault();
   // A command line that has both options, or this one without the other, is refused.
@@ -64,6 +65,7 @@ class Subcommand {
   Option Arguments(const char* name, std::vector<int>& values, const char* help);
   Option Value(const char* name, std::string& value, const char* help);
   Option Value(const char* name, std::optional<int>& value, const char* help);
+  Option Value(const char* name, double& value, const char* help);
   // Takes `count` values behind its name.
   Option Values(const char* name, int count, std::vector<std::string>& values, const char* help);
   // May stand several times, with one value each.

@@ -5,6 +5,8 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/terminal/Messages.h"
+
 namespace teskarlt {
 
 namespace {
@@ -24,6 +26,8 @@ void PrintJson(const Json& json) {
 Table::Table(std::vector<std::string> headings) : rows_{std::move(headings)} {}
 
 void Table::Add(std::vector<std::string> row) {
+  for (std::string& text : row)
+    text = OneLine(text);
   rows_.push_back(std::move(row));
 }
 

@@ -17,7 +17,8 @@ constexpr const char* JSON_HELP = "print JSON, for programs";
 // To standard output.
 void PrintJson(const Json& json);
 
-// A table in aligned columns for people; the texts are UTF-8.
+// A table in aligned columns for people; the texts are UTF-8. Line breaks and other control characters of
+// theirs become blanks.
 class Table {
  public:
   explicit Table(std::vector<std::string> headings);

@@ -10,6 +10,7 @@ namespace teskarlt {
 PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofFace* face) {
   PlacedWindow window;
   window.record = *outcome.confirmed;
+  window.outline = OutlineOf(window.record);
   if (face != nullptr) window.face = FaceName{face->name, face->layer};
   window.faces = outcome.faces;
   window.lines = outcome.lines;

@@ -9,6 +9,7 @@
 
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/RoofFace.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/modules/ModuleSession.h"
 
 namespace teskarlt {
@@ -20,6 +21,7 @@ struct FaceName {
 
 struct PlacedWindow {
   brevanta::WindowParams record{};  // as the dialog confirmed it
+  Outline outline{};                // of the frame
   std::optional<FaceName> face;     // none where the user gave the plane
   std::size_t faces = 0;            // entities that came into the drawing
   std::size_t lines = 0;

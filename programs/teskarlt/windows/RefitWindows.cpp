@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 #include <set>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -25,28 +26,35 @@ namespace {
 using brevanta::RecordPoint;
 
 // A floor is no roof for a window that had a pitch, nor is a roof that falls the other way.
-bool CanFollow(const RoofFace& face, const geometry::Vec3& normal) {
+bool CanFollow(const Plane& plane, const geometry::Vec3& normal) {
   constexpr double FLAT = 1.0;  // degrees
   if (std::hypot(normal.x, normal.y) <= geometry::Sine(geometry::DegToRad(FLAT))) return true;
-  return Pitch(face) > FLAT && face.normal.x * normal.x + face.normal.y * normal.y > 0.0;
+  return Pitch(plane) > FLAT && plane.normal.x * normal.x + plane.normal.y * normal.y > 0.0;
 }
 
-// The face over the window's place that is nearest to it in height, of those that a roof with that normal can
-// have become; null when there is none.
-const RoofFace* FaceOver(const RecordPoint& place, const geometry::Vec3& normal,
-                         const std::vector<RoofFace>& faces) {
-  const RoofFace* nearest = nullptr;
-  double least = 0.0;
-  for (const RoofFace& face : faces) {
-    const std::optional<double> height = HeightOver(face, place.x, place.y);
-    if (!height || !CanFollow(face, normal)) continue;
-    const double distance = std::abs(*height - place.z);
-    if (nearest != nullptr && distance >= least) continue;
-    nearest = &face;
-    least = distance;
+// A face over or under a window's place.
+struct NearFace {
+  const RoofFace* face = nullptr;  // null when there is none
+  double height = 0.0;             // over the place, in drawing units; negative under it
+};
+
+// Of the faces that a roof with that normal can have become, the one nearest in height.
+NearFace NearestFace(const RecordPoint& place, const geometry::Vec3& normal, const Roofs& roofs) {
+  NearFace nearest;
+  for (const FaceOver& over : roofs.FacesAt(place.x, place.y)) {
+    if (!over.surface->isPlanar || !CanFollow(over.surface->plane, normal)) continue;
+    const double difference = over.height - place.z;
+    if (nearest.face == nullptr || std::abs(difference) < std::abs(nearest.height))
+      nearest = {over.face, difference};
   }
   return nearest;
 }
+
+// What becomes of a window: it goes onto the face; or it stays, for a reason or because it fits.
+struct Verdict {
+  const RoofFace* face = nullptr;
+  std::string reasonToStay;
+};
 
 class Refitter {
  public:
@@ -81,7 +89,11 @@ class Refitter {
   void Refit(const DrawnWindow& window) {
     const WindowReading reading = ReadWindow(work_.drawing, window);
     if (!reading.obstacle.empty()) throw Error("it cannot be changed: " + reading.obstacle);
-    const RoofFace* const face = NewFace(window, reading);
+    const auto [face, reasonToStay] = VerdictOn(window, reading);
+    if (!reasonToStay.empty()) {
+      report_.staying.push_back({window.number, "it stays where it is: " + reasonToStay});
+      return;
+    }
     if (face == nullptr) {
       ++report_.fitting;
       return;
@@ -94,20 +106,28 @@ class Refitter {
     moved_.insert(&window);
   }
 
-  // The face onto which a window must go; null for one that lies on its roof. Throws Error for a window that
-  // can neither stay nor go.
-  const RoofFace* NewFace(const DrawnWindow& window, const WindowReading& reading) const {
-    if (HasOwnSecondPlane(reading.params, work_.tolerance)) {
-      if (FaceUnder(reading.params, work_.faces, work_.tolerance) != nullptr) return nullptr;
-      throw Error("its roof was changed, and its second plane is not the roof's underside");
-    }
+  // Throws Error for a window that can neither stay nor go.
+  Verdict VerdictOn(const DrawnWindow& window, const WindowReading& reading) const {
+    const bool hasOwnSecondPlane = HasOwnSecondPlane(reading.params, work_.tolerance);
+    if (hasOwnSecondPlane && FaceUnder(reading.params, work_.roofs) != nullptr) return {};
     const WindowShape shape = ShapeOf(work_.drawing, window);
-    const double covered = CoveredPart(shape.outline, work_.faces, work_.tolerance);
-    if (IsWhole(covered)) return nullptr;
+    const double covered = hasOwnSecondPlane ? 0.0 : CoveredPart(shape.outline, work_.roofs);
+    if (IsWhole(covered)) return {};
     if (covered > 0.0) throw Error("a part of it lies outside its roof face; move it or make it smaller");
-    const RoofFace* const face = FaceOver(reading.params.storedPoint, shape.Normal(), work_.faces);
-    if (face == nullptr) throw Error("no roof face that falls its way lies over or under its place");
-    return face;
+    const NearFace nearest = NearestFace(reading.params.storedPoint, shape.Normal(), work_.roofs);
+    if (std::string reason = ReasonToStay(nearest); !reason.empty()) return {nullptr, std::move(reason)};
+    if (hasOwnSecondPlane)
+      throw Error("its roof was changed, and its second plane is not the roof's underside");
+    return {nearest.face, {}};
+  }
+
+  // Empty where the face can have been the window's roof.
+  std::string ReasonToStay(const NearFace& nearest) const {
+    if (nearest.face == nullptr) return "no roof face that falls its way lies over or under its place";
+    const double metres = nearest.height / work_.unit.perMetre;
+    if (std::abs(metres) <= order_.reach) return {};
+    return fmt::format("the nearest roof face, {}, lies {:.3f} m {} it, and --reach is {:g} m",
+                       nearest.face->name, std::abs(metres), metres > 0 ? "over" : "under", order_.reach);
   }
 
   WindowRequest RequestFor(const DrawnWindow& window, const WindowReading& reading,
@@ -120,13 +140,13 @@ class Refitter {
     request.point = {reading.params.storedPoint.x, reading.params.storedPoint.y};
     if (order_.keeps == RefitKeeps::Height)
       request.answers["lowerEdgeHeight"] = fmt::format("{}", reading.params.lowerEdgeHeight);
-    PutRoof(OnFace(face, work_.faces, work_.tolerance), request);
+    PutRoof(OnFace(face, work_.roofs), request);
     return request;
   }
 
   // What the windows overlap in their new places.
   void FindMisfits() {
-    WindowFit fit(work_.faces, work_.tolerance);
+    WindowFit fit(work_.roofs);
     for (const DrawnWindow& window : work_.windows) {
       const std::optional<Outline> outline =
           moved_.contains(&window) ? std::nullopt : DrawnOutline(work_.drawing, window);

@@ -15,10 +15,14 @@ namespace teskarlt {
 // What stays of a window's place: its point in the plan, or the height of its lower edge.
 enum class RefitKeeps { Plan, Height };
 
+// About a storey: a face that is farther from a window was never its roof.
+constexpr double REFIT_REACH = 3.0;  // metres
+
 struct RefitOrder {
   std::vector<int> numbers;  // of the windows; none: all
   RefitKeeps keeps = RefitKeeps::Plan;
-  bool isLockedToo = false;  // also windows on locked and frozen layers
+  bool isLockedToo = false;    // also windows on locked and frozen layers
+  double reach = REFIT_REACH;  // how far over or under a window its roof may have come, metres
 };
 
 // A window that was put onto another face.
@@ -33,20 +37,22 @@ struct Refitted {
 double Shift(const Refitted& window);
 double Rise(const Refitted& window);
 
-// A window that cannot be put back, and why.
-struct RefitProblem {
+// A window that is not put back, and why.
+struct NotRefitted {
   int number;
   std::string message;
 };
 
 struct RefitReport {
   std::vector<Refitted> refitted;
-  std::vector<RefitProblem> problems;
-  std::size_t fitting = 0;  // windows that lie on a roof face and stay as they are
+  std::vector<NotRefitted> staying;   // on planes of their own: no roof face is within reach
+  std::vector<NotRefitted> problems;  // that should be put back and cannot be
+  std::size_t fitting = 0;            // windows that lie on a roof face and stay as they are
 };
 
 // Inserts each window of the order whose roof face was moved, or has another pitch since, again on the face
-// that now lies over or under its place; of several, on the one nearest in height. Throws Error when a number
+// that now lies over or under its place; of several, on the one nearest in height. A window without such a
+// face within reach stays where it is. Throws Error when a number
 // names no window, or several.
 RefitReport RefitWindows(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
                          const RefitOrder& order);

@@ -2,13 +2,14 @@
 #include "teskarlt/windows/RoofChoice.h"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 #include <string_view>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/drawing/RoofSearch.h"
 
 namespace teskarlt {
 
@@ -21,49 +22,98 @@ bool SetsPlane(const WindowOrder& order) {
                      [](const FieldSetting& setting) { return setting.field == PLANE_FIELD; });
 }
 
-// The rectangle in the plan around the faces, of which there is at least one, for people:
-// "x 0 to 8000, y 0 to 6000".
-std::string PlanExtents(const std::vector<RoofFace>& faces) {
-  geometry::Vec3 low = faces[0].corners[0];
-  geometry::Vec3 high = low;
-  for (const RoofFace& face : faces) {
-    for (const geometry::Vec3& corner : face.corners) {
-      low = {std::min(low.x, corner.x), std::min(low.y, corner.y), 0};
-      high = {std::max(high.x, corner.x), std::max(high.y, corner.y), 0};
-    }
-  }
-  return fmt::format("x {:.12g} to {:.12g}, y {:.12g} to {:.12g}", low.x, high.x, low.y, high.y);
+bool TakesWindow(const RoofFace& face, const Roofs& roofs) {
+  const RoofSurface* surface = roofs.SurfaceOf(face);
+  return surface != nullptr && surface->isPlanar;
 }
 
-const RoofFace& FaceNamed(const std::string& name, const std::string& file,
-                          const std::vector<RoofFace>& faces) {
-  const std::vector<const RoofFace*> named = FacesNamed(faces, name);
-  if (named.size() == 1) return *named.front();
+// The rectangle in the plan around the faces that take a window, for people: "x 0 to 8000, y 0 to 6000".
+std::string PlanExtents(const Roofs& roofs) {
+  std::vector<geometry::Vec3> corners;
+  for (const RoofFace& face : roofs.Faces()) {
+    if (TakesWindow(face, roofs)) corners.insert(corners.end(), face.corners.begin(), face.corners.end());
+  }
+  const PlanBox box = PlanBoxOf(corners);
+  return fmt::format("x {:.12g} to {:.12g}, y {:.12g} to {:.12g}", box.lowX, box.highX, box.lowY, box.highY);
+}
+
+// Why a window cannot go onto a face, for people.
+std::string Hindrance(const RoofFace& face, const Roofs& roofs) {
+  if (IsSteep(face)) return fmt::format("is {:.1f} degrees steep, and no roof above 85", Pitch(face.plane));
+  return fmt::format("is not planar: a corner lies {:.0f} mm off its plane",
+                     std::ceil(Warp(face) / roofs.Tolerance()));
+}
+
+constexpr const char* PLANE_HINT = "--roof X,Y,Z X,Y,Z X,Y,Z gives a plane in its place";
+
+const RoofFace& FaceNamed(const std::string& name, const std::string& file, const Roofs& roofs) {
+  const std::vector<const RoofFace*> named = roofs.FacesNamed(name);
+  if (named.empty()) {
+    throw Error(fmt::format("--roof-face {}: {} has no roof face of that name; teskarlt roofs lists them",
+                            name, file),
+                {.value = name});
+  }
   if (named.size() > 1) {
     throw Error(fmt::format("--roof-face {}: {} faces of {} have that handle; leave it out, and --at chooses",
                             name, named.size(), file),
                 {.value = name});
   }
+  const RoofFace& face = *named.front();
+  if (TakesWindow(face, roofs)) return face;
   throw Error(
-      fmt::format("--roof-face {}: {} has no roof face of that name; teskarlt roofs lists them", name, file),
+      fmt::format("--roof-face {}: that face of {} {}; {}", name, file, Hindrance(face, roofs), PLANE_HINT),
       {.value = name});
 }
 
-const RoofFace& FaceAt(const PlanPoint& point, const std::string& file, const std::vector<RoofFace>& faces) {
-  const RoofFace* over = UppermostOver(faces, point.x, point.y);
-  if (over != nullptr) return *over;
-  if (faces.empty()) throw Error(fmt::format("{} holds no planar face that can take a roof window", file));
+// The uppermost face, or none: what lies under an uneven one is the ceiling of its room, and no roof.
+const RoofFace& FaceAt(const PlanPoint& point, const std::string& file, const Roofs& roofs) {
+  const std::optional<FaceOver> over = roofs.UppermostAt(point.x, point.y);
+  if (over && over->surface->isPlanar) return *over->face;
+  if (over) {
+    throw Error(
+        fmt::format(
+            "--at {}: the uppermost face over that point, {} of layer {}, {}; --roof-face names another "
+            "one, and {}",
+            point.text, over->face->name, over->face->layer, Hindrance(*over->face, roofs), PLANE_HINT),
+        {.value = point.text});
+  }
+  if (roofs.IsEmpty()) throw Error(fmt::format("{} holds no planar face that can take a roof window", file));
   throw Error(fmt::format("--at {}: no roof face lies over that point; the roofs lie within {}", point.text,
-                          PlanExtents(faces)),
+                          PlanExtents(roofs)),
               {.value = point.text});
+}
+
+// Whether the plane of the face itself is that of its whole surface.
+bool SpansSurface(const RoofFace& face, const RoofSurface& surface, const Roofs& roofs) {
+  constexpr double EXACT = 0.1;  // millimetres
+  return !IsNarrow(face, roofs.Tolerance()) &&
+         std::all_of(surface.faces.begin(), surface.faces.end(), [&](std::size_t other) {
+           return Warp(roofs.Faces()[other], face.plane) <= EXACT * roofs.Tolerance();
+         });
+}
+
+// The face's corners, straight up or down in the plane.
+std::vector<geometry::Vec3> CornersIn(const Plane& plane, const RoofFace& face) {
+  std::vector<geometry::Vec3> corners;
+  corners.reserve(face.corners.size());
+  for (const geometry::Vec3& corner : face.corners)
+    corners.push_back(Plumb(plane, corner));
+  return corners;
 }
 
 }  // namespace
 
-RoofChoice OnFace(const RoofFace& face, const std::vector<RoofFace>& faces, double tolerance) {
-  RoofChoice roof{.face = &face, .faces = {face.corners}, .isBounded = true};
-  for (const RoofFace* other : CoplanarWith(face, faces, tolerance))
-    roof.faces.push_back(other->corners);
+RoofChoice OnFace(const RoofFace& face, const Roofs& roofs) {
+  const RoofSurface& surface = *roofs.SurfaceOf(face);
+  RoofChoice roof{.face = &face, .isBounded = true};
+  // The first face spans the plane for the dialog.
+  const bool isExact = SpansSurface(face, surface, roofs);
+  const RoofFace& first = isExact ? face : roofs.Faces()[surface.faces.front()];
+  roof.faces.push_back(isExact ? face.corners : CornersIn(surface.plane, first));
+  for (const std::size_t number : surface.faces) {
+    const RoofFace& other = roofs.Faces()[number];
+    if (&other != &first) roof.faces.push_back(other.corners);
+  }
   return roof;
 }
 
@@ -73,17 +123,15 @@ RoofChoice OnPlane(std::vector<geometry::Vec3> points) {
   return roof;
 }
 
-RoofChoice ChooseRoof(const WindowOrder& order, const dxf::Document& drawing,
-                      const std::vector<RoofFace>& faces, double tolerance) {
+RoofChoice ChooseRoof(const WindowOrder& order, const std::string& file, const Roofs& roofs) {
   const bool setsPlane = SetsPlane(order);
   if (setsPlane && (!order.roof.empty() || !order.roofFace.empty()))
     throw Error("--set roofPlanePoints gives the roof already; leave --roof and --roof-face out");
   if (!order.roof.empty()) return OnPlane(order.roof);
   if (setsPlane) return {};
-  if (!order.roofFace.empty())
-    return OnFace(FaceNamed(order.roofFace, drawing.FileName(), faces), faces, tolerance);
+  if (!order.roofFace.empty()) return OnFace(FaceNamed(order.roofFace, file, roofs), roofs);
   if (!order.at) throw Error("say where the window goes with --at X,Y");
-  return OnFace(FaceAt(*order.at, drawing.FileName(), faces), faces, tolerance);
+  return OnFace(FaceAt(*order.at, file, roofs), roofs);
 }
 
 bool NamesPlace(const WindowOrder& order) {

@@ -1,11 +1,11 @@
 // RoofChoice.h - the roof onto which a window goes.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "geometry/Vec3.h"
-#include "teskarlt/drawing/RoofFace.h"
-#include "teskarlt/dxf/Document.h"
+#include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/modules/ModuleSession.h"
 #include "teskarlt/windows/WindowOrder.h"
 
@@ -18,17 +18,17 @@ struct RoofChoice {
   bool isBounded = false;
 };
 
-// The face and those that continue its plane within `tolerance` (drawing units); the window stays inside.
-RoofChoice OnFace(const RoofFace& face, const std::vector<RoofFace>& faces, double tolerance);
+// The surface of the face, which must be one that takes a window; the window stays inside it. It lies in the
+// face's own plane where that is the surface's too, else in the best fit.
+RoofChoice OnFace(const RoofFace& face, const Roofs& roofs);
 
 // The plane without bounds through three points.
 RoofChoice OnPlane(std::vector<geometry::Vec3> points);
 
 // What the order says of the roof: its plane, the face that it names, or the uppermost at its point. Empty
 // where the order sets the field of the roof's points, which the dialog reads itself. Throws Error, naming
-// the option, when there is no such face, several, or too much is said.
-RoofChoice ChooseRoof(const WindowOrder& order, const dxf::Document& drawing,
-                      const std::vector<RoofFace>& faces, double tolerance);
+// the option, when there is no such face in the file, several, one that takes no window, or too much is said.
+RoofChoice ChooseRoof(const WindowOrder& order, const std::string& file, const Roofs& roofs);
 
 // Whether the order says on which roof the window goes, or where on it.
 bool NamesPlace(const WindowOrder& order);

@@ -1,6 +1,10 @@
 // WindowEditor.cpp - changes a window of a drawing.
 #include "teskarlt/windows/WindowEditor.h"
 
+#include <algorithm>
+#include <array>
+#include <optional>
+
 #include <fmt/format.h>
 
 #include "inc/DialogServices.h"
@@ -21,17 +25,17 @@ using brevanta::WindowParams;
 
 // The window stays where it is, on the face there, or on its own plane where that face is gone.
 RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
-  const RoofFace* face = FaceUnder(window, work.faces, work.tolerance);
+  const RoofFace* face = FaceUnder(window, work.roofs);
   if (face == nullptr) {
     std::vector<geometry::Vec3> plane;
     for (const RecordPoint& p : window.roofPlanePoints)
       plane.push_back(brevanta::ToVec3(p));
     return OnPlane(plane);
   }
-  RoofChoice roof = OnFace(*face, work.faces, work.tolerance);
+  RoofChoice roof = OnFace(*face, work.roofs);
   // What stuck out before may do so still.
-  roof.isBounded = HasOwnSecondPlane(window, work.tolerance) ||
-                   IsWhole(CoveredPart(OutlineOf(window), work.faces, work.tolerance));
+  roof.isBounded =
+      HasOwnSecondPlane(window, work.tolerance) || IsWhole(CoveredPart(OutlineOf(window), work.roofs));
   return roof;
 }
 
@@ -43,6 +47,16 @@ void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers
     points += fmt::format("{},{},{}{}", p.x, p.y, p.z, brevanta::POINT_DELIMITER);
   points.pop_back();
   answers.emplace("secondPlanePoints", points);
+}
+
+// The picked point: where the window is to stand, or where it stands; none where the order says it in the
+// roof's own frame.
+std::optional<std::array<double, 2>> PointOf(const WindowOrder& order, const WindowParams& window) {
+  if (order.at) return std::array{order.at->x, order.at->y};
+  const bool setsPoint = std::any_of(order.settings.begin(), order.settings.end(),
+                                     [](const auto& setting) { return setting.field == "insertionPoint"; });
+  if (setsPoint) return std::nullopt;
+  return std::array{window.storedPoint.x, window.storedPoint.y};
 }
 
 }  // namespace
@@ -65,19 +79,18 @@ PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
   request.replaced = window_.entities;
   request.numbersInUse = &work_.numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf);
-  request.point = order.at ? std::array{order.at->x, order.at->y}
-                           : std::array{record.storedPoint.x, record.storedPoint.y};
+  request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
   if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
   const RoofChoice roof =
-      moves ? ChooseRoof(order, work_.drawing, work_.faces, work_.tolerance) : RoofUnder(record, work_);
+      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(record, work_);
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
   PlacedWindow edited = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
-  WindowFit fit(work_.faces, work_.tolerance);
+  WindowFit fit(work_.roofs);
   fit.AddAll(work_.drawing, work_.windows, &window_);
-  edited.misfits = fit.Misfits(edited.record, OutlineOf(edited.record));
+  edited.misfits = fit.Misfits(edited.record, edited.outline);
   if (order.isStrict && !edited.misfits.empty()) {
     work_.drawing.Rollback(before);
     RefuseMisfits(edited.misfits);

@@ -6,7 +6,7 @@
 namespace teskarlt {
 
 WindowInserter::WindowInserter(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit)
-    : module_(module), work_(drawing, unit), numbers_(work_.numbers), fit_(work_.faces, work_.tolerance) {
+    : module_(module), work_(drawing, unit), numbers_(work_.numbers), fit_(work_.roofs) {
   fit_.AddAll(drawing, work_.windows);
 }
 
@@ -16,18 +16,17 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
   request.numbersInUse = &numbers_;
   request.answers = AnswersOf(order, work_.drawing, shelf_);
   if (order.at) request.point = {order.at->x, order.at->y};
-  const RoofChoice roof = ChooseRoof(order, work_.drawing, work_.faces, work_.tolerance);
+  const RoofChoice roof = ChooseRoof(order, work_.drawing.FileName(), work_.roofs);
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
   PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof.face);
-  const Outline outline = OutlineOf(window.record);
-  window.misfits = fit_.Misfits(window.record, outline);
+  window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) {
     work_.drawing.Rollback(before);
     RefuseMisfits(window.misfits);
   }
-  fit_.Add(window.record.markerValue, outline);
+  fit_.Add(window.record.markerValue, window.outline);
   numbers_.Take(window.record.markerValue);
   return window;
 }

@@ -4,28 +4,27 @@
 #include <vector>
 
 #include "teskarlt/drawing/DrawnWindow.h"
-#include "teskarlt/drawing/RoofFace.h"
-#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
 
-// The drawing must outlive the object. Faces, windows and numbers are those that it had at first.
+// The drawing must outlive the object. Roofs, windows and numbers are those that it had at first.
 struct WorkedDrawing {
   WorkedDrawing(dxf::Document& worked, const DrawingUnit& drawingUnit)
       : drawing(worked),
         unit(drawingUnit),
         tolerance(RoofTolerance(unit)),
-        faces(FindRoofFaces(drawing, tolerance)),
+        roofs(FindRoofs(drawing, tolerance)),
         windows(FindWindows(drawing, unit.perMetre)),
         numbers(NumbersOf(windows)) {}
 
   dxf::Document& drawing;
   const DrawingUnit& unit;
   const double tolerance;  // in drawing units
-  const std::vector<RoofFace> faces;
+  const Roofs roofs;
   const std::vector<DrawnWindow> windows;
   const WindowNumbers numbers;
 };

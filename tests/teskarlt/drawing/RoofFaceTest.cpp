@@ -1,4 +1,4 @@
-// RoofFaceTest.cpp - planar faces: making, measuring and finding them.
+// RoofFaceTest.cpp - faces: making and measuring them, and what lies under them.
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -22,9 +22,9 @@ RoofFace Face(const std::vector<Vec3>& corners) {
 TEST(MakeRoofFace, NormalPointsUpWhicheverWayTheCornersRun) {
   const double half = std::sqrt(0.5);
   for (const RoofFace& face : {Face(SLOPE), Face({SLOPE[3], SLOPE[2], SLOPE[1], SLOPE[0]})}) {
-    EXPECT_NEAR(face.normal.x, 0, 1e-15);
-    EXPECT_NEAR(face.normal.y, -half, 1e-15);
-    EXPECT_NEAR(face.normal.z, half, 1e-15);
+    EXPECT_NEAR(face.plane.normal.x, 0, 1e-15);
+    EXPECT_NEAR(face.plane.normal.y, -half, 1e-15);
+    EXPECT_NEAR(face.plane.normal.z, half, 1e-15);
   }
 }
 
@@ -42,9 +42,25 @@ TEST(MakeRoofFace, FaceWithoutAreaIsNone) {
   EXPECT_FALSE(MakeRoofFace({}, TOLERANCE));
 }
 
-TEST(Warp, IsThatOfTheFarthestCorner) {
-  EXPECT_NEAR(Warp(Face({{0, 0, 0}, {4, 0, 0}, {4, 4, 0.1}, {0, 4, 0}})), 0.05, 0.001);
+TEST(Warp, IsMeasuredFromTheBestFit) {
+  // One corner raised by 0.1: of the plane between, two corners lie above and two below, each by a quarter.
+  EXPECT_NEAR(Warp(Face({{0, 0, 0}, {4, 0, 0}, {4, 4, 0.1}, {0, 4, 0}})), 0.025, 0.0001);
   EXPECT_NEAR(Warp(Face(SLOPE)), 0, 1e-15);
+}
+
+TEST(IsPlanar, AllowsTwentyMillimetres) {
+  const auto raised = [](double height) { return Face({{0, 0, 0}, {4, 0, 0}, {4, 4, height}, {0, 4, 0}}); };
+  EXPECT_TRUE(IsPlanar(raised(4 * 0.0199), TOLERANCE));
+  EXPECT_FALSE(IsPlanar(raised(4 * 0.0201), TOLERANCE));
+}
+
+TEST(IsPlanar, AllowsLargeFacesAFiveHundredthOfTheirExtent) {
+  // 30 x 40, so 50 across and 100 mm.
+  const auto raised = [](double height) {
+    return Face({{0, 0, 0}, {30, 0, 0}, {30, 40, height}, {0, 40, 0}});
+  };
+  EXPECT_TRUE(IsPlanar(raised(4 * 0.0999), TOLERANCE));
+  EXPECT_FALSE(IsPlanar(raised(4 * 0.1001), TOLERANCE));
 }
 
 TEST(Warp, DoesNotSufferFarFromTheOrigin) {
@@ -53,54 +69,43 @@ TEST(Warp, DoesNotSufferFarFromTheOrigin) {
   EXPECT_LE(Warp(Face({{x, y, 1}, {x + 4, y, 1}, {x + 4, y + 3, 4}, {x, y + 3, 4}})), TOLERANCE);
 }
 
-TEST(Pitch, IsMeasuredFromTheHorizontal) {
-  EXPECT_NEAR(Pitch(Face(SLOPE)), 45, 1e-12);
-  EXPECT_EQ(Pitch(Face({{0, 0, 1}, {4, 0, 1}, {4, 3, 1}})), 0);
+TEST(IsSteep, BeginsAbove85Degrees) {
+  const auto rising = [](double degrees) {
+    const double depth = 1 / std::tan(degrees / 180 * 3.141592653589793);
+    return Face({{0, 0, 0}, {4, 0, 0}, {4, depth, 1}, {0, depth, 1}});
+  };
+  EXPECT_FALSE(IsSteep(rising(84.9)));
+  EXPECT_TRUE(IsSteep(rising(85.1)));
 }
 
-TEST(FallDirection, PointsDownTheSlope) {
-  EXPECT_NEAR(*FallDirection(Face(SLOPE)), 270, 1e-12);
-  EXPECT_NEAR(*FallDirection(Face({{0, 0, 4}, {4, 0, 1}, {4, 3, 1}, {0, 3, 4}})), 0, 1e-12);
-}
-
-TEST(FallDirection, FlatFaceHasNone) {
-  EXPECT_FALSE(FallDirection(Face({{0, 0, 1}, {4, 0, 1}, {4, 3, 1}})));
+TEST(IsNarrow, IsMeasuredAcrossTheLongestEdge) {
+  const auto triangle = [](double height) { return Face({{0, 0, 0}, {5, 0, 0}, {1, height, 0}}); };
+  EXPECT_TRUE(IsNarrow(triangle(0.049), TOLERANCE));
+  EXPECT_FALSE(IsNarrow(triangle(0.051), TOLERANCE));
 }
 
 TEST(Area, IsThatOfTheSlopeNotOfThePlan) {
   EXPECT_NEAR(Area(Face(SLOPE)), 4 * std::sqrt(18.0), 1e-12);
 }
 
-TEST(HeightOver, FollowsTheSlope) {
-  EXPECT_NEAR(*HeightOver(Face(SLOPE), 2, 1), 2, 1e-12);
-  EXPECT_FALSE(HeightOver(Face(SLOPE), 2, 3.5));
+TEST(LiesOver, EdgesAndCornersBelongToTheFace) {
+  EXPECT_TRUE(LiesOver(Face(SLOPE), 0, 1.5));
+  EXPECT_TRUE(LiesOver(Face(SLOPE), 4, 3));
+  EXPECT_TRUE(LiesOver(Face(SLOPE), 2, 0));
+  EXPECT_FALSE(LiesOver(Face(SLOPE), 2, 3.5));
 }
 
-TEST(HeightOver, EdgesAndCornersBelongToTheFace) {
-  EXPECT_TRUE(HeightOver(Face(SLOPE), 0, 1.5));
-  EXPECT_TRUE(HeightOver(Face(SLOPE), 4, 3));
-  EXPECT_TRUE(HeightOver(Face(SLOPE), 2, 0));
+TEST(LiesOver, UprightEdgeLiesOverNoOtherPoint) {
+  // A wall a millimetre out of plumb, whose second edge stands upright.
+  const RoofFace wall = Face({{100, 100, 3}, {104, 100.001, 3}, {104, 100.001, 7}, {100, 100.002, 7}});
+  EXPECT_FALSE(LiesOver(wall, 4, 1));
+  EXPECT_TRUE(LiesOver(wall, 104, 100.001));
 }
 
-TEST(HeightOver, NotchOfAConcaveFaceIsOutside) {
+TEST(LiesOver, NotchOfAConcaveFaceIsOutside) {
   const RoofFace face = Face({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 1, 0}, {0, 4, 0}});
-  EXPECT_FALSE(HeightOver(face, 2, 2));
-  EXPECT_TRUE(HeightOver(face, 0.5, 2));
-}
-
-TEST(UppermostOver, TakesTheHighestOfTheFacesOverThePoint) {
-  std::vector<RoofFace> faces = {Face({{0, 0, 1}, {4, 0, 1}, {4, 4, 1}}),
-                                 Face({{0, 0, 5}, {4, 0, 5}, {4, 4, 5}}),
-                                 Face({{0, 0, 3}, {4, 0, 3}, {4, 4, 3}})};
-  EXPECT_EQ(UppermostOver(faces, 3, 1), &faces[1]);
-  EXPECT_EQ(UppermostOver(faces, 9, 9), nullptr);
-}
-
-TEST(CoplanarWith, FindsTheOtherFacesOfThePlane) {
-  const std::vector<RoofFace> faces = {Face({SLOPE[0], SLOPE[1], SLOPE[2]}),
-                                       Face({SLOPE[0], SLOPE[2], SLOPE[3]}),
-                                       Face({{0, 0, 1}, {4, 0, 1}, {4, 3, 1}})};
-  EXPECT_EQ(CoplanarWith(faces[0], faces, TOLERANCE), std::vector<const RoofFace*>{&faces[1]});
+  EXPECT_FALSE(LiesOver(face, 2, 2));
+  EXPECT_TRUE(LiesOver(face, 0.5, 2));
 }
 
 }  // namespace

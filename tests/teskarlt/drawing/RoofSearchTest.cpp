@@ -1,4 +1,4 @@
-// RoofSearchTest.cpp - the faces of a drawing that can take a roof window.
+// RoofSearchTest.cpp - the faces of a drawing of which roofs can be made.
 #include <gtest/gtest.h>
 
 #include "teskarlt/drawing/RoofSearch.h"
@@ -27,9 +27,9 @@ std::string Vertex(int flags, const std::string& rest) {
   return "0\nVERTEX\n8\nROOF\n" + rest + "70\n" + std::to_string(flags) + "\n";
 }
 
-TEST(FindRoofFaces, FaceIsNamedByItsHandle) {
+TEST(FindFaces, FaceIsNamedByItsHandle) {
   const dxf::Document drawing = Drawing("", Face("2F", SLOPE));
-  const auto faces = FindRoofFaces(drawing, TOLERANCE);
+  const auto faces = FindFaces(drawing, TOLERANCE);
   ASSERT_EQ(faces.size(), 1U);
   EXPECT_EQ(faces[0].name, "2F");
   EXPECT_EQ(faces[0].layer, "ROOF");
@@ -37,50 +37,48 @@ TEST(FindRoofFaces, FaceIsNamedByItsHandle) {
   EXPECT_EQ(faces[0].corners.size(), 4U);
 }
 
-TEST(FindRoofFaces, OrderOfTheGroupsInAFaceIsFree) {
+TEST(FindFaces, OrderOfTheGroupsInAFaceIsFree) {
   const std::string points =
       Point(13, 0, 3000, 3000) + Point(12, 4000, 3000, 3000) + Point(11, 4000, 0, 0) + Point(10, 0, 0, 0);
-  EXPECT_EQ(FindRoofFaces(Drawing("", Face("2F", "70\n0\n" + points)), TOLERANCE).size(), 1U);
+  EXPECT_EQ(FindFaces(Drawing("", Face("2F", "70\n0\n" + points)), TOLERANCE).size(), 1U);
 }
 
-TEST(FindRoofFaces, MissingFourthCornerMakesATriangle) {
+TEST(FindFaces, MissingFourthCornerMakesATriangle) {
   const std::string points = Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 3000, 3000);
-  const auto faces = FindRoofFaces(Drawing("", Face("2F", points)), TOLERANCE);
+  const auto faces = FindFaces(Drawing("", Face("2F", points)), TOLERANCE);
   ASSERT_EQ(faces.size(), 1U);
   EXPECT_EQ(faces[0].corners.size(), 3U);
 }
 
-TEST(FindRoofFaces, FaceWithoutOneOfItsFirstCornersIsLeftOut) {
+TEST(FindFaces, FaceWithoutOneOfItsFirstCornersIsLeftOut) {
   const std::string points = Point(10, 0, 1000, 0) + Point(12, 4000, 3000, 3000) + Point(13, 0, 3000, 3000);
-  EXPECT_TRUE(FindRoofFaces(Drawing("", Face("2F", points)), TOLERANCE).empty());
+  EXPECT_TRUE(FindFaces(Drawing("", Face("2F", points)), TOLERANCE).empty());
 }
 
-TEST(FindRoofFaces, WallsAndTwistedFacesAreLeftOut) {
+TEST(FindFaces, WallsAreLeftOut) {
   const std::string wall =
       Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 0, 2500) + Point(13, 0, 0, 2500);
-  const std::string twisted =
-      Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 3000, 500) + Point(13, 0, 3000, 0);
-  EXPECT_TRUE(FindRoofFaces(Drawing("", Face("1", wall) + Face("2", twisted)), TOLERANCE).empty());
+  EXPECT_TRUE(FindFaces(Drawing("", Face("1", wall)), TOLERANCE).empty());
 }
 
-TEST(FindRoofFaces, FacesOfAWindowAreLeftOut) {
+TEST(FindFaces, FacesOfAWindowAreLeftOut) {
   const std::string data = "1001\nTK_LT_ELEM\n1000\nTKBRVA\n1071\n1\n";
-  EXPECT_TRUE(FindRoofFaces(Drawing("", Face("2F", SLOPE + data)), TOLERANCE).empty());
+  EXPECT_TRUE(FindFaces(Drawing("", Face("2F", SLOPE + data)), TOLERANCE).empty());
 }
 
-TEST(FindRoofFaces, FaceWithForeignExtendedDataStays) {
+TEST(FindFaces, FaceWithForeignExtendedDataStays) {
   const std::string data = "1001\nOTHER\n1000\nTKBRVA\n1011\n1\n1021\n2\n1031\n3\n";
-  EXPECT_EQ(FindRoofFaces(Drawing("", Face("2F", SLOPE + data)), TOLERANCE).size(), 1U);
+  EXPECT_EQ(FindFaces(Drawing("", Face("2F", SLOPE + data)), TOLERANCE).size(), 1U);
 }
 
-TEST(FindRoofFaces, PolyfaceMeshGivesItsFacesWithNumbers) {
+TEST(FindFaces, PolyfaceMeshGivesItsFacesWithNumbers) {
   const std::string mesh = "0\nPOLYLINE\n5\n30\n8\nMESH\n66\n1\n70\n64\n71\n5\n72\n2\n" +
                            Vertex(192, Point(10, 0, 0, 0)) + Vertex(192, Point(10, 4000, 0, 0)) +
                            Vertex(192, Point(10, 4000, 3000, 3000)) + Vertex(192, Point(10, 0, 3000, 3000)) +
                            Vertex(192, Point(10, 2000, 6000, 6000)) +
                            Vertex(128, Point(10, 0, 0, 0) + "71\n1\n72\n2\n73\n-3\n74\n4\n") +
                            Vertex(128, Point(10, 0, 0, 0) + "71\n4\n72\n3\n73\n5\n") + "0\nSEQEND\n8\nMESH\n";
-  const auto faces = FindRoofFaces(Drawing("", mesh), TOLERANCE);
+  const auto faces = FindFaces(Drawing("", mesh), TOLERANCE);
   ASSERT_EQ(faces.size(), 2U);
   EXPECT_EQ(faces[0].name, "30/1");
   EXPECT_EQ(faces[0].layer, "MESH");
@@ -90,59 +88,46 @@ TEST(FindRoofFaces, PolyfaceMeshGivesItsFacesWithNumbers) {
   EXPECT_EQ(faces[1].corners.size(), 3U);
 }
 
-TEST(FindRoofFaces, FaceOfAMeshThatNamesAMissingVertexIsLeftOut) {
+TEST(FindFaces, FaceOfAMeshThatNamesAMissingVertexIsLeftOut) {
   const std::string vertices = Vertex(192, Point(10, 0, 0, 0)) + Vertex(192, Point(10, 4000, 0, 0)) +
                                Vertex(192, Point(10, 4000, 3000, 3000));
   for (const char* number : {"4", "-4", "9223372036854775807", "-9223372036854775808"}) {
     const std::string mesh = "0\nPOLYLINE\n5\n30\n70\n64\n" + vertices +
                              Vertex(128, "71\n1\n72\n2\n73\n3\n74\n" + std::string(number) + "\n") +
                              "0\nSEQEND\n";
-    EXPECT_TRUE(FindRoofFaces(Drawing("", mesh), TOLERANCE).empty()) << number;
+    EXPECT_TRUE(FindFaces(Drawing("", mesh), TOLERANCE).empty()) << number;
   }
 }
 
-TEST(FindRoofFaces, PolygonMeshGivesItsQuadrilaterals) {
+TEST(FindFaces, PolygonMeshGivesItsQuadrilaterals) {
   const std::string mesh = "0\nPOLYLINE\n5\n30\n8\nMESH\n66\n1\n70\n16\n71\n2\n72\n3\n" +
                            Vertex(64, Point(10, 0, 0, 0)) + Vertex(64, Point(10, 0, 1000, 1000)) +
                            Vertex(64, Point(10, 0, 2000, 2000)) + Vertex(64, Point(10, 4000, 0, 0)) +
                            Vertex(64, Point(10, 4000, 1000, 1000)) + Vertex(64, Point(10, 4000, 2000, 2000)) +
                            "0\nSEQEND\n";
-  const auto faces = FindRoofFaces(Drawing("", mesh), TOLERANCE);
+  const auto faces = FindFaces(Drawing("", mesh), TOLERANCE);
   ASSERT_EQ(faces.size(), 2U);
   EXPECT_EQ(faces[1].name, "30/2");
   EXPECT_EQ(faces[1].corners[0].y, 1000);
 }
 
-TEST(FindRoofFaces, MeshWithAWrongCountOfVerticesGivesNone) {
+TEST(FindFaces, MeshWithAWrongCountOfVerticesGivesNone) {
   const std::string mesh =
       "0\nPOLYLINE\n5\n30\n70\n16\n71\n2\n72\n3\n" + Vertex(64, Point(10, 0, 0, 0)) + "0\nSEQEND\n";
-  EXPECT_TRUE(FindRoofFaces(Drawing("", mesh), TOLERANCE).empty());
+  EXPECT_TRUE(FindFaces(Drawing("", mesh), TOLERANCE).empty());
 }
 
-TEST(FindRoofFaces, ClosedThreeDimensionalPolylineIsAFaceAndAnOpenOneIsNot) {
+TEST(FindFaces, ClosedThreeDimensionalPolylineIsAFaceAndAnOpenOneIsNot) {
   const std::string vertices = Vertex(32, Point(10, 0, 0, 0)) + Vertex(32, Point(10, 4000, 0, 0)) +
                                Vertex(32, Point(10, 4000, 3000, 3000)) + "0\nSEQEND\n";
-  EXPECT_EQ(FindRoofFaces(Drawing("", "0\nPOLYLINE\n5\n30\n8\nROOF\n70\n9\n" + vertices), TOLERANCE).size(),
-            1U);
-  EXPECT_TRUE(
-      FindRoofFaces(Drawing("", "0\nPOLYLINE\n5\n30\n8\nROOF\n70\n8\n" + vertices), TOLERANCE).empty());
+  EXPECT_EQ(FindFaces(Drawing("", "0\nPOLYLINE\n5\n30\n8\nROOF\n70\n9\n" + vertices), TOLERANCE).size(), 1U);
+  EXPECT_TRUE(FindFaces(Drawing("", "0\nPOLYLINE\n5\n30\n8\nROOF\n70\n8\n" + vertices), TOLERANCE).empty());
 }
 
-TEST(FindRoofFaces, FaceWithoutAHandleIsNumbered) {
-  const auto faces = FindRoofFaces(Drawing("", "0\nLINE\n8\n0\n0\n3DFACE\n8\nROOF\n" + SLOPE), TOLERANCE);
+TEST(FindFaces, FaceWithoutAHandleIsNumbered) {
+  const auto faces = FindFaces(Drawing("", "0\nLINE\n8\n0\n0\n3DFACE\n8\nROOF\n" + SLOPE), TOLERANCE);
   ASSERT_EQ(faces.size(), 1U);
   EXPECT_EQ(faces[0].name, "#2");
-}
-
-TEST(FacesNamed, NamesCompareWithoutRegardToCase) {
-  const auto faces = FindRoofFaces(Drawing("", Face("2F", SLOPE)), TOLERANCE);
-  EXPECT_EQ(FacesNamed(faces, "2f"), std::vector<const RoofFace*>{&faces[0]});
-  EXPECT_TRUE(FacesNamed(faces, "30").empty());
-}
-
-TEST(FacesNamed, HandleThatIsUsedTwiceGivesBothFaces) {
-  const auto faces = FindRoofFaces(Drawing("", Face("2F", SLOPE) + Face("2F", SLOPE)), TOLERANCE);
-  EXPECT_EQ(FacesNamed(faces, "2F").size(), 2U);
 }
 
 }  // namespace

@@ -54,8 +54,9 @@ bool DoOverlap(const WindowParams& a, const WindowParams& b) {
 }
 
 // The slope from x = 0 to `width` and y = 0 to 10.
-std::vector<RoofFace> Slope(double width) {
-  return {*MakeRoofFace({Corner(0, 0), Corner(width, 0), Corner(width, 10), Corner(0, 10)}, TOLERANCE)};
+Roofs Slope(double width) {
+  return {{*MakeRoofFace({Corner(0, 0), Corner(width, 0), Corner(width, 10), Corner(0, 10)}, TOLERANCE)},
+          TOLERANCE};
 }
 
 TEST(OutlineOf, RunsFromTheLowerLeftCornerUpTheSlope) {
@@ -114,14 +115,14 @@ TEST(Overlap, WindowsOfDifferentPlanesDoNot) {
 }
 
 TEST(CoveredPart, IsThePartOnTheFacesOfTheWindowsPlane) {
-  EXPECT_NEAR(CoveredPart(OutlineOf(Window(5, 2)), Slope(10), TOLERANCE), 1.0, 1e-12);
-  EXPECT_NEAR(CoveredPart(OutlineOf(Window(5, 2)), Slope(5), TOLERANCE), 0.5, 1e-12);
-  EXPECT_EQ(CoveredPart(OutlineOf(Window(5, 2, 1.0)), Slope(10), TOLERANCE), 0.0);
+  EXPECT_NEAR(CoveredPart(OutlineOf(Window(5, 2)), Slope(10)), 1.0, 1e-12);
+  EXPECT_NEAR(CoveredPart(OutlineOf(Window(5, 2)), Slope(5)), 0.5, 1e-12);
+  EXPECT_EQ(CoveredPart(OutlineOf(Window(5, 2, 1.0)), Slope(10)), 0.0);
 }
 
 TEST(WindowFit, NamesTheWindowsThatAreOverlapped) {
-  const std::vector<RoofFace> faces;
-  WindowFit fit(faces, TOLERANCE);
+  const Roofs none({}, TOLERANCE);
+  WindowFit fit(none);
   for (int number = 1; number <= 4; ++number)
     fit.Add(number, OutlineOf(Window(2.0 * number, 2)));
   EXPECT_THAT(fit.Misfits(Window(3, 2), OutlineOf(Window(3, 2))), IsEmpty());
@@ -129,8 +130,8 @@ TEST(WindowFit, NamesTheWindowsThatAreOverlapped) {
 }
 
 TEST(WindowFit, WideWindowIsFoundFromItsFarEnd) {
-  const std::vector<RoofFace> faces;
-  WindowFit fit(faces, TOLERANCE);
+  const Roofs none({}, TOLERANCE);
+  WindowFit fit(none);
   WindowParams wide = Window(0, 2);
   wide.width = 50;
   fit.Add(1, OutlineOf(wide));
@@ -140,8 +141,8 @@ TEST(WindowFit, WideWindowIsFoundFromItsFarEnd) {
 }
 
 TEST(WindowFit, FaceOfWindowWithASecondPlaneOfItsOwnIsNotAsked) {
-  const std::vector<RoofFace> faces = Slope(10);
-  const WindowFit fit(faces, TOLERANCE);
+  const Roofs roofs = Slope(10);
+  const WindowFit fit(roofs);
   WindowParams record = Window(5, 2, 1.0);
   EXPECT_THAT(fit.Misfits(record, OutlineOf(record)), ElementsAre("it lies on no roof face"));
   record.roofBuildUp = brevanta::BUILD_UP_SECOND_PLANE;

@@ -1,4 +1,6 @@
 // WindowNumbersTest.cpp - the numbers that windows carry.
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include "teskarlt/drawing/WindowNumbers.h"
@@ -10,12 +12,15 @@ TEST(WindowNumbers, FirstFreeNumberOfNoneIsOne) {
   EXPECT_EQ(WindowNumbers().Free(), 1);
 }
 
-TEST(WindowNumbers, GapIsFilledFirst) {
+TEST(WindowNumbers, NumberOfAGapIsNotGivenAgain) {
   WindowNumbers numbers{1, 2, 5};
-  EXPECT_EQ(numbers.Free(), 3);
-  numbers.Take(3);
-  numbers.Take(4);
   EXPECT_EQ(numbers.Free(), 6);
+  numbers.Take(6);
+  EXPECT_EQ(numbers.Free(), 7);
+}
+
+TEST(WindowNumbers, GapIsTheLastResort) {
+  EXPECT_EQ((WindowNumbers{1, 2, std::numeric_limits<std::int32_t>::max()}.Free()), 3);
 }
 
 TEST(WindowNumbers, NumberBelowOneIsTakenAndNeverGivenOut) {

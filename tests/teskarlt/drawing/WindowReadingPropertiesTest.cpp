@@ -158,5 +158,30 @@ TEST(WindowReading, WindowInsertedAgainStandsWhereItStood) {
   }
 }
 
+// A roof that falls towards +y by that tangent; below 1e-4 the module lays windows onto it from their point
+// along -y, or along +y where it rises.
+Place FallingBy(double tangent) {
+  const double low = -8000 * tangent;
+  return {{{0, 0, 0}, {10000, 0, 0}, {10000, 8000, low}, {0, 8000, low}}, {5000, 4000, low / 2}};
+}
+
+TEST(WindowReading, NearlyFlatWindowInsertedAgainStandsWhereItStood) {
+  const Motion motions[] = {Motion{}, Move(3000, -2000, 500), Mirror(), Turn(180), Mirror().Then(Turn(180))};
+  for (const double tangent : {1e-10, 1e-7, 9e-5, 1.1e-4, -1e-10, -1e-7, -9e-5}) {
+    const Entities window =
+        Insert({{"heightReference", "0"}, {"openingCode", "E"}}, FallingBy(tangent)).entities;
+    for (const Motion& motion : motions) {
+      for (const Description description : {Description::Left, Description::MovedAlong}) {
+        SCOPED_TRACE(
+            fmt::format("{} {} {} {}", tangent, motion.x.x, motion.y.y, static_cast<int>(description)));
+        const Entities changed = Changed(window, motion, description);
+        const WindowReading reading = ReadBack(changed);
+        ASSERT_THAT(reading.obstacle, IsEmpty());
+        EXPECT_TRUE(SamePlace(changed, InsertAgain(reading.params).entities, SAME_PLACE));
+      }
+    }
+  }
+}
+
 }  // namespace
 }  // namespace teskarlt

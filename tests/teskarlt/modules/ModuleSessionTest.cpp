@@ -57,12 +57,12 @@ TEST_F(ModuleSessionTest, AnswersAreCutToTheBufferButTheirLengthIsToldWhole) {
   EXPECT_EQ(services.answer(services.context, "text2", buffer, 4), -1);
 }
 
-TEST_F(ModuleSessionTest, LowestFreeNumberIsGiven) {
+TEST_F(ModuleSessionTest, NumberBehindTheHighestIsGiven) {
   const WindowNumbers numbers{1, 2, 5};
   request.numbersInUse = &numbers;
   ModuleSession session(drawing, request);
   DialogServices& services = *session.Services();
-  EXPECT_EQ(services.freeNumber(services.context), 3);
+  EXPECT_EQ(services.freeNumber(services.context), 6);
   EXPECT_EQ(services.numberInUse(services.context, 5), 1);
   EXPECT_EQ(services.numberInUse(services.context, 4), 0);
 }

@@ -44,11 +44,33 @@ TEST(Glb, LengthsOfFileAndChunksAgree) {
 
 TEST(Glb, RectangleIsTwoTrianglesAndFourEdges) {
   const Model model = Read(Glb(SceneOf({.entities = Rectangle("A", 0, 0, 2, 4, 1)})));
-  ASSERT_EQ(model.json["accessors"].size(), 2U);
-  EXPECT_EQ(model.json["accessors"][0]["count"], 6);
-  EXPECT_EQ(model.json["accessors"][1]["count"], 8);
-  EXPECT_EQ(model.json["meshes"][0]["primitives"][1]["mode"], 1);
-  EXPECT_EQ(model.json["buffers"][0]["byteLength"], 14 * 12);
+  const nlohmann::json& primitives = model.json["meshes"][0]["primitives"];
+  const auto countOf = [&](const nlohmann::json& attribute) {
+    return model.json["accessors"][attribute.get<std::size_t>()]["count"];
+  };
+  ASSERT_EQ(primitives.size(), 2U);
+  EXPECT_EQ(countOf(primitives[0]["attributes"]["POSITION"]), 6);
+  EXPECT_EQ(countOf(primitives[1]["attributes"]["POSITION"]), 8);
+  EXPECT_EQ(primitives[1]["mode"], 1);
+  EXPECT_EQ(model.json["buffers"][0]["byteLength"], 14 * (12 + 4));  // a point and its surface's number
+}
+
+TEST(Glb, SurfaceAndItsEdgesHaveItsNumber) {
+  const Model model =
+      Read(Glb(SceneOf({.entities = Rectangle("A", 0, 0, 2, 4, 1) + Rectangle("B", 0, 0, 2, 4, 2)})));
+  for (const nlohmann::json& primitive : model.json["meshes"][1]["primitives"]) {
+    const std::size_t accessor = primitive["attributes"]["_SURFACE"];
+    const std::size_t view = model.json["accessors"][accessor]["bufferView"];
+    EXPECT_FLOAT_EQ(FloatAt(model, model.json["bufferViews"][view]["byteOffset"]), 2);
+  }
+}
+
+TEST(Glb, ClosedPolylineHasTheNumberOfItsSurfaceAndALineNone) {
+  const std::string ring =
+      "0 POLYLINE|8 A|70 9|0 VERTEX|10 0|20 0|30 0|0 VERTEX|10 4|20 0|30 0|0 VERTEX|10 4|20 3|30 0|0 SEQEND|";
+  const Model model = Read(Glb(SceneOf({.entities = ring + Line("B", 0, 0, 1, 1)})));
+  EXPECT_TRUE(model.json["meshes"][0]["primitives"].back()["attributes"].contains("_SURFACE"));
+  EXPECT_FALSE(model.json["meshes"][1]["primitives"][0]["attributes"].contains("_SURFACE"));
 }
 
 TEST(Glb, PointsAreMetresAroundTheMiddleWithYUp) {

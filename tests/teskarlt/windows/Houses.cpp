@@ -31,9 +31,8 @@ void InsertWindow(dxf::Document& drawing) {
 
 }  // namespace
 
-dxf::Document DrawingWithFaces(const std::vector<std::vector<geometry::Vec3>>& faces) {
-  const dxf::NewDrawingOptions options{
-      .units = dxf::UNITS_MILLIMETRES, .layers = {"ROOF"}, .applications = {}};
+dxf::Document DrawingWithFaces(const std::vector<std::vector<geometry::Vec3>>& faces, int units) {
+  const dxf::NewDrawingOptions options{.units = units, .layers = {"ROOF"}, .applications = {}};
   dxf::Document drawing = dxf::Document::FromText("house.dxf", dxf::NewDrawing(options));
   for (const std::vector<geometry::Vec3>& face : faces)
     AddFace(face, drawing);
@@ -67,11 +66,14 @@ dxf::Document HouseWithCopy() {
   return dxf::Document::FromText("house.dxf", twice.insert(end, text.substr(begin, end - begin)));
 }
 
+dxf::Document WithRisenRoof(dxf::Document house, double height) {
+  house.RemoveEntity(house.Entities().front());  // the roof
+  AddFace(RoofAt(height), house);
+  return Reloaded(house);
+}
+
 dxf::Document HouseWithRisenRoof(double height) {
-  dxf::Document drawing = HouseWithWindow();
-  drawing.RemoveEntity(drawing.Entities().front());  // the roof
-  AddFace(RoofAt(height), drawing);
-  return Reloaded(drawing);
+  return WithRisenRoof(HouseWithWindow(), height);
 }
 
 WindowOrder OrderAt(double x, double y) {

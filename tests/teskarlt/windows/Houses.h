@@ -8,14 +8,16 @@
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/Document.h"
+#include "teskarlt/dxf/tags/Units.h"
 #include "teskarlt/modules/WindowModule.h"
 #include "teskarlt/windows/PlacedWindow.h"
 #include "teskarlt/windows/WindowOrder.h"
 
 namespace teskarlt {
 
-// An R2000 drawing in millimetres with a 3D face for each list of four corners.
-dxf::Document DrawingWithFaces(const std::vector<std::vector<geometry::Vec3>>& faces);
+// An R2000 drawing with a 3D face for each list of four corners.
+dxf::Document DrawingWithFaces(const std::vector<std::vector<geometry::Vec3>>& faces,
+                               int units = dxf::UNITS_MILLIMETRES);
 
 // Such a drawing with one roof face at 45 degrees: it rises from the x axis, 8000 wide, to y = z = 6000.
 dxf::Document House();
@@ -31,6 +33,9 @@ dxf::Document HouseWithWindow();
 
 // The same with a copy of the window in its place, as CAD programs make it: with the same number.
 dxf::Document HouseWithCopy();
+
+// A drawing that House began, whose roof then rose by `height`.
+dxf::Document WithRisenRoof(dxf::Document house, double height);
 
 // HouseWithWindow, whose roof then rose by `height`.
 dxf::Document HouseWithRisenRoof(double height);

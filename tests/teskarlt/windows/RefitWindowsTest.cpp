@@ -4,6 +4,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/windows/RefitWindows.h"
+#include "teskarlt/windows/WindowInserter.h"
 #include "tests/teskarlt/windows/Houses.h"
 
 namespace teskarlt {
@@ -43,14 +44,41 @@ TEST_F(RefitWindowsTest, WindowOnItsRoofStaysAsItIs) {
   EXPECT_FALSE(drawing.IsChanged());
 }
 
-TEST_F(RefitWindowsTest, WindowWithoutARoofIsAProblem) {
+TEST_F(RefitWindowsTest, WindowWithoutARoofStaysAndIsTold) {
   dxf::Document drawing = HouseWithWindow();
   drawing.RemoveEntity(drawing.Entities().front());  // the roof
   dxf::Document bare = Reloaded(drawing);
   const RefitReport report = Refit(bare);
-  ASSERT_EQ(report.problems.size(), 1U);
-  EXPECT_EQ(report.problems[0].number, 1);
-  EXPECT_THAT(report.problems[0].message, HasSubstr("no roof face"));
+  EXPECT_TRUE(report.problems.empty());
+  ASSERT_EQ(report.staying.size(), 1U);
+  EXPECT_EQ(report.staying[0].number, 1);
+  EXPECT_THAT(report.staying[0].message, HasSubstr("no roof face"));
+}
+
+TEST_F(RefitWindowsTest, WindowOnAGivenPlaneDoesNotStopTheOthers) {
+  dxf::Document drawing = HouseWithWindow();
+  WindowOrder order = OrderAt(20000, 2000);  // beside the house, 8000 wide
+  order.roof = {{18000, 0, 0}, {22000, 0, 0}, {18000, 4000, 4000}};
+  WindowInserter(module, drawing, Millimetres()).Insert(order);
+  dxf::Document risen = WithRisenRoof(Reloaded(drawing), 500);
+  const RefitReport report = Refit(risen);
+  ASSERT_EQ(report.refitted.size(), 1U);
+  EXPECT_EQ(report.refitted[0].after.markerValue, 1);
+  ASSERT_EQ(report.staying.size(), 1U);
+  EXPECT_EQ(report.staying[0].number, 2);
+}
+
+TEST_F(RefitWindowsTest, WindowFarOverAFaceStaysOnItsGivenPlane) {
+  dxf::Document drawing = House();
+  WindowOrder order = OrderAt(4000, 2000);
+  order.roof = RoofAt(4500);
+  order.roof.pop_back();
+  WindowInserter(module, drawing, Millimetres()).Insert(order);
+  dxf::Document reloaded = Reloaded(drawing);
+  const RefitReport report = Refit(reloaded);
+  ASSERT_EQ(report.staying.size(), 1U);
+  EXPECT_THAT(report.staying[0].message, HasSubstr("lies 4.500 m under it, and --reach is 3 m"));
+  EXPECT_EQ(Refit(reloaded, {.numbers = {}, .reach = 4.6}).refitted.size(), 1U);
 }
 
 TEST_F(RefitWindowsTest, NumberWithoutAWindowIsRefused) {

@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(RenumberCopies, CopyGetsTheLowestFreeNumber) {
+TEST(RenumberCopies, CopyGetsANumberOfItsOwn) {
   dxf::Document drawing = HouseWithCopy();
   EXPECT_THAT(NumbersIn(drawing), ElementsAre(1, 1));
   const std::vector<Renumbered> changes = RenumberCopies(drawing);

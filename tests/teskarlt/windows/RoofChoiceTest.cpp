@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/windows/RoofChoice.h"
 #include "tests/teskarlt/windows/Houses.h"
 
@@ -15,25 +14,29 @@ using testing::HasSubstr;
 // Two roofs, the second 1000 above the first.
 class RoofChoiceTest : public testing::Test {
  protected:
-  RoofChoice Choose(const WindowOrder& order) const { return ChooseRoof(order, drawing, faces, 1.0); }
+  RoofChoice Choose(const WindowOrder& order) const { return ChooseRoof(order, "house.dxf", roofs); }
   std::string Refusal(const WindowOrder& order) const {
     return RefusalOf([&] { Choose(order); });
   }
 
-  dxf::Document drawing = DrawingWithFaces({RoofAt(0), RoofAt(1000)});
-  std::vector<RoofFace> faces = FindRoofFaces(drawing, 1.0);
+  const RoofFace& Face(std::size_t number) const { return roofs.Faces()[number]; }
+  void TakeHouse(const std::vector<std::vector<geometry::Vec3>>& faces) {
+    roofs = FindRoofs(DrawingWithFaces(faces), 1.0);
+  }
+
+  Roofs roofs = FindRoofs(DrawingWithFaces({RoofAt(0), RoofAt(1000)}), 1.0);
 };
 
 TEST_F(RoofChoiceTest, UppermostFaceAtThePointIsTaken) {
   const RoofChoice roof = Choose(OrderAt(4000, 2000));
-  EXPECT_EQ(roof.face, &faces[1]);
+  EXPECT_EQ(roof.face, &Face(1));
   EXPECT_TRUE(roof.isBounded);
 }
 
 TEST_F(RoofChoiceTest, NameGoesBeforeThePoint) {
   WindowOrder order = OrderAt(4000, 2000);
-  order.roofFace = faces[0].name;
-  EXPECT_EQ(Choose(order).face, &faces[0]);
+  order.roofFace = Face(0).name;
+  EXPECT_EQ(Choose(order).face, &Face(0));
 }
 
 TEST_F(RoofChoiceTest, PlaneHasNoFaceAndNoBounds) {
@@ -49,7 +52,7 @@ TEST_F(RoofChoiceTest, FieldOfTheRoofLeavesTheChoiceToTheDialog) {
   WindowOrder order = OrderAt(4000, 2000);
   order.settings = {{"roofPlanePoints", "0,0,0;1,0,0;0,1,1"}};
   EXPECT_TRUE(Choose(order).faces.empty());
-  order.roofFace = faces[0].name;
+  order.roofFace = Face(0).name;
   EXPECT_EQ(Refusal(order), "--set roofPlanePoints gives the roof already; leave --roof and --roof-face out");
 }
 
@@ -60,11 +63,10 @@ TEST_F(RoofChoiceTest, PointBesideTheRoofsIsToldWithTheirExtents) {
 }
 
 TEST_F(RoofChoiceTest, ExtentsFarFromTheOriginAreToldToTheUnit) {
-  drawing = DrawingWithFaces({{{-743000000, -1043000000.5, 0},
-                               {-742992000, -1043000000.5, 0},
-                               {-742992000, -1042996000, 4000},
-                               {-743000000, -1042996000, 4000}}});
-  faces = FindRoofFaces(drawing, 1.0);
+  TakeHouse({{{-743000000, -1043000000.5, 0},
+              {-742992000, -1043000000.5, 0},
+              {-742992000, -1042996000, 4000},
+              {-743000000, -1042996000, 4000}}});
   EXPECT_THAT(Refusal(OrderAt(0, 0)),
               HasSubstr("x -743000000 to -742992000, y -1043000000.5 to -1042996000"));
 }
@@ -78,7 +80,7 @@ TEST_F(RoofChoiceTest, OrderWithoutAPlaceAndUnknownNamesAreRefused) {
 }
 
 TEST_F(RoofChoiceTest, DrawingWithoutFacesIsToldSo) {
-  faces.clear();
+  TakeHouse({});
   EXPECT_EQ(Refusal(OrderAt(1, 1)), "house.dxf holds no planar face that can take a roof window");
 }
 
@@ -90,10 +92,46 @@ TEST_F(RoofChoiceTest, NameOfNoFaceIsRefused) {
 }
 
 TEST_F(RoofChoiceTest, NameOfSeveralFacesIsRefused) {
+  std::vector<RoofFace> faces = roofs.Faces();
   faces[0].name = faces[1].name = "2F";
+  roofs = Roofs(faces, 1.0);
   WindowOrder order = OrderAt(4000, 2000);
   order.roofFace = "2f";
   EXPECT_THAT(Refusal(order), HasSubstr("2 faces of house.dxf have that handle"));
+}
+
+TEST_F(RoofChoiceTest, UnevenRoofDoesNotLetTheWindowFallOntoItsCeiling) {
+  std::vector<geometry::Vec3> uneven = RoofAt(3000);
+  uneven[1].z += 400;
+  TakeHouse({uneven, RoofAt(0)});
+  EXPECT_EQ(Refusal(OrderAt(4000, 1000)),
+            "--at 4000,1000: the uppermost face over that point, " + Face(0).name +
+                " of layer ROOF, is not planar: a corner lies 72 mm off its plane; --roof-face names another "
+                "one, and --roof X,Y,Z X,Y,Z X,Y,Z gives a plane in its place");
+}
+
+TEST_F(RoofChoiceTest, FaceThatIsNoRoofIsRefusedByItsName) {
+  TakeHouse({RoofAt(0), {{0, 0, 0}, {8000, 0, 0}, {8000, 100, 3000}, {0, 100, 3000}}});
+  WindowOrder order = OrderAt(4000, 50);
+  order.roofFace = Face(1).name;
+  EXPECT_THAT(Refusal(order), HasSubstr(" is 88.1 degrees steep, and no roof above 85; --roof X,Y,Z"));
+}
+
+TEST_F(RoofChoiceTest, PlanarRoofIsSpannedByTheFaceAtThePoint) {
+  TakeHouse({{{0, 0, 0}, {4000, 0, 0}, {4000, 6000, 6000}, {0, 6000, 6000}},
+             {{4000, 0, 0}, {8000, 0, 0}, {8000, 5000, 5000}, {4000, 5000, 5000}}});
+  const RoofChoice roof = Choose(OrderAt(6000, 2000));
+  EXPECT_EQ(roof.faces.size(), 2U);
+  EXPECT_EQ(roof.faces[0][1].x, 8000);
+}
+
+TEST_F(RoofChoiceTest, UnevenRoofIsSpannedByItsBestFit) {
+  std::vector<geometry::Vec3> corners = RoofAt(0);
+  corners[1].z += 20;  // two corners lie 5 above the plane between, two below
+  TakeHouse({corners});
+  const RoofChoice roof = Choose(OrderAt(6000, 2000));
+  EXPECT_NEAR(roof.faces[0][0].z, 5, 1e-9);
+  EXPECT_NEAR(roof.faces[0][1].z, 15, 1e-9);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // WindowEditorTest.cpp - windows of a drawing that are changed.
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,6 +11,7 @@
 namespace teskarlt {
 namespace {
 
+using brevanta::RecordPoint;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -43,6 +45,34 @@ TEST_F(WindowEditorTest, ReadingShowsTheWindowAsItStands) {
   const WindowEditor editor(module, drawing, Millimetres(), 1, false);
   EXPECT_NEAR(editor.Reading().params.storedPoint.y, 2000, 1e-6);
   EXPECT_TRUE(editor.Reading().notes.empty());
+}
+
+TEST_F(WindowEditorTest, WindowMovesToAPointOfTheRoofsOwnFrame) {
+  RecordPoint point = WindowEditor(module, drawing, Millimetres(), 1, false).Reading().params.insertionPoint;
+  point.x += 500;  // along the eaves, which run along the drawing's x axis
+  WindowOrder order;
+  order.settings = {{"insertionPoint", fmt::format("{},{},{}", point.x, point.y, point.z)}};
+  const PlacedWindow window = Edit(order);
+  EXPECT_NEAR(window.record.storedPoint.x, 4500, 1e-6);
+  EXPECT_NEAR(window.record.storedPoint.y, 2000, 1e-6);
+}
+
+// Turned by 90 degrees: the roof rises along -x, and its own x axis is the drawing's y axis.
+TEST_F(WindowEditorTest, OffsetRunsInTheRoofsOwnFrameAsItDoesAtFirst) {
+  std::vector<geometry::Vec3> turned = RoofAt(0);
+  for (geometry::Vec3& corner : turned)
+    corner = {-corner.y, corner.x, corner.z};
+  WindowOrder order = OrderAt(-2000, 4000);
+  order.settings = {{"pickOffset", "1"}};
+  dxf::Document house = DrawingWithFaces({turned});
+  const PlacedWindow inserted = WindowInserter(module, house, Millimetres()).Insert(order);
+  EXPECT_NEAR(inserted.record.storedPoint.y, 5000, 1e-6);
+
+  drawing = Reloaded(house);
+  order.at.reset();
+  const PlacedWindow edited = Edit(order);
+  EXPECT_NEAR(edited.record.storedPoint.x, -2000, 1e-6);
+  EXPECT_NEAR(edited.record.storedPoint.y, 6000, 1e-6);
 }
 
 TEST_F(WindowEditorTest, RefusedChangeLeavesTheDrawingAsItWas) {

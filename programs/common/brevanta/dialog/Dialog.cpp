@@ -57,6 +57,9 @@ void FillRecord(const DialogServices& services, bool editing, WindowParams& reco
   }
   const std::int32_t keptNumber = editing ? record.markerValue : 0;
   const Answers answers(services);
+  // What a window is read with is its direction in the drawing; that of pickOffset is one in the roof's
+  // frame.
+  if (editing) record.rotation = 0.0;
   answers.ApplyTo(record);
   CheckUnits(hostFactor, record);
   CheckWindow(record);

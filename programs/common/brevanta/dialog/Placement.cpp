@@ -117,7 +117,7 @@ Vec3 TakeHeights(const Answers& answers, const RoofPlane& plane, WindowParams& r
 
 // The outline in the plan of the frame that the module will draw at the anchor, local.
 PlanPolygon FrameInPlan(const RoofPlane& plane, const Vec3& anchor, const WindowParams& record) {
-  const Outline frame = OutlinesAt(anchor, record, record.unitFactor, {SlopeAngle(plane)}).outer;
+  const Outline frame = OutlinesAt(anchor, record, record.unitFactor, SlopeOf(plane)).outer;
   return {frame.begin(), frame.end()};
 }
 

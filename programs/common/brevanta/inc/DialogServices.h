@@ -48,7 +48,7 @@ struct DialogServices {
   std::int32_t (*roofFace)(void* context, std::int32_t index, double* corners, std::int32_t capacity,
                            std::int32_t* isBoundary);
 
-  // 1 when a window of the drawing has this number, else 0; and the lowest number that is free.
+  // 1 when a window of the drawing has this number, else 0; and a number for a new window.
   std::int32_t (*numberInUse)(void* context, std::int32_t number);
   std::int32_t (*freeNumber)(void* context);
 

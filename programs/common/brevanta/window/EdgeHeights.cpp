@@ -45,4 +45,13 @@ double EdgeHeight(const WindowParams& params, int mode, int unitFactor) {
   return height;
 }
 
+Edges RecordedEdges(const WindowParams& params) {
+  return {params.lowerEdgeHeight,
+          EdgeHeight(params, UPPER_FROM_LOWER, params.unitFactor) / params.unitFactor};
+}
+
+Edges EdgesOf(const Outline& frame, double unitFactor) {
+  return {frame[0].z / unitFactor, frame[1].z / unitFactor};
+}
+
 }  // namespace brevanta

@@ -116,6 +116,12 @@ Outline Rectangle(const Vec3& start, const Slope& slope, double length, double w
 
 }  // namespace
 
+LocalSlope SlopeOf(const RoofPlane& plane) {
+  const Vec3& normal = plane.localNormal;
+  const bool risesBackwards = (normal.y > 0 && normal.z > 0) || (normal.y < 0 && normal.z < 0);
+  return {SlopeAngle(plane), risesBackwards ? -1 : 1};
+}
+
 WindowOutlines OutlinesAt(const Vec3& anchor, const WindowParams& params, double unitFactor,
                           const LocalSlope& localSlope) {
   const Slope slope = DirectionsOf(localSlope);
@@ -158,7 +164,7 @@ std::optional<RoofPlane> PlacingPlane(const WindowParams& params) {
 Outline DrawnFrame(const WindowParams& params) {
   const RoofPlane plane = PlacingPlane(params).value_or(RoofPlane{});
   const Vec3 anchor = ToLocal(plane, ToVec3(params.storedPoint));
-  Outline frame = OutlinesAt(anchor, params, params.unitFactor, {SlopeAngle(plane)}).outer;
+  Outline frame = OutlinesAt(anchor, params, params.unitFactor, SlopeOf(plane)).outer;
   for (Vec3& corner : frame)
     corner = ToWorld(plane, corner);
   return frame;

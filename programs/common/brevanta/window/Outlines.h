@@ -20,12 +20,17 @@ struct WindowOutlines {
   Outline opening;  // of the hole through the roof's construction
 };
 
-// How a window lies in the roof's local frame. A fitted roof rises along +y.
+// How a window lies in the roof's local frame.
 struct LocalSlope {
   double angle;   // radians from the horizontal
   int ySide = 1;  // 1 when the roof rises along +y, -1 along -y
   int xSide = 1;  // 1 when the width runs along +x, -1 along -x
 };
+
+// How the module lays a window into the plane. A fitted plane rises along +y, but one that is too flat to be
+// turned (both plan components of its unit normal are below the kernel's tolerance) may rise along -y by a
+// hair; the window then runs from its anchor along -y.
+LocalSlope SlopeOf(const geometry::RoofPlane& plane);
 
 // The outlines, roof-local, of the window whose anchor is given, roof-local too; `unitFactor` in drawing
 // units per metre. On a flat roof a layer makes the opening infinite where its upper reveal is level.

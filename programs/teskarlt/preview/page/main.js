@@ -2,6 +2,7 @@
 import { Box3, DirectionalLight, HemisphereLight, Mesh, PCFShadowMap, PerspectiveCamera, PlaneGeometry, Scene,
          ShadowMaterial, Sphere, Spherical, Vector3, WebGLRenderer } from "three";
 import { OrbitControls } from "three/addons/controls/OrbitControls.js";
+import { SeenSurfaces } from "./lines.js";
 import { readModel } from "./model.js";
 
 const FLIGHT = 700; // milliseconds
@@ -32,12 +33,13 @@ class Viewer {
     this.renderer.setPixelRatio(Math.min(devicePixelRatio, 2));
     this.renderer.shadowMap.enabled = true;
     this.renderer.shadowMap.type = PCFShadowMap;
+    this.seen = new SeenSurfaces(this.renderer);
     this.scene = new Scene();
     for (const { group } of model.layers) this.scene.add(group);
     this.sphere = new Box3().setFromObject(this.scene).getBoundingSphere(new Sphere());
     this.sphere.radius = Math.max(this.sphere.radius, 0.01);
     this.addLights();
-    this.camera = new PerspectiveCamera(32, 1, this.sphere.radius / 200, this.sphere.radius * 30);
+    this.camera = new PerspectiveCamera(32);
     this.controls = new OrbitControls(this.camera, canvas);
     this.controls.maxPolarAngle = Math.PI * 0.495;
     this.controls.minDistance = this.sphere.radius / 50;
@@ -81,8 +83,18 @@ class Viewer {
     this.frame ??= requestAnimationFrame((now) => {
       this.frame = undefined;
       if (this.flight) this.fly(now);
+      this.fitDepths();
+      this.seen.render(this.scene, this.camera);
       this.renderer.render(this.scene, this.camera);
     });
+  }
+
+  // Depths are the finer the farther away they begin.
+  fitDepths() {
+    const { center, radius } = this.sphere;
+    this.camera.near = Math.max(this.camera.position.distanceTo(center) - 2 * radius, radius / 200);
+    this.camera.far = this.camera.near + radius * 30;
+    this.camera.updateProjectionMatrix();
   }
 
   // Where to stand to see a ball of this radius from this direction.

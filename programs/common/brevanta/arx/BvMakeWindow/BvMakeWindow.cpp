@@ -31,12 +31,6 @@ bool FitPlane(const RecordPoint (&points)[3], std::int32_t unitFactor) {
   return geometry::FitRoofPlane(ToVec3(points[0]), ToVec3(points[1]), ToVec3(points[2]), unitFactor) == 1;
 }
 
-// 1 when the roof rises along local +y, else -1; 1 when it is flat.
-std::int16_t SlopeSign(const Vec3& normal) {
-  const bool falls = (normal.y > 0 && normal.z > 0) || (normal.y < 0 && normal.z < 0);
-  return falls ? std::int16_t{-1} : std::int16_t{1};
-}
-
 GcGePoint3d ToPoint3d(const Vec3& v) {
   return {v.x, v.y, v.z};
 }
@@ -77,17 +71,16 @@ std::int32_t CbvMakeWindow::Make(WindowParams* record, std::int32_t factor) {
   }
 
   const geometry::RoofPlane& plane = geometry::roofPlane;
-  const Vec3& normal = plane.localNormal;
-  if (std::abs(normal.z) < KernelTolerance) return MAKE_FAILED;
-  const std::int16_t slopeSign = SlopeSign(normal);
-  const double slopeAngle = SlopeAngle(plane);
+  if (std::abs(plane.localNormal.z) < KernelTolerance) return MAKE_FAILED;
+  const LocalSlope slope = SlopeOf(plane);
 
   const Vec3 roofPoint = PointOver(plane, ToVec3(record->insertionPoint));
   Vec3 point = roofPoint;
-  if (slopeAngle > KernelTolerance && record->placeByHeight == PLACED_BY_HEIGHT) {
+  if (slope.angle > KernelTolerance && record->placeByHeight == PLACED_BY_HEIGHT) {
     point = PointAtHeight(plane, roofPoint, Scaled(record->lowerEdgeHeight));
   }
-  BuildWindow(ToPoint3d(point), ToPoint3d(roofPoint), slopeAngle, slopeSign, WIDTH_ALONG_X);
+  BuildWindow(ToPoint3d(point), ToPoint3d(roofPoint), slope.angle, static_cast<std::int16_t>(slope.ySide),
+              WIDTH_ALONG_X);
   return MAKE_DONE;
 }
 

@@ -1,0 +1,24 @@
+// Plane.cpp - pitch and direction of a plane.
+#include "teskarlt/drawing/Plane.h"
+
+#include <cmath>
+
+#include "geometry/Matrix4.h"
+#include "geometry/Trigonometry.h"
+
+namespace teskarlt {
+
+double Pitch(const Plane& plane) {
+  const geometry::Vec3& normal = plane.normal;
+  return geometry::RadToDeg(geometry::ArcTangent2(std::hypot(normal.x, normal.y), normal.z));
+}
+
+std::optional<double> FallDirection(const Plane& plane) {
+  constexpr double FLAT_LIMIT = 1e-4;  // of the unit normal's plan length
+  const geometry::Vec3& normal = plane.normal;
+  if (std::hypot(normal.x, normal.y) < FLAT_LIMIT) return std::nullopt;
+  const double degrees = geometry::RadToDeg(geometry::ArcTangent2(normal.y, normal.x));
+  return degrees < 0 ? degrees + 360.0 : degrees;
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,83 @@
+// Roofs.cpp - the roofs of a drawing and what lies over a point.
+#include "teskarlt/drawing/Roofs.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/dxf/tags/TagValue.h"
+
+namespace teskarlt {
+
+namespace {
+
+constexpr std::size_t NO_SURFACE = std::numeric_limits<std::size_t>::max();
+
+std::vector<PlanBox> BoxesOf(const std::vector<RoofFace>& faces) {
+  std::vector<PlanBox> boxes;
+  boxes.reserve(faces.size());
+  for (const RoofFace& face : faces)
+    boxes.push_back(PlanBoxOf(face.corners));
+  return boxes;
+}
+
+}  // namespace
+
+Roofs::Roofs(std::vector<RoofFace> faces, double tolerance)
+    : faces_(std::move(faces)),
+      tolerance_(tolerance),
+      index_(BoxesOf(faces_)),
+      surfaces_(SurfacesOf(faces_, index_, tolerance)),
+      surfaceOf_(faces_.size(), NO_SURFACE) {
+  for (std::size_t surface = 0; surface < surfaces_.size(); ++surface) {
+    for (const std::size_t face : surfaces_[surface].faces)
+      surfaceOf_[face] = surface;
+  }
+}
+
+bool Roofs::IsEmpty() const {
+  return std::none_of(surfaces_.begin(), surfaces_.end(), [](const RoofSurface& s) { return s.isPlanar; });
+}
+
+const RoofSurface* Roofs::SurfaceOf(const RoofFace& face) const {
+  const std::size_t surface = surfaceOf_[static_cast<std::size_t>(&face - faces_.data())];
+  return surface == NO_SURFACE ? nullptr : &surfaces_[surface];
+}
+
+std::vector<const RoofFace*> Roofs::FacesNear(const PlanBox& area) const {
+  std::vector<const RoofFace*> near;
+  for (const std::size_t number : index_.Touching(area))
+    near.push_back(&faces_[number]);
+  return near;
+}
+
+std::vector<FaceOver> Roofs::FacesAt(double x, double y) const {
+  std::vector<FaceOver> found;
+  for (const RoofFace* face : FacesNear({x, y, x, y})) {
+    const RoofSurface* surface = SurfaceOf(*face);
+    if (surface != nullptr && LiesOver(*face, x, y))
+      found.push_back({face, surface, HeightAt(surface->plane, x, y)});
+  }
+  return found;
+}
+
+std::optional<FaceOver> Roofs::UppermostAt(double x, double y) const {
+  std::optional<FaceOver> uppermost;
+  for (const FaceOver& found : FacesAt(x, y))
+    if (!uppermost || found.height > uppermost->height) uppermost = found;
+  return uppermost;
+}
+
+std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
+  std::vector<const RoofFace*> named;
+  for (const RoofFace& face : faces_)
+    if (dxf::SameName(face.name, name)) named.push_back(&face);
+  return named;
+}
+
+Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
+  return {FindFaces(drawing, tolerance), tolerance};
+}
+
+}  // namespace teskarlt

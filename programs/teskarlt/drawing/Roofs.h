@@ -1,0 +1,63 @@
+// Roofs.h - the roofs of a drawing: its faces, the surfaces that they make, and which lie over a point.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "teskarlt/drawing/PlanIndex.h"
+#include "teskarlt/drawing/RoofFace.h"
+#include "teskarlt/drawing/RoofSurface.h"
+#include "teskarlt/dxf/Document.h"
+
+namespace teskarlt {
+
+// A face over or under a point of the plan; both belong to the Roofs that gave them.
+struct FaceOver {
+  const RoofFace* face;
+  const RoofSurface* surface;
+  double height;  // of the surface's plane at the point, drawing units
+};
+
+class Roofs {
+ public:
+  // `tolerance` is a millimetre in drawing units.
+  Roofs(std::vector<RoofFace> faces, double tolerance);
+
+  double Tolerance() const { return tolerance_; }
+
+  // Whether no face can take a window.
+  bool IsEmpty() const;
+
+  // In the order given. Steep ones are among them.
+  const std::vector<RoofFace>& Faces() const { return faces_; }
+
+  // The surface of a face of Faces(); null for one that has none (RoofSurface.h).
+  const RoofSurface* SurfaceOf(const RoofFace& face) const;
+
+  // The faces of surfaces, planar or not, over and under (x, y), in the order of Faces().
+  std::vector<FaceOver> FacesAt(double x, double y) const;
+
+  // The uppermost of them, the first of several at the same height.
+  std::optional<FaceOver> UppermostAt(double x, double y) const;
+
+  // The faces whose boxes in the plan touch the area, in the order of Faces().
+  std::vector<const RoofFace*> FacesNear(const PlanBox& area) const;
+
+  // The faces of that name (RoofFace.h), without regard to case; several where the drawing uses a handle
+  // twice.
+  std::vector<const RoofFace*> FacesNamed(std::string_view name) const;
+
+ private:
+  std::vector<RoofFace> faces_;
+  double tolerance_;
+  PlanIndex index_;
+  std::vector<RoofSurface> surfaces_;
+  std::vector<std::size_t> surfaceOf_;  // by the number of the face; NO_SURFACE
+};
+
+// The roofs of the model space.
+Roofs FindRoofs(const dxf::Document& drawing, double tolerance);
+
+}  // namespace teskarlt
