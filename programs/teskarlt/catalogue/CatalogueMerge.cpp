@@ -190,7 +190,7 @@ class SourceInEncoding {
     const std::string converted =
         Converted(platform::ReadWholeFile(source.path).View(), from, to, source.path);
     if (from == to) return;
-    path_ = target.path + ".source";
+    path_ = target.path + ".source.tmp";
     platform::WriteWholeFile(path_, converted);
     isConverted_ = true;
     note_ = fmt::format("the windows of {}, which is in {}, are taken over in {}", source.path, NameOf(from),

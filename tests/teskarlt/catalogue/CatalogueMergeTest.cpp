@@ -361,7 +361,7 @@ TEST_F(CatalogueMerge, SourceInUtf8IsTakenOverInTheCodePageOfTheTarget) {
   EXPECT_THAT(report.warnings, ElementsAre("the windows of " + source +
                                            ", which is in UTF-8, are taken over in code page 1250"));
   EXPECT_EQ(Text(source), UTF8_SOURCE);
-  EXPECT_FALSE(fs::exists(target + ".source"));
+  EXPECT_FALSE(fs::exists(target + ".source.tmp"));
 }
 
 TEST_F(CatalogueMerge, SourceInACodePageIsTakenOverInUtf8) {
