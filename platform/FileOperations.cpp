@@ -8,6 +8,7 @@
 #include <random>
 
 #include "platform/Error.h"
+#include "platform/ProgramEnd.h"
 
 namespace platform {
 namespace {
@@ -16,6 +17,7 @@ constexpr std::size_t WRITE_BUFFER_SIZE = std::size_t{1} << 20;
 constexpr std::size_t SMALLEST_READ_BUFFER = std::size_t{1} << 16;
 
 std::atomic<const FileOperations*> replacement{nullptr};
+std::atomic<bool> hasWrittenFile{false};
 
 [[noreturn]] void FailAt(const std::string& path, const char* operation, int error) {
   throw Error(std::string("cannot be ") + operation + ": " + SystemReason(error), {.file = path});
@@ -96,14 +98,18 @@ FileReplacement::FileReplacement(const std::string& path)
   if (old.exists && !old.isWritable) throw Error("cannot be written: it is write-protected", {.file = path});
   buffer_ = std::make_unique_for_overwrite<char[]>(WRITE_BUFFER_SIZE);
   temporary_ = TemporaryName(path_);
-  if (const int error = operations_.createNew(temporary_, file_); error != 0)
+  RemoveAtEnd(temporary_);
+  if (const int error = operations_.createNew(temporary_, file_); error != 0) {
+    RemoveAtEnd("");
     FailAt(path, "written: no file can be made in its folder", error);
+  }
   isOpen_ = isThere_ = true;
 }
 
 FileReplacement::~FileReplacement() {
   if (isOpen_) operations_.close(file_);
   if (isThere_) operations_.remove(temporary_);
+  RemoveAtEnd("");
 }
 
 void FileReplacement::Write(std::string_view bytes) {
@@ -126,6 +132,7 @@ void FileReplacement::Commit() {
   isOpen_ = false;
   if (const int error = operations_.close(file_); error != 0) Fail("closed", error);
   if (const int error = operations_.replace(temporary_, path_); error != 0) Fail("replaced", error);
+  NoteWrittenFile();
   isThere_ = false;
 }
 
@@ -142,6 +149,15 @@ void FileReplacement::WriteOut(std::string_view bytes) {
 
 void FileReplacement::Fail(const char* operation, int error) {
   FailAt(path_, operation, error);
+}
+
+bool HasWrittenFile() {
+  return hasWrittenFile;
+}
+
+void NoteWrittenFile() {
+  hasWrittenFile = true;
+  OutliveClosedPipes();
 }
 
 void WriteWholeFile(const std::string& path, std::string_view bytes) {

@@ -69,7 +69,8 @@ FileState StateOfFile(const std::string& path);
 
 // A complete new file in place of an old one. What is written goes through one buffer to a temporary file in
 // the same folder; only Commit puts it in the place of `path` (or of the file that a link `path` leads to).
-// Without Commit, and after any failure, the temporary file is removed and the old file is what it was.
+// Without Commit, and after any failure, the temporary file is removed and the old file is what it was; also
+// when the program is ended from outside (ProgramEnd.h).
 class FileReplacement {
  public:
   // Throws Error, also when the old file must not be written.
@@ -95,6 +96,11 @@ class FileReplacement {
   std::unique_ptr<char[]> buffer_;
   std::size_t used_ = 0;
 };
+
+// Whether this program has put a file in its place: what fails from then on leaves a change behind.
+// FileReplacement notes it; who writes files in other ways calls NoteWrittenFile.
+bool HasWrittenFile();
+void NoteWrittenFile();
 
 // Puts `bytes` in the place of the file `path` by FileReplacement; throws Error.
 void WriteWholeFile(const std::string& path, std::string_view bytes);

@@ -39,7 +39,8 @@ int OpenToRead(const std::string& path, FileHandle& file) {
 }
 
 int CreateNew(const std::string& path, FileHandle& file) {
-  return Open(path, GENERIC_WRITE, 0, CREATE_NEW, file);
+  // Deleting it while it is open is for a program that is ended from outside.
+  return Open(path, GENERIC_WRITE, FILE_SHARE_DELETE, CREATE_NEW, file);
 }
 
 int Read(FileHandle file, char* buffer, std::size_t capacity, std::size_t& count) {

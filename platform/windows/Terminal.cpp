@@ -11,6 +11,8 @@ bool IsTerminal(std::FILE* stream) {
   return _isatty(_fileno(stream)) != 0;
 }
 
+void GuardStandardStreams() {}  // handles of files are no standard streams here
+
 void UseUtf8Terminal() {
   SetConsoleOutputCP(CP_UTF8);
 }

@@ -107,6 +107,8 @@ def test_drawing_without_a_unit(teskarlt, tmp_path, house):
     assert path.read_bytes() != house.read_bytes()
     refused(teskarlt("insert", path, *INSERT), "$INSUNITS", "--units")
     teskarlt.done("insert", path, *INSERT, "--units", "mm")
+    assert teskarlt.done("list", path, "--json").json["units"] == "mm"  # by the window
+    refused(teskarlt("edit", path, "1", "--set", "width=1", "--units", "m"), "holds windows drawn in mm")
 
 
 @pytest.mark.parametrize("arguments", [(), ("insert",), ("fly", "house.dxf"), ("insert", "house.dxf", "--wings"),
@@ -232,10 +234,17 @@ def test_file_named_without_a_folder_is_replaced(teskarlt, house):
     assert house.read_bytes() != before
 
 
-def test_unit_that_contradicts_the_header_is_warned_of(teskarlt, house, tmp_path):
-    answer = teskarlt.done("insert", house, "--at", "2500,1200", "--roof", "0,0,0", "9,0,0", "0,9,9", "--units", "m",
-                           "-o", tmp_path / "out.dxf")
+def test_unit_that_contradicts_the_header_is_refused_unless_forced(teskarlt, house, tmp_path):
+    order = ["insert", house, "--at", "2500,1200", "--roof", "0,0,0", "9,0,0", "0,9,9", "-o", tmp_path / "out.dxf"]
+    refused(teskarlt(*order, "--units", "m"), "$INSUNITS 4", "--force-units")
+    assert not (tmp_path / "out.dxf").exists()
+    answer = teskarlt.done(*order, "--units", "m", "--force-units")
     assert "warning" in answer.stderr and "$INSUNITS 4" in answer.stderr
+
+
+@pytest.mark.parametrize("command", [("roofs",), ("list",), ("refit", "--dry-run"), ("preview", "-o", "plan.svg")])
+def test_no_command_takes_another_unit_than_the_drawings(teskarlt, house, tmp_path, command):
+    refused(teskarlt(command[0], house, *command[1:], "--units", "cm", cwd=tmp_path), "says that its unit is mm")
 
 
 def test_text_that_is_too_long_for_its_drawing_names_its_field(teskarlt, tmp_path):

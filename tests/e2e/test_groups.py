@@ -121,5 +121,5 @@ def test_old_drawing_gets_no_group(teskarlt, tmp_path):
 def test_refused_window_leaves_no_group(teskarlt, house, tmp_path):
     jobs = tmp_path / "jobs.jsonl"
     jobs.write_text('{"at": [2500, 1200], "set": {"width": 99}}\n{"at": [4800, 1200]}\n')
-    assert teskarlt("insert", house, "--jobs", jobs, "--keep-going").status == 1
+    assert teskarlt("insert", house, "--jobs", jobs, "--keep-going").status == 3
     assert groups(house) == {"BREVANTA_1": handles(house)}

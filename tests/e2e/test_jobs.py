@@ -58,7 +58,7 @@ def test_one_refused_job_writes_nothing_and_all_lines_are_reported(teskarlt, hou
 
 def test_keep_going_writes_the_others(teskarlt, house, tmp_path):
     answer = teskarlt("insert", house, "--jobs", jobs_file(tmp_path, OFF_THE_ROOF, GOOD), "--keep-going", "--json")
-    assert answer.status == 1
+    assert answer.status == 3
     assert [entry["line"] for entry in answer.json["refused"]] == [1]
     assert [entry["line"] for entry in answer.json["windows"]] == [2]
     assert len(windows.window_entities(readers.audited(house))) == windows.FACES + windows.LINES
@@ -88,7 +88,7 @@ def test_missing_catalogue_is_told_with_the_line_of_its_job(teskarlt, house, tmp
     missing = tmp_path / "missing.LIB"
     path = jobs_file(tmp_path, {**GOOD, "window": "OL 94x140", "catalogue": teskarlt.spelled(missing)}, OTHER)
     answer = teskarlt("insert", house, "--jobs", path, "--keep-going")
-    assert answer.status == 1
+    assert answer.status == 3
     assert answer.stderr.startswith(f"teskarlt: {teskarlt.spelled(path)}:1: {teskarlt.spelled(missing)}: cannot be opened: ")
     assert answer.stdout.startswith("1 window: ")
     assert len(teskarlt.done("list", house, "--json").json["windows"]) == 1

@@ -109,3 +109,22 @@ def test_uppermost_roof_over_the_point_is_taken(teskarlt, tmp_path, house):
     faces = {face["face"]: face["layer"] for face in teskarlt.done("roofs", house, "--json").json["roofs"]}
     answer = teskarlt.done("insert", house, "--at", "7600,1600", "-o", output, "--json").json
     assert faces[answer["face"]] == "ROOF_DORMER"
+
+
+@pytest.mark.parametrize("build_up", [0, 1, 2])
+def test_heights_that_are_told_are_those_of_the_drawn_frame(teskarlt, tmp_path, build_up):
+    roof, path = Roof(direction=100, units="cm"), tmp_path / "roof.dxf"
+    roof.save(path)
+    x, y, _ = roof.point()
+    answer = teskarlt.done("insert", path, "--at", f"{x!r},{y!r}", "--json", "--set", f"roofBuildUp={build_up}", "--set",
+                           "layerThickness=0.2", "--set", "lowerEdgeHeight=2.9", "--set", "slopeOffset=0.3").json
+    corners = windows.outline(readers.audited(path))
+    [listed] = teskarlt.done("list", path, "--json").json["windows"]
+    for told in (answer["frame"], listed["frame"]):
+        assert math.isclose(told["lowerEdge"], corners[0][2] / 100, abs_tol=1e-9)
+        assert math.isclose(told["upperEdge"], corners[1][2] / 100, abs_tol=1e-9)
+    assert answer["lowerEdgeHeight"] == listed["fields"]["lowerEdgeHeight"] == 2.9
+    # With the default height reference the layer lies plumb below the frame's lower edge.
+    pitch = math.radians(roof.pitch)
+    above = {0: 0.2 / math.cos(pitch), 1: 0, 2: 0.3 * math.sin(pitch)}[build_up]
+    assert math.isclose(answer["frame"]["lowerEdge"], 2.9 + above, abs_tol=1e-9)

@@ -122,11 +122,15 @@ class Checks {
 
 }  // namespace
 
-Verdict CheckDrawing(dxf::SourceText source) {
+Verdict CheckObjects(const dxf::SourceText& source) {
   dxf::RefuseOtherFiles(source);
   Findings findings;
   Checks(source, findings).Run();
-  Verdict verdict = findings.Finish(source);
+  return findings.Finish(source);
+}
+
+Verdict CheckDrawing(dxf::SourceText source) {
+  Verdict verdict = CheckObjects(source);
   try {
     const dxf::Document drawing = dxf::Document::FromSource(std::move(source));
     Findings ofWindows;

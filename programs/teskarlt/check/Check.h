@@ -13,4 +13,7 @@ namespace teskarlt::check {
 // The time is linear in the size of the file.
 Verdict CheckDrawing(dxf::SourceText source);
 
+// The same without its windows.
+Verdict CheckObjects(const dxf::SourceText& source);
+
 }  // namespace teskarlt::check

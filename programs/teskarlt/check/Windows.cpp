@@ -109,7 +109,7 @@ constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, Che
 
 const DrawingUnit* UnitOfHeader(const dxf::Document& drawing) {
   try {
-    return &UnitOf(drawing, "");
+    return &UnitOf(drawing);
   } catch (const Error&) {
     return nullptr;
   }

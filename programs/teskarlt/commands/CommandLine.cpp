@@ -6,7 +6,7 @@
 #include <new>
 #include <system_error>
 
-#include "teskarlt/Error.h"
+#include "platform/FileOperations.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/terminal/Messages.h"
 
@@ -28,7 +28,8 @@ constexpr const char* EXAMPLES =
     "  teskarlt preview house-with-window.dxf -o house.html\n"
     "  teskarlt check house-with-window.dxf\n"
     "\n"
-    "Exit status: 0 done, 1 refused or failed with nothing changed, 2 wrong usage.";
+    "Exit status: 0 done, 1 refused or failed with nothing changed, 2 wrong usage, 3 written and then "
+    "failed.";
 
 void AddCommands(OptionParser& parser) {
   AddRoofsCommand(parser);
@@ -48,7 +49,13 @@ void AddCommands(OptionParser& parser) {
 // What was printed has to arrive: a full disk shows only when the last of it is written.
 void FinishOutput() {
   if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return;
-  throw Error("the answer cannot be printed: " + std::generic_category().message(errno));
+  throw std::system_error(errno, std::generic_category(), "the answer cannot be printed");
+}
+
+// The status of a failure; a file that was written stays.
+int Failed(const std::string& message) {
+  Tell(message);
+  return platform::HasWrittenFile() ? EXIT_WRITTEN : EXIT_REFUSED;
 }
 
 }  // namespace
@@ -61,11 +68,11 @@ int RunCommandLine(const std::vector<std::string>& arguments) {
     FinishOutput();
     return status;
   } catch (const std::bad_alloc&) {
-    Tell("not enough memory for files of this size");
-    return EXIT_REFUSED;
+    return Failed("not enough memory for files of this size");
+  } catch (const std::system_error& error) {  // most often of printing
+    return Failed(std::string(error.what()) + (platform::HasWrittenFile() ? "; the file is written" : ""));
   } catch (const std::exception& error) {
-    Tell(error.what());
-    return EXIT_REFUSED;
+    return Failed(error.what());
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/terminal/Json.h"
@@ -25,7 +26,7 @@ void RunErase(EraseOptions& options) {
   const WindowModule module;
   dxf::Document drawing = dxf::Document::Load(options.target.File());
   const std::size_t erased = EraseWindow(module, drawing, options.number, options.isLockedToo);
-  options.target.Write([&](const std::string& path) { drawing.Save(path); });
+  SaveDrawing(drawing, options.target);
   if (options.asJson) {
     Json json;
     json["version"] = JSON_VERSION;

@@ -9,6 +9,7 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Messages.h"
@@ -125,7 +126,7 @@ void RunJobs(WindowOptions& defaults, const JobsOptions& options) {
   const bool isWanted = totals.refused == 0 || (options.keepGoing && totals.inserted > 0);
   WarnOfClosedLayers(drawing, totals.layers);
   WarnOfTexts(drawing);
-  if (isWanted) defaults.target.Write([&](const std::string& path) { drawing.Save(path); });
+  if (isWanted) SaveDrawing(drawing, defaults.target);
   if (defaults.asJson) {
     defaults.target.AddTo(answer);
     PrintJson(answer);

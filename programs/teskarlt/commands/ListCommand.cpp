@@ -10,6 +10,7 @@
 
 #include "geometry/Matrix4.h"
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
@@ -25,7 +26,7 @@ namespace {
 
 struct ListOptions {
   std::string file;
-  std::string units;
+  AskedUnit units;
   bool asJson = false;
 };
 
@@ -209,7 +210,7 @@ void AddListCommand(OptionParser& parser) {
   Subcommand command = parser.Add("list", "List the roof windows of a drawing");
   const auto options = std::make_shared<ListOptions>();
   command.Argument("FILE", options->file, "the drawing").Required();
-  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  AddUnitOptions(command, options->units);
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
       "Sizes are in metres, the place in drawing units; the direction in which the roof falls is in degrees\n"

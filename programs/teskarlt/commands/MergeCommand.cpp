@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include "platform/FileOperations.h"
 #include "teskarlt/catalogue/CatalogueMerge.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/modules/WindowModule.h"
@@ -55,6 +56,7 @@ void RunMerge(const MergeOptions& options) {
   if (options.hasTarget && options.target.empty()) throw UsageError("the name of TARGET is empty");
   const WindowModule module;
   const MergeReport report = MergeCatalogues(module, options.source, Given(options.target), options.encoding);
+  if (report.taken > 0) platform::NoteWrittenFile();
   for (const std::string& warning : report.warnings)
     TellWarning(warning);
   if (options.asJson) {

@@ -8,6 +8,7 @@
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/preview/Glb.h"
 #include "teskarlt/preview/Page.h"
@@ -33,7 +34,7 @@ struct PreviewOptions {
   std::string output;
   std::string format;
   std::string view;
-  std::string units;
+  AskedUnit units;
   std::vector<std::string> layers;
   std::optional<int> window;
   std::optional<int> width;
@@ -121,7 +122,7 @@ void AddPreviewCommand(OptionParser& parser) {
   command.Value("--width", options->width, "width of the picture, from 100 to 10000")
       .Named("PIXELS")
       .Within(LEAST_WIDTH, GREATEST_WIDTH);
-  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  AddUnitOptions(command, options->units);
   command.Footer(
       "A .svg is a drawing with title, scale bar and a group for each layer; a .png is seen from the "
       "south-east;\n"

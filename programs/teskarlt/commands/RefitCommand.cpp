@@ -4,7 +4,9 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/terminal/Json.h"
@@ -25,7 +27,7 @@ struct RefitOptions {
   std::vector<int> numbers;
   std::string keep = KEEP_PLAN;
   double reach = REFIT_REACH;
-  std::string units;
+  AskedUnit units;
   bool isLockedToo = false;
   bool keepGoing = false;
   bool isStrict = false;
@@ -116,7 +118,7 @@ void RunRefit(RefitOptions& options) {
   WarnOfTexts(drawing);
   const bool isWanted = report.problems.empty() || options.keepGoing;
   const bool isChanged = !report.refitted.empty() || options.target.IsNamed();
-  if (isWanted && isChanged) options.target.Write([&](const std::string& path) { drawing.Save(path); });
+  if (isWanted && isChanged) SaveDrawing(drawing, options.target);
   (options.asJson ? PrintAnswer : PrintText)(options, report);
   if (!report.problems.empty()) {
     throw Error(fmt::format("{} of the windows cannot be refitted{}", report.problems.size(),
@@ -147,7 +149,7 @@ void AddRefitCommand(OptionParser& parser) {
   command.Flag("--keep-going", options->keepGoing, "write the others when some windows cannot be refitted");
   AddLockedOption(command, options->isLockedToo);
   options->target.AddOutput(command);
-  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  AddUnitOptions(command, options->units);
   command.Flag("--strict", options->isStrict, "refuse when a window would overlap another");
   options->target.AddDryRun(command);
   command.Flag("--json", options->asJson, JSON_HELP);

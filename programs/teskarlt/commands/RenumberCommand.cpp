@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
@@ -48,8 +49,7 @@ void PrintText(const RenumberOptions& options, const std::vector<Renumbered>& ch
 void RunRenumber(RenumberOptions& options) {
   dxf::Document drawing = dxf::Document::Load(options.target.File());
   const std::vector<Renumbered> changes = RenumberCopies(drawing);
-  if (!changes.empty() || options.target.IsNamed())
-    options.target.Write([&](const std::string& path) { drawing.Save(path); });
+  if (!changes.empty() || options.target.IsNamed()) SaveDrawing(drawing, options.target);
   (options.asJson ? PrintAnswer : PrintText)(options, changes);
 }
 

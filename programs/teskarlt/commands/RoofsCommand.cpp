@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
@@ -19,7 +20,7 @@ namespace {
 
 struct RoofsOptions {
   std::string file;
-  std::string units;
+  AskedUnit units;
   bool isAll = false;
   bool asJson = false;
 };
@@ -167,7 +168,7 @@ void AddRoofsCommand(OptionParser& parser) {
   Subcommand command = parser.Add("roofs", "List the faces that can take a roof window");
   const auto options = std::make_shared<RoofsOptions>();
   command.Argument("FILE", options->file, "the drawing").Required();
-  command.Value("--units", options->units, UNITS_HELP).Named("UNIT");
+  AddUnitOptions(command, options->units);
   command.Flag("--all", options->isAll, "list the faces that take no window too: uneven ones and walls");
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(

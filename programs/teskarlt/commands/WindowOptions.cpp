@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/PointText.h"
 
@@ -45,7 +46,7 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
   command.Repeated("--set", options.settings, "a value of the window, as often as needed")
       .Named("FIELD=VALUE");
   options.target.AddOutput(command);
-  command.Value("--units", options.units, UNITS_HELP).Named("UNIT");
+  AddUnitOptions(command, options.units);
   command.Flag("--strict", options.isStrict,
                "refuse a window that overlaps another or does not lie on a roof face");
   options.target.AddDryRun(command);

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Options.h"
 #include "teskarlt/terminal/ResultTarget.h"
 #include "teskarlt/windows/WindowOrder.h"
@@ -19,7 +20,7 @@ struct WindowOptions {
   std::string window;
   std::string catalogue;
   std::vector<std::string> settings;
-  std::string units;
+  AskedUnit units;
   bool isStrict = false;
   bool asJson = false;
 };

@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/ClosedLayers.h"
@@ -45,7 +46,7 @@ void PrintText(const WindowOptions& options, const PlacedWindow& window, const W
 
 }  // namespace
 
-const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const std::string& asked) {
+const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const AskedUnit& asked) {
   const UnitChoice choice = ChooseUnit(drawing, asked);
   if (!choice.warning.empty()) TellWarning(choice.warning);
   return choice.unit;
@@ -104,7 +105,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
   if (!misfit.empty()) TellWarning(misfit);
   WarnOfClosedLayers(drawing, window.layers);
   WarnOfTexts(drawing);
-  options.target.Write([&](const std::string& path) { drawing.Save(path); });
+  SaveDrawing(drawing, options.target);
   if (options.asJson) {
     PrintJson(AnswerJson(options, window, edited));
   } else {

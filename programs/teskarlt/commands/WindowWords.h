@@ -17,8 +17,9 @@
 
 namespace teskarlt {
 
-// The unit in which the drawing is worked on, with a warning where it is not that of the header.
-const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const std::string& asked);
+// The unit in which the drawing is worked on, with a warning where the user forced another than the
+// drawing's.
+const DrawingUnit& ChooseUnitAndWarn(dxf::Document& drawing, const AskedUnit& asked);
 
 // A warning about a window that does not fit; empty when it fits.
 std::string MisfitWarning(std::int32_t number, const std::vector<std::string>& misfits);

@@ -23,9 +23,22 @@ constexpr double RoofTolerance(const DrawingUnit& unit) {
 // The unit of that name, "mm", "cm", "dm" or "m". Throws Error for another name.
 const DrawingUnit& UnitByName(std::string_view name);
 
-// The unit in which the drawing is drawn: `asked` when it is not empty, else
-// what the drawing's header says. Throws Error when neither says it, or the
+// The unit that the user says.
+struct AskedUnit {
+  std::string name;       // as in --units; empty: none
+  bool isForced = false;  // it goes before what the drawing says
+};
+
+// What a drawing says of its unit, by its header or, where that says nothing, by the windows in it.
+struct StatedUnit {
+  const DrawingUnit* unit = nullptr;  // null: none, or one that windows cannot be drawn in
+  std::string words;                  // for people: "says that its unit is mm ($INSUNITS 4)"; empty: nothing
+};
+StatedUnit StatedBy(const dxf::Document& drawing);
+
+// The unit in which the drawing is drawn: what the user says, else what the drawing does. Throws Error when
+// neither says it, when the drawing says another one than the user, unless that is forced, and when the
 // module cannot scale to it: it takes a whole number of units a metre.
-const DrawingUnit& UnitOf(const dxf::Document& drawing, const std::string& asked);
+const DrawingUnit& UnitOf(const dxf::Document& drawing, const AskedUnit& asked = {});
 
 }  // namespace teskarlt

@@ -183,6 +183,7 @@ class ShapeReader {
     shape.frameDepth = geometry::VecDot(normal, rise);
     shape.skirtHeight = geometry::VecDot(normal, Difference(wall[0], shape.outline[0]));
     if (*shape.frameDepth < 0) Fail("it stands upside down");
+    shape.glassDepth = geometry::VecDot(normal, Difference(wall[3], faces_.back()[0]));
     shape.isLeaning = Leans(rise, *shape.frameDepth);
   }
 

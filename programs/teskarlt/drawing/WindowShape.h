@@ -19,6 +19,7 @@ struct WindowShape {
   double length;
   std::optional<double> frameWidth;      // none without symbol and body, or where the sides differ
   std::optional<double> frameDepth;      // none without a body
+  std::optional<double> glassDepth;      // below the frame's top; none without a body
   std::optional<double> skirtHeight;     // none without symbol and body
   std::optional<double> layerThickness;  // none with a symbol
   bool keepsDirections;                  // its edges run as the module drew them, by its description

@@ -29,11 +29,13 @@ std::string_view LineEndOf(std::string_view text) {
   return end != std::string_view::npos && end > 0 && text[end - 1] == '\r' ? "\r\n" : "\n";
 }
 
-// Old drawings have handles when $HANDLING says so, or else when their entities have some.
+// Old drawings have handles when $HANDLING says so, or else when something in them has one. Entities without
+// handles beside objects that have some are numbered by whoever reads the drawing, and then some of them as
+// those objects.
 bool UsesHandles(const Index& index, int version) {
-  if (NeedsHandles(version)) return true;
+  if (NeedsHandles(version) || index.hasObjectHandles) return true;
   const auto handling = ParseInteger(VariableText(index, VARIABLE_HANDLING));
-  return handling ? *handling == 1 : index.hasEntityHandles;
+  return handling ? *handling == 1 : index.largestHandle > 0;
 }
 
 // A number far above the units there are counts as none.
@@ -55,6 +57,14 @@ bool IsSameFile(const std::string& a, const std::string& b) {
   };
   std::error_code error;
   return a == b || std::filesystem::equivalent(path(a), path(b), error);
+}
+
+platform::FileState StateAfterSave(const std::string& path) {
+  try {
+    return platform::StateOfFile(path);
+  } catch (const Error& error) {
+    throw Error("is written; since then it " + error.Message(), error.Place());
+  }
 }
 
 Rules RulesOf(const SourceText& source, const Index& index) {
@@ -234,12 +244,24 @@ bool Document::IsChanged() const {
   return state_->edits.IsChanged();
 }
 
+std::vector<std::string> Document::Notes() const {
+  return state_->edits.Notes();
+}
+
 EditMark Document::Mark() const {
   return state_->edits.Mark();
 }
 
 void Document::Rollback(const EditMark& mark) {
   state_->edits.Rollback(mark);
+}
+
+Excerpts Document::MakeExcerpts() const {
+  return state_->edits.MakeExcerpts();
+}
+
+bool Document::HasModelSpaceHandle() const {
+  return ParseHandle(state_->index.modelSpace.value).value_or(0) != 0;
 }
 
 void Document::Save(const std::string& path) const {
@@ -253,7 +275,7 @@ void Document::Save(const std::string& path) const {
   state_->edits.Write([&](std::string_view piece) { file.Write(piece); });
   refuseIfChanged();  // large drawings take a while
   file.Commit();
-  if (isLoadedFile) state_->file = platform::StateOfFile(path);
+  if (isLoadedFile) state_->file = StateAfterSave(path);
 }
 
 std::string Document::Serialize() const {

@@ -17,6 +17,7 @@
 #include "teskarlt/dxf/tags/SourceText.h"
 #include "teskarlt/dxf/tags/TypedTag.h"
 #include "teskarlt/dxf/write/Edits.h"
+#include "teskarlt/dxf/write/Excerpts.h"
 
 namespace teskarlt::dxf {
 
@@ -116,9 +117,16 @@ class Document {
   void RequireApplication(std::string_view name);
 
   bool IsChanged() const;
+  // What of the drawing's own damage the edits mend, in sentences for the user.
+  std::vector<std::string> Notes() const;
   EditMark Mark() const;
   // Undoes the edits made since the mark was taken. Marks taken later are void then.
   void Rollback(const EditMark& mark);
+
+  // What the edits change, for whoever checks it before the drawing is saved.
+  Excerpts MakeExcerpts() const;
+  // Whether the drawing says by which handle entities refer to the model space, to which they belong.
+  bool HasModelSpaceHandle() const;
 
   // --- Output ---
 

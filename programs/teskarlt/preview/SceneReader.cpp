@@ -52,10 +52,10 @@ std::string FileStem(const std::string& path) {
 }
 
 // The unit where it is known: a picture needs none, and it may be one that windows cannot have.
-const DrawingUnit* KnownUnit(const dxf::Document& drawing, const std::string& asked) {
-  if (!asked.empty()) return &UnitByName(asked);
+const DrawingUnit* KnownUnit(const dxf::Document& drawing, const AskedUnit& asked) {
+  if (!asked.name.empty()) return &UnitOf(drawing, asked);
   try {
-    return &UnitOf(drawing, asked);
+    return &UnitOf(drawing);
   } catch (const Error&) {
     return nullptr;
   }

@@ -4,18 +4,20 @@
 #include <string>
 #include <vector>
 
+#include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/preview/Scene.h"
 
 namespace teskarlt::preview {
 
 struct SceneOptions {
-  std::string units;                // as in --units; empty: what the drawing says
-  std::vector<std::string> layers;  // only these, UTF-8, without regard to case; empty: all
+  AskedUnit units;                       // what the user says of the drawing's unit
+  std::vector<std::string> layers = {};  // only these, UTF-8, without regard to case; empty: all
 };
 
 // The model space with its blocks, as far as its layers are visible. Throws Error for a malformed drawing, an
-// unknown unit or layer, blocks that hold themselves, and when nothing is left to be seen.
+// unknown unit or layer, a unit that is not the drawing's, blocks that hold themselves, and when nothing is
+// left to be seen.
 Scene ReadScene(const dxf::Document& drawing, const SceneOptions& options);
 
 }  // namespace teskarlt::preview

@@ -2,6 +2,7 @@
 #include "teskarlt/terminal/Messages.h"
 
 #include <algorithm>
+#include <cstdio>
 
 #include <fmt/format.h>
 
@@ -27,6 +28,11 @@ std::size_t ControlBytes(std::string_view text) {
   return isUpper ? 2 : 0;
 }
 
+// A message that standard error does not take is lost; it is no error of its own.
+void Print(std::string_view begin, std::string_view message) {
+  std::fputs(fmt::format("{}{}\n", begin, OneLine(message)).c_str(), stderr);
+}
+
 }  // namespace
 
 std::string OneLine(std::string_view text) {
@@ -41,15 +47,15 @@ std::string OneLine(std::string_view text) {
 }
 
 void Tell(std::string_view message) {
-  fmt::print(stderr, "teskarlt: {}\n", OneLine(message));
+  Print("teskarlt: ", message);
 }
 
 void TellWarning(std::string_view message) {
-  fmt::print(stderr, "teskarlt: warning: {}\n", OneLine(message));
+  Print("teskarlt: warning: ", message);
 }
 
 void TellNote(std::string_view message) {
-  fmt::print(stderr, "teskarlt: note: {}\n", OneLine(message));
+  Print("teskarlt: note: ", message);
 }
 
 }  // namespace teskarlt

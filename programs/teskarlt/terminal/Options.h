@@ -18,6 +18,7 @@ namespace teskarlt {
 constexpr int EXIT_DONE = 0;
 constexpr int EXIT_REFUSED = 1;  // refused or failed; nothing was changed
 constexpr int EXIT_USAGE = 2;
+constexpr int EXIT_WRITTEN = 3;  // a file was written, and then something failed or was left out
 
 // A command line that cannot be meant so; `what()` is one sentence about it.
 class UsageError : public std::runtime_error {

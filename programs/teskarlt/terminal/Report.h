@@ -11,7 +11,6 @@ namespace teskarlt {
 // Raised with every change of the JSON output that a reader would notice.
 constexpr int JSON_VERSION = 1;
 
-constexpr const char* UNITS_HELP = "unit of the drawing, mm, cm, dm or m, in place of what its header says";
 constexpr const char* JSON_HELP = "print JSON, for programs";
 
 // To standard output.

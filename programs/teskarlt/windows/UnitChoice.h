@@ -10,10 +10,10 @@ namespace teskarlt {
 
 struct UnitChoice {
   const DrawingUnit& unit;
-  std::string warning;  // for people, where the user's word contradicts the header; else empty
+  std::string warning;  // for people, where the user forced another than the drawing's; else empty
 };
 
 // The unit as UnitOf finds it; the drawing counts with it from now on. Throws Error as UnitOf does.
-UnitChoice ChooseUnit(dxf::Document& drawing, const std::string& asked);
+UnitChoice ChooseUnit(dxf::Document& drawing, const AskedUnit& asked);
 
 }  // namespace teskarlt

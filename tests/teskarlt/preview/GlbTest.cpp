@@ -75,7 +75,7 @@ TEST(Glb, ClosedPolylineHasTheNumberOfItsSurfaceAndALineNone) {
 
 TEST(Glb, PointsAreMetresAroundTheMiddleWithYUp) {
   const Model model =
-      Read(Glb(SceneOf({.entities = Line("A", 100, 200, 300, 600, "|30 50|31 150")}, {"cm", {}})));
+      Read(Glb(SceneOf({.entities = Line("A", 100, 200, 300, 600, "|30 50|31 150")}, {{"cm", true}, {}})));
   EXPECT_FLOAT_EQ(FloatAt(model, 0), -1);
   EXPECT_FLOAT_EQ(FloatAt(model, 4), 0);
   EXPECT_FLOAT_EQ(FloatAt(model, 8), 2);

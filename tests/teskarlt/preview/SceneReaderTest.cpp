@@ -36,9 +36,9 @@ TEST(ReadScene, BoxHoldsEverything) {
   EXPECT_EQ(scene.box.high.z, 2);
 }
 
-TEST(ReadScene, UnitIsThatOfTheDrawingOrAsked) {
+TEST(ReadScene, UnitIsThatOfTheDrawingOrForced) {
   EXPECT_EQ(SceneOf({.entities = Line("0", 0, 0, 1, 1)}).perMetre, 1);
-  EXPECT_EQ(SceneOf({.entities = Line("0", 0, 0, 1, 1)}, {"cm", {}}).perMetre, 100);
+  EXPECT_EQ(SceneOf({.entities = Line("0", 0, 0, 1, 1)}, {{"cm", true}, {}}).perMetre, 100);
 }
 
 TEST(ReadScene, ColourIsTrueColourThenNumberThenLayer) {
@@ -63,13 +63,13 @@ TEST(ReadScene, InvisibleEntityIsNotShown) {
 }
 
 TEST(ReadScene, OnlyTheAskedLayersAreShown) {
-  const Scene scene = SceneOf({.entities = Line("A", 0, 0, 1, 1) + Line("B", 0, 0, 1, 1)}, {"", {"b"}});
+  const Scene scene = SceneOf({.entities = Line("A", 0, 0, 1, 1) + Line("B", 0, 0, 1, 1)}, {{}, {"b"}});
   ASSERT_EQ(scene.layers.size(), 1U);
   EXPECT_EQ(scene.layers[0].name, "B");
 }
 
 TEST(ReadScene, LayerThatShowsNothingIsAnError) {
-  EXPECT_THAT(MessageOf({.entities = Line("A", 0, 0, 1, 1)}, {"", {"ROOF"}}), HasSubstr("on layer \"ROOF\""));
+  EXPECT_THAT(MessageOf({.entities = Line("A", 0, 0, 1, 1)}, {{}, {"ROOF"}}), HasSubstr("on layer \"ROOF\""));
 }
 
 TEST(ReadScene, EmptyDrawingIsAnError) {

@@ -9,16 +9,21 @@ namespace {
 
 TEST(ChooseUnit, HeaderIsTakenAtItsWord) {
   dxf::Document drawing = House();
-  const UnitChoice choice = ChooseUnit(drawing, "");
+  const UnitChoice choice = ChooseUnit(drawing, {});
   EXPECT_EQ(choice.unit.name, "mm");
   EXPECT_EQ(choice.warning, "");
 }
 
-TEST(ChooseUnit, UsersWordGoesBeforeTheHeaderWithAWarning) {
+TEST(ChooseUnit, ForcedUnitGoesBeforeTheHeaderWithAWarning) {
   dxf::Document drawing = House();
-  const UnitChoice choice = ChooseUnit(drawing, "m");
+  const UnitChoice choice = ChooseUnit(drawing, {"m", true});
   EXPECT_EQ(choice.unit.perMetre, 1);
-  EXPECT_EQ(choice.warning, "house.dxf says that its unit is another one ($INSUNITS 4) than --units m");
+  EXPECT_EQ(choice.warning, "house.dxf says that its unit is mm ($INSUNITS 4); --units m is taken");
+}
+
+TEST(ChooseUnit, ForcedUnitThatTheDrawingSaysTooIsNoWarning) {
+  dxf::Document drawing = House();
+  EXPECT_EQ(ChooseUnit(drawing, {"mm", true}).warning, "");
 }
 
 }  // namespace

@@ -15,6 +15,9 @@ constexpr const char* WINDOW_ELEMENT = "TKBRVA";
 // Colour number of the pane; the other entities have their layers' colours.
 constexpr std::int32_t GLASS_COLOUR = 4;
 
+// Depth of the glass below the frame's top, in metres; half the frame's depth where that is less than this.
+constexpr double GLASS_INSET = 0.02;
+
 // A body has the faces of the skirt, if it has one, the frame's outer and inner walls, the rings below and
 // above them, four each, and the pane.
 constexpr std::size_t FACES_OF_SKIRT = 4;

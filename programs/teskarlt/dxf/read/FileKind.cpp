@@ -31,6 +31,14 @@ constexpr Beginning BEGINNINGS[] = {
     {"\xFE\xFF", "is UTF-16 text; save it as DXF in its CAD program again"},
 };
 
+// As old Macintosh programs wrote them. Doubled carriage returns before a line feed are another matter.
+bool HasCarriageReturnsAlone(std::string_view text) {
+  const auto end = text.find_first_of("\r\n");
+  if (end == std::string_view::npos || text[end] != '\r') return false;
+  const std::string_view rest = text.substr(end + 1);
+  return !rest.starts_with('\n') && !rest.starts_with('\r');
+}
+
 bool StartsWithCode(std::string_view text) {
   const auto line = Trimmed(text.substr(0, text.find('\n')));
   return !line.empty() &&
@@ -46,6 +54,12 @@ void RefuseOtherFiles(const SourceText& source) {
     if (text.starts_with(beginning.bytes)) source.Fail(beginning.message);
   if (text.substr(0, 1024).find('\0') != std::string_view::npos)
     source.Fail("is not a DXF drawing but a binary file");
+  if (HasCarriageReturnsAlone(text)) {
+    source.Fail(
+        "has lines that end with a carriage return alone, as old Macintosh programs write them; put line "
+        "feeds "
+        "in their place (tr '\\r' '\\n') or let a CAD program save it again");
+  }
   if (!StartsWithCode(text)) source.Fail("is not a DXF drawing: it does not start with a group code");
 }
 

@@ -23,7 +23,7 @@ struct GroupObject {
   std::string_view text;  // all its tags
   std::uint64_t handle;   // 0: none, or one that cannot be read
   std::vector<GroupMember> members;
-  const char* membersEnd;  // where members can be added
+  const char* membersEnd;  // where members can be added: before extended data
 };
 
 struct DictionaryEntry {
@@ -37,14 +37,17 @@ struct Dictionary {
   std::uint64_t handle;
   bool ownsHard;  // its entries are hard owners
   std::vector<DictionaryEntry> entries;
-
-  const char* End() const { return text.data() + text.size(); }
+  const char* entriesEnd;  // where entries can be added: before extended data
 };
 
 struct GroupObjects {
   std::vector<GroupObject> groups;
   std::optional<Dictionary> root;        // of the drawing
   std::optional<Dictionary> groupNames;  // ACAD_GROUP
+  // The root's entry for it, also where it leads to another object, of this type, or to none.
+  std::optional<DictionaryEntry> groupNamesEntry;
+  std::string_view groupNamesType;
+  bool haveOwners = false;  // some object says to what it belongs
 };
 
 // One pass over the section OBJECTS; empty when it is missing.

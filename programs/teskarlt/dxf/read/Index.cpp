@@ -140,8 +140,10 @@ void Indexer::ReadTable() {
     } else if (isInEntry && !isNamed && tag_.code == CODE_NAME) {
       isNamed = true;
       table.entries.push_back(tag_.value);
-      if (SameName(table.name, TABLE_BLOCKS) && SameName(tag_.value, BLOCK_MODEL_SPACE))
+      if (SameName(table.name, TABLE_BLOCKS) && SameName(tag_.value, BLOCK_MODEL_SPACE)) {
+        index_.modelSpaceName = tag_;
         index_.modelSpace = handle;
+      }
     }
   }
   table.end = reader_.TagBegin();
@@ -154,7 +156,6 @@ void Indexer::ReadTable() {
 
 void Indexer::AddEntity(const Entity& entity, bool isInPaperSpace) {
   if (entity.type.empty()) return;
-  index_.hasEntityHandles = index_.hasEntityHandles || entity.handle != 0;
   if (isInPaperSpace) {
     ++index_.paperSpaceEntities;
   } else {
@@ -195,8 +196,10 @@ void Indexer::ReadEntities() {
 }
 
 void Indexer::ReadOther() {
+  const bool isObjects = SameName(index_.sections.back().name, SECTION_OBJECTS);
   while (NextInSection()) {
-    if (tag_.code == CODE_HANDLE || tag_.code == CODE_DIMSTYLE_HANDLE) ReadHandle();
+    if (tag_.code != CODE_HANDLE && tag_.code != CODE_DIMSTYLE_HANDLE) continue;
+    if (ReadHandle() != 0 && isObjects) index_.hasObjectHandles = true;
   }
 }
 

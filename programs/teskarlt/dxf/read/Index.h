@@ -46,9 +46,11 @@ struct Index {
   std::vector<Table> tables;
   std::vector<Entity> entities;        // of the model space
   std::size_t paperSpaceEntities = 0;  // of the ENTITIES section
-  bool hasEntityHandles = false;       // some entity has a handle
+  bool hasObjectHandles = false;       // some object of the section OBJECTS has a handle
   std::uint64_t largestHandle = 0;     // of all objects, $HANDSEED aside
-  Tag modelSpace;                      // handle of the block entry of the model space; code 0 when missing
+  // Of the block entry of the model space: its name and its handle; code 0 when missing.
+  Tag modelSpaceName;
+  Tag modelSpace;
 
   const Section* FindSection(std::string_view name) const;
   const Table* FindTable(std::string_view name) const;

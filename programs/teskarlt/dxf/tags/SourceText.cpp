@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/BinaryForm.h"
 
 namespace teskarlt::dxf {
@@ -52,10 +51,14 @@ void SourceText::Write(const std::vector<Splice>& splices,
   sink({at, static_cast<std::size_t>(text.data() + text.size() - at)});
 }
 
+ErrorPlace SourceText::PlaceOf(const char* position) const {
+  return {.file = name_,
+          .unit = IsBinary() ? ErrorPlace::Unit::Byte : ErrorPlace::Unit::Line,
+          .position = PlacesOf({&position, 1}).front()};
+}
+
 void SourceText::FailAt(const char* position, const std::string& message) const {
-  const std::size_t place = PlacesOf({&position, 1}).front();
-  const ErrorPlace::Unit unit = IsBinary() ? ErrorPlace::Unit::Byte : ErrorPlace::Unit::Line;
-  throw Error(message, {.file = name_, .unit = unit, .position = place});
+  throw Error(message, PlaceOf(position));
 }
 
 void SourceText::Fail(const std::string& message) const {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/FileOperations.h"
+#include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Splice.h"
 
 namespace teskarlt::dxf {
@@ -31,6 +32,9 @@ class SourceText {
   // Where positions of the text, in ascending order, are in the file: the numbers of their lines, from 1, or
   // in a binary drawing the offsets of their tags, from 0. One pass over the text.
   std::vector<std::size_t> PlacesOf(std::span<const char* const> positions) const;
+
+  // The same of one position, with the name of the file.
+  ErrorPlace PlaceOf(const char* position) const;
 
   // Gives the file's bytes with the splices, which lie in the text and are in ascending order, to `sink`,
   // piece by piece: text as text, a binary drawing as a binary one. What no splice touches keeps its bytes.

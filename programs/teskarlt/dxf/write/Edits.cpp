@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/read/Owners.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -88,9 +89,9 @@ std::uint64_t Edits::AddCheckedEntity(std::span<const TypedTag> tags) {
   if (handle != 0) writer.Handle(CODE_HANDLE, handle);
   if (grouping_) {
     grouping_->members.push_back(handle);
-    if (HasOwners(rules_.version)) WriteReactors(writer, grouping_->reactors);
+    if (groups_.NamesOwners()) WriteReactors(writer, grouping_->reactors);
   }
-  if (const std::uint64_t owner = ModelSpaceHandle(); owner != 0) writer.Handle(CODE_OWNER, owner);
+  if (const std::uint64_t owner = OwnerOfNew(); owner != 0) writer.Handle(CODE_OWNER, owner);
   for (const TypedTag& tag : tags.subspan(1, extended - 1)) {
     if (tag.code == CODE_SUBCLASS && !HasSubclassMarkers(rules_.version)) continue;
     if (tag.code == CODE_LAYER) {
@@ -116,12 +117,27 @@ void Edits::RequireNames(std::span<const TypedTag> tags) {
 }
 
 // The owner of new entities; 0 where there is none to name.
-std::uint64_t Edits::ModelSpaceHandle() const {
-  if (!HasOwners(rules_.version) || index_.modelSpace.code == 0) return 0;
-  if (const auto handle = ParseHandle(index_.modelSpace.value)) return *handle;
-  source_.FailAt(index_.modelSpace.value.data(),
-                 fmt::format("{} is no handle, and new entities of the model space have to refer to it",
-                             Quoted(index_.modelSpace.value)));
+std::uint64_t Edits::OwnerOfNew() {
+  if (!owner_) owner_ = FindOwner();
+  return *owner_;
+}
+
+// The entry of the model space, or what the drawing's own entities name where that entry is damaged. Before
+// R2000, new entities name one where those do.
+std::uint64_t Edits::FindOwner() const {
+  if (!HasSubclassMarkers(rules_.version)) return 0;
+  const Tag& entry = index_.modelSpace;
+  if (HasOwners(rules_.version)) {
+    if (const auto handle = ParseHandle(entry.value); handle && *handle != 0) return *handle;
+  }
+  const Tag neighbour = OwnerOfEntities(source_, index_);
+  if (const auto handle = ParseHandle(neighbour.value); handle && *handle != 0) return *handle;
+  if (!HasOwners(rules_.version) || index_.modelSpaceName.code == 0) return 0;
+  constexpr const char* NEED =
+      "and new entities of the model space have to refer to it; let a CAD program repair the drawing first";
+  if (entry.code != 0)
+    source_.FailAt(entry.value.data(), fmt::format("{} is no handle, {}", Quoted(entry.value), NEED));
+  source_.FailAt(index_.modelSpaceName.value.data(), fmt::format("this record has no handle, {}", NEED));
 }
 
 std::string_view Edits::ExtendedData(std::span<const TypedTag> tags) {
@@ -247,6 +263,10 @@ std::vector<Splice> Edits::Splices() const {
   });
   DropNested(splices);
   return splices;
+}
+
+Excerpts Edits::MakeExcerpts() const {
+  return dxf::MakeExcerpts(source_, index_, Splices());
 }
 
 void Edits::Write(const std::function<void(std::string_view)>& sink) const {

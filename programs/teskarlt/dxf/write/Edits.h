@@ -13,6 +13,7 @@
 #include "teskarlt/dxf/read/Index.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/dxf/tags/TypedTag.h"
+#include "teskarlt/dxf/write/Excerpts.h"
 #include "teskarlt/dxf/write/HandleSeed.h"
 #include "teskarlt/dxf/write/NewGroups.h"
 #include "teskarlt/dxf/write/NewTableEntries.h"
@@ -50,6 +51,10 @@ class Edits {
   EditMark Mark() const;
   void Rollback(const EditMark& mark);
 
+  std::vector<std::string> Notes() const { return groups_.Notes(); }
+
+  Excerpts MakeExcerpts() const;
+
   // Gives the drawing's bytes with the edits to `sink`, piece by piece.
   void Write(const std::function<void(std::string_view)>& sink) const;
 
@@ -64,7 +69,8 @@ class Edits {
 
   std::uint64_t AddCheckedEntity(std::span<const TypedTag> tags);
   void RequireNames(std::span<const TypedTag> tags);
-  std::uint64_t ModelSpaceHandle() const;
+  std::uint64_t OwnerOfNew();
+  std::uint64_t FindOwner() const;
   std::string_view ExtendedData(std::span<const TypedTag> tags);
   std::size_t NumberOf(const Entity& entity) const;
   std::vector<Splice> Splices() const;
@@ -78,6 +84,7 @@ class Edits {
   NewTableEntries entries_;
   NewGroups groups_;
   std::optional<Grouping> grouping_;
+  std::optional<std::uint64_t> owner_;  // of new entities, looked up when first needed
 
   TextStore store_;
   std::vector<std::string_view> added_;  // texts of new entities, one behind the other

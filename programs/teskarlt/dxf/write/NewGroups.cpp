@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/Error.h"
 #include "teskarlt/dxf/read/TagReader.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
@@ -29,10 +30,10 @@ void WriteEntry(TagWriter& writer, std::string_view name, std::uint64_t handle, 
   writer.Handle(isHardOwner ? CODE_HARD_OWNED : CODE_SOFT_OWNED, handle);
 }
 
-void WriteDictionaryHead(TagWriter& writer, std::uint64_t handle, std::uint64_t owner, int version) {
+void WriteDictionaryHead(TagWriter& writer, std::uint64_t handle, std::uint64_t owner, bool namesOwners) {
   writer.Text(CODE_TYPE, TYPE_DICTIONARY);
   writer.Handle(CODE_HANDLE, handle);
-  if (HasOwners(version)) {
+  if (namesOwners) {
     if (owner != NO_OWNER) WriteReactors(writer, std::array{owner});
     writer.Handle(CODE_OWNER, owner);
   }
@@ -68,6 +69,10 @@ const GroupObjects& NewGroups::Objects() const {
       fileNames_.insert(FoldedName(codec_.Decode(entry.name)));
   }
   return *objects_;
+}
+
+bool NewGroups::NamesOwners() const {
+  return HasOwners(rules_.version) || (HasSubclassMarkers(rules_.version) && Objects().haveOwners);
 }
 
 std::vector<const GroupObject*> NewGroups::GroupsOf(std::span<const std::uint64_t> entities) const {
@@ -110,10 +115,32 @@ const NewGroups::Addition* NewGroups::Opener() const {
 std::uint64_t NewGroups::NamesHandle(Addition& addition) {
   if (Objects().groupNames) return Objects().groupNames->handle;
   if (const Addition* opener = Opener(); opener != nullptr) return opener->names;
+  RefuseOtherNames();
   addition.opensDictionary = true;
   addition.root = Objects().root ? Objects().root->handle : handles_.Allocate();
   addition.names = handles_.Allocate();
   return addition.names;
+}
+
+// An object of another type may hold groups in a way that is not known here.
+void NewGroups::RefuseOtherNames() const {
+  if (Objects().groupNamesType.empty()) return;
+  const DictionaryEntry& entry = *Objects().groupNamesEntry;
+  source_.FailAt(
+      entry.name.data(),
+      fmt::format("{} leads to the {} {:X}, and new groups need a DICTIONARY there; let a CAD program "
+                  "repair the drawing first",
+                  GROUP_DICTIONARY, Objects().groupNamesType, entry.handle));
+}
+
+std::vector<std::string> NewGroups::Notes() const {
+  if (Opener() == nullptr || !Objects().groupNamesEntry) return {};
+  const DictionaryEntry& entry = *Objects().groupNamesEntry;
+  const std::string note = fmt::format(
+      "{} led to the object {:X}, which the drawing does not hold, and leads to a new dictionary "
+      "of groups now",
+      GROUP_DICTIONARY, entry.handle);
+  return {Error(note, source_.PlaceOf(entry.name.data())).what()};
 }
 
 void NewGroups::Add(std::uint64_t handle, std::string_view name, std::string_view description,
@@ -125,7 +152,7 @@ void NewGroups::Add(std::uint64_t handle, std::string_view name, std::string_vie
   TagWriter writer(addition.text, rules_.lineEnd);
   writer.Text(CODE_TYPE, TYPE_GROUP);
   writer.Handle(CODE_HANDLE, handle);
-  if (HasOwners(rules_.version)) {
+  if (NamesOwners()) {
     WriteReactors(writer, std::array{names});
     writer.Handle(CODE_OWNER, names);
   }
@@ -184,26 +211,23 @@ void NewGroups::AddRemovals(const std::unordered_set<std::uint64_t>& removedEnti
 void NewGroups::AddDictionarySplices(const std::string& entries, std::string& objects,
                                      std::vector<Splice>& splices) const {
   if (const auto& names = Objects().groupNames; names) {
-    splices.push_back({names->End(), names->End(), entries});
+    splices.push_back({names->entriesEnd, names->entriesEnd, entries});
     return;
   }
   const Addition& opener = *Opener();
   std::string text;
   TagWriter writer(text, rules_.lineEnd);
   if (const auto& root = Objects().root; root) {
-    for (const DictionaryEntry& entry : root->entries) {
-      const bool leadsNowhere = SameName(Trimmed(entry.name), GROUP_DICTIONARY);
-      if (leadsNowhere) splices.push_back(Removal(entry.text));
-    }
+    if (Objects().groupNamesEntry) splices.push_back(Removal(Objects().groupNamesEntry->text));
     std::string entry;
     TagWriter entryWriter(entry, rules_.lineEnd);
     WriteEntry(entryWriter, GROUP_DICTIONARY, opener.names, root->ownsHard);
-    splices.push_back({root->End(), root->End(), std::move(entry)});
+    splices.push_back({root->entriesEnd, root->entriesEnd, std::move(entry)});
   } else {
-    WriteDictionaryHead(writer, opener.root, NO_OWNER, rules_.version);
+    WriteDictionaryHead(writer, opener.root, NO_OWNER, NamesOwners());
     WriteEntry(writer, GROUP_DICTIONARY, opener.names, false);
   }
-  WriteDictionaryHead(writer, opener.names, opener.root, rules_.version);
+  WriteDictionaryHead(writer, opener.names, opener.root, NamesOwners());
   objects = text + entries + objects;
 }
 

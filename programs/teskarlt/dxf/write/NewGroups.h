@@ -29,6 +29,10 @@ class NewGroups {
   NewGroups(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules,
             HandleSeed& handles);
 
+  // Whether what is written says to what it belongs and whom it tells of its changes: from R2000 on, and
+  // before where the drawing's own objects do.
+  bool NamesOwners() const;
+
   // Groups of the file that list all of these entities.
   std::vector<const GroupObject*> GroupsOf(std::span<const std::uint64_t> entities) const;
 
@@ -43,6 +47,9 @@ class NewGroups {
   // Number of additions so far, and the way back to it.
   std::size_t Count() const { return additions_.size(); }
   void GoBack(std::size_t count);
+
+  // What of the drawing's own the additions mend, in sentences for the user.
+  std::vector<std::string> Notes() const;
 
   // What the additions change in the file, and what the removal of entities changes in its groups: they lose
   // those members, and a group that loses the last one goes with its name.
@@ -64,6 +71,7 @@ class NewGroups {
   bool HasName(const std::string& foldedName) const;
   std::string FreeName(std::string_view name) const;
   std::uint64_t NamesHandle(Addition& addition);
+  void RefuseOtherNames() const;
   const Addition* Opener() const;
   void AddRemovals(const std::unordered_set<std::uint64_t>& removedEntities,
                    std::vector<Splice>& splices) const;

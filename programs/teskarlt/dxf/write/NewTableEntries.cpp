@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/read/Owners.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -128,9 +129,10 @@ const NewTableEntries::Entry* NewTableEntries::Opener(TableKind kind) const {
 // A table comes with the entries that every drawing has in it.
 void NewTableEntries::OpenTable(TableKind kind) {
   const std::uint64_t table = HasSubclassMarkers(rules_.version) ? handles_.Allocate() : 0;
+  const std::uint64_t owner = NamesOwners() ? table : 0;
   const std::size_t first = entries_.size();
   const auto addDefault = [&](std::string_view name) {
-    const EntryHead head{rules_.version, AllocateEntryHandle(), table};
+    const EntryHead head{rules_.version, AllocateEntryHandle(), owner};
     entries_.push_back(
         {kind, FoldedName(name), EntryText(kind, name, head), entries_.size() == first, table});
   };
@@ -143,17 +145,34 @@ void NewTableEntries::OpenTable(TableKind kind) {
   if (kind == TableKind::Application) addDefault(DEFAULT_APPLICATION);
 }
 
-// Handle of the table that a new entry goes to; 0 when it has none.
-std::uint64_t NewTableEntries::TableHandle(TableKind kind) {
-  if (const Table* const table = index_.FindTable(TableName(kind)); table != nullptr) {
-    if (table->handle.code == 0 || !HasOwners(rules_.version)) return 0;
-    if (const auto handle = ParseHandle(table->handle.value)) return *handle;
-    source_.FailAt(table->handle.value.data(),
-                   fmt::format("{} is no handle, and new records of the table have to refer to it",
-                               Quoted(table->handle.value)));
-  }
+// From R2000 on entries name the table that they belong to, and before where those of the drawing do.
+bool NewTableEntries::NamesOwners() const {
+  if (HasOwners(rules_.version)) return true;
+  return HasSubclassMarkers(rules_.version) &&
+         std::any_of(index_.tables.begin(), index_.tables.end(),
+                     [&](const Table& table) { return OwnerOfEntries(source_, table).code != 0; });
+}
+
+// The table that a new entry names; 0 where there is none to name.
+std::uint64_t NewTableEntries::OwnerOfNew(TableKind kind) {
+  if (const Table* const table = index_.FindTable(TableName(kind)); table != nullptr)
+    return HasSubclassMarkers(rules_.version) ? OwnerInFile(*table) : 0;
   if (Opener(kind) == nullptr) OpenTable(kind);
-  return Opener(kind)->table;
+  return NamesOwners() ? Opener(kind)->table : 0;
+}
+
+// What the table's own entries name where its head is damaged.
+std::uint64_t NewTableEntries::OwnerInFile(const Table& table) const {
+  const Tag neighbour = OwnerOfEntries(source_, table);
+  if (!HasOwners(rules_.version) && neighbour.code == 0) return 0;
+  for (const Tag& tag : {table.handle, neighbour}) {
+    if (const auto handle = ParseHandle(tag.value); handle && *handle != 0) return *handle;
+  }
+  if (table.handle.code == 0) return 0;  // nothing in the table has a handle
+  source_.FailAt(table.handle.value.data(),
+                 fmt::format("{} is no handle, and new records of the table have to refer to it; let a CAD "
+                             "program repair the drawing first",
+                             Quoted(table.handle.value)));
 }
 
 // Entries of R12 have no handles.
@@ -162,12 +181,12 @@ std::uint64_t NewTableEntries::AllocateEntryHandle() {
 }
 
 void NewTableEntries::Add(TableKind kind, std::string_view utf8Name) {
-  const std::uint64_t table = TableHandle(kind);
+  const std::uint64_t owner = OwnerOfNew(kind);
   std::string foldedName = FoldedName(utf8Name);
   if (HasFolded(kind, foldedName)) return;  // came with the table
-  const EntryHead head{rules_.version, AllocateEntryHandle(), table};
+  const EntryHead head{rules_.version, AllocateEntryHandle(), owner};
   const std::string raw = codec_.Encode(utf8Name);
-  entries_.push_back({kind, std::move(foldedName), EntryText(kind, raw, head), false, table});
+  entries_.push_back({kind, std::move(foldedName), EntryText(kind, raw, head), false, 0});
 }
 
 std::string NewTableEntries::EntryText(TableKind kind, std::string_view raw, const EntryHead& head) const {

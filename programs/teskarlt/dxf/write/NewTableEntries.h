@@ -47,7 +47,7 @@ class NewTableEntries {
     std::string foldedName;
     std::string text;
     bool opensTable;      // the first of a table that the file does not have
-    std::uint64_t table;  // handle of its table
+    std::uint64_t table;  // handle of that table
   };
   struct TextHash {
     using is_transparent = void;
@@ -59,7 +59,9 @@ class NewTableEntries {
   const std::unordered_set<std::string>& FileNames(TableKind kind) const;
   const Entry* Opener(TableKind kind) const;
   void OpenTable(TableKind kind);
-  std::uint64_t TableHandle(TableKind kind);
+  bool NamesOwners() const;
+  std::uint64_t OwnerOfNew(TableKind kind);
+  std::uint64_t OwnerInFile(const Table& table) const;
   void Add(TableKind kind, std::string_view utf8Name);
   std::string EntryText(TableKind kind, std::string_view raw, const EntryHead& head) const;
   std::uint64_t AllocateEntryHandle();

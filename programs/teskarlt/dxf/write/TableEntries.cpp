@@ -45,7 +45,7 @@ constexpr Unit UNITS[] = {{UNITS_INCHES, MILLIMETRES_PER_INCH},
 
 void WriteHead(TagWriter& writer, const EntryHead& head) {
   if (head.handle != 0 && NeedsHandles(head.version)) writer.Handle(CODE_HANDLE, head.handle);
-  if (head.owner != 0 && HasOwners(head.version)) writer.Handle(CODE_OWNER, head.owner);
+  if (head.owner != 0) writer.Handle(CODE_OWNER, head.owner);
 }
 
 void WriteEntryBegin(TagWriter& writer, std::string_view type, std::string_view subclass,

@@ -32,6 +32,13 @@ TEST(FileKind, UnknownText) {
             "roof.dxf: is not a DXF drawing: it does not start with a group code");
 }
 
+TEST(FileKind, LinesThatEndWithACarriageReturnAloneAreToldByThatName) {
+  EXPECT_EQ(
+      LoadError(Tags("  0|SECTION|  2|ENTITIES|  0|ENDSEC|  0|EOF", "\r")),
+      "roof.dxf: has lines that end with a carriage return alone, as old Macintosh programs write them; "
+      "put line feeds in their place (tr '\\r' '\\n') or let a CAD program save it again");
+}
+
 TEST(FileKind, ByteOrderMarkInFrontIsTolerated) {
   const std::string text = "\xEF\xBB\xBF" + OnlyEntities("0|LINE|8|0");
   const Document drawing = Parsed(text);

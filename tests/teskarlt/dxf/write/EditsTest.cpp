@@ -59,6 +59,47 @@ TEST(AddEntity, EntityOfR13HasNoOwner) {
   EXPECT_EQ(Added(drawing).substr(0, 32), "  0|LINE|  5|20|100|AcDbEntity| ");
 }
 
+// The owner of a new entity; the text has the model space 1F, and its POINT the owner 1E.
+std::string OwnerOfNew(std::string_view version, std::string_view from, std::string_view to) {
+  std::string text = Complete(version);
+  text.replace(text.find("  5\n1A\n"), 7, "  5\n1A\n330\n1E\n");
+  const std::string old = Tags(from);
+  text.replace(text.find(old), old.size(), Tags(to));
+  Document drawing = Parsed(text);
+  drawing.AddEntity(Line(1));
+  const std::string added = drawing.Serialize().substr(text.rfind("  0\nENDSEC"));
+  const auto owner = added.find("330\n");
+  return owner == std::string::npos ? "none"
+                                    : added.substr(owner + 4, added.find('\n', owner + 4) - owner - 4);
+}
+
+TEST(AddEntity, OwnerIsTheModelSpaceOrElseThatOfTheNeighbours) {
+  EXPECT_EQ(OwnerOfNew("AC1015", "", ""), "1F");
+  EXPECT_EQ(OwnerOfNew("AC1015", "  5|1F", ""), "1E");
+  EXPECT_EQ(OwnerOfNew("AC1015", "  5|1F", "  5|no"), "1E");
+  EXPECT_EQ(OwnerOfNew("AC1015", "  2|BLOCK_RECORD", "  2|BLOCK"), "1E");
+}
+
+TEST(AddEntity, EntityOfR13HasTheOwnerOfItsNeighbours) {
+  EXPECT_EQ(OwnerOfNew("AC1012", "", ""), "1E");
+}
+
+TEST(AddEntity, ModelSpaceWithoutHandleIsRefusedWhereNoNeighbourHasAnOwner) {
+  std::string text = Complete("AC1015");
+  text.erase(text.find("  5\n1F\n"), 7);
+  Document drawing = Parsed(text);
+  EXPECT_EQ(
+      ErrorOf([&] { drawing.AddEntity(Line(1)); }),
+      "roof.dxf:66: this record has no handle, and new entities of the model space have to refer to it; "
+      "let a CAD program repair the drawing first");
+}
+
+TEST(AddEntity, OldDrawingWhoseObjectsAloneHaveHandlesGetsSome) {
+  std::string text = OnlyEntities("0|LINE|8|0");
+  text.insert(text.rfind("0\nEOF"), Tags("0|SECTION|2|OBJECTS|0|DICTIONARY|5|C|0|ENDSEC"));
+  EXPECT_EQ(Parsed(text).AddEntity(Line(1)), 0xDU);
+}
+
 TEST(AddEntity, OldDrawingWithoutHandlesGetsNone) {
   const std::string text = OnlyEntities("0|LINE|8|0");
   Document drawing = Parsed(text);
@@ -131,8 +172,10 @@ TEST(AddEntity, DrawingThatUsedUpItsHandlesRefuses) {
 TEST(AddEntity, ModelSpaceWithBrokenHandleRefuses) {
   std::string text = Complete("AC1015");
   text.replace(text.find("5\n1F\n"), 5, "5\nodd\n");
-  EXPECT_EQ(ErrorOf([&] { Parsed(text).AddEntity(Line(1)); }),
-            "roof.dxf:66: \"odd\" is no handle, and new entities of the model space have to refer to it");
+  EXPECT_EQ(
+      ErrorOf([&] { Parsed(text).AddEntity(Line(1)); }),
+      "roof.dxf:66: \"odd\" is no handle, and new entities of the model space have to refer to it; let a "
+      "CAD program repair the drawing first");
 }
 
 TEST(AddEntity, MissingModelSpaceLeavesTheOwnerOut) {

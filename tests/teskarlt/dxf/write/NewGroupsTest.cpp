@@ -61,14 +61,19 @@ TEST(NewGroups, GroupThatWasEmptyStays) {
   EXPECT_EQ(WithoutEntities(WithGroup("300|none"), {0xA}), WithGroup("300|none|"));
 }
 
-TEST(NewGroups, EntitiesThatReplaceAllOfAGroupComeIntoIt) {
-  Document drawing = Parsed(WithObjects(WithGroup("340|A|1001|X")));
-  const Entity* const old = drawing.FindEntity(0xA);
+// The objects when the line F takes the place of an entity, in the group of WithGroup.
+std::string WithLineInPlaceOf(std::uint64_t handle, const std::string& members) {
+  Document drawing = Parsed(WithObjects(WithGroup(members)));
+  const Entity* const old = drawing.FindEntity(handle);
   drawing.BeginGroup(std::vector{old});
   drawing.RemoveEntity(*old);
   EXPECT_EQ(drawing.AddEntity(LINE), 0xFU);
   drawing.EndGroup("NEW", "new");
-  EXPECT_EQ(ObjectsOf(drawing), WithGroup("340|F|1001|X|"));
+  return ObjectsOf(drawing);
+}
+
+TEST(NewGroups, EntitiesThatReplaceAllOfAGroupComeIntoIt) {
+  EXPECT_EQ(WithLineInPlaceOf(0xA, "340|A|1001|X"), WithGroup("340|F|1001|X|"));
 }
 
 TEST(NewGroups, EntitiesThatReplacePartOfAWindowGetAGroupOfTheirOwn) {
@@ -82,31 +87,68 @@ TEST(NewGroups, EntitiesThatReplacePartOfAWindowGetAGroupOfTheirOwn) {
             "0|GROUP|5|F|102|{ACAD_REACTORS|330|D|102|}|330|D|100|AcDbGroup|300|new|70|0|71|1|340|10|");
 }
 
+void AddGroup(Document& drawing) {
+  drawing.BeginGroup({});
+  drawing.AddEntity(LINE);
+  drawing.EndGroup("NEW", "new");
+}
+
 TEST(NewGroups, DictionaryThatOwnsHardOwnsTheNewGroupHard) {
   Document drawing =
       Parsed(WithObjects("0|DICTIONARY|5|C|3|ACAD_GROUP|350|D|0|DICTIONARY|5|D|280|1|3|ROOF|360|B"));
-  drawing.BeginGroup({});
-  drawing.AddEntity(LINE);
-  drawing.EndGroup("NEW", "new");
+  AddGroup(drawing);
   EXPECT_THAT(ObjectsOf(drawing), testing::HasSubstr("360|B|3|NEW|360|E|0|GROUP|5|E|"));
 }
 
-TEST(NewGroups, NameOfAMissingDictionaryGivesWayToThatOfANewOne) {
+TEST(NewGroups, NameOfAMissingDictionaryGivesWayToThatOfANewOneAndIsTold) {
   Document drawing = Parsed(WithObjects("0|DICTIONARY|5|C|3|ACAD_GROUP|350|D"));
-  drawing.BeginGroup({});
-  drawing.AddEntity(LINE);
-  drawing.EndGroup("NEW", "new");
+  EXPECT_THAT(drawing.Notes(), testing::IsEmpty());
+  AddGroup(drawing);
   EXPECT_THAT(ObjectsOf(drawing),
               testing::StartsWith("0|DICTIONARY|5|C|3|ACAD_GROUP|350|F|0|DICTIONARY|5|F|"));
+  EXPECT_THAT(drawing.Notes(),
+              testing::ElementsAre("roof.dxf:60: ACAD_GROUP led to the object D, which the drawing does not "
+                                   "hold, and leads to a new dictionary of groups now"));
+}
+
+TEST(NewGroups, NameOfAnotherObjectIsRefused) {
+  Document drawing = Parsed(WithObjects("0|DICTIONARY|5|C|3|ACAD_GROUP|350|D|0|XRECORD|5|D"));
+  EXPECT_EQ(ErrorOf([&] { AddGroup(drawing); }),
+            "roof.dxf:60: ACAD_GROUP leads to the XRECORD D, and new groups need a DICTIONARY there; let a "
+            "CAD program repair the drawing first");
+}
+
+// The drawing with a line in a new group, and its objects.
+std::string ObjectsWithNewGroup(const std::string& text) {
+  Document drawing = Parsed(text);
+  AddGroup(drawing);
+  return ObjectsOf(Parsed(drawing.Serialize()));
+}
+
+constexpr std::string_view TREAT_AS_HARD = "1001|ACAD|1000|TREAT_AS_HARD|1070|0|";
+
+TEST(NewGroups, NameComesBeforeTheExtendedDataOfTheDictionary) {
+  const std::string hard(TREAT_AS_HARD);
+  const std::string root = "0|DICTIONARY|5|C|3|ACAD_GROUP|350|D|" + hard;
+  EXPECT_THAT(ObjectsWithNewGroup(WithObjects(root + "0|DICTIONARY|5|D|330|C|" + hard + "0|XRECORD|5|E")),
+              testing::StartsWith(root + "0|DICTIONARY|5|D|330|C|3|NEW|350|F|" + hard + "0|XRECORD|5|E|"));
+}
+
+TEST(NewGroups, DictionaryOfGroupsComesBeforeTheExtendedDataOfTheRoot) {
+  const std::string hard(TREAT_AS_HARD);
+  EXPECT_THAT(ObjectsWithNewGroup(WithObjects("0|DICTIONARY|5|C|" + hard + "0|XRECORD|5|E")),
+              testing::StartsWith("0|DICTIONARY|5|C|3|ACAD_GROUP|350|11|" + hard));
+}
+
+TEST(NewGroups, MembersComeBeforeTheExtendedDataOfTheirGroup) {
+  EXPECT_EQ(WithLineInPlaceOf(0xA, "340|A|300|odd|1001|X|1070|0"), WithGroup("300|odd|340|F|1001|X|1070|0|"));
 }
 
 TEST(NewGroups, NothingIsLeftOfAGroupThatIsRolledBack) {
   const std::string text = WithObjects(WithGroup("340|A"));
   Document drawing = Parsed(text);
   const EditMark mark = drawing.Mark();
-  drawing.BeginGroup({});
-  drawing.AddEntity(LINE);
-  drawing.EndGroup("NEW", "new");
+  AddGroup(drawing);
   drawing.Rollback(mark);
   EXPECT_EQ(drawing.Serialize(), text);
 }
@@ -122,15 +164,6 @@ TEST(NewGroups, EntityThatIsRolledBackIsNoMember) {
   EXPECT_THAT(ObjectsOf(drawing), testing::EndsWith("71|1|340|F|"));
 }
 
-// The drawing with a line in a new group, and its objects.
-std::string ObjectsWithNewGroup(const std::string& text) {
-  Document drawing = Parsed(text);
-  drawing.BeginGroup({});
-  drawing.AddEntity(LINE);
-  drawing.EndGroup("NEW", "new");
-  return ObjectsOf(Parsed(drawing.Serialize()));
-}
-
 TEST(NewGroups, DrawingWithoutObjectsGetsTheDictionariesToo) {
   EXPECT_EQ(ObjectsWithNewGroup(OfVersion("AC1015")),
             "0|DICTIONARY|5|28|330|0|100|AcDbDictionary|3|ACAD_GROUP|350|29|"
@@ -143,6 +176,21 @@ TEST(NewGroups, RootWithoutADictionaryOfGroupsGetsOne) {
             "0|DICTIONARY|5|C|3|ACAD_GROUP|350|F|"
             "0|DICTIONARY|5|F|102|{ACAD_REACTORS|330|C|102|}|330|C|100|AcDbDictionary|3|NEW|350|D|"
             "0|GROUP|5|D|102|{ACAD_REACTORS|330|F|102|}|330|F|100|AcDbGroup|300|new|70|0|71|1|340|E|");
+}
+
+// A group of a drawing of R13 with such a root.
+std::string NewGroupOfR13(const std::string& root) {
+  std::string text = WithObjects(root);
+  text.replace(text.find("AC1015"), 6, "AC1012");
+  const std::string objects = ObjectsWithNewGroup(text);
+  return objects.substr(objects.find("0|GROUP|"));
+}
+
+TEST(NewGroups, GroupOfR13HasTheOwnerThatOtherObjectsHave) {
+  EXPECT_EQ(NewGroupOfR13("0|DICTIONARY|5|C|330|0|3|ACAD_GROUP|350|D|0|DICTIONARY|5|D|330|C"),
+            "0|GROUP|5|E|102|{ACAD_REACTORS|330|D|102|}|330|D|100|AcDbGroup|300|new|70|0|71|1|340|F|");
+  EXPECT_EQ(NewGroupOfR13("0|DICTIONARY|5|C|3|ACAD_GROUP|350|D|0|DICTIONARY|5|D"),
+            "0|GROUP|5|E|100|AcDbGroup|300|new|70|0|71|1|340|F|");
 }
 
 }  // namespace

@@ -58,6 +58,23 @@ TEST(RequireLayer, LayerOfR13HasNoOwner) {
   EXPECT_EQ(SavedFrom(drawing, "  0|LAYER|  5|30", expected.size()), expected);
 }
 
+// A new layer up to its name, where layer 0 names the table as its owner.
+std::string BesideALayerWithOwner(std::string_view version, std::string_view tableHandle) {
+  std::string text = WithTables(version);
+  text.replace(text.find("  2\n0\n"), 6, "330\n2\n  2\n0\n");
+  const std::string head = Tags("  2|LAYER|  5|2");
+  text.replace(text.find(head), head.size(), Tags("  2|LAYER|" + std::string(tableHandle)));
+  Document drawing = Parsed(text);
+  drawing.RequireLayer("ROOF");
+  return SavedFrom(drawing, "  0|LAYER|  5|30", 23);
+}
+
+TEST(RequireLayer, LayerHasTheOwnerThatItsNeighboursHave) {
+  EXPECT_EQ(BesideALayerWithOwner("AC1012", "  5|2"), "  0|LAYER|  5|30|330|2|");
+  EXPECT_EQ(BesideALayerWithOwner("AC1015", " 70|1"), "  0|LAYER|  5|30|330|2|");
+  EXPECT_EQ(BesideALayerWithOwner("AC1015", "  5|no"), "  0|LAYER|  5|30|330|2|");
+}
+
 TEST(RequireLayer, CountOfTheTableGrowsInItsColumns) {
   Document drawing = Parsed(WithTables("AC1009"));
   drawing.RequireLayer("A");
@@ -197,7 +214,8 @@ TEST(NewTable, TableWithBrokenHandleCannotGetRecords) {
   text.replace(text.find("LAYER\n  5\n2\n") + 10, 1, "odd");
   Document drawing = Parsed(text);
   EXPECT_EQ(ErrorOf([&] { drawing.RequireLayer("Roof"); }),
-            "roof.dxf:44: \"odd\" is no handle, and new records of the table have to refer to it");
+            "roof.dxf:44: \"odd\" is no handle, and new records of the table have to refer to it; let a CAD "
+            "program repair the drawing first");
 }
 
 }  // namespace

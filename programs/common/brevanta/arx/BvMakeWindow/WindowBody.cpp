@@ -20,9 +20,6 @@ using Outline = std::array<GcGePoint3d, 4>;
 constexpr EdgeFlags ALL_EDGES = {1, 1, 1, 1};
 constexpr EdgeFlags RING_EDGES = {1, 0, 1, 0};  // hides the joints at the corners
 
-// Depth of the glass below the frame's top, in metres; multiplied by the record's own unit factor.
-constexpr double GLASS_INSET = 0.02;
-
 Outline FirstFour(const Point3dArray& points) {
   return {points[0], points[1], points[2], points[3]};
 }
