@@ -11,6 +11,7 @@
 #include "inc/LibraryMerge.h"
 #include "platform/FileOperations.h"
 #include "platform/FolderLock.h"
+#include "platform/ProgramEnd.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/catalogue/CatalogueEncoding.h"
@@ -177,6 +178,29 @@ class DataFolderClaim {
   DataFolderClaim& operator=(const DataFolderClaim&) = delete;
 };
 
+// 0, or the system's error number.
+int WriteNew(const std::string& path, std::string_view bytes) {
+  const platform::FileOperations& operations = platform::CurrentFileOperations();
+  platform::FileHandle file = 0;
+  int error = operations.createNew(path, file);
+  if (error != 0) return error;
+  for (std::size_t count = 0; error == 0 && !bytes.empty(); bytes.remove_prefix(count))
+    error = operations.write(file, bytes.data(), bytes.size(), count);
+  const int closing = operations.close(file);
+  return error != 0 ? error : closing;
+}
+
+// Writes a file that is only there for the merge: nothing that the user has is changed by it.
+void WriteAside(const std::string& path, std::string_view bytes) {
+  const platform::FileOperations& operations = platform::CurrentFileOperations();
+  operations.remove(path);  // of a merge that was killed
+  platform::RemoveAtEnd(path);
+  const int error = WriteNew(path, bytes);
+  if (error == 0) return;
+  operations.remove(path);
+  throw Error("cannot be written: " + platform::SystemReason(error), {.file = path});
+}
+
 // The source as the module merges it, which takes bytes as they are: in the target's encoding, as a file of
 // its own beside the target where that is not the source's.
 class SourceInEncoding {
@@ -191,13 +215,15 @@ class SourceInEncoding {
         Converted(platform::ReadWholeFile(source.path).View(), from, to, source.path);
     if (from == to) return;
     path_ = target.path + ".source.tmp";
-    platform::WriteWholeFile(path_, converted);
     isConverted_ = true;
+    WriteAside(path_, converted);
     note_ = fmt::format("the windows of {}, which is in {}, are taken over in {}", source.path, NameOf(from),
                         NameOf(to));
   }
   ~SourceInEncoding() {
-    if (isConverted_) platform::CurrentFileOperations().remove(path_);
+    if (!isConverted_) return;
+    platform::CurrentFileOperations().remove(path_);
+    platform::RemoveAtEnd("");
   }
   SourceInEncoding(const SourceInEncoding&) = delete;
   SourceInEncoding& operator=(const SourceInEncoding&) = delete;
