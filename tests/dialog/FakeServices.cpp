@@ -33,15 +33,37 @@ std::int32_t PickedPoint(void* context, double (&xy)[2]) {
   return 1;
 }
 
-std::int32_t RoofFace(void* context, std::int32_t index, double* corners, std::int32_t capacity,
-                      std::int32_t* isBoundary) {
-  const FakeServices& fake = Fake(context);
-  if (static_cast<std::size_t>(index) >= fake.faces.size()) return 0;
-  const auto& face = fake.faces[static_cast<std::size_t>(index)];
-  *isBoundary = fake.isBounded ? 1 : 0;
+std::int32_t PutCorners(const std::vector<geometry::Vec3>& face, double* corners, std::int32_t capacity) {
   const std::size_t copied = std::min(face.size(), static_cast<std::size_t>(capacity));
   if (copied > 0) std::memcpy(corners, face.data(), copied * sizeof face[0]);
   return static_cast<std::int32_t>(face.size());
+}
+
+std::int32_t RoofPlane(void* context, double* corners, std::int32_t capacity, std::int32_t* isBoundary) {
+  const FakeServices& fake = Fake(context);
+  *isBoundary = fake.isBounded ? 1 : 0;
+  return fake.faces.empty() ? 0 : PutCorners(fake.faces.front(), corners, capacity);
+}
+
+std::int32_t FindRoofFaces(void* context, const double (&low)[2], const double (&high)[2]) {
+  FakeServices& fake = Fake(context);
+  fake.found.clear();
+  for (std::size_t number = 0; number < fake.faces.size(); ++number) {
+    const auto& face = fake.faces[number];
+    const auto reaches = [&](double geometry::Vec3::*axis, double from, double to) {
+      const auto [least, most] = std::minmax_element(
+          face.begin(), face.end(), [&](const auto& a, const auto& b) { return a.*axis < b.*axis; });
+      return (*least).*axis <= to && (*most).*axis >= from;
+    };
+    if (reaches(&geometry::Vec3::x, low[0], high[0]) && reaches(&geometry::Vec3::y, low[1], high[1]))
+      fake.found.push_back(number);
+  }
+  return static_cast<std::int32_t>(fake.found.size());
+}
+
+std::int32_t RoofFace(void* context, std::int32_t index, double* corners, std::int32_t capacity) {
+  const FakeServices& fake = Fake(context);
+  return PutCorners(fake.faces[fake.found[static_cast<std::size_t>(index)]], corners, capacity);
 }
 
 std::int32_t NumberInUse(void* context, std::int32_t number) {
@@ -81,6 +103,8 @@ FakeServices::FakeServices()
                this,
                Answer,
                PickedPoint,
+               RoofPlane,
+               FindRoofFaces,
                RoofFace,
                NumberInUse,
                FreeNumber,

@@ -25,11 +25,13 @@ class FakeServices {
 
   std::map<std::string, std::string> answers;
   std::optional<std::array<double, 2>> point;
-  std::vector<std::vector<geometry::Vec3>> faces;
+  std::vector<std::vector<geometry::Vec3>> faces;  // of the roof; the first one spans its plane
   bool isBounded = true;
   std::set<std::int32_t> numbers;
   std::optional<WindowParams> edited;  // the window to edit
   std::int32_t unitFactor = 1000;
+
+  std::vector<std::size_t> found;  // numbers of the faces that the dialog asked for last
 
   WindowParams record{};                  // as the dialog left it
   std::optional<WindowParams> confirmed;  // as it told the host

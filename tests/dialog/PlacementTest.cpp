@@ -120,6 +120,15 @@ TEST_F(PlacementTest, WindowAcrossTwoTrianglesOfOneRoofFits) {
   EXPECT_EQ(host.RunDialog(), 1) << host.refusal;
 }
 
+TEST_F(PlacementTest, OnlyFacesNearTheWindowAreAskedFor) {
+  std::vector<geometry::Vec3> far = SimpleRoof(35);
+  for (geometry::Vec3& corner : far)
+    corner.x += 8000;
+  host.faces = {SimpleRoof(35), far};
+  EXPECT_EQ(host.RunDialog(), 1) << host.refusal;
+  EXPECT_EQ(host.found, std::vector<std::size_t>{0});
+}
+
 TEST_F(PlacementTest, RoofDrawnTwiceIsNoLargerThanOne) {
   host.faces = {SimpleRoof(35), SimpleRoof(35)};
   host.point = {0, 2000};  // half of the window lies beside the roof

@@ -117,6 +117,24 @@ def test_erasing_tells_what_went_and_the_others_stay(teskarlt, with_windows):
     readers.audited(with_windows)
 
 
+def test_edit_tells_what_changed_with_both_values(teskarlt, with_windows):
+    answer = teskarlt.done("edit", with_windows, "2", "--set", "width=1.2", "--set", "text1=Other", "--dry-run")
+    assert answer.stdout.splitlines()[3:] == ["width: 0.94 m -> 1.2 m", 'text1: "Maker" -> "Other"']
+    changes = teskarlt.done("edit", with_windows, "2", "--set", "width=1.2", "--json").json["changes"]
+    assert changes == [{"field": "width", "from": 0.94, "to": 1.2}]
+
+
+def test_edit_that_changes_nothing_writes_nothing_and_says_so(teskarlt, with_windows, tmp_path):
+    before, output = with_windows.read_bytes(), tmp_path / "out.dxf"
+    answer = teskarlt.done("edit", with_windows, "1", "--set", "text1=Maker")
+    assert answer.stdout.splitlines()[2:] == ["Nothing changes: it stands there as ordered; nothing was written."]
+    answer = teskarlt.done("edit", with_windows, "1", "--json").json
+    assert answer["changes"] == [] and answer["file"] is None
+    assert with_windows.read_bytes() == before
+    teskarlt.done("edit", with_windows, "1", "-o", output)
+    assert output.read_bytes() == before
+
+
 def test_windows_are_listed_by_their_numbers_after_an_edit_too(teskarlt, with_windows):
     teskarlt.done("edit", with_windows, "1", "--set", "text1=first\nsecond")
     assert [window["number"] for window in listed(teskarlt, with_windows)] == [1, 2, 3]

@@ -26,8 +26,8 @@ void RunEdit(EditOptions& options) {
   WindowEditor editor(module, drawing, unit, options.number, options.isLockedToo);
   for (const std::string& note : editor.Reading().notes)
     TellNote(fmt::format("window {}: {}", options.number, note));
-  const PlacedWindow window = editor.Edit(OrderOf(options.window));
-  SaveAndTell(options.window, drawing, window, &editor.Reading());
+  const EditedWindow window = editor.Edit(OrderOf(options.window));
+  SaveAndTell(options.window, drawing, window, editor.Reading());
 }
 
 }  // namespace
@@ -41,6 +41,7 @@ void AddEditCommand(OptionParser& parser) {
   AddLockedOption(command, options->isLockedToo);
   command.Footer(
       "What is not given stays as it is; the window keeps its number and, without --at, its place.\n"
+      "What changes is told with its old and its new value; when nothing does, nothing is written.\n"
       "teskarlt insert --fields lists the fields for --set.\n"
       "Examples:\n"
       "  teskarlt edit house-with-window.dxf 1 --set width=1.14\n"

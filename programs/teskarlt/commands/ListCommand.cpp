@@ -4,11 +4,11 @@
 #include <memory>
 #include <optional>
 #include <set>
-#include <span>
 
 #include <fmt/format.h>
 
 #include "geometry/Matrix4.h"
+#include "teskarlt/commands/FieldWords.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
@@ -30,47 +30,20 @@ struct ListOptions {
   bool asJson = false;
 };
 
-Json PointJson(const brevanta::RecordPoint& p) {
-  return Json::List({p.x, p.y, p.z});
-}
-
-Json PointsJson(std::span<const brevanta::RecordPoint> points) {
-  Json list = Json::List();
-  for (const brevanta::RecordPoint& p : points)
-    list.Add(PointJson(p));
-  return list;
-}
-
-// Texts in UTF-8, as they were read; the opening code, which is ASCII, as the window stands now.
-Json TextJson(const DrawnWindow& window, const brevanta::WindowParams& params,
-              const brevanta::RecordField& field) {
-  const bool isCode = field.name == "openingCode";
-  return isCode ? Json(TextIn(params, field)) : Json(window.*TextMember(field));
-}
-
-Json FieldJson(const DrawnWindow& window, const brevanta::WindowParams& params,
-               const brevanta::RecordField& field) {
-  switch (field.kind) {
-    case brevanta::FieldKind::Length:
-    case brevanta::FieldKind::Real:
-      return RealIn(params, field);
-    case brevanta::FieldKind::Integer:
-      return IntegerIn(params, field);
-    case brevanta::FieldKind::Text:
-      return TextJson(window, params, field);
-    case brevanta::FieldKind::Points: {
-      const auto points = PointsIn(params, field);
-      return points.size() == 1 ? PointJson(points[0]) : PointsJson(points);
-    }
-  }
-  return nullptr;
+// Texts as they were read, which may be longer than the record holds; the opening code, which is ASCII, as
+// the window stands now.
+Json ListedJson(const DrawnWindow& window, const brevanta::WindowParams& params,
+                const brevanta::RecordField& field, const dxf::Document& drawing) {
+  const bool isText = field.kind == brevanta::FieldKind::Text && field.name != "openingCode";
+  return isText ? Json(window.*TextMember(field)) : FieldJson(params, field, drawing);
 }
 
 // Every field, under its name in the record.
-Json FieldsJson(const DrawnWindow& window, const brevanta::WindowParams& params) {
+Json FieldsJson(const DrawnWindow& window, const brevanta::WindowParams& params,
+                const dxf::Document& drawing) {
   Json json;
   for (const brevanta::RecordField* field : brevanta::LISTED_FIELDS)
-    json[field->name] = FieldJson(window, params, *field);
+    json[field->name] = ListedJson(window, params, *field, drawing);
   return json;
 }
 
@@ -106,7 +79,7 @@ std::optional<double> FallDirection(const brevanta::WindowParams& params) {
   return std::fmod(geometry::RadToDeg(params.rotation) + 0.75 * FULL_TURN, FULL_TURN);
 }
 
-Json ToJson(const Row& row) {
+Json ToJson(const Row& row, const dxf::Document& drawing) {
   const auto& [window, reading] = row;
   const std::optional<double> fall = window.isComplete ? FallDirection(reading.params) : std::nullopt;
   Json json;
@@ -118,19 +91,19 @@ Json ToJson(const Row& row) {
   json["lines"] = window.entities.size() - window.faces;
   json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
   json["frame"] = FrameJson(reading.outline, reading.params);
-  json["fields"] = window.isComplete ? FieldsJson(window, reading.params) : Json(nullptr);
+  json["fields"] = window.isComplete ? FieldsJson(window, reading.params, drawing) : Json(nullptr);
   json["sources"] = SourcesJson(reading);
   json["notes"] = reading.notes;
   return json;
 }
 
-void PrintRows(const std::vector<Row>& rows, const DrawingUnit& unit) {
+void PrintRows(const std::vector<Row>& rows, const dxf::Document& drawing, const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
   json["windows"] = Json::List();
   for (const Row& row : rows)
-    json["windows"].Add(ToJson(row));
+    json["windows"].Add(ToJson(row, drawing));
   PrintJson(json);
 }
 
@@ -196,7 +169,7 @@ void RunList(const ListOptions& options) {
   const std::vector<Row> rows = ReadRows(drawing, windows);
   WarnOfTexts(drawing);
   if (options.asJson) {
-    PrintRows(rows, unit);
+    PrintRows(rows, drawing, unit);
   } else if (windows.empty()) {
     fmt::print("{} holds no roof window.\n", options.file);
   } else {

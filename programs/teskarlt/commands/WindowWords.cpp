@@ -1,32 +1,42 @@
 // WindowWords.cpp - what commands say of the windows that they insert, change and list.
 #include "teskarlt/commands/WindowWords.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
+#include "teskarlt/commands/FieldWords.h"
 #include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/ClosedLayers.h"
 #include "teskarlt/windows/UnitChoice.h"
+#include "window/Choices.h"
 #include "window/EdgeHeights.h"
 
 namespace teskarlt {
 
 namespace {
 
-Json AnswerJson(const WindowOptions& options, const PlacedWindow& window, const WindowReading* edited) {
+Json AnswerJson(const WindowOptions& options, const PlacedWindow& window) {
   Json json;
   json["version"] = JSON_VERSION;
   json.AddMembers(WindowJson(window));
-  if (edited != nullptr) {
-    json["sources"] = SourcesJson(*edited);
-    json["notes"] = edited->notes;
-  }
   options.target.AddTo(json);
   return json;
 }
 
-void PrintText(const WindowOptions& options, const PlacedWindow& window, const WindowReading* edited) {
+Json ChangesJson(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+  Json json = Json::List();
+  for (const brevanta::RecordField* const field : window.changes) {
+    json.Add(Json::Object({{"field", field->name},
+                           {"from", FieldJson(before.params, *field, drawing)},
+                           {"to", FieldJson(window.placed.record, *field, drawing)}}));
+  }
+  return json;
+}
+
+void PrintPlace(const PlacedWindow& window) {
   const brevanta::WindowParams& record = window.record;
   const std::string where = window.face
                                 ? fmt::format("face {} of layer {}", window.face->name, window.face->layer)
@@ -37,11 +47,36 @@ void PrintText(const WindowOptions& options, const PlacedWindow& window, const W
              record.length, where, record.pitch);
   fmt::print("Its frame lies from {:.3f} m to {:.3f} m; lowerEdgeHeight {:.3f}, upperEdgeHeight {:.3f}.\n",
              frame.lower, frame.upper, recorded.lower, recorded.upper);
+}
+
+void PrintEntities(const WindowOptions& options, const PlacedWindow& window) {
   fmt::print("{} faces and {} lines {}.\n", window.faces, window.lines,
              options.target.Ending("added", "be added"));
-  if (edited == nullptr) return;
-  fmt::print("Not in its description: {} from the geometry; {} by default.\n",
-             fmt::join(edited->recovered, ", "), fmt::join(edited->defaults, ", "));
+}
+
+// Nothing drawn told the skirt's height, and the window now has one.
+bool AssumesSkirt(const WindowReading& before, const brevanta::WindowParams& after) {
+  const bool isUnknown =
+      std::find(before.defaults.begin(), before.defaults.end(), "skirtHeight") != before.defaults.end();
+  return isUnknown && (after.bodyAsFaces != brevanta::LINES_ONLY || DrawsSymbol(after));
+}
+
+void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+  const brevanta::WindowParams& after = window.placed.record;
+  if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
+  for (const brevanta::RecordField* const field : window.changes) {
+    fmt::print("{}: {} -> {}\n", field->name, OneLine(FieldText(before.params, *field, drawing)),
+               OneLine(FieldText(after, *field, drawing)));
+  }
+  if (AssumesSkirt(before, after))
+    fmt::print("skirtHeight: {:g} m by default, since nothing drawn told it\n", after.skirtHeight);
+}
+
+void Warn(const dxf::Document& drawing, const PlacedWindow& window) {
+  const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
+  if (!misfit.empty()) TellWarning(misfit);
+  WarnOfClosedLayers(drawing, window.layers);
+  WarnOfTexts(drawing);
 }
 
 }  // namespace
@@ -99,17 +134,36 @@ Json SourcesJson(const WindowReading& reading) {
   return json;
 }
 
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window,
-                 const WindowReading* edited) {
-  const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
-  if (!misfit.empty()) TellWarning(misfit);
-  WarnOfClosedLayers(drawing, window.layers);
-  WarnOfTexts(drawing);
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window) {
+  Warn(drawing, window);
   SaveDrawing(drawing, options.target);
   if (options.asJson) {
-    PrintJson(AnswerJson(options, window, edited));
+    PrintJson(AnswerJson(options, window));
   } else {
-    PrintText(options, window, edited);
+    PrintPlace(window);
+    PrintEntities(options, window);
+  }
+}
+
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
+                 const WindowReading& before) {
+  Warn(drawing, window.placed);
+  if (window.isRewritten || options.target.IsNamed())
+    SaveDrawing(drawing, options.target);
+  if (options.asJson) {
+    Json json = AnswerJson(options, window.placed);
+    json["sources"] = SourcesJson(before);
+    json["notes"] = before.notes;
+    json["changes"] = ChangesJson(window, before, drawing);
+    PrintJson(json);
+    return;
+  }
+  PrintPlace(window.placed);
+  if (window.isRewritten) {
+    PrintEntities(options, window.placed);
+    PrintChanges(window, before, drawing);
+  } else {
+    fmt::print("Nothing changes: it stands there as ordered; {}.\n", options.target.UnchangedEnding());
   }
 }
 

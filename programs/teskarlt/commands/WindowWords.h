@@ -14,6 +14,7 @@
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/windows/PlacedWindow.h"
+#include "teskarlt/windows/WindowEditor.h"
 
 namespace teskarlt {
 
@@ -40,9 +41,12 @@ Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowPara
 // from.
 Json SourcesJson(const WindowReading& reading);
 
-// Warns of what is doubtful about the window, saves the drawing and tells what became of it; `edited` is what
-// it was, null for a new one.
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window,
-                 const WindowReading* edited = nullptr);
+// Warns of what is doubtful about the new window, saves the drawing and tells what became of it.
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window);
+
+// The same for a window that was changed. One that stood there as ordered is not written, but to a file that
+// the user named.
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
+                 const WindowReading& before);
 
 }  // namespace teskarlt

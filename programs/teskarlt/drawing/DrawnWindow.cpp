@@ -12,6 +12,8 @@
 #include <fmt/format.h>
 
 #include "teskarlt/drawing/DescriptionReader.h"
+#include "teskarlt/drawing/PartGroups.h"
+#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -91,29 +93,71 @@ bool IsFace(const dxf::Entity& entity) {
   return dxf::SameName(entity.type, dxf::TYPE_FACE);
 }
 
-// How many windows the entities are, each with the types of the first one in their order; 1 when they are no
-// multiple of a window's.
+using Entities = std::vector<const dxf::Entity*>;
+
+// How many windows the entities can be by their number; 1 when they are no multiple of a window's.
 std::size_t CopiesIn(const DrawnWindow& window) {
-  const auto& entities = window.entities;
-  const std::size_t lines = entities.size() - window.faces;
+  const std::size_t lines = window.entities.size() - window.faces;
   const std::size_t count = lines / LinesOf(window);
-  if (!window.isComplete || count < 2 || lines % LinesOf(window) != 0 || window.faces % count != 0 ||
-      !brevanta::IsFaceCount(window.faces / count))
-    return 1;
-  const std::size_t size = entities.size() / count;
-  for (std::size_t i = size; i < entities.size(); ++i)
-    if (!dxf::SameName(entities[i]->type, entities[i % size]->type)) return 1;
-  return count;
+  const bool isMultiple = window.isComplete && count >= 2 && lines % LinesOf(window) == 0 &&
+                          window.faces % count == 0 && brevanta::IsFaceCount(window.faces / count);
+  return isMultiple ? count : 1;
 }
 
-void AddWithCopies(DrawnWindow window, std::vector<DrawnWindow>& windows) {
-  const std::size_t count = CopiesIn(window);
-  const std::vector<const dxf::Entity*> entities = std::move(window.entities);
+std::size_t FacesAmong(const Entities& entities) {
+  return static_cast<std::size_t>(
+      std::count_if(entities.begin(), entities.end(), [](const auto* entity) { return IsFace(*entity); }));
+}
+
+// One copy behind the other; empty where they do not have the types of the first one in their order.
+std::vector<Entities> SplitInOrder(const Entities& entities, std::size_t count) {
   const std::size_t size = entities.size() / count;
-  window.faces /= count;
-  for (auto begin = entities.begin(); begin != entities.end(); begin += static_cast<std::ptrdiff_t>(size)) {
-    window.entities.assign(begin, begin + static_cast<std::ptrdiff_t>(size));
-    windows.push_back(window);
+  for (std::size_t i = size; i < entities.size(); ++i)
+    if (!dxf::SameName(entities[i]->type, entities[i % size]->type)) return {};
+  std::vector<Entities> copies;
+  copies.reserve(count);
+  for (auto begin = entities.begin(); begin != entities.end(); begin += static_cast<std::ptrdiff_t>(size))
+    copies.emplace_back(begin, begin + static_cast<std::ptrdiff_t>(size));
+  return copies;
+}
+
+bool AreWhole(const dxf::Document& drawing, const DrawnWindow& window, const std::vector<Entities>& copies) {
+  const double tolerance = SAME_PLACE * window.params.unitFactor;
+  return std::all_of(copies.begin(), copies.end(), [&](const Entities& copy) {
+    WindowParts parts = ReadParts(drawing, copy);
+    return PutInOrder(DrawsSymbol(window.params), tolerance, parts);
+  });
+}
+
+// By where the entities lie; empty when that does not give as many windows, each with all of its own.
+std::vector<Entities> SplitByPlace(const dxf::Document& drawing, const DrawnWindow& window,
+                                   std::size_t count) {
+  const double factor = window.params.unitFactor;
+  const double reach = std::min(window.params.width, window.params.length) * factor / 2;
+  std::vector<Entities> copies = GroupByPlace(drawing, window.entities, SAME_PLACE * factor, reach);
+  const auto isOne = [&](const Entities& copy) {
+    return copy.size() == window.entities.size() / count && FacesAmong(copy) == window.faces / count;
+  };
+  if (copies.size() != count || !std::all_of(copies.begin(), copies.end(), isOne)) return {};
+  return copies;
+}
+
+// The entities of each window that they are.
+std::vector<Entities> Split(const dxf::Document& drawing, const DrawnWindow& window) {
+  const std::size_t count = CopiesIn(window);
+  if (count == 1) return {window.entities};
+  std::vector<Entities> inOrder = SplitInOrder(window.entities, count);
+  if (!inOrder.empty() && AreWhole(drawing, window, inOrder)) return inOrder;
+  if (std::vector<Entities> byPlace = SplitByPlace(drawing, window, count); !byPlace.empty()) return byPlace;
+  if (inOrder.empty()) return {window.entities};
+  return inOrder;
+}
+
+void AddWithCopies(const dxf::Document& drawing, DrawnWindow window, std::vector<DrawnWindow>& windows) {
+  for (Entities& entities : Split(drawing, window)) {
+    DrawnWindow& copy = windows.emplace_back(window);
+    copy.faces = FacesAmong(entities);
+    copy.entities = std::move(entities);
   }
 }
 
@@ -176,7 +220,7 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
   }
   std::vector<DrawnWindow> withCopies;
   for (DrawnWindow& window : windows)
-    AddWithCopies(std::move(window), withCopies);
+    AddWithCopies(drawing, std::move(window), withCopies);
   std::stable_sort(withCopies.begin(), withCopies.end(), [](const DrawnWindow& a, const DrawnWindow& b) {
     return a.entities.front() < b.entities.front();  // of one array
   });

@@ -60,9 +60,9 @@ bool HasMoreThanOneWindow(const DrawnWindow& window);
 std::string EntityMismatch(const DrawnWindow& window);
 
 // The windows in the order of their first entities. Entities with the same number and the same description
-// are one window, or several where they are a multiple of what one has: another program's copies, entity by
-// entity in the order of their model. `unitFactor` is in drawing units per metre. The drawing must outlive
-// the result.
+// are one window, or several where they are a multiple of what one has: another program's copies. These are
+// told apart by their order, where each has the one of its model, or else by where they lie. `unitFactor` is
+// in drawing units per metre. The drawing must outlive the result.
 std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor);
 
 // The numbers of the windows.

@@ -10,11 +10,6 @@ namespace {
 
 constexpr std::size_t CHILDREN = 16;  // of a node
 
-PlanBox Around(const PlanBox& a, const PlanBox& b) {
-  return {std::min(a.lowX, b.lowX), std::min(a.lowY, b.lowY), std::max(a.highX, b.highX),
-          std::max(a.highY, b.highY)};
-}
-
 // Sorts the items into upright slices, and within each from below up, so that every CHILDREN of them in turn
 // lie close together.
 template <typename Items>

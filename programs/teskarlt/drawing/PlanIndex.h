@@ -1,6 +1,7 @@
 // PlanIndex.h - finds what lies where in the plan.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -16,16 +17,17 @@ struct PlanBox {
   double highY;
 };
 
+constexpr PlanBox Around(const PlanBox& a, const PlanBox& b) {
+  return {std::min(a.lowX, b.lowX), std::min(a.lowY, b.lowY), std::max(a.highX, b.highX),
+          std::max(a.highY, b.highY)};
+}
+
 // The box around points, of which there is at least one, `margin` larger on every side.
 template <typename Points>
 PlanBox PlanBoxOf(const Points& points, double margin = 0.0) {
   PlanBox box{points[0].x, points[0].y, points[0].x, points[0].y};
-  for (const geometry::Vec3& p : points) {
-    box.lowX = p.x < box.lowX ? p.x : box.lowX;
-    box.lowY = p.y < box.lowY ? p.y : box.lowY;
-    box.highX = p.x > box.highX ? p.x : box.highX;
-    box.highY = p.y > box.highY ? p.y : box.highY;
-  }
+  for (const geometry::Vec3& p : points)
+    box = Around(box, {p.x, p.y, p.x, p.y});
   return {box.lowX - margin, box.lowY - margin, box.highX + margin, box.highY + margin};
 }
 

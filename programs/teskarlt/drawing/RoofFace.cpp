@@ -86,9 +86,8 @@ double Warp(const RoofFace& face) {
 }
 
 double WarpLimit(const RoofFace& face, double tolerance) {
-  constexpr double MILLIMETRES = 20.0;
   constexpr double PART_OF_EXTENT = 1.0 / 500.0;
-  return std::max(MILLIMETRES * tolerance, PART_OF_EXTENT * Extent(face));
+  return std::max(ROOF_UNEVENNESS * tolerance, PART_OF_EXTENT * Extent(face));
 }
 
 bool IsPlanar(const RoofFace& face, double tolerance) {
@@ -113,11 +112,11 @@ double Area(const RoofFace& face) {
 }
 
 // Even-odd rule.
-bool LiesOver(const RoofFace& face, double x, double y) {
+bool LiesOver(const std::vector<Vec3>& corners, double x, double y) {
   bool inside = false;
-  for (std::size_t i = 0; i < face.corners.size(); ++i) {
-    const Vec3& a = face.corners[i];
-    const Vec3& b = face.corners[(i + 1) % face.corners.size()];
+  for (std::size_t i = 0; i < corners.size(); ++i) {
+    const Vec3& a = corners[i];
+    const Vec3& b = corners[(i + 1) % corners.size()];
     if (OnPlanEdge(a, b, x, y)) return true;
     if ((a.y > y) == (b.y > y)) continue;
     if (x < a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x)) inside = !inside;

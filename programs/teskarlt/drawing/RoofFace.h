@@ -30,7 +30,9 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners,
 double Warp(const RoofFace& face, const Plane& plane);
 double Warp(const RoofFace& face);
 
-// How far a corner may lie off the plane of a roof: 20 mm, or 1/500 of the face's extent where that is more,
+constexpr double ROOF_UNEVENNESS = 20.0;  // millimetres; less does not matter to a window
+
+// How far a corner may lie off the plane of a roof: that, or 1/500 of the face's extent where that is more,
 // as roofs are in models of real towns.
 double WarpLimit(const RoofFace& face, double tolerance);
 
@@ -45,7 +47,7 @@ bool IsNarrow(const RoofFace& face, double tolerance);
 // The face's own area, in square drawing units.
 double Area(const RoofFace& face);
 
-// Whether the point lies within the face in the plan; the edges belong to it.
-bool LiesOver(const RoofFace& face, double x, double y);
+// Whether the point lies within the face of these corners in the plan; the edges belong to it.
+bool LiesOver(const std::vector<geometry::Vec3>& corners, double x, double y);
 
 }  // namespace teskarlt

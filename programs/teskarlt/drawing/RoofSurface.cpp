@@ -116,8 +116,11 @@ class SurfaceFinder {
     surface.faces = surface.isPlanar ? WalkFrom(seed, limit) : std::vector{seed};
     surface.plane = FitOf(surface.faces);
     DropAllOff(limit, surface);
-    for (const std::size_t face : surface.faces)
+    surface.box = PlanBoxOf(faces_[seed].corners);
+    for (const std::size_t face : surface.faces) {
       surface.warp = std::max(surface.warp, Warp(faces_[face], surface.plane));
+      surface.box = Around(surface.box, PlanBoxOf(faces_[face].corners));
+    }
     return surface;
   }
 

@@ -14,6 +14,7 @@ struct RoofSurface {
   std::vector<std::size_t> faces;  // their numbers in the list of faces, the largest first
   Plane plane;                     // the best fit, in which each face counts by its area
   double warp = 0.0;               // how far the farthest corner lies off the plane, drawing units
+  PlanBox box;                     // around its faces
   bool isPlanar = false;           // it can take a window
 };
 

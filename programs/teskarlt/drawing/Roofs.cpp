@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "teskarlt/drawing/RoofSearch.h"
-#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/TextCodec.h"
 
 namespace teskarlt {
 
@@ -34,6 +34,8 @@ Roofs::Roofs(std::vector<RoofFace> faces, double tolerance)
     for (const std::size_t face : surfaces_[surface].faces)
       surfaceOf_[face] = surface;
   }
+  for (std::size_t face = 0; face < faces_.size(); ++face)
+    named_[dxf::FoldedName(faces_[face].name)].push_back(face);
 }
 
 bool Roofs::IsEmpty() const {
@@ -56,7 +58,7 @@ std::vector<FaceOver> Roofs::FacesAt(double x, double y) const {
   std::vector<FaceOver> found;
   for (const RoofFace* face : FacesNear({x, y, x, y})) {
     const RoofSurface* surface = SurfaceOf(*face);
-    if (surface != nullptr && LiesOver(*face, x, y))
+    if (surface != nullptr && LiesOver(face->corners, x, y))
       found.push_back({face, surface, HeightAt(surface->plane, x, y)});
   }
   return found;
@@ -71,8 +73,10 @@ std::optional<FaceOver> Roofs::UppermostAt(double x, double y) const {
 
 std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
   std::vector<const RoofFace*> named;
-  for (const RoofFace& face : faces_)
-    if (dxf::SameName(face.name, name)) named.push_back(&face);
+  const auto found = named_.find(dxf::FoldedName(name));
+  if (found == named_.end()) return named;
+  for (const std::size_t number : found->second)
+    named.push_back(&faces_[number]);
   return named;
 }
 

@@ -3,7 +3,9 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "teskarlt/drawing/PlanIndex.h"
@@ -54,7 +56,8 @@ class Roofs {
   double tolerance_;
   PlanIndex index_;
   std::vector<RoofSurface> surfaces_;
-  std::vector<std::size_t> surfaceOf_;  // by the number of the face; NO_SURFACE
+  std::vector<std::size_t> surfaceOf_;                               // by the number of the face; NO_SURFACE
+  std::unordered_map<std::string, std::vector<std::size_t>> named_;  // numbers of faces by folded names
 };
 
 // The roofs of the model space.

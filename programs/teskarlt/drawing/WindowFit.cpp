@@ -63,6 +63,19 @@ geometry::PlanPolygon PlanOf(const Corners& corners, const Vec3& origin) {
   return plan;
 }
 
+// The faces near the outline of surfaces in whose plane it lies.
+std::vector<const RoofFace*> FacesInPlaneOf(const Outline& outline, const Roofs& roofs) {
+  const auto isElsewhere = [&](const RoofFace* face) {
+    const RoofSurface* surface = roofs.SurfaceOf(*face);
+    return surface == nullptr || !surface->isPlanar ||
+           !LiesInPlane(outline, surface->plane.point, surface->plane.normal,
+                        roofs.Tolerance() + surface->warp);
+  };
+  std::vector<const RoofFace*> faces = roofs.FacesNear(PlanBoxOf(outline));
+  faces.erase(std::remove_if(faces.begin(), faces.end(), isElsewhere), faces.end());
+  return faces;
+}
+
 }  // namespace
 
 std::optional<Outline> DrawnOutline(const dxf::Document& drawing, const DrawnWindow& window) {
@@ -104,17 +117,25 @@ const RoofFace* FaceUnder(const WindowParams& window, const Roofs& roofs) {
 }
 
 double CoveredPart(const Outline& outline, const Roofs& roofs) {
-  const Vec3& origin = outline[0];
   std::vector<geometry::PlanPolygon> polygons;
-  for (const RoofFace* face : roofs.FacesNear(PlanBoxOf(outline))) {
-    const RoofSurface* surface = roofs.SurfaceOf(*face);
-    if (surface == nullptr || !surface->isPlanar) continue;
-    const double tolerance = roofs.Tolerance() + surface->warp;
-    if (LiesInPlane(outline, surface->plane.point, surface->plane.normal, tolerance))
-      polygons.push_back(PlanOf(face->corners, origin));
-  }
-  const geometry::PlanPolygon plan = PlanOf(outline, origin);
+  for (const RoofFace* face : FacesInPlaneOf(outline, roofs))
+    polygons.push_back(PlanOf(face->corners, outline[0]));
+  const geometry::PlanPolygon plan = PlanOf(outline, outline[0]);
   return polygons.empty() ? 0.0 : geometry::CoveredArea(plan, polygons) / geometry::PlanArea(plan);
+}
+
+double UnevennessIn(const Outline& outline, const Roofs& roofs) {
+  const Plane plane{outline[0], UnitNormal(outline)};
+  const std::vector<Vec3> corners(outline.begin(), outline.end());
+  double most = 0.0;
+  const auto measure = [&](const Vec3& p) { most = std::max(most, std::abs(DistanceFrom(plane, p))); };
+  for (const RoofFace* face : FacesInPlaneOf(outline, roofs)) {
+    for (const Vec3& corner : face->corners)
+      if (LiesOver(corners, corner.x, corner.y)) measure(corner);
+    for (const Vec3& corner : corners)
+      if (LiesOver(face->corners, corner.x, corner.y)) measure(Plumb(face->plane, corner));
+  }
+  return most;
 }
 
 void WindowFit::AddAll(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows,
@@ -165,6 +186,9 @@ std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Ou
   } else if (!IsWhole(covered)) {
     misfits.push_back(fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT));
   }
+  const double unevenness = UnevennessIn(outline, roofs_) / roofs_.Tolerance();
+  if (unevenness > ROOF_UNEVENNESS)
+    misfits.push_back(fmt::format("its roof is uneven there, {:.0f} mm off its plane", unevenness));
   return misfits;
 }
 

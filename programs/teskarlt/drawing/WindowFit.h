@@ -34,6 +34,10 @@ const RoofFace* FaceUnder(const brevanta::WindowParams& window, const Roofs& roo
 // what the surface itself lies off it.
 double CoveredPart(const Outline& outline, const Roofs& roofs);
 
+// How far those surfaces lie off the outline's plane within it, at its corners and at those of their faces;
+// drawing units.
+double UnevennessIn(const Outline& outline, const Roofs& roofs);
+
 // True for the part of a window that lies on its roof but for what rounding leaves.
 constexpr bool IsWhole(double part) {
   return part >= 1.0 - 1e-6;

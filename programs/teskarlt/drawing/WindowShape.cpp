@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "geometry/Matrix4.h"
@@ -12,9 +13,7 @@
 #include "geometry/Trigonometry.h"
 #include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/tags/Codes.h"
-#include "teskarlt/dxf/tags/Names.h"
-#include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/drawing/WindowParts.h"
 #include "window/Choices.h"
 #include "window/Outlines.h"
 #include "window/Parts.h"
@@ -24,26 +23,20 @@ namespace teskarlt {
 namespace {
 
 using geometry::Vec3;
-using Corners = std::array<Vec3, 4>;  // of a face, or of the outline; of a line the first two
+using Corners = PartCorners;
 
-constexpr double SAME_PLACE = 1e-3;      // metres; parts that are farther apart do not belong together
 constexpr double SAME_DIRECTION = 1e-4;  // sine of the angle
 constexpr double STEEPEST = 1e-6;        // least upward part of a roof's normal
-
-// The ends of a line, or the corners of a face; those that are missing lie at the origin.
-Corners PointsOf(const dxf::Document& drawing, const dxf::Entity& entity) {
-  const dxf::TagList tags = drawing.TagLists(entity.text).front();
-  return {tags.Point(dxf::CODE_FIRST_CORNER), tags.Point(dxf::CODE_SECOND_CORNER),
-          tags.Point(dxf::CODE_THIRD_CORNER), tags.Point(dxf::CODE_FOURTH_CORNER)};
-}
 
 // Reads the shape of one window.
 class ShapeReader {
  public:
   ShapeReader(const dxf::Document& drawing, const DrawnWindow& window)
       : window_(window), tolerance_(SAME_PLACE * window.params.unitFactor) {
-    for (const dxf::Entity* entity : window.entities)
-      (dxf::SameName(entity->type, dxf::TYPE_LINE) ? lines_ : faces_).push_back(PointsOf(drawing, *entity));
+    WindowParts parts = ReadParts(drawing, window.entities);
+    PutInOrder(HasSymbol(), tolerance_, parts);
+    lines_ = std::move(parts.lines);
+    faces_ = std::move(parts.faces);
     skirtFaces_ = faces_.size() == brevanta::FACES_WITH_SKIRT ? brevanta::FACES_OF_SKIRT : 0;
   }
 
@@ -76,9 +69,7 @@ class ShapeReader {
     return corners;
   }
 
-  [[noreturn]] static void FailApart() {
-    Fail("its parts were moved apart, or into another order in the file");
-  }
+  [[noreturn]] static void FailApart() { Fail("its parts were moved apart"); }
 
   Corners OutlineOfSymbol() const {
     const Corners outline = Chain(lines_.size() - brevanta::LINES_OF_OUTLINE);

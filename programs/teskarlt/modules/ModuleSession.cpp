@@ -51,12 +51,8 @@ struct ServiceCalls {
     return 1;
   }
 
-  static std::int32_t RoofFace(void* context, std::int32_t index, double* corners, std::int32_t capacity,
-                               std::int32_t* isBoundary) {
-    const WindowRequest& request = Session(context).request_;
-    if (index < 0 || static_cast<std::size_t>(index) >= request.faces.size()) return 0;
-    const auto& face = request.faces[static_cast<std::size_t>(index)];
-    *isBoundary = request.isBounded ? 1 : 0;
+  // Puts the corners, as many as there is room for, and gives the number of all.
+  static std::int32_t PutCorners(const FaceCorners& face, double* corners, std::int32_t capacity) {
     const std::size_t copied = std::min(face.size(), static_cast<std::size_t>(std::max(capacity, 0)));
     for (std::size_t i = 0; i < copied; ++i) {
       corners[3 * i] = face[i].x;
@@ -64,6 +60,29 @@ struct ServiceCalls {
       corners[3 * i + 2] = face[i].z;
     }
     return static_cast<std::int32_t>(face.size());
+  }
+
+  static std::int32_t RoofPlane(void* context, double* corners, std::int32_t capacity,
+                                std::int32_t* isBoundary) {
+    const WindowRequest& request = Session(context).request_;
+    *isBoundary = request.facesNear ? 1 : 0;
+    return PutCorners(request.roof, corners, capacity);
+  }
+
+  static std::int32_t FindRoofFaces(void* context, const double (&low)[2], const double (&high)[2]) {
+    return AnswerModule(std::int32_t{0}, [&] {
+      ModuleSession& session = Session(context);
+      const FacesNear& facesNear = session.request_.facesNear;
+      session.foundFaces_.clear();
+      if (facesNear) session.foundFaces_ = facesNear({low[0], low[1], high[0], high[1]});
+      return static_cast<std::int32_t>(session.foundFaces_.size());
+    });
+  }
+
+  static std::int32_t RoofFace(void* context, std::int32_t index, double* corners, std::int32_t capacity) {
+    const std::vector<FaceCorners>& faces = Session(context).foundFaces_;
+    if (index < 0 || static_cast<std::size_t>(index) >= faces.size()) return 0;
+    return PutCorners(faces[static_cast<std::size_t>(index)], corners, capacity);
   }
 
   static const WindowNumbers& Numbers(void* context) {
@@ -116,6 +135,8 @@ ModuleSession::ModuleSession(dxf::Document& drawing, const WindowRequest& reques
                 this,
                 ServiceCalls::Answer,
                 ServiceCalls::PickedPoint,
+                ServiceCalls::RoofPlane,
+                ServiceCalls::FindRoofFaces,
                 ServiceCalls::RoofFace,
                 ServiceCalls::NumberInUse,
                 ServiceCalls::FreeNumber,

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -14,6 +15,7 @@
 #include "inc/DialogServices.h"
 #include "inc/HostFunctionTable.h"
 #include "inc/WindowParams.h"
+#include "teskarlt/drawing/PlanIndex.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/dxf/Document.h"
 
@@ -22,17 +24,22 @@ namespace teskarlt {
 // Record fields, and the other names of DialogServices.h, to the user's texts.
 using DialogAnswers = std::map<std::string, std::string, std::less<>>;
 
+using FaceCorners = std::vector<geometry::Vec3>;  // in order around the face
+
+// Gives the faces of a roof, within which a window must stay, that touch the area.
+using FacesNear = std::function<std::vector<FaceCorners>(const PlanBox& area)>;
+
 // What the user wants, as the dialog asks for it. Coordinates are those of the drawing; texts are as they
 // stand in its file.
 struct WindowRequest {
   std::int32_t unitFactor = 1;  // drawing units per metre
   DialogAnswers answers;
-  std::optional<std::array<double, 2>> point;      // x and y in the plan
-  std::vector<std::vector<geometry::Vec3>> faces;  // the roof; the chosen face first
-  bool isBounded = false;                          // the window must stay inside the faces
-  const WindowNumbers* numbersInUse = nullptr;     // of the windows in the drawing; null: none
-  std::optional<brevanta::WindowParams> edited;    // the window that is changed
-  std::vector<const dxf::Entity*> replaced;        // its entities, or those of one to erase
+  std::optional<std::array<double, 2>> point;    // x and y in the plan
+  FaceCorners roof;                              // a face, or three points, that span its plane
+  FacesNear facesNear;                           // of the roof; null where it has no bounds
+  const WindowNumbers* numbersInUse = nullptr;   // of the windows in the drawing; null: none
+  std::optional<brevanta::WindowParams> edited;  // the window that is changed
+  std::vector<const dxf::Entity*> replaced;      // its entities, or those of one to erase
 };
 
 struct DialogReport {
@@ -82,6 +89,7 @@ class ModuleSession {
   dxf::Document& drawing_;
   const WindowRequest& request_;
   brevanta::DialogServices services_;
+  std::vector<FaceCorners> foundFaces_;
   std::optional<dxf::EditMark> batchStart_;
   std::size_t batchFaces_ = 0;
   std::size_t batchLines_ = 0;

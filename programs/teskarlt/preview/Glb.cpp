@@ -1,6 +1,7 @@
 // Glb.cpp - writes the 3D model.
 #include "teskarlt/preview/Glb.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -9,6 +10,8 @@
 #include <utility>
 
 #include <nlohmann/json.hpp>
+
+#include "geometry/Vectors.h"
 
 namespace teskarlt::preview {
 
@@ -124,11 +127,22 @@ class Writer {
   void AddCurve(const Curve& curve, Primitives& layer) const {
     const bool isOutline = curve.outlined != NO_SURFACE;
     Vertices& lines = layer[MaterialOf(isOutline ? Kind::Edge : Kind::Line, Ink(curve.colour))];
-    for (const std::vector<Vec3>& dash : Dashes(curve.points, scene_.patterns[curve.pattern])) {
+    const DashPattern pattern = ReadablePattern(scene_.patterns[curve.pattern], ShortestPeriod(curve));
+    for (const std::vector<Vec3>& dash : Dashes(curve.points, pattern)) {
       for (std::size_t i = 1; i < dash.size(); ++i)
         AddLine(dash[i - 1], dash[i], lines);
     }
     if (isOutline) NumberAll(lines, curve.outlined);
+  }
+
+  // Such that dashes are told apart where the drawing, or the curve, is seen as a whole.
+  double ShortestPeriod(const Curve& curve) const {
+    constexpr double ofDrawing = 1.0 / 120;
+    constexpr double ofCurve = 1.0 / 8;
+    double length = 0;
+    for (std::size_t i = 1; i < curve.points.size(); ++i)
+      length += geometry::Distance(curve.points[i - 1], curve.points[i]);
+    return std::min(geometry::Distance(scene_.box.low, scene_.box.high) * ofDrawing, length * ofCurve);
   }
 
   // Drawing to model: metres from the origin, y up.

@@ -2,8 +2,8 @@
 #include "teskarlt/preview/HiddenLines.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "teskarlt/Error.h"
 #include "teskarlt/preview/Picture.h"
 
 namespace teskarlt::preview {
@@ -12,122 +12,102 @@ namespace {
 
 constexpr double RELATIVE_TOLERANCE = 1e-6;
 constexpr double SHORTEST_PART = 1e-9;
-constexpr double MOST_CELLS = 512;  // in one direction
+constexpr std::size_t STEPS_OF_A_PART = 64;  // its memory counts as so many boxes
 
-// Narrows the range to where the linear function from f0 (t = 0) to f1 (t = 1) is not negative; false when
-// nothing is left.
-bool Narrow(double f0, double f1, double& from, double& to) {
-  if (f0 < 0 && f1 < 0) return false;
-  if (f0 < 0) from = std::max(from, f0 / (f0 - f1));
-  if (f1 < 0) to = std::min(to, f0 / (f0 - f1));
-  return from < to;
-}
+using Part = std::pair<double, double>;
 
-}  // namespace
+// A line, and what is still visible of it.
+class Line {
+ public:
+  Line(const Vec3& a, const Vec3& b, double tolerance) : a_(a), b_(b), tolerance_(tolerance) {}
 
-HiddenLines::HiddenLines(const Scene& scene, const View& view) {
+  // How much of what is still visible may lie behind something in the box.
+  double VisibleBehind(const Box& box) const {
+    Part part = {0, 1};
+    const bool isThere = Narrow(a_.x - box.low.x + tolerance_, b_.x - box.low.x + tolerance_, part) &&
+                         Narrow(box.high.x - a_.x + tolerance_, box.high.x - b_.x + tolerance_, part) &&
+                         Narrow(a_.y - box.low.y + tolerance_, b_.y - box.low.y + tolerance_, part) &&
+                         Narrow(box.high.y - a_.y + tolerance_, box.high.y - b_.y + tolerance_, part) &&
+                         Narrow(box.high.z - a_.z - tolerance_, box.high.z - b_.z - tolerance_, part);
+    if (!isThere) return 0;
+    double visible = 0;
+    for (auto at = FirstBehind(part.first); at != visible_.end() && at->first < part.second; ++at)
+      visible += std::min(at->second, part.second) - std::max(at->first, part.first);
+    return visible;
+  }
+
+  // Takes away what the triangle covers and lies before. Its edges count as covered, so that no gap shows
+  // between neighbours.
+  void HideBehind(const PictureTriangle& t) {
+    Part part = {0, 1};
+    const Vec3* const corners[4] = {&t.a, &t.b, &t.c, &t.a};
+    for (int i = 0; i < 3; ++i) {
+      const double slack = tolerance_ * DistanceInPicture(*corners[i], *corners[i + 1]);
+      if (!Narrow(TurnInPicture(*corners[i], *corners[i + 1], a_) + slack,
+                  TurnInPicture(*corners[i], *corners[i + 1], b_) + slack, part))
+        return;
+    }
+    if (Narrow(t.DepthAt(a_) - a_.z - tolerance_, t.DepthAt(b_) - b_.z - tolerance_, part)) Hide(part);
+  }
+
+  std::vector<Part> Visible() && { return std::move(visible_); }
+
+ private:
+  // The first part that ends behind this place.
+  std::vector<Part>::const_iterator FirstBehind(double place) const {
+    return std::partition_point(visible_.begin(), visible_.end(),
+                                [&](const Part& part) { return part.second <= place; });
+  }
+
+  void Hide(const Part& hidden) {
+    const auto begin = FirstBehind(hidden.first);
+    auto end = begin;
+    while (end != visible_.end() && end->first < hidden.second)
+      ++end;
+    if (begin == end) return;
+    std::vector<Part> rests;
+    if (hidden.first > begin->first + SHORTEST_PART) rests.emplace_back(begin->first, hidden.first);
+    const double last = (end - 1)->second;
+    if (last > hidden.second + SHORTEST_PART) rests.emplace_back(hidden.second, last);
+    visible_.insert(visible_.erase(begin, end), rests.begin(), rests.end());
+  }
+
+  Vec3 a_;
+  Vec3 b_;
+  double tolerance_;
+  std::vector<Part> visible_{{0, 1}};
+};
+
+double ToleranceOf(const Scene& scene, const View& view) {
   Box box;
   for (const Surface& surface : scene.surfaces) {
     for (const Vec3& corner : surface.corners)
       box.Add(view.Project(corner));
   }
-  if (box.IsEmpty()) box.Add({0, 0, 0});
-  const double size = std::max({box.high.x - box.low.x, box.high.y - box.low.y, box.high.z - box.low.z});
-  tolerance_ = size * RELATIVE_TOLERANCE;
-  origin_ = box.low;
-  for (const Surface& surface : scene.surfaces) {
-    const std::vector<std::size_t> indices = Triangles(surface.corners);
-    for (std::size_t i = 0; i < indices.size(); i += 3) {
-      Add({view.Project(surface.corners[indices[i]]), view.Project(surface.corners[indices[i + 1]]),
-           view.Project(surface.corners[indices[i + 2]])});
-    }
-  }
-  side_ = static_cast<std::size_t>(
-      std::clamp(std::sqrt(static_cast<double>(triangles_.size())), 1.0, MOST_CELLS));
-  cell_ = size > 0 ? size / static_cast<double>(side_) : 1;
-  BuildGrid();
+  if (box.IsEmpty()) return 0;
+  return std::max({box.high.x - box.low.x, box.high.y - box.low.y, box.high.z - box.low.z}) *
+         RELATIVE_TOLERANCE;
 }
 
-void HiddenLines::Add(Triangle triangle) {
-  const double turn = TurnInPicture(triangle.a, triangle.b, triangle.c);
-  const double longest =
-      std::max({DistanceInPicture(triangle.a, triangle.b), DistanceInPicture(triangle.b, triangle.c),
-                DistanceInPicture(triangle.c, triangle.a)});
-  if (std::abs(turn) <= tolerance_ * longest) return;  // seen from its edge it hides nothing
-  if (turn < 0) std::swap(triangle.b, triangle.c);
-  triangles_.push_back(triangle);
-}
+}  // namespace
 
-std::pair<std::size_t, std::size_t> HiddenLines::Cells(double low, double high, double origin) const {
-  const double last = static_cast<double>(side_) - 1;
-  return {static_cast<std::size_t>(std::clamp((low - origin) / cell_, 0.0, last)),
-          static_cast<std::size_t>(std::clamp((high - origin) / cell_, 0.0, last))};
-}
+HiddenLines::HiddenLines(const Scene& scene, const View& view, std::size_t mostSteps)
+    : file_(scene.file),
+      tolerance_(ToleranceOf(scene, view)),
+      tree_(PictureTriangles(scene, view, tolerance_)),
+      mostSteps_(mostSteps) {}
 
-void HiddenLines::BuildGrid() {
-  grid_.resize(side_ * side_);
-  asked_.resize(triangles_.size(), 0);
-  for (std::size_t i = 0; i < triangles_.size(); ++i) {
-    const Triangle& t = triangles_[i];
-    const auto [left, right] =
-        Cells(std::min({t.a.x, t.b.x, t.c.x}), std::max({t.a.x, t.b.x, t.c.x}), origin_.x);
-    const auto [low, high] =
-        Cells(std::min({t.a.y, t.b.y, t.c.y}), std::max({t.a.y, t.b.y, t.c.y}), origin_.y);
-    for (std::size_t row = low; row <= high; ++row) {
-      for (std::size_t column = left; column <= right; ++column)
-        grid_[row * side_ + column].push_back(static_cast<std::uint32_t>(i));
-    }
-  }
-}
-
-// The part of the line that the triangle covers and lies before. Its edges count as covered, so that no gap
-// shows between neighbours.
-bool HiddenLines::Hides(const Triangle& triangle, const Vec3& a, const Vec3& b, double& from,
-                        double& to) const {
-  from = 0;
-  to = 1;
-  const Vec3* const corners[4] = {&triangle.a, &triangle.b, &triangle.c, &triangle.a};
-  for (int i = 0; i < 3; ++i) {
-    const double slack = tolerance_ * DistanceInPicture(*corners[i], *corners[i + 1]);
-    if (!Narrow(TurnInPicture(*corners[i], *corners[i + 1], a) + slack,
-                TurnInPicture(*corners[i], *corners[i + 1], b) + slack, from, to))
-      return false;
-  }
-  const double area = TurnInPicture(triangle.a, triangle.b, triangle.c);
-  const auto before = [&](const Vec3& p) {  // how far the triangle's plane lies before p
-    const double depth = (TurnInPicture(triangle.b, triangle.c, p) * triangle.a.z +
-                          TurnInPicture(triangle.c, triangle.a, p) * triangle.b.z +
-                          TurnInPicture(triangle.a, triangle.b, p) * triangle.c.z) /
-                         area;
-    return depth - p.z - tolerance_;
-  };
-  return Narrow(before(a), before(b), from, to);
-}
-
-std::vector<std::pair<double, double>> HiddenLines::Visible(const Vec3& a, const Vec3& b) {
-  std::vector<std::pair<double, double>> hidden;
-  ++question_;
-  const auto [left, right] = Cells(std::min(a.x, b.x), std::max(a.x, b.x), origin_.x);
-  const auto [low, high] = Cells(std::min(a.y, b.y), std::max(a.y, b.y), origin_.y);
-  for (std::size_t row = low; row <= high; ++row) {
-    for (std::size_t column = left; column <= right; ++column) {
-      for (const std::uint32_t index : grid_[row * side_ + column]) {
-        if (asked_[index] == question_) continue;
-        asked_[index] = question_;
-        double from = 0;
-        double to = 1;
-        if (Hides(triangles_[index], a, b, from, to)) hidden.emplace_back(from, to);
-      }
-    }
-  }
-  std::sort(hidden.begin(), hidden.end());
-  std::vector<std::pair<double, double>> visible;
-  double at = 0;
-  for (const auto& [from, to] : hidden) {
-    if (from > at + SHORTEST_PART) visible.emplace_back(at, from);
-    at = std::max(at, to);
-  }
-  if (at < 1 - SHORTEST_PART) visible.emplace_back(at, 1);
+std::vector<Part> HiddenLines::Visible(const Vec3& a, const Vec3& b) {
+  Line line(a, b, tolerance_);
+  steps_ += tree_.Search([&](const Box& box) { return line.VisibleBehind(box); },
+                         [&](const PictureTriangle& triangle) { line.HideBehind(triangle); });
+  std::vector<Part> visible = std::move(line).Visible();
+  steps_ += visible.size() * STEPS_OF_A_PART;
+  if (steps_ > mostSteps_)
+    throw Error(
+        file_ +
+        ": too many surfaces hide parts of one another for a picture with lines; give some of the layers "
+        "with --layer, or write a .html or .glb");
   return visible;
 }
 

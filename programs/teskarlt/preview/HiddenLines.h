@@ -1,11 +1,13 @@
 // HiddenLines.h - which parts of a straight line no surface hides.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "teskarlt/preview/Scene.h"
+#include "teskarlt/preview/TriangleTree.h"
 #include "teskarlt/preview/View.h"
 
 namespace teskarlt::preview {
@@ -14,30 +16,21 @@ namespace teskarlt::preview {
 // the scene's size behind a surface is not hidden by it.
 class HiddenLines {
  public:
-  HiddenLines(const Scene& scene, const View& view);
+  static constexpr std::size_t MOST_STEPS = 300'000'000;  // some seconds
+
+  // All questions together may ask so many boxes of triangles.
+  HiddenLines(const Scene& scene, const View& view, std::size_t mostSteps = MOST_STEPS);
 
   // The visible parts of the line from a to b (projected points) as pairs of 0 <= t < u <= 1, in order.
+  // Throws Error when all questions so far took more steps than they may.
   std::vector<std::pair<double, double>> Visible(const Vec3& a, const Vec3& b);
 
  private:
-  struct Triangle {
-    Vec3 a, b, c;  // projected, counter-clockwise
-  };
-
-  void Add(Triangle triangle);
-  void BuildGrid();
-  // First and last cell of the range from `low` to `high` in one direction.
-  std::pair<std::size_t, std::size_t> Cells(double low, double high, double origin) const;
-  bool Hides(const Triangle& triangle, const Vec3& a, const Vec3& b, double& from, double& to) const;
-
-  std::vector<Triangle> triangles_;
+  std::string file_;  // for messages
   double tolerance_ = 0;
-  Vec3 origin_{};
-  double cell_ = 1;
-  std::size_t side_ = 1;
-  std::vector<std::vector<std::uint32_t>> grid_;  // triangles by cell, row by row
-  std::vector<std::uint32_t> asked_;              // by triangle: the last question that looked at it
-  std::uint32_t question_ = 0;
+  TriangleTree tree_;
+  std::size_t mostSteps_;
+  std::size_t steps_ = 0;
 };
 
 }  // namespace teskarlt::preview

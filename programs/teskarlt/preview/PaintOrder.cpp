@@ -14,8 +14,10 @@ namespace teskarlt::preview {
 
 namespace {
 
-constexpr double RELATIVE_TOLERANCE = 1e-6;  // of the scene's size
-constexpr double MOST_CELLS = 512;           // of the grid, in one direction
+constexpr double RELATIVE_TOLERANCE = 1e-6;    // of the scene's size
+constexpr double MOST_CELLS = 512;             // of the grid, in one direction
+constexpr std::size_t MOST_STEPS = 2'000'000;  // neighbours looked at and triangles compared, some seconds
+constexpr std::size_t NEIGHBOURS_A_STEP = 16;  // already compared ones are passed over fast
 
 using Triangle = std::array<Vec3, 3>;  // projected, counter-clockwise
 
@@ -64,8 +66,7 @@ class Sorter {
   std::vector<std::size_t> Run() {
     behind_.resize(shapes_.size());
     before_.resize(shapes_.size(), 0);
-    CompareNeighbours();
-    return Sorted();
+    return CompareNeighbours() ? Sorted() : ByDepth();
   }
 
  private:
@@ -114,6 +115,7 @@ class Sorter {
     for (const Triangle& a : shapes_[first].triangles) {
       for (const Triangle& b : shapes_[second].triangles) {
         const double distance = Before(a, b);
+        ++steps_;
         if (std::abs(distance) > std::abs(difference)) difference = distance;
       }
     }
@@ -131,8 +133,9 @@ class Sorter {
             static_cast<std::size_t>(std::clamp((high - origin) * cells, 0.0, last))};
   }
 
-  // Compares every shape with the earlier ones that it shares a cell of the grid with.
-  void CompareNeighbours() {
+  // Compares every shape with the earlier ones that it shares a cell of the grid with; false when they are
+  // too many.
+  bool CompareNeighbours() {
     side_ =
         static_cast<std::size_t>(std::clamp(std::sqrt(static_cast<double>(shapes_.size())), 1.0, MOST_CELLS));
     std::vector<std::vector<std::size_t>> grid(side_ * side_);
@@ -144,6 +147,7 @@ class Sorter {
       for (std::size_t row = low; row <= high; ++row) {
         for (std::size_t column = left; column <= right; ++column) {
           std::vector<std::size_t>& cell = grid[row * side_ + column];
+          steps_ += cell.size() / NEIGHBOURS_A_STEP + 1;
           for (const std::size_t other : cell) {
             if (comparedWith[other] == i) continue;
             comparedWith[other] = i;
@@ -151,8 +155,23 @@ class Sorter {
           }
           cell.push_back(i);
         }
+        if (steps_ > MOST_STEPS) return false;
       }
     }
+    return true;
+  }
+
+  // By the middle of their depths, from the farthest: right for surfaces that lie over one another like
+  // leaves.
+  std::vector<std::size_t> ByDepth() const {
+    std::vector<std::size_t> order;
+    for (std::size_t i = 0; i < shapes_.size(); ++i) {
+      if (!shapes_[i].triangles.empty()) order.push_back(i);
+    }
+    const auto depth = [&](std::size_t shape) { return shapes_[shape].box.Centre().z; };
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return depth(a) < depth(b); });
+    return order;
   }
 
   // Takes away, again and again, the first shape of the drawing behind which nothing is left (A. Kahn, 1962).
@@ -186,6 +205,7 @@ class Sorter {
   double size_ = 0;
   double tolerance_ = 0;
   std::size_t side_ = 1;
+  std::size_t steps_ = 0;
   std::vector<std::vector<std::size_t>> behind_;  // by shape: those that lie before it
   std::vector<std::size_t> before_;               // by shape: how many lie behind it and are not painted yet
 };

@@ -67,7 +67,7 @@ std::string Compressed(const std::string& bytes) {
   std::string packed(compressBound(static_cast<uLong>(bytes.size())), '\0');
   auto size = static_cast<uLongf>(packed.size());
   if (compress2(reinterpret_cast<Bytef*>(packed.data()), &size, AsBytes(bytes),
-                static_cast<uLong>(bytes.size()), Z_BEST_COMPRESSION) != Z_OK)
+                static_cast<uLong>(bytes.size()), Z_DEFAULT_COMPRESSION) != Z_OK)
     throw Error("the picture could not be compressed");
   packed.resize(size);
   return packed;

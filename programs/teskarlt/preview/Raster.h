@@ -18,6 +18,7 @@ struct Picture {
 };
 
 // Surfaces in soft light with their edges, and lines, by a depth buffer. The same bytes on every system.
+// Throws Error when so much lies over one another that it would take too long.
 Picture Render(const Scene& scene, const PictureOptions& options);
 
 }  // namespace teskarlt::preview

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "geometry/Vectors.h"
 
@@ -69,6 +70,10 @@ class EarCutter {
   std::vector<std::size_t> triangles_;
 };
 
+double PeriodOf(const DashPattern& pattern) {
+  return std::accumulate(pattern.begin(), pattern.end(), 0.0);
+}
+
 }  // namespace
 
 void Box::Add(const Vec3& point) {
@@ -97,12 +102,21 @@ Colour PaintOf(const Surface& surface) {
   return surface.isGlass ? GLASS : Paint(surface.colour);
 }
 
+DashPattern ReadablePattern(const DashPattern& pattern, double shortestPeriod) {
+  constexpr double dot = 1.0 / 6;  // of the shortest period
+  const double period = PeriodOf(pattern);
+  if (!(period > 0)) return {};
+  const double factor = std::max(1.0, shortestPeriod / period);
+  DashPattern readable;
+  for (std::size_t i = 0; i < pattern.size(); ++i)
+    readable.push_back(std::max(pattern[i] * factor, i % 2 == 0 ? shortestPeriod * dot : 0));
+  return readable;
+}
+
 std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern,
                                       double offset) {
-  constexpr double mostRepeats = 500;
-  double period = 0;
-  for (const double length : pattern)
-    period += length;
+  constexpr double mostRepeats = 5000;
+  const double period = PeriodOf(pattern);
   double total = 0;
   for (std::size_t i = 1; i < points.size(); ++i) {
     total += geometry::Distance(points[i - 1], points[i]);

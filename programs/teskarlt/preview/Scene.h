@@ -71,7 +71,8 @@ struct SceneWindow {
 using DashPattern = std::vector<double>;
 
 struct Scene {
-  std::string name;                // of the drawing, for titles
+  std::string file;                // of the drawing, for messages
+  std::string name;                // likewise, for titles
   std::string unit;                // "mm"; empty when the drawing does not say it
   double perMetre = 0;             // drawing units in a metre; 0 when not known
   std::vector<SceneLayer> layers;  // those that hold something to be seen, in the order of their first entity
@@ -93,8 +94,15 @@ Vec3 NormalOf(const std::vector<Vec3>& corners);
 // The colour of a surface in pictures and models.
 Colour PaintOf(const Surface& surface);
 
+// The shortest period of a pattern that can be told apart in a picture, in pixels.
+constexpr double SHORTEST_PERIOD = 6;
+
+// A pattern as it can be told apart: made longer, as a whole, up to this period, and its dots made short
+// dashes.
+DashPattern ReadablePattern(const DashPattern& pattern, double shortestPeriod);
+
 // The dashes of a line whose pattern is used up to the length `offset` at its first point: the line itself
-// when it is unbroken, or when so many dashes would not be told apart.
+// when it is unbroken, or when there would be too many of them.
 std::vector<std::vector<Vec3>> Dashes(const std::vector<Vec3>& points, const DashPattern& pattern,
                                       double offset = 0);
 

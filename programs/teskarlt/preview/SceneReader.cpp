@@ -105,7 +105,8 @@ class Reader {
     for (const std::string& layer : options.layers)
       wanted_.insert(dxf::FoldedName(layer));
     const DrawingUnit* const unit = KnownUnit(drawing, options.units);
-    scene_.name = FileStem(drawing.FileName());
+    scene_.file = drawing.FileName();
+    scene_.name = FileStem(scene_.file);
     if (unit != nullptr) {
       scene_.unit = unit->name;
       scene_.perMetre = unit->perMetre;

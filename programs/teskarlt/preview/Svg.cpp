@@ -17,8 +17,7 @@ constexpr double MARGIN = 32;
 constexpr double FOOTER = 60;
 constexpr double TALLEST = 1.5;        // height of the drawing against its width
 constexpr double SHORTEST_LINE = 0.3;  // shorter parts are no more than dots between two surfaces
-constexpr double SHORTEST_DASHES = 1.5;
-constexpr double NUMBER_ROOM = 22;  // a window of this size has room for its number
+constexpr double NUMBER_ROOM = 22;     // a window of this size has room for its number
 
 // A coordinate with at most two decimals.
 std::string Number(double value) {
@@ -178,16 +177,15 @@ void Writer::Layers() {
   }
 }
 
-// stroke-dasharray and its offset; empty for a line that shows no dashes at this scale.
+// stroke-dasharray and its offset; empty for an unbroken line.
 std::string Writer::DashText(const VisibleLine& line) const {
-  const DashPattern& pattern = scene_.patterns[line.pattern];
   double period = 0;
   std::string lengths;
-  for (const double length : pattern) {
+  for (const double length : ReadablePattern(scene_.patterns[line.pattern], SHORTEST_PERIOD / scale_)) {
     period += length * scale_;
     lengths += (lengths.empty() ? "" : ",") + Number(length * scale_);
   }
-  if (period < SHORTEST_DASHES) return {};
+  if (lengths.empty()) return {};
   std::string text = fmt::format(R"( stroke-dasharray="{}" stroke-linecap="butt")", lengths);
   const double offset = std::fmod(line.offset * scale_, period);
   if (Number(offset) != "0") text += fmt::format(" stroke-dashoffset=\"{}\"", Number(offset));

@@ -31,6 +31,10 @@ std::string ResultTarget::Ending(const char* done, const char* planned) const {
   return fmt::format("could {}; nothing was written", planned);
 }
 
+std::string ResultTarget::UnchangedEnding() const {
+  return isWritten_ ? fmt::format("written to {} as it was", Path()) : "nothing was written";
+}
+
 void ResultTarget::AddTo(Json& answer) const {
   answer["file"] = isWritten_ ? Json(Path()) : Json(nullptr);
   answer["dryRun"] = isDryRun_;

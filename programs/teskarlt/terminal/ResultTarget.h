@@ -30,6 +30,9 @@ class ResultTarget {
   // `done` and "be added" for `planned`.
   std::string Ending(const char* done, const char* planned) const;
 
+  // The same where there was nothing to do: "nothing was written" or "written to out.dxf as it was".
+  std::string UnchangedEnding() const;
+
   // The members of an answer for programs: "file", which is null where nothing was written, and "dryRun".
   void AddTo(Json& answer) const;
 

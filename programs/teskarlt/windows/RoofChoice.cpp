@@ -83,13 +83,17 @@ const RoofFace& FaceAt(const PlanPoint& point, const std::string& file, const Ro
               {.value = point.text});
 }
 
-// Whether the plane of the face itself is that of its whole surface.
+// Whether the plane of the face itself is that of its whole surface. Planes are farthest apart at a corner of
+// the surface's box.
 bool SpansSurface(const RoofFace& face, const RoofSurface& surface, const Roofs& roofs) {
   constexpr double EXACT = 0.1;  // millimetres
-  return !IsNarrow(face, roofs.Tolerance()) &&
-         std::all_of(surface.faces.begin(), surface.faces.end(), [&](std::size_t other) {
-           return Warp(roofs.Faces()[other], face.plane) <= EXACT * roofs.Tolerance();
-         });
+  const auto differ = [&](double x, double y) {
+    return std::abs(HeightAt(face.plane, x, y) - HeightAt(surface.plane, x, y));
+  };
+  const PlanBox& box = surface.box;
+  const double apart = std::max({differ(box.lowX, box.lowY), differ(box.lowX, box.highY),
+                                 differ(box.highX, box.lowY), differ(box.highX, box.highY)});
+  return !IsNarrow(face, roofs.Tolerance()) && apart + surface.warp <= EXACT * roofs.Tolerance();
 }
 
 // The face's corners, straight up or down in the plane.
@@ -104,23 +108,22 @@ std::vector<geometry::Vec3> CornersIn(const Plane& plane, const RoofFace& face) 
 }  // namespace
 
 RoofChoice OnFace(const RoofFace& face, const Roofs& roofs) {
-  const RoofSurface& surface = *roofs.SurfaceOf(face);
-  RoofChoice roof{.face = &face, .isBounded = true};
-  // The first face spans the plane for the dialog.
-  const bool isExact = SpansSurface(face, surface, roofs);
-  const RoofFace& first = isExact ? face : roofs.Faces()[surface.faces.front()];
-  roof.faces.push_back(isExact ? face.corners : CornersIn(surface.plane, first));
-  for (const std::size_t number : surface.faces) {
-    const RoofFace& other = roofs.Faces()[number];
-    if (&other != &first) roof.faces.push_back(other.corners);
-  }
+  const RoofSurface* const surface = roofs.SurfaceOf(face);
+  RoofChoice roof{.face = &face};
+  roof.corners = SpansSurface(face, *surface, roofs)
+                     ? face.corners
+                     : CornersIn(surface->plane, roofs.Faces()[surface->faces.front()]);
+  roof.facesNear = [&roofs, surface](const PlanBox& area) {
+    std::vector<FaceCorners> near;
+    for (const RoofFace* other : roofs.FacesNear(area))
+      if (roofs.SurfaceOf(*other) == surface) near.push_back(other->corners);
+    return near;
+  };
   return roof;
 }
 
 RoofChoice OnPlane(std::vector<geometry::Vec3> points) {
-  RoofChoice roof;
-  roof.faces.push_back(std::move(points));
-  return roof;
+  return {.corners = std::move(points)};
 }
 
 RoofChoice ChooseRoof(const WindowOrder& order, const std::string& file, const Roofs& roofs) {
@@ -139,8 +142,8 @@ bool NamesPlace(const WindowOrder& order) {
 }
 
 void PutRoof(const RoofChoice& roof, WindowRequest& request) {
-  request.faces = roof.faces;
-  request.isBounded = roof.isBounded;
+  request.roof = roof.corners;
+  request.facesNear = roof.facesNear;
 }
 
 }  // namespace teskarlt

@@ -14,12 +14,12 @@ namespace teskarlt {
 // Drawing coordinates and units.
 struct RoofChoice {
   const RoofFace* face = nullptr;  // one of the drawing's faces; null where points give a plane
-  std::vector<std::vector<geometry::Vec3>> faces = {};  // as WindowRequest has them
-  bool isBounded = false;
+  FaceCorners corners = {};        // of a face, or three points, that span the plane
+  FacesNear facesNear = {};        // null where the plane has no bounds
 };
 
-// The surface of the face, which must be one that takes a window; the window stays inside it. It lies in the
-// face's own plane where that is the surface's too, else in the best fit.
+// The surface of the face, which must be one that takes a window; the window stays inside it. Its plane is
+// the face's own where that is the surface's too, else the best fit. The roofs must outlive the choice.
 RoofChoice OnFace(const RoofFace& face, const Roofs& roofs);
 
 // The plane without bounds through three points.

@@ -13,6 +13,7 @@
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/ClosedLayers.h"
 #include "teskarlt/windows/RoofChoice.h"
+#include "teskarlt/windows/WindowChanges.h"
 #include "teskarlt/windows/WindowChoice.h"
 #include "window/Choices.h"
 
@@ -34,8 +35,9 @@ RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
   }
   RoofChoice roof = OnFace(*face, work.roofs);
   // What stuck out before may do so still.
-  roof.isBounded =
+  const bool wasInside =
       HasOwnSecondPlane(window, work.tolerance) || IsWhole(CoveredPart(OutlineOf(window), work.roofs));
+  if (!wasInside) roof.facesNear = nullptr;
   return roof;
 }
 
@@ -70,7 +72,12 @@ WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, c
   reading_ = ReadEditableWindow(drawing, window_);
 }
 
-PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
+bool WindowEditor::StandsAs(const WindowParams& record) const {
+  return reading_.notes.empty() && !DiffersFromDescription(window_.params, record) &&
+         ChangedFields(reading_.params, record).empty();
+}
+
+EditedWindow WindowEditor::Edit(const WindowOrder& order) {
   const WindowParams& record = reading_.params;
   CatalogueShelf shelf;
   WindowRequest request;
@@ -87,14 +94,17 @@ PlacedWindow WindowEditor::Edit(const WindowOrder& order) {
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
-  PlacedWindow edited = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
+  EditedWindow edited;
+  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
   WindowFit fit(work_.roofs);
   fit.AddAll(work_.drawing, work_.windows, &window_);
-  edited.misfits = fit.Misfits(edited.record, edited.outline);
-  if (order.isStrict && !edited.misfits.empty()) {
-    work_.drawing.Rollback(before);
-    RefuseMisfits(edited.misfits);
-  }
+  const WindowParams& after = edited.placed.record;
+  edited.placed.misfits = fit.Misfits(after, edited.placed.outline);
+  edited.changes = ChangedFields(record, after);
+  edited.isRewritten = !StandsAs(after);
+  const bool isRefused = order.isStrict && !edited.placed.misfits.empty();
+  if (isRefused || !edited.isRewritten) work_.drawing.Rollback(before);
+  if (isRefused) RefuseMisfits(edited.placed.misfits);
   return edited;
 }
 

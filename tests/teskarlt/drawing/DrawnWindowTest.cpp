@@ -163,9 +163,20 @@ TEST(FindWindows, CopiesOfWindowsWithoutFacesAreTold) {
   EXPECT_EQ(FindWindows(drawing, UNITS_PER_METRE).size(), 2U);
 }
 
-TEST(FindWindows, CopyInAnotherOrderStaysWithItsModel) {
+TEST(FindWindows, CopyInAnotherOrderIsAWindowOfItsOwn) {
   const Entities model = Insert().entities;
   Entities copy = Changed(model, Move(2000, 0, 0));
+  std::reverse(copy.begin(), copy.end());
+  const dxf::Document drawing = DrawingOf(Joined(model, copy));
+  const auto windows = FindWindows(drawing, UNITS_PER_METRE);
+  ASSERT_EQ(windows.size(), 2U);
+  EXPECT_EQ(windows[1].faces, 17U);
+  EXPECT_NEAR(ShapeOf(drawing, windows[1]).outline[0].x, 6500, 1e-6);
+}
+
+TEST(FindWindows, CopyInAnotherOrderInTheSamePlaceStaysWithItsModel) {
+  const Entities model = Insert().entities;
+  Entities copy = model;
   std::reverse(copy.begin(), copy.end());
   const dxf::Document drawing = DrawingOf(Joined(model, copy));
   const auto windows = FindWindows(drawing, UNITS_PER_METRE);

@@ -211,7 +211,7 @@ InsertedWindow Insert(const Answers& answers, const Place& place) {
   request.answers = answers;
   request.answers.insert({{"width", "1"}, {"length", "2"}});
   request.point = {place.point.x, place.point.y};
-  request.faces = {place.face};
+  request.roof = place.face;
   return RunModule(request, 0);
 }
 
@@ -221,9 +221,8 @@ InsertedWindow InsertAgain(const brevanta::WindowParams& record, const Answers& 
   request.answers = answers;
   request.edited = record;
   request.point = {record.storedPoint.x, record.storedPoint.y};
-  request.faces = {{}};
   for (const brevanta::RecordPoint& p : record.roofPlanePoints)
-    request.faces[0].push_back({p.x, p.y, p.z});
+    request.roof.push_back({p.x, p.y, p.z});
   return RunModule(request, 1);
 }
 

@@ -89,21 +89,21 @@ TEST(Area, IsThatOfTheSlopeNotOfThePlan) {
 }
 
 TEST(LiesOver, EdgesAndCornersBelongToTheFace) {
-  EXPECT_TRUE(LiesOver(Face(SLOPE), 0, 1.5));
-  EXPECT_TRUE(LiesOver(Face(SLOPE), 4, 3));
-  EXPECT_TRUE(LiesOver(Face(SLOPE), 2, 0));
-  EXPECT_FALSE(LiesOver(Face(SLOPE), 2, 3.5));
+  EXPECT_TRUE(LiesOver(SLOPE, 0, 1.5));
+  EXPECT_TRUE(LiesOver(SLOPE, 4, 3));
+  EXPECT_TRUE(LiesOver(SLOPE, 2, 0));
+  EXPECT_FALSE(LiesOver(SLOPE, 2, 3.5));
 }
 
 TEST(LiesOver, UprightEdgeLiesOverNoOtherPoint) {
   // A wall a millimetre out of plumb, whose second edge stands upright.
-  const RoofFace wall = Face({{100, 100, 3}, {104, 100.001, 3}, {104, 100.001, 7}, {100, 100.002, 7}});
+  const std::vector<Vec3> wall = {{100, 100, 3}, {104, 100.001, 3}, {104, 100.001, 7}, {100, 100.002, 7}};
   EXPECT_FALSE(LiesOver(wall, 4, 1));
   EXPECT_TRUE(LiesOver(wall, 104, 100.001));
 }
 
 TEST(LiesOver, NotchOfAConcaveFaceIsOutside) {
-  const RoofFace face = Face({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 1, 0}, {0, 4, 0}});
+  const std::vector<Vec3> face = {{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {2, 1, 0}, {0, 4, 0}};
   EXPECT_FALSE(LiesOver(face, 2, 2));
   EXPECT_TRUE(LiesOver(face, 0.5, 2));
 }

@@ -120,6 +120,20 @@ TEST(CoveredPart, IsThePartOnTheFacesOfTheWindowsPlane) {
   EXPECT_EQ(CoveredPart(OutlineOf(Window(5, 2, 1.0)), Slope(10)), 0.0);
 }
 
+TEST(UnevennessIn, IsMeasuredWhereTheWindowLies) {
+  // Two faces of 100 m by 10 m, of which the second rises by 120 mm. The best fit rises half as much and lies
+  // 30 mm above their common edge.
+  const Roofs roofs({*MakeRoofFace({{0, 0, 0}, {1e5, 0, 0}, {1e5, 1e4, 0}, {0, 1e4, 0}}, TOLERANCE),
+                     *MakeRoofFace({{0, 1e4, 0}, {1e5, 1e4, 0}, {1e5, 2e4, 120}, {0, 2e4, 120}}, TOLERANCE)},
+                    TOLERANCE);
+  const auto unevenness = [&](double y) {
+    const auto corner = [](double x, double up) { return Vec3{x, up, 30 + (up - 1e4) * 0.006}; };
+    return UnevennessIn({corner(0, y), corner(0, y + 1000), corner(1000, y + 1000), corner(1000, y)}, roofs);
+  };
+  EXPECT_NEAR(unevenness(9500), 30, 0.1);  // over the edge, an end of which it covers
+  EXPECT_NEAR(unevenness(4500), 3, 0.1);   // at 5 m the plane passes through the first face
+}
+
 TEST(WindowFit, NamesTheWindowsThatAreOverlapped) {
   const Roofs none({}, TOLERANCE);
   WindowFit fit(none);

@@ -301,12 +301,6 @@ TEST(WindowShape, OpeningThatIsNotClosedIsNoticed) {
     EXPECT_THAT(RefusedShape(PartChanged(window, line, Move(0, 0, 200))), HasSubstr("moved apart")) << line;
 }
 
-TEST(WindowShape, PartsInAnotherOrderAreNoticed) {
-  Entities window = WindowOf(WITHOUT_BODY);
-  std::swap(window[window.size() - 1], window[window.size() - 3]);
-  EXPECT_THAT(RefusedShape(window), HasSubstr("another order"));
-}
-
 TEST(WindowShape, PartsMayLieAsFarApartAsOtherProgramsRound) {
   const Entities window = WindowOf();
   EXPECT_THAT(RefusedShape(PartChanged(window, 17, Move(0, 0, 0.5))), IsEmpty());

@@ -67,17 +67,30 @@ TEST_F(ModuleSessionTest, NumberBehindTheHighestIsGiven) {
   EXPECT_EQ(services.numberInUse(services.context, 4), 0);
 }
 
-TEST_F(ModuleSessionTest, FacesAreGivenOneByOne) {
-  request.faces = {{{1, 2, 3}, {4, 5, 6}, {7, 8, 9}}};
-  request.isBounded = true;
+TEST_F(ModuleSessionTest, RoofWithoutFacesHasNoBounds) {
+  request.roof = {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}};
   ModuleSession session(drawing, request);
   DialogServices& services = *session.Services();
   double corners[6] = {};
-  std::int32_t isBoundary = 0;
-  EXPECT_EQ(services.roofFace(services.context, 0, corners, 2, &isBoundary), 3);
+  std::int32_t isBoundary = 1;
+  EXPECT_EQ(services.roofPlane(services.context, corners, 2, &isBoundary), 3);
   EXPECT_EQ(corners[5], 6);
-  EXPECT_EQ(isBoundary, 1);
-  EXPECT_EQ(services.roofFace(services.context, 1, corners, 2, &isBoundary), 0);
+  EXPECT_EQ(isBoundary, 0);
+  EXPECT_EQ(services.findRoofFaces(services.context, {0, 0}, {9, 9}), 0);
+}
+
+TEST_F(ModuleSessionTest, FacesThatAreFoundAreGivenOneByOne) {
+  request.facesNear = [](const PlanBox& area) {
+    return std::vector<FaceCorners>{{{area.lowX, area.lowY, 0}, {area.highX, area.highY, 0}}};
+  };
+  ModuleSession session(drawing, request);
+  DialogServices& services = *session.Services();
+  EXPECT_EQ(services.findRoofFaces(services.context, {1, 2}, {3, 4}), 1);
+  double corners[6] = {};
+  EXPECT_EQ(services.roofFace(services.context, 0, corners, 2), 2);
+  EXPECT_EQ(corners[1], 2);
+  EXPECT_EQ(corners[3], 3);
+  EXPECT_EQ(services.roofFace(services.context, 1, corners, 2), 0);
 }
 
 TEST_F(ModuleSessionTest, EntitiesOfAKeptBatchCount) {

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "teskarlt/Error.h"
 #include "teskarlt/preview/HiddenLines.h"
 #include "tests/teskarlt/preview/Drawings.h"
 
@@ -51,6 +52,26 @@ TEST(HiddenLines, SurfaceSeenFromItsEdgeHidesNothing) {
 TEST(HiddenLines, SceneWithoutSurfacesHidesNothing) {
   const Scene scene = SceneOf({.entities = Line("A", 0, 0, 1, 1)});
   EXPECT_EQ(HiddenLines(scene, *FindView("plan")).Visible({0, 0, 0}, {1, 1, 0}), (Parts01{{0, 1}}));
+}
+
+// Bars of width 1 every 2, at height 5.
+std::string Grating(int bars) {
+  std::string entities;
+  for (int i = 0; i < bars; ++i)
+    entities += Rectangle("A", 2 * i, 0, 2 * i + 1, 10, 5);
+  return entities;
+}
+
+TEST(HiddenLines, LineUnderAGratingIsVisibleInEachGap) {
+  const Scene scene = SceneOf({.entities = Grating(50)});
+  EXPECT_EQ(HiddenLines(scene, *FindView("plan")).Visible({0, 5, 0}, {100, 5, 0}).size(), 50U);
+}
+
+TEST(HiddenLines, QuestionsThatTakeTooLongAreRefused) {
+  const Scene scene = SceneOf({.entities = Grating(50)});
+  HiddenLines hidden(scene, *FindView("plan"), 5000);
+  EXPECT_EQ(hidden.Visible({0, 5, 0}, {100, 5, 0}).size(), 50U);  // of 64 steps each, and the boxes
+  EXPECT_THROW(hidden.Visible({0, 5, 0}, {100, 5, 0}), Error);
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
 // PaintOrderTest.cpp - the order of surfaces that are painted over each other.
+#include <algorithm>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -43,6 +45,18 @@ TEST(PaintOrder, RingOfSurfacesIsPaintedWhole) {
   const Scene scene = SceneOf({.entities = board(0, 0, 0, 10, 0, 4, 0, 1) + board(9, -1, 0, 4, 9, 4, 1, 0) +
                                            board(5, 9, 0, 0, -1, 4, 1, 0)});
   EXPECT_EQ(PaintOrder(scene, *FindView("plan")).size(), 3U);
+}
+
+TEST(PaintOrder, TooManyToCompareAreInTheOrderOfTheirDepths) {
+  std::string entities;
+  for (int i = 0; i < 1500; ++i)
+    entities += Rectangle("A", 0, 0, 9, 9, (i * 7 % 1500) * 0.01);
+  const Scene scene = SceneOf({.entities = entities});
+  const std::vector<std::size_t> order = PaintOrder(scene, *FindView("plan"));
+  ASSERT_EQ(order.size(), 1500U);
+  EXPECT_TRUE(std::is_sorted(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+    return scene.surfaces[a].corners[0].z < scene.surfaces[b].corners[0].z;
+  }));
 }
 
 }  // namespace

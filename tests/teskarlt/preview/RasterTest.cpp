@@ -62,5 +62,41 @@ TEST(Render, HiddenEdgeIsNotDrawn) {
   EXPECT_LT(At(Rendered(shown, "plan"), 0.5, 0.04)[0], At(Rendered(hidden, "plan"), 0.5, 0.045)[0]);
 }
 
+// How often the pixels of the middle row change from light to dark.
+int DarkRunsInTheMiddle(const Picture& picture) {
+  int runs = 0;
+  bool wasDark = false;
+  for (int column = 0; column < picture.width; ++column) {
+    const bool isDark = At(picture, (column + 0.5) / picture.width, 0.5)[0] < 130;
+    if (isDark && !wasDark) ++runs;
+    wasDark = isDark;
+  }
+  return runs;
+}
+
+TEST(Render, DashesOfALineAreToldApart) {
+  const Parts line = {.tables = "0 LTYPE|2 T|70 0|49 0.02|49 -0.01|",
+                      .entities = Line("A", 0, 0, 10, 0, "|6 T") + Line("A", 0, -3, 0, 3)};
+  PictureOptions options;
+  options.view = FindView("plan");
+  options.width = 200;  // 184 pixels between the margins, in periods of 6
+  EXPECT_NEAR(DarkRunsInTheMiddle(Render(SceneOf(line), options)), 184 / 6, 2);
+}
+
+TEST(Render, OfEquallyNearSurfacesTheFirstIsSeen) {
+  const std::string red = Rectangle("RED", 0, 0, 9, 9, 5, "|70 15");
+  const std::string blue = Rectangle("BLUE", 0, 0, 9, 9, 5, "|70 15");
+  EXPECT_TRUE(IsRed(At(Rendered(red + blue, "plan"), 0.5, 0.4)));
+  EXPECT_FALSE(IsRed(At(Rendered(blue + red, "plan"), 0.5, 0.4)));
+}
+
+TEST(Render, ThousandsOfSurfacesOverOneAnotherShowTheNearest) {
+  std::string entities;
+  for (int i = 0; i < 1000; ++i)
+    entities += Rectangle("BLUE", 0, 0, 9, 9, i * 0.001);
+  entities += Rectangle("RED", 0, 0, 9, 9, 4);
+  EXPECT_TRUE(IsRed(At(Rendered(entities, "plan"), 0.5, 0.4)));
+}
+
 }  // namespace
 }  // namespace teskarlt::preview

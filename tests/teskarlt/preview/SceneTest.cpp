@@ -71,5 +71,22 @@ TEST(Dashes, TooManyAreNotCut) {
   EXPECT_EQ(Dashes({{0, 0, 0}, {1e6, 0, 0}}, {2, 1}).size(), 1U);
 }
 
+TEST(ReadablePattern, FineOneIsMadeLongerAsAWhole) {
+  EXPECT_EQ(ReadablePattern({2, 1}, 6), (DashPattern{4, 2}));
+}
+
+TEST(ReadablePattern, CoarseOneStays) {
+  EXPECT_EQ(ReadablePattern({20, 10}, 6), (DashPattern{20, 10}));
+}
+
+TEST(ReadablePattern, DotIsAShortDash) {
+  EXPECT_EQ(ReadablePattern({0, 10}, 6), (DashPattern{1, 10}));
+}
+
+TEST(ReadablePattern, OneWithoutLengthIsUnbroken) {
+  EXPECT_TRUE(ReadablePattern({0, 0}, 6).empty());
+  EXPECT_TRUE(ReadablePattern({}, 6).empty());
+}
+
 }  // namespace
 }  // namespace teskarlt::preview

@@ -30,7 +30,7 @@ class RoofChoiceTest : public testing::Test {
 TEST_F(RoofChoiceTest, UppermostFaceAtThePointIsTaken) {
   const RoofChoice roof = Choose(OrderAt(4000, 2000));
   EXPECT_EQ(roof.face, &Face(1));
-  EXPECT_TRUE(roof.isBounded);
+  EXPECT_TRUE(roof.facesNear);
 }
 
 TEST_F(RoofChoiceTest, NameGoesBeforeThePoint) {
@@ -44,14 +44,14 @@ TEST_F(RoofChoiceTest, PlaneHasNoFaceAndNoBounds) {
   order.roof = {{0, 0, 0}, {1, 0, 0}, {0, 1, 1}};
   const RoofChoice roof = Choose(order);
   EXPECT_EQ(roof.face, nullptr);
-  EXPECT_FALSE(roof.isBounded);
-  EXPECT_EQ(roof.faces.size(), 1U);
+  EXPECT_FALSE(roof.facesNear);
+  EXPECT_EQ(roof.corners.size(), 3U);
 }
 
 TEST_F(RoofChoiceTest, FieldOfTheRoofLeavesTheChoiceToTheDialog) {
   WindowOrder order = OrderAt(4000, 2000);
   order.settings = {{"roofPlanePoints", "0,0,0;1,0,0;0,1,1"}};
-  EXPECT_TRUE(Choose(order).faces.empty());
+  EXPECT_TRUE(Choose(order).corners.empty());
   order.roofFace = Face(0).name;
   EXPECT_EQ(Refusal(order), "--set roofPlanePoints gives the roof already; leave --roof and --roof-face out");
 }
@@ -121,8 +121,9 @@ TEST_F(RoofChoiceTest, PlanarRoofIsSpannedByTheFaceAtThePoint) {
   TakeHouse({{{0, 0, 0}, {4000, 0, 0}, {4000, 6000, 6000}, {0, 6000, 6000}},
              {{4000, 0, 0}, {8000, 0, 0}, {8000, 5000, 5000}, {4000, 5000, 5000}}});
   const RoofChoice roof = Choose(OrderAt(6000, 2000));
-  EXPECT_EQ(roof.faces.size(), 2U);
-  EXPECT_EQ(roof.faces[0][1].x, 8000);
+  EXPECT_EQ(roof.facesNear({0, 0, 8000, 6000}).size(), 2U);
+  EXPECT_EQ(roof.facesNear({5000, 0, 8000, 6000}).size(), 1U);
+  EXPECT_EQ(roof.corners[1].x, 8000);
 }
 
 TEST_F(RoofChoiceTest, UnevenRoofIsSpannedByItsBestFit) {
@@ -130,8 +131,8 @@ TEST_F(RoofChoiceTest, UnevenRoofIsSpannedByItsBestFit) {
   corners[1].z += 20;  // two corners lie 5 above the plane between, two below
   TakeHouse({corners});
   const RoofChoice roof = Choose(OrderAt(6000, 2000));
-  EXPECT_NEAR(roof.faces[0][0].z, 5, 1e-9);
-  EXPECT_NEAR(roof.faces[0][1].z, 15, 1e-9);
+  EXPECT_NEAR(roof.corners[0].z, 5, 1e-9);
+  EXPECT_NEAR(roof.corners[1].z, 15, 1e-9);
 }
 
 }  // namespace

@@ -17,7 +17,9 @@ using testing::HasSubstr;
 
 class WindowEditorTest : public testing::Test {
  protected:
-  PlacedWindow Edit(const WindowOrder& order) {
+  PlacedWindow Edit(const WindowOrder& order) { return EditedBy(order).placed; }
+
+  EditedWindow EditedBy(const WindowOrder& order) {
     return WindowEditor(module, drawing, Millimetres(), 1, false).Edit(order);
   }
 
@@ -115,6 +117,25 @@ TEST_F(WindowEditorTest, SecondPlaneOfItsOwnStays) {
   WindowOrder order;
   order.settings = {{"width", "1.14"}};
   EXPECT_EQ(Edit(order).record.secondPlanePoints[2].z, 5000);
+}
+
+TEST_F(WindowEditorTest, OrderWithoutAChangeLeavesTheDrawing) {
+  WindowOrder order = OrderAt(4000, 2000);  // where it stands
+  order.settings = {{"text1", ""}};
+  const EditedWindow window = EditedBy(order);
+  EXPECT_FALSE(window.isRewritten);
+  EXPECT_TRUE(window.changes.empty());
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
+TEST_F(WindowEditorTest, ChangesAreTheFieldsThatDiffer) {
+  WindowOrder order;
+  order.settings = {{"width", "1.14"}, {"text1", "x"}};
+  const EditedWindow window = EditedBy(order);
+  EXPECT_TRUE(window.isRewritten);
+  ASSERT_EQ(window.changes.size(), 2U);
+  EXPECT_EQ(window.changes[0]->name, "width");
+  EXPECT_EQ(window.changes[1]->name, "text1");
 }
 
 TEST_F(WindowEditorTest, StrictOrderRefusesAnOverlapAndLeavesTheDrawing) {

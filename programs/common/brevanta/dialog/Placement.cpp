@@ -1,7 +1,9 @@
 // Placement.cpp - puts the window onto the roof.
 #include "dialog/Placement.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -121,11 +123,11 @@ PlanPolygon FrameInPlan(const RoofPlane& plane, const Vec3& anchor, const Window
   return {frame.begin(), frame.end()};
 }
 
-// For people: between which heights the faces lie, in metres.
-std::string HeightRange(const Roof& roof, std::int32_t unitFactor) {
-  double low = roof.faces.front().front().z;
-  double high = low;
-  for (const FaceCorners& face : roof.faces) {
+// For people: between which heights the roof's faces lie, in metres.
+std::string HeightRange(const DialogServices& services, std::int32_t unitFactor) {
+  double low = std::numeric_limits<double>::max();
+  double high = std::numeric_limits<double>::lowest();
+  for (const FaceCorners& face : RoofFaces(services)) {
     for (const Vec3& corner : face) {
       low = std::fmin(low, corner.z);
       high = std::fmax(high, corner.z);
@@ -135,24 +137,32 @@ std::string HeightRange(const Roof& roof, std::int32_t unitFactor) {
   return metres(low) + " to " + metres(high) + " m";
 }
 
-void CheckInside(const Roof& roof, const RoofPlane& plane, const PlanPolygon& outline,
-                 const WindowParams& record) {
-  const double area = geometry::PlanArea(outline);
-  if (!(area > 0.0) || !std::isfinite(area))
-    throw Refusal("the window would lie farther away than numbers reach; check its sizes and offsets");
+// The part of the outline, local, that lies on no face of the roof.
+double PartOutside(const DialogServices& services, const RoofPlane& plane, const PlanPolygon& outline) {
+  FaceCorners corners(outline.size());
+  std::transform(outline.begin(), outline.end(), corners.begin(),
+                 [&](const Vec3& corner) { return ToWorld(plane, corner); });
   std::vector<PlanPolygon> faces;
-  for (const FaceCorners& face : roof.faces) {
+  for (const FaceCorners& face : RoofFacesNear(services, corners)) {
     PlanPolygon& local = faces.emplace_back(face.size());
     for (std::size_t i = 0; i < face.size(); ++i)
       local[i] = ToLocal(plane, face[i]);
   }
-  const double outside = 1.0 - geometry::CoveredArea(outline, faces) / area;
+  return 1.0 - geometry::CoveredArea(outline, faces) / geometry::PlanArea(outline);
+}
+
+void CheckInside(const DialogServices& services, const RoofPlane& plane, const PlanPolygon& outline,
+                 const WindowParams& record) {
+  const double area = geometry::PlanArea(outline);
+  if (!(area > 0.0) || !std::isfinite(area))
+    throw Refusal("the window would lie farther away than numbers reach; check its sizes and offsets");
+  const double outside = PartOutside(services, plane, outline);
   if (outside <= COVER_TOLERANCE) return;
   const double percent = std::ceil(outside * 1000.0) / 10.0;
   throw Refusal("the window would leave the roof face: " + NumberText(percent) +
                 " % of its area lies outside; move it or make it smaller" +
                 (record.placeByHeight == PLACED_BY_HEIGHT
-                     ? " (the face lies at " + HeightRange(roof, record.unitFactor) + ")"
+                     ? " (the face lies at " + HeightRange(services, record.unitFactor) + ")"
                      : std::string()));
 }
 
@@ -161,8 +171,8 @@ void CheckInside(const Roof& roof, const RoofPlane& plane, const PlanPolygon& ou
 void PlaceWindow(const DialogServices& services, const Answers& answers, WindowParams& record) {
   const Roof roof = ChosenRoof(services);
   if (!answers.Has("roofPlanePoints")) {
-    if (roof.faces.empty()) throw Refusal("no roof was given for the window");
-    SpanPlane(roof.faces.front(), record.roofPlanePoints);
+    if (roof.span.empty()) throw Refusal("no roof was given for the window");
+    SpanPlane(roof.span, record.roofPlanePoints);
   }
   const RoofPlane roofPlane = FitRoof(record);
   TakePitch(answers, roofPlane, record);
@@ -172,7 +182,7 @@ void PlaceWindow(const DialogServices& services, const Answers& answers, WindowP
   const Vec3 anchor = TakeHeights(answers, plane, record);
 
   if (roof.isBounded && !answers.Has("roofPlanePoints"))
-    CheckInside(roof, plane, FrameInPlan(plane, anchor, record), record);
+    CheckInside(services, plane, FrameInPlan(plane, anchor, record), record);
   if (!answers.Has("storedPoint")) record.storedPoint = ToRecordPoint(ToWorld(plane, anchor));
 }
 

@@ -2,6 +2,8 @@
 #include "dialog/RoofFaces.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 #include "dialog/Refusal.h"
 #include "geometry/Vectors.h"
@@ -25,25 +27,54 @@ const Vec3& Farthest(const FaceCorners& face, Measure measure) {
                            [&](const Vec3& a, const Vec3& b) { return measure(a) < measure(b); });
 }
 
-FaceCorners ReadFace(const DialogServices& services, std::int32_t index, std::int32_t& isBoundary) {
-  const std::int32_t count = services.roofFace(services.context, index, nullptr, 0, &isBoundary);
-  FaceCorners corners(static_cast<std::size_t>(std::max(count, 0)));
+// The corners that `read` puts into a buffer of a capacity, giving their number.
+template <typename Read>
+FaceCorners ReadCorners(Read read) {
   static_assert(sizeof(Vec3) == 3 * sizeof(double));
-  if (count > 0) services.roofFace(services.context, index, &corners[0].x, count, &isBoundary);
+  const std::int32_t count = read(nullptr, 0);
+  FaceCorners corners(static_cast<std::size_t>(std::max(count, 0)));
+  if (count > 0) read(&corners[0].x, count);
   return corners;
+}
+
+std::vector<FaceCorners> FindFaces(const DialogServices& services, const double (&low)[2],
+                                   const double (&high)[2]) {
+  std::vector<FaceCorners> faces;
+  const std::int32_t count = services.findRoofFaces(services.context, low, high);
+  faces.reserve(static_cast<std::size_t>(std::max(count, 0)));
+  for (std::int32_t index = 0; index < count; ++index) {
+    faces.push_back(ReadCorners([&](double* corners, std::int32_t capacity) {
+      return services.roofFace(services.context, index, corners, capacity);
+    }));
+  }
+  return faces;
 }
 
 }  // namespace
 
 Roof ChosenRoof(const DialogServices& services) {
-  Roof roof;
-  for (std::int32_t index = 0;; ++index) {
-    std::int32_t isBoundary = 0;
-    FaceCorners corners = ReadFace(services, index, isBoundary);
-    if (corners.empty()) return roof;
-    roof.isBounded = isBoundary != 0;
-    roof.faces.push_back(std::move(corners));
+  std::int32_t isBoundary = 0;
+  FaceCorners span = ReadCorners([&](double* corners, std::int32_t capacity) {
+    return services.roofPlane(services.context, corners, capacity, &isBoundary);
+  });
+  return {std::move(span), isBoundary != 0};
+}
+
+std::vector<FaceCorners> RoofFacesNear(const DialogServices& services, const FaceCorners& points) {
+  double low[2] = {points[0].x, points[0].y};
+  double high[2] = {points[0].x, points[0].y};
+  for (const Vec3& point : points) {
+    low[0] = std::min(low[0], point.x);
+    low[1] = std::min(low[1], point.y);
+    high[0] = std::max(high[0], point.x);
+    high[1] = std::max(high[1], point.y);
   }
+  return FindFaces(services, low, high);
+}
+
+std::vector<FaceCorners> RoofFaces(const DialogServices& services) {
+  constexpr double FAR = std::numeric_limits<double>::max();
+  return FindFaces(services, {-FAR, -FAR}, {FAR, FAR});
 }
 
 void SpanPlane(const FaceCorners& face, RecordPoint (&points)[3]) {

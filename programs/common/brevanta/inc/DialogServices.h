@@ -7,7 +7,7 @@
 
 namespace brevanta {
 
-constexpr std::int32_t DIALOG_SERVICES_VERSION = 1;
+constexpr std::int32_t DIALOG_SERVICES_VERSION = 2;
 
 // Answers that are no fields of the record: an item line of a catalogue and its maker's name. Fields go
 // before them.
@@ -41,12 +41,18 @@ struct DialogServices {
   // The plan position that the user picked for the window: 1 with x and y, else 0.
   std::int32_t (*pickedPoint)(void* context, double (&xy)[2]);
 
-  // Roof face `index`: 0 is the face chosen for the window, the next ones lie in the same plane and continue
-  // it. Puts up to `capacity` corners, x, y and z each, into `corners` in order around the face and gives
-  // their number; 0 when there is no such face. `isBoundary` becomes 1 when the window must stay inside the
-  // faces, 0 when the corners are only points of an unbounded plane.
-  std::int32_t (*roofFace)(void* context, std::int32_t index, double* corners, std::int32_t capacity,
-                           std::int32_t* isBoundary);
+  // The corners of a face, or three points, that span the plane of the chosen roof: puts up to `capacity` of
+  // them, x, y and z each, into `corners` in order and gives their number; 0 when no roof was chosen.
+  // `isBoundary` becomes 1 when the window must stay inside the roof's faces, 0 when the plane is unbounded.
+  std::int32_t (*roofPlane)(void* context, double* corners, std::int32_t capacity, std::int32_t* isBoundary);
+
+  // Finds the faces of the chosen roof that touch the rectangle of the plan from `low` to `high`, x and y
+  // each, and gives their number.
+  std::int32_t (*findRoofFaces)(void* context, const double (&low)[2], const double (&high)[2]);
+
+  // Face `index` of those found last: puts up to `capacity` corners into `corners` in order around the face
+  // and gives their number; 0 when there is no such face.
+  std::int32_t (*roofFace)(void* context, std::int32_t index, double* corners, std::int32_t capacity);
 
   // 1 when a window of the drawing has this number, else 0; and a number for a new window.
   std::int32_t (*numberInUse)(void* context, std::int32_t number);
