@@ -28,7 +28,8 @@ enum Shape : std::int64_t { HOUSES, LARGE_ROOF };
 Vec3 CornerOf(std::int64_t face, Shape shape) {
   const double gap = shape == HOUSES ? GAP : 0.0;
   const double x = static_cast<double>(face % IN_A_ROW) * (WIDTH + gap);
-  const double y = static_cast<double>(face / IN_A_ROW) * (DEPTH + gap);
+  const std::int64_t row = face / IN_A_ROW;
+  const double y = static_cast<double>(row) * (DEPTH + gap);
   return {x, y, y};
 }
 

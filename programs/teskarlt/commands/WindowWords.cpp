@@ -148,8 +148,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
 void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
                  const WindowReading& before) {
   Warn(drawing, window.placed);
-  if (window.isRewritten || options.target.IsNamed())
-    SaveDrawing(drawing, options.target);
+  if (window.isRewritten || options.target.IsNamed()) SaveDrawing(drawing, options.target);
   if (options.asJson) {
     Json json = AnswerJson(options, window.placed);
     json["sources"] = SourcesJson(before);

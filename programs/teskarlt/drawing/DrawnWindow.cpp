@@ -58,6 +58,18 @@ std::string_view ExtendedData(const dxf::Document& drawing, const dxf::Entity& e
   return {};
 }
 
+// What of it is ours: the text of the sections of our applications.
+std::string OwnData(const dxf::Document& drawing, std::string_view extendedData) {
+  std::string own;
+  Section section = Section::Foreign;
+  dxf::TagReader reader(drawing.Source(), extendedData);
+  for (dxf::Tag tag; reader.Next(tag);) {
+    if (tag.code == dxf::CODE_XDATA_APPLICATION) section = SectionOf(dxf::Trimmed(tag.value));
+    if (section != Section::Foreign) own.append(reader.TagBegin(), reader.TagEnd());
+  }
+  return own;
+}
+
 // Reads all but the entities; what no complete description tells stays as it is by default.
 Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, std::int32_t unitFactor) {
   Marks marks;
@@ -202,7 +214,8 @@ std::optional<dxf::Tag> NumberTagOf(const dxf::Document& drawing, const dxf::Ent
 std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor) {
   constexpr std::size_t notOurs = std::numeric_limits<std::size_t>::max();
   std::vector<DrawnWindow> windows;
-  std::unordered_map<std::string_view, std::size_t> windowOf;  // by the bytes of the extended data
+  std::unordered_map<std::string_view, std::size_t> windowOf;  // by the bytes of all extended data
+  std::unordered_map<std::string, std::size_t> windowOfOwn;    // by those of ours
   for (const dxf::Entity& entity : drawing.Entities()) {
     const std::string_view extendedData = ExtendedData(drawing, entity);
     if (extendedData.empty() || !CanBePart(entity.type)) continue;
@@ -210,8 +223,8 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
     if (isNew) {
       Marks marks = ReadMarks(drawing, extendedData, unitFactor);
       if (!marks.isWindow) continue;
-      found->second = windows.size();
-      windows.push_back(std::move(marks.window));
+      found->second = windowOfOwn.try_emplace(OwnData(drawing, extendedData), windows.size()).first->second;
+      if (found->second == windows.size()) windows.push_back(std::move(marks.window));
     }
     if (found->second == notOurs) continue;
     DrawnWindow& window = windows[found->second];

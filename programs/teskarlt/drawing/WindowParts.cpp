@@ -4,6 +4,8 @@
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "window/Choices.h"
+#include "window/Parts.h"
 
 namespace teskarlt {
 
@@ -25,7 +27,61 @@ void Reorder(const PartOrder& order, std::vector<PartCorners>& corners,
   }
 }
 
+// Where the roles of each kind of line begin: far enough apart.
+constexpr int OUTLINE_ROLE = 100;
+constexpr int OPENING_ROLE = 200;
+constexpr int MARK_ROLE = 300;
+constexpr int ROLES_OF_A_MARK = 10;
+
+void AddRoles(int first, std::size_t count, std::vector<PartRole>& roles) {
+  for (std::size_t i = 0; i < count; ++i)
+    roles.push_back({false, first + static_cast<int>(i)});
+}
+
 }  // namespace
+
+bool PartRole::IsMark() const {
+  return !isFace && number >= MARK_ROLE;
+}
+
+std::vector<PartRole> FaceRoles(std::size_t faces) {
+  const int skirt = faces == brevanta::FACES_WITH_SKIRT ? static_cast<int>(brevanta::FACES_OF_SKIRT) : 0;
+  std::vector<PartRole> roles;
+  roles.reserve(faces);
+  for (int i = 0; i < static_cast<int>(faces); ++i)
+    roles.push_back({true, i - skirt});
+  return roles;
+}
+
+std::vector<PartRole> LineRoles(bool hasSymbol, std::string_view openingCode) {
+  std::vector<PartRole> roles;
+  if (!hasSymbol) {
+    AddRoles(OPENING_ROLE, brevanta::LINES_OF_OPENING, roles);
+    return roles;
+  }
+  AddRoles(0, brevanta::LINES_OF_SYMBOL, roles);
+  for (const brevanta::OpeningMark& mark : brevanta::OPENING_MARKS) {
+    if (openingCode.find(mark.letter) != std::string_view::npos)
+      AddRoles(MARK_ROLE + ROLES_OF_A_MARK * (mark.letter - 'A'), mark.lines, roles);
+  }
+  AddRoles(OUTLINE_ROLE, brevanta::LINES_OF_OUTLINE, roles);
+  return roles;
+}
+
+std::map<PartRole, const dxf::Entity*> PartsByRole(const dxf::Document& drawing, const DrawnWindow& window) {
+  std::map<PartRole, const dxf::Entity*> byRole;
+  const bool hasSymbol = DrawsSymbol(window.params);
+  WindowParts parts = ReadParts(drawing, window.entities);
+  if (!EntityMismatch(window).empty() || !PutInOrder(hasSymbol, SAME_PLACE * window.params.unitFactor, parts))
+    return byRole;
+  const auto add = [&](const std::vector<PartRole>& roles, const std::vector<const dxf::Entity*>& entities) {
+    for (std::size_t i = 0; i < roles.size(); ++i)
+      byRole.emplace(roles[i], entities[i]);
+  };
+  add(FaceRoles(window.faces), parts.faceEntities);
+  add(LineRoles(hasSymbol, window.openingCode), parts.lineEntities);
+  return byRole;
+}
 
 WindowParts ReadParts(const dxf::Document& drawing, std::span<const dxf::Entity* const> entities) {
   WindowParts parts;

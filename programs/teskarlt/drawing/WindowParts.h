@@ -1,10 +1,14 @@
 // WindowParts.h - where the parts of a window lie, in the order in which they were drawn.
 #pragma once
 
+#include <compare>
 #include <cstddef>
+#include <map>
 #include <span>
+#include <string_view>
 #include <vector>
 
+#include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/PartOrder.h"
 #include "teskarlt/dxf/Document.h"
 
@@ -23,6 +27,22 @@ struct WindowParts {
 
 // The parts in the order of `entities`, which CanBePart. Corners that are missing lie at the origin.
 WindowParts ReadParts(const dxf::Document& drawing, std::span<const dxf::Entity* const> entities);
+
+// What a part is in its window: the same number means the same part of windows with and without a skirt, and
+// with other opening marks.
+struct PartRole {
+  bool isFace;
+  int number;
+  bool IsMark() const;  // a line of an opening mark, whose linetype the opening code tells
+  auto operator<=>(const PartRole&) const = default;
+};
+
+// The roles of the faces, and of the lines, of a window in the order in which they are drawn.
+std::vector<PartRole> FaceRoles(std::size_t faces);
+std::vector<PartRole> LineRoles(bool hasSymbol, std::string_view openingCode);
+
+// The parts of a whole window by their roles; empty where they show no window.
+std::map<PartRole, const dxf::Entity*> PartsByRole(const dxf::Document& drawing, const DrawnWindow& window);
 
 // Puts the parts of one whole window into the order in which the module draws them, and says whether they
 // have it now. Those that show no window stay as they are. `tolerance` is in drawing units.

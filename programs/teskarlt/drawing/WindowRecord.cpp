@@ -27,7 +27,6 @@ namespace teskarlt {
 namespace {
 
 using brevanta::Outline;
-using brevanta::RecordPoint;
 using brevanta::WindowParams;
 using geometry::Vec3;
 

@@ -216,6 +216,10 @@ bool Document::IsRemoved(const Entity& entity) const {
   return state_->edits.IsRemoved(entity);
 }
 
+void Document::Redraw(const Entity& entity, std::span<const TypedTag> tags, LinetypeOnRedraw linetype) {
+  state_->edits.Redraw(entity, tags, linetype);
+}
+
 void Document::ReplaceValue(const Tag& tag, std::string value) {
   state_->edits.ReplaceValue(tag, std::move(value));
 }

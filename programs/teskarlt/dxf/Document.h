@@ -98,12 +98,18 @@ class Document {
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
 
+  // Gives a line or 3D face of Entities() the points and extended data of a new entity of its type, in its
+  // place. All else of it stays as a user left it: handle, layer, colour, other applications' data, places in
+  // groups and drawing orders; the linetype unless it is renewed. One that was removed comes back.
+  void Redraw(const Entity& entity, std::span<const TypedTag> tags, LinetypeOnRedraw linetype);
+
   // Writes another value, in the drawing's encoding, in the place of the tag's. The tag is one of the file,
   // and none is replaced twice.
   void ReplaceValue(const Tag& tag, std::string value);
 
   // From here on to EndGroup, new entities come into those groups of the drawing that list all `replaced`
-  // entities, or else into a group of their own. A drawing before R13 has no groups: there both do nothing.
+  // entities, or else into a group of their own, redrawn ones too. A drawing before R13 has no
+  // groups: there both do nothing.
   void BeginGroup(std::span<const Entity* const> replaced);
   // `name` is that of a new group; when it is taken, a number is put behind it. Both are ASCII.
   void EndGroup(std::string_view name, std::string_view description);

@@ -8,10 +8,13 @@
 #include "geometry/Vec3.h"
 #include "inc/HostStatus.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/EntityLayers.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/modules/KeptException.h"
 #include "teskarlt/modules/ValueListTags.h"
+#include "window/Choices.h"
+#include "window/Parts.h"
 
 namespace teskarlt {
 
@@ -115,7 +118,13 @@ struct ServiceCalls {
   }
 
   static void Confirm(void* context, const brevanta::WindowParams* record) {
-    Session(context).outcome_.confirmed = *record;
+    WorkForModule([&] {
+      ModuleSession& session = Session(context);
+      session.outcome_.confirmed = *record;
+      session.faceRoles_ =
+          FaceRoles(record->skirtHeight > 0.0 ? brevanta::FACES_WITH_SKIRT : brevanta::FACES_WITHOUT_SKIRT);
+      session.lineRoles_ = LineRoles(DrawsSymbol(*record), record->openingCode);
+    });
   }
 
   static void Report(void* context, std::int32_t gravity, const char* text) {
@@ -169,14 +178,32 @@ std::int32_t ModuleSession::MakeEntity(const brevanta::ValueNode* list) {
 
 void ModuleSession::AddEntity(const brevanta::ValueNode* list) {
   const std::vector<dxf::TypedTag> tags = TagsOf(list);
-  drawing_.AddEntity(tags);
   const bool isFace = !tags.empty() && tags[0].value == decltype(dxf::TypedTag::value)(dxf::TYPE_FACE);
+  if (Redraw(tags, isFace)) return;
+  drawing_.AddEntity(tags);
   ++(isFace ? batchFaces_ : batchLines_);
   for (const dxf::TypedTag& tag : tags) {
     if (tag.code != dxf::CODE_LAYER) continue;
     outcome_.layers.insert(drawing_.Decode(std::get<std::string_view>(tag.value)));
     break;
   }
+}
+
+// Draws the part of the edited window that the next face or line is to be; false when it has none.
+bool ModuleSession::Redraw(std::span<const dxf::TypedTag> tags, bool isFace) {
+  if (!request_.edited || !outcome_.confirmed) return false;
+  const std::vector<PartRole>& roles = isFace ? faceRoles_ : lineRoles_;
+  std::size_t& batchCount = isFace ? batchFaces_ : batchLines_;
+  const std::size_t next = (isFace ? outcome_.faces : outcome_.lines) + batchCount;
+  const auto found = next < roles.size() ? request_.parts.find(roles[next]) : request_.parts.end();
+  if (found == request_.parts.end()) return false;
+  const bool isNewCode = std::strcmp(request_.edited->openingCode, outcome_.confirmed->openingCode) != 0;
+  drawing_.Redraw(
+      *found->second, tags,
+      isNewCode && found->first.IsMark() ? dxf::LinetypeOnRedraw::Renewed : dxf::LinetypeOnRedraw::Kept);
+  outcome_.layers.merge(LayersOf(drawing_, {&found->second, 1}));
+  ++batchCount;
+  return true;
 }
 
 void ModuleSession::BeginBatch() {

@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,7 @@
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/PlanIndex.h"
 #include "teskarlt/drawing/WindowNumbers.h"
+#include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
@@ -40,6 +42,7 @@ struct WindowRequest {
   const WindowNumbers* numbersInUse = nullptr;   // of the windows in the drawing; null: none
   std::optional<brevanta::WindowParams> edited;  // the window that is changed
   std::vector<const dxf::Entity*> replaced;      // its entities, or those of one to erase
+  std::map<PartRole, const dxf::Entity*> parts;  // those that are drawn anew in their places
 };
 
 struct DialogReport {
@@ -85,6 +88,7 @@ class ModuleSession {
   friend struct ServiceCalls;
 
   void AddEntity(const brevanta::ValueNode* list);
+  bool Redraw(std::span<const dxf::TypedTag> tags, bool isFace);
 
   dxf::Document& drawing_;
   const WindowRequest& request_;
@@ -94,6 +98,9 @@ class ModuleSession {
   std::size_t batchFaces_ = 0;
   std::size_t batchLines_ = 0;
   CommandOutcome outcome_;
+  // Of the confirmed window, in the order in which the module draws it; known when it begins to.
+  std::vector<PartRole> faceRoles_;
+  std::vector<PartRole> lineRoles_;
 };
 
 }  // namespace teskarlt

@@ -136,6 +136,7 @@ class Refitter {
     request.unitFactor = work_.unit.perMetre;
     request.edited = reading.params;
     request.replaced = window.entities;
+    request.parts = PartsByRole(work_.drawing, window);
     request.numbersInUse = &work_.numbers;
     request.point = {reading.params.storedPoint.x, reading.params.storedPoint.y};
     if (order_.keeps == RefitKeeps::Height)

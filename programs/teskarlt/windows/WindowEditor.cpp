@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -24,16 +26,20 @@ namespace {
 using brevanta::RecordPoint;
 using brevanta::WindowParams;
 
-// The window stays where it is, on the face there, or on its own plane where that face is gone.
-RoofChoice RoofUnder(const WindowParams& window, const WorkedDrawing& work) {
+// The window stays where it is, on the face there, or on its own plane where that face is gone. It stays in
+// its own plane on the face too: the two may differ by a hair, which on a nearly flat roof decides which way
+// the window runs.
+RoofChoice RoofUnder(const WindowReading& reading, const WorkedDrawing& work) {
+  const WindowParams& window = reading.params;
+  std::vector<geometry::Vec3> plane;
+  for (const RecordPoint& p : window.roofPlanePoints)
+    plane.push_back(brevanta::ToVec3(p));
   const RoofFace* face = FaceUnder(window, work.roofs);
-  if (face == nullptr) {
-    std::vector<geometry::Vec3> plane;
-    for (const RecordPoint& p : window.roofPlanePoints)
-      plane.push_back(brevanta::ToVec3(p));
-    return OnPlane(plane);
-  }
+  if (face == nullptr) return OnPlane(plane);
   RoofChoice roof = OnFace(*face, work.roofs);
+  const auto& recovered = reading.recovered;
+  if (std::find(recovered.begin(), recovered.end(), "roofPlanePoints") == recovered.end())
+    roof.corners = plane;
   // What stuck out before may do so still.
   const bool wasInside =
       HasOwnSecondPlane(window, work.tolerance) || IsWhole(CoveredPart(OutlineOf(window), work.roofs));
@@ -84,13 +90,14 @@ EditedWindow WindowEditor::Edit(const WindowOrder& order) {
   request.unitFactor = work_.unit.perMetre;
   request.edited = record;
   request.replaced = window_.entities;
+  request.parts = PartsByRole(work_.drawing, window_);
   request.numbersInUse = &work_.numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf);
   request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
   if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
   const RoofChoice roof =
-      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(record, work_);
+      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(reading_, work_);
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();

@@ -144,6 +144,15 @@ Entities Joined(Entities first, const Entities& second) {
   return first;
 }
 
+TEST(FindWindows, ForeignDataOfOneEntityLeavesItWithItsWindow) {
+  const std::string ours = Element(7) + Description();
+  const dxf::Document drawing =
+      Drawing("", Line(ours) + Line(ours + "1001\nOTHER\n1070\n5\n") + Line("1001\nOTHER\n1070\n5\n" + ours));
+  const auto windows = FindWindows(drawing, 1000);
+  ASSERT_EQ(windows.size(), 1U);
+  EXPECT_EQ(windows[0].entities.size(), 3U);
+}
+
 TEST(FindWindows, CopiesBehindTheirModelAreWindowsOfTheirOwn) {
   const Entities model = Insert().entities;  // 17 faces, 16 lines
   const dxf::Document drawing =

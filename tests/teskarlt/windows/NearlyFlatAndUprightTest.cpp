@@ -156,5 +156,23 @@ TEST(NearlyFlatFace, WindowIsRefusedWhereItWouldLeaveTheFace) {
   EXPECT_THAT(inserter.Insert(order).misfits, IsEmpty());
 }
 
+// Level now, the roof would take windows that run from their points to +y.
+TEST(NearlyFlatFace, WindowStaysWhereItLiesWhenItsRoofIsMadeLevel) {
+  const WindowModule module;
+  const double low = 2999.9999;
+  const std::vector<Vec3> level = {{0, 0, 3000}, {10000, 0, 3000}, {10000, 8000, 3000}, {0, 8000, 3000}};
+  dxf::Document drawing =
+      DrawingWithFaces({{{0, 0, 3000}, {10000, 0, 3000}, {10000, 8000, low}, {0, 8000, low}}, level});
+  WindowOrder order = OrderAt(5000, 4000);
+  order.settings = {{"heightReference", "0"}, {"length", "2"}};
+  order.roofFace = fmt::format("{:X}", drawing.Entities().front().handle);
+  WindowInserter(module, drawing, Millimetres()).Insert(order);
+  drawing.RemoveEntity(drawing.Entities().front());
+  drawing = Reloaded(drawing);
+  const Outline edited = WindowEditor(module, drawing, Millimetres(), 1, false).Edit(Wider()).placed.outline;
+  EXPECT_NEAR(edited[0].y, 4000, 1e-6);
+  EXPECT_NEAR(edited[1].y, 2000, 1e-6);
+}
+
 }  // namespace
 }  // namespace teskarlt

@@ -2,6 +2,7 @@
 #include "teskarlt/dxf/write/Edits.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_set>
 
 #include <fmt/format.h>
@@ -169,6 +170,29 @@ void Edits::RemoveEntity(const Entity& entity) {
   removed_.push_back(number);
 }
 
+void Edits::Redraw(const Entity& entity, std::span<const TypedTag> tags, LinetypeOnRedraw linetype) {
+  CheckTags(tags);
+  const std::size_t extended = ExtendedDataBegin(tags);
+  for (const TypedTag& tag : tags) {
+    if (tag.code == CODE_LINETYPE && linetype == LinetypeOnRedraw::Renewed)
+      entries_.RequireLinetype(TextOf(tag));
+    if (tag.code == CODE_XDATA_APPLICATION) entries_.RequireApplication(TextOf(tag));
+  }
+  const std::string_view extendedData = ExtendedData(tags.subspan(extended));
+  if (sharedData_.empty() || sharedData_.back().front().data() != extendedData.data())
+    sharedData_.push_back({extendedData});
+  Redrawn redrawn{tags, &sharedData_.back(), linetype};
+  if (grouping_ && grouping_->fileGroups.empty()) {  // in those of the file it is already
+    grouping_->members.push_back(entity.handle);
+    if (groups_.NamesOwners()) redrawn.reactor = grouping_->newGroup;
+  }
+  AddRedrawSplices(source_, codec_, rules_, entity.text, redrawn, replaced_);
+  const std::size_t number = NumberOf(entity);
+  if (!isRemoved_[number]) return;
+  isRemoved_[number] = false;
+  removed_.erase(std::next(std::find(removed_.rbegin(), removed_.rend(), number)).base());
+}
+
 bool Edits::IsRemoved(const Entity& entity) const {
   return isRemoved_[NumberOf(entity)];
 }
@@ -196,10 +220,11 @@ void Edits::BeginGroup(std::span<const Entity* const> replaced) {
 
 void Edits::EndGroup(std::string_view name, std::string_view description) {
   if (!grouping_) return;
-  const Grouping grouping = std::move(*grouping_);
+  Grouping grouping = std::move(*grouping_);
   grouping_.reset();
+  std::sort(grouping.members.begin(), grouping.members.end());
   for (const GroupObject* const group : grouping.fileGroups)
-    groups_.Extend(*group, grouping.members);
+    if (!grouping.members.empty()) groups_.Extend(*group, grouping.members);
   groups_.Add(grouping.newGroup, name, description, grouping.members);
 }
 

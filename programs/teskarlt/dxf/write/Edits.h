@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <optional>
 #include <span>
@@ -17,6 +18,7 @@
 #include "teskarlt/dxf/write/HandleSeed.h"
 #include "teskarlt/dxf/write/NewGroups.h"
 #include "teskarlt/dxf/write/NewTableEntries.h"
+#include "teskarlt/dxf/write/Redrawing.h"
 #include "teskarlt/dxf/write/Rules.h"
 #include "teskarlt/dxf/write/TextStore.h"
 
@@ -41,6 +43,7 @@ class Edits {
   std::uint64_t AddEntity(std::span<const TypedTag> tags);
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
+  void Redraw(const Entity& entity, std::span<const TypedTag> tags, LinetypeOnRedraw linetype);
   void ReplaceValue(const Tag& tag, std::string value);
   void BeginGroup(std::span<const Entity* const> replaced);
   void EndGroup(std::string_view name, std::string_view description);
@@ -64,7 +67,7 @@ class Edits {
     std::uint64_t newGroup = 0;                  // handle of a group to be made, or 0
     std::vector<const GroupObject*> fileGroups;  // groups of the file
     std::vector<std::uint64_t> reactors;         // handles of both
-    std::vector<std::uint64_t> members;          // in ascending order
+    std::vector<std::uint64_t> members;
   };
 
   std::uint64_t AddCheckedEntity(std::span<const TypedTag> tags);
@@ -91,6 +94,8 @@ class Edits {
   std::vector<std::size_t> removed_;     // numbers of entities in the order of their removal
   std::vector<bool> isRemoved_;
   std::vector<Splice> replaced_;  // values of tags
+  // Texts of extended data that redrawn entities share, one each.
+  std::deque<std::vector<std::string_view>> sharedData_;
 
   std::string scratch_;
   // The extended data that were written last: the entities of one window share theirs.
