@@ -4,6 +4,8 @@
 windows are invented. The fields of an item:
 
     key; width cm; length cm; frame width cm; frame depth cm; opening code; description
+
+An opening code "-" is fixed glazing; an empty one would be the default, a pivot window. docs/catalogues.md has the others.
 """
 from pathlib import Path
 
@@ -26,7 +28,7 @@ Jitřenka 3; 100; 140; 7; 9; BO; výklopné okno se závěsy nahoře
 Soumrak; 80; 120; 7; 9; EOR; výlez na střechu, závěsy vpravo
 
 VYROBCE Tichá obloha
-Ležák; 134; 98; 12; 10; ; pevné zasklení
+Ležák; 134; 98; 12; 10; -; pevné zasklení
 Strážce; 47; 73; ; ; CI; jen s rozměry, rám podle výchozích hodnot
 """
 

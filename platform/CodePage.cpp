@@ -70,7 +70,8 @@ std::optional<int> CodePageNumber(std::string_view name) {
                              {"ksc5601", 949}, {"johab", 1361},      {"gb2312", 936}};
   for (const Named& named : NAMED)
     if (lower == named.name) return named.number;
-  constexpr Named PREFIXES[] = {{"ansi_", 0},        {"ansi", 0},         {"dos", 0},      {"cp", 0},
+  constexpr Named PREFIXES[] = {{"ansi_", 0},        {"ansi", 0},         {"dos", 0},
+                                {"cp", 0},           {"windows-", 0},     {"iso-8859-", 28590},
                                 {"iso8859-", 28590}, {"iso8859_", 28590}, {"8859_", 28590}};
   for (const Named& prefix : PREFIXES) {
     if (!lower.starts_with(prefix.name)) continue;
@@ -91,12 +92,12 @@ CodePage::CodePage(int number) {
     throw Error("the code page " + std::to_string(number) + " is not known to this system",
                 {.value = std::to_string(number)});
   }
+  bool leadsPairs[BYTE_VALUES] = {};
   for (unsigned byte = 0; byte < BYTE_VALUES; ++byte) {
     const char text[] = {static_cast<char>(byte)};
     // Control characters and ASCII are the same in every page that drawings use, yen signs of 932 included.
     const char32_t found = byte < FIRST_HIGH_BYTE ? byte : decoder.Decode({text, 1}).value_or(byte);
     tables->single[byte] = found;
-    tables->bytesOf.emplace(found, byte);
   }
   for (unsigned lead = FIRST_HIGH_BYTE; IsDoubleByte(number) && lead < BYTE_VALUES; ++lead) {
     for (unsigned second = 0x30; second < BYTE_VALUES; ++second) {
@@ -105,8 +106,13 @@ CodePage::CodePage(int number) {
       if (!found) continue;
       tables->pairs.emplace(lead * BYTE_VALUES + second, *found);
       tables->bytesOf.emplace(*found, lead * BYTE_VALUES + second);
+      leadsPairs[lead] = true;
     }
   }
+  // A byte that leads pairs would form one with what follows it. Of several for a character, the lowest
+  // counts.
+  for (unsigned byte = BYTE_VALUES; byte-- > 0;)
+    if (!leadsPairs[byte]) tables->bytesOf.insert_or_assign(tables->single[byte], byte);
   tables_ = std::move(tables);
 }
 
@@ -139,16 +145,26 @@ std::string CodePage::FromUtf8(std::string_view utf8) const {
   for (std::size_t at = 0; at < utf8.size();) {
     const auto character = NextCharacter(utf8, at);
     if (!character) throw Error("the text is not UTF-8", {.value = std::string(utf8)});
-    const auto found = tables_->bytesOf.find(*character);
-    if (found == tables_->bytesOf.end()) {
-      const std::string name = CharacterName(*character);
-      throw Error("the character " + name + " does not exist in code page " + std::to_string(tables_->number),
-                  {.value = name});
-    }
-    if (found->second >= BYTE_VALUES) bytes += static_cast<char>(found->second / BYTE_VALUES);
-    bytes += static_cast<char>(found->second % BYTE_VALUES);
+    if (Append(*character, bytes)) continue;
+    const std::string name = CharacterName(*character);
+    throw Error("the character " + name + " does not exist in code page " + std::to_string(tables_->number),
+                {.value = name});
   }
   return bytes;
+}
+
+bool CodePage::Append(char32_t character, std::string& bytes) const {
+  const auto found = tables_->bytesOf.find(character);
+  if (found == tables_->bytesOf.end()) return false;
+  if (found->second >= BYTE_VALUES) bytes += static_cast<char>(found->second / BYTE_VALUES);
+  bytes += static_cast<char>(found->second % BYTE_VALUES);
+  return true;
+}
+
+std::optional<CodePage> FindCodePage(std::string_view name) {
+  const std::optional<int> number = CodePageNumber(name);
+  if (!number || !CodePageDecoder(*number).IsKnown()) return std::nullopt;
+  return CodePage(*number);
 }
 
 std::optional<char32_t> NextCharacter(std::string_view utf8, std::size_t& position) {

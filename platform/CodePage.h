@@ -13,7 +13,8 @@ namespace platform {
 std::optional<int> CodePageNumber(std::string_view name);
 
 // Conversions are strict and the same on every system. A byte that the page does not define stands for the
-// character of its own number (U+0080 to U+00FF) and comes back as that byte.
+// character of its own number (U+0080 to U+00FF) and comes back as that byte, unless it leads the pairs of a
+// double-byte page.
 class CodePage {
  public:
   // Throws Error (platform/Error.h) when the system does not know the page.
@@ -27,10 +28,16 @@ class CodePage {
   // Throws Error, naming the character, for one that the page does not have, and for malformed UTF-8.
   std::string FromUtf8(std::string_view utf8) const;
 
+  // Puts the bytes of the character behind the text; false when the page does not have it.
+  bool Append(char32_t character, std::string& bytes) const;
+
  private:
   struct Tables;
   std::shared_ptr<const Tables> tables_;
 };
+
+// The code page of that name; nothing when the name or, to this system, the page is not known.
+std::optional<CodePage> FindCodePage(std::string_view name);
 
 // Steps through UTF-8: the character at `position`, which moves behind it. Nothing, and one byte further,
 // when the bytes there are malformed. `position` is below the text's size.

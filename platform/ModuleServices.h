@@ -23,15 +23,15 @@ using LPCSTR = const char*;
 // without that ending. A null name gives the running program.
 HMODULE GetModuleHandleA(LPCSTR name);
 
-// Puts the module's full file name into `buffer` of `size` characters, terminated, cut to fit; returns the
-// number of characters written without the terminator (`size` when the name was cut), 0 when the module is
-// not known.
+// Puts the full file name under which the module was loaded, or the program started, into `buffer` of `size`
+// characters, terminated, cut to fit; returns the number of characters written without the terminator (`size`
+// when the name was cut), 0 when the module is not known.
 DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size);
 
-// Address of the module's export `name`; null when there is none.
+// Address of the module's export `name`; null when there is none, and for a null module or name.
 FARPROC GetProcAddress(HMODULE module, LPCSTR name);
 
-// Lowers the module's load count by one; 0 on failure.
+// Lowers the module's load count by one; 0 on failure, which a null module is.
 BOOL FreeLibrary(HMODULE module);
 
 // Puts string `id` of the module's string table into `buffer` of `size`
@@ -43,7 +43,8 @@ int LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
 
 // Loads a module: the named file when `name` holds a path, else by the
 // loader's ordinary search. Raises the load count of a module that is loaded
-// already. Null on failure; the caller releases the result with FreeLibrary.
+// already. Null on failure, which a null or empty name is; the caller releases
+// the result with FreeLibrary.
 HMODULE AfxLoadLibrary(LPCSTR name);
 
 // Why the last AfxLoadLibrary failed, in the system's words, UTF-8.

@@ -30,6 +30,15 @@ TEST(TakeCatalogueItem, MissingAndEmptyFieldsLeaveTheRecord) {
   EXPECT_EQ(record.frameWidth, 3);
 }
 
+TEST(TakeCatalogueItem, DashForAnOpeningCodeIsFixedGlazing) {
+  WindowParams record{};
+  record.openingCode[0] = 'D';
+  TakeCatalogueItem("A1; 78; 98; 8; 10; ; default", record);
+  EXPECT_STREQ(record.openingCode, "D");
+  TakeCatalogueItem("A1; 78; 98; 8; 10; -; fixed", record);
+  EXPECT_STREQ(record.openingCode, "");
+}
+
 TEST(TakeCatalogueItem, SizeThatIsNoNumberIsRefused) {
   WindowParams record{};
   EXPECT_THROW(TakeCatalogueItem("A1; wide", record), Refusal);

@@ -78,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(
            Refused{"unitFactor", "100",
                    "unitFactor 100 is not that of the drawing, 1000 drawing units per metre"},
            Refused{"openingCode", "DDDDDDDDDDD",
-                   "openingCode is too long: 11 bytes in the drawing's code page, at most 10 fit"}));
+                   "openingCode is too long: 11 bytes as the drawing keeps it, at most 10 fit"}));
 
 TEST(OpeningCode, UnknownLetterIsRefusedWithTheRestOfTheCode) {
   WindowParams record = FakeServices().record;
@@ -111,7 +111,7 @@ TEST(Texts, OneHundredNinetyNineBytesFitAndTwoHundredDoNot) {
   EXPECT_EQ(std::string(host.record.text1), std::string(199, 'x'));
   host.answers["text1"] = std::string(200, 'x');
   EXPECT_EQ(host.RunDialog(), 0);
-  EXPECT_EQ(host.refusal, "text1 is too long: 200 bytes in the drawing's code page, at most 199 fit");
+  EXPECT_EQ(host.refusal, "text1 is too long: 200 bytes as the drawing keeps it, at most 199 fit");
 }
 
 }  // namespace

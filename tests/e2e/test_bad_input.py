@@ -78,7 +78,7 @@ def test_damaged_drawing(teskarlt, tmp_path, damage):
     ([*INSERT, "--set", "openingCode=XYZ"], ["openingCode", "XYZ"]),
     ([*INSERT, "--set", "openingCode=DDDDDDDDDDD"], ["openingCode", "11", "10"]),
     ([*INSERT, "--set", "text1=" + "x" * 200], ["text1", "200", "199"]),
-    ([*INSERT, "--set", "text2=漢"], ["text2", "漢"]),
+    ([*INSERT, "--set", "text2=" + "漢" * 29], ["text2", "203", "199"]),
     ([*INSERT, "--set", "markerValue=0"], ["markerValue"]),
     ([*INSERT, "--set", "pitch=20"], ["pitch 20"]),
     ([*INSERT, "--units", "parsec"], ["parsec"]),
@@ -247,10 +247,10 @@ def test_no_command_takes_another_unit_than_the_drawings(teskarlt, house, tmp_pa
     refused(teskarlt(command[0], house, *command[1:], "--units", "cm", cwd=tmp_path), "says that its unit is mm")
 
 
-def test_text_that_does_not_fit_once_encoded_names_its_field(teskarlt, tmp_path):
+def test_text_that_is_too_long_for_its_drawing_names_its_field(teskarlt, tmp_path):
     path = tmp_path / "new.dxf"
     teskarlt.done("new", path, "--dxf-version", "R2018")
     before = path.read_bytes()
     refused(teskarlt("insert", path, "--roof", "0,0,0", "9000,0,0", "0,9000,9000", "--at", "0,0", "--set",
-                     "text1=" + "ř" * 199), "--set text1", "398 bytes", "255")
+                     "text1=" + "ř" * 100), "text1", "200 bytes", "199")
     assert path.read_bytes() == before

@@ -5,6 +5,7 @@ import subprocess
 import threading
 
 import pytest
+from conftest import ROOT
 
 TARGET = "A line of the owner's\nVYROBCE Alfa\nA1; 78; 98; 8; 10; BI; Small\nA2; 94; 140\n\nVYROBCE Běla\nB1; 114;140\nA1; 50; 60\n"
 SOURCE = "VYROBCE Alfa\nA1; 1; 1\nA3; 66; 98; 6; 10; D; Nové okno\nVYROBCE Gama\nG1; 55; 78\n"
@@ -116,6 +117,40 @@ def test_windows_line_ends_on_linux_are_warned_of(teskarlt, catalogues):
     source.write_bytes(SOURCE.replace("\n", "\r\n").encode("cp1250"))
     answer = teskarlt.done("merge", source, target)
     assert "CR LF" in answer.stderr
+
+
+def test_catalogue_in_another_encoding_is_converted(teskarlt, catalogues, build):
+    target, source = catalogues
+    source.write_bytes(source.read_bytes().decode("cp1250").encode())
+    answer = teskarlt.done("merge", source, target)
+    assert read(target) == MERGED
+    assert "UTF-8" in answer.stderr and "code page 1250" in answer.stderr
+    assert sorted(path.name for path in target.parent.iterdir()) == ["BREVANTA.LIB"]
+
+
+def test_encoding_of_the_source_can_be_said(teskarlt, catalogues):
+    target, source = catalogues
+    source.write_bytes("VYROBCE Smør\nS1; 78; 98\n".encode("cp1252"))
+    refused(teskarlt("merge", source, target, "--encoding", "cp1252"), "update.LIB:1", "ø", "1250")
+    refused(teskarlt("merge", source, target, "--encoding", "utf-8"), "update.LIB:1", "not in UTF-8")
+    target.write_bytes(target.read_bytes().decode("cp1250").encode())
+    teskarlt.done("merge", source, target, "--encoding", "cp1252")
+    assert "VYROBCE Smør" in target.read_bytes().decode()
+
+
+def test_dash_for_an_opening_code_is_fixed_glazing(teskarlt, catalogues, house, build):
+    write(catalogues[0], "VYROBCE Alfa\nF1; 78; 98; 8; 10; -; fixed\nP1; 78; 98; 8; 10; ; default\n", build)
+    for key, code, lines in (("F1", "", 12), ("P1", "D", 16)):
+        answer = teskarlt.done("insert", house, "--at", "2500,1200", "--window", key, "--catalogue", catalogues[0],
+                               "--json").json
+        assert answer["lines"] == lines
+        assert teskarlt.done("list", house, "--json").json["windows"][-1]["fields"]["openingCode"] == code
+
+
+def test_fixed_window_of_the_examples_has_no_mark(teskarlt, house):
+    answer = teskarlt.done("insert", house, "--at", "2500,1200", "--window", "Ležák", "--catalogue",
+                           ROOT / "examples" / "BREVANTA.LIB", "--json").json
+    assert answer["lines"] == 12
 
 
 def test_backup_of_an_interrupted_merge_stops_the_next_one(teskarlt, catalogues):

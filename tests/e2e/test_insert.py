@@ -1,10 +1,11 @@
 # test_insert.py - what an inserted window leaves in the drawing, and that nothing else changes.
 import json
 
+import ezdxf
 import pytest
 import readers
 import windows
-from roofs import Roof
+from roofs import DIRECTIONS, Roof
 
 CZECH = "Střešní okno Příklad č. 7"
 
@@ -134,6 +135,24 @@ def test_window_without_faces_and_symbol_is_an_opening_with_a_cross(teskarlt, ho
 def test_opening_code_decides_the_marks(teskarlt, house, code, marks):
     answer = teskarlt.done("insert", house, "--at", "2500,1200", "--set", f"openingCode={code}", "--json").json
     assert answer["lines"] == 8 + marks + 4
+
+
+@pytest.mark.many
+@pytest.mark.parametrize("roof", [Roof(direction=direction) for direction in DIRECTIONS], ids=str)
+def test_tip_of_a_mark_points_to_the_hinges(teskarlt, tmp_path, roof):
+    """B at the top, C at the bottom; E as seen from inside: right there is left where one looks up the slope."""
+    path = tmp_path / "roof.dxf"
+    roof.save(path)
+    x, y, _ = roof.point()
+    up, right = ([end - start for start, end in zip((x, y), roof.point(**step))] for step in ({"up": 1}, {"across": 1}))
+    for code, (a, b), side in (("BO", up, 1), ("CI", up, -1), ("EOL", right, 1), ("EIR", right, -1), ("E", right, 1)):
+        output = tmp_path / f"{code}.dxf"
+        teskarlt.done("insert", path, "--at", f"{x!r},{y!r}", "--set", f"openingCode={code}", "-o", output)
+        symbol = [entity for entity in windows.window_entities(ezdxf.readfile(output))
+                  if entity.dxf.layer == "ROOF_WINDOW_SYMBOL"]
+        tip, middle = symbol[-1].dxf.start, sum((line.dxf.start for line in symbol[4:8]), start=ezdxf.math.Vec3()) / 4
+        assert ((tip.x - middle.x) * a + (tip.y - middle.y) * b) * side > 0, code
+        assert {line.dxf.get("linetype") for line in symbol[-2:]} == {"DASHED" if code[1:2] == "I" else None}, code
 
 
 @pytest.mark.parametrize("version", ["R12", "R2000", "R2018"])

@@ -75,6 +75,12 @@ TEST(CodePage, UndefinedBytesComeBack) {
   EXPECT_EQ(page.FromUtf8("\xC2\x81\xC2\x83"), "\x81\x83");
 }
 
+TEST(CodePage, ByteThatLeadsPairsIsNoCharacterAlone) {
+  EXPECT_EQ(CodePage(932).ToUtf8("\xED"), "í");  // nothing follows
+  EXPECT_NE(ErrorOf(CodePage(932), "íl"), "");   // "\xEDl" would be one character
+  EXPECT_EQ(CodePage(936).FromUtf8("§"), "\xA1\xEC");
+}
+
 TEST(CodePage, EveryByteOfASingleBytePageComesBack) {
   for (const int number : {437, 850, 852, 866, 874, 1250, 1251, 1252, 1253, 1254, 1257, 28591, 28592}) {
     const CodePage page(number);

@@ -187,6 +187,18 @@ TEST(LoadingModules, MissingFileGivesNull) {
   EXPECT_EQ(AfxLoadLibrary(nullptr), nullptr);
 }
 
+TEST(LoadingModules, EmptyNameIsNoModule) {
+  EXPECT_EQ(AfxLoadLibrary(""), nullptr);
+}
+
+TEST(LoadingModules, NullModuleCannotBeReleased) {
+  EXPECT_EQ(FreeLibrary(nullptr), 0);
+}
+
+TEST(LoadingModules, NullNameIsNoExport) {
+  EXPECT_EQ(GetProcAddress(GetModuleHandleA(nullptr), nullptr), nullptr);
+}
+
 TEST(LoadingModules, FileThatIsNoModuleGivesNull) {
   EXPECT_EQ(AfxLoadLibrary("/proc/self/cmdline"), nullptr);
 }

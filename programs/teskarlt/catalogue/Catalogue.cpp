@@ -11,6 +11,7 @@
 #include "platform/CodePage.h"
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/catalogue/CatalogueEncoding.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
 namespace teskarlt {
@@ -21,7 +22,6 @@ namespace {
 constexpr std::string_view HEADER_PATTERN = brevanta::SECTION_PATTERN;
 constexpr std::string_view HEADER_KEYWORD = HEADER_PATTERN.substr(0, HEADER_PATTERN.size() - 1);
 constexpr std::size_t LONGEST_LINE = 254;  // characters that the module reads as one line
-constexpr int CZECH_CODE_PAGE = 1250;
 
 bool IsUtf8(std::string_view bytes) {
   for (std::size_t position = 0; position < bytes.size();) {
@@ -126,7 +126,7 @@ std::string_view MakerOf(std::string_view header) {
 
 std::string CatalogueText(std::string_view bytes) {
   if (IsUtf8(bytes)) return std::string(bytes);
-  return platform::CodePage(CZECH_CODE_PAGE).ToUtf8(bytes);
+  return platform::CodePage(static_cast<int>(CatalogueEncoding::Czech)).ToUtf8(bytes);
 }
 
 std::string_view ItemField(std::string_view line, std::size_t index) {

@@ -11,8 +11,10 @@
 #include "inc/LibraryMerge.h"
 #include "platform/FileOperations.h"
 #include "platform/FolderLock.h"
+#include "platform/ProgramEnd.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
+#include "teskarlt/catalogue/CatalogueEncoding.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/modules/DataFolder.h"
 #include "teskarlt/modules/WindowModule.h"
@@ -76,7 +78,8 @@ struct Digest {
   std::size_t items;
   bool hasWindowsLineEnds;
   std::size_t cutLines;
-  std::vector<std::size_t> names;  // hashes of section and key
+  std::optional<CatalogueEncoding> encoding;  // none for ASCII
+  std::vector<std::size_t> names;             // hashes of section and key
 };
 
 Digest DigestOf(const std::string& path) {
@@ -87,6 +90,7 @@ Digest DigestOf(const std::string& path) {
                 catalogue.items.size(),
                 catalogue.hasWindowsLineEnds,
                 catalogue.cutLines,
+                EncodingOf(catalogue.file.View()),
                 {}};
   digest.names.reserve(catalogue.items.size());
   for (const CatalogueItem& item : catalogue.items) {
@@ -174,6 +178,67 @@ class DataFolderClaim {
   DataFolderClaim& operator=(const DataFolderClaim&) = delete;
 };
 
+// 0, or the system's error number.
+int WriteNew(const std::string& path, std::string_view bytes) {
+  const platform::FileOperations& operations = platform::CurrentFileOperations();
+  platform::FileHandle file = 0;
+  int error = operations.createNew(path, file);
+  if (error != 0) return error;
+  for (std::size_t count = 0; error == 0 && !bytes.empty(); bytes.remove_prefix(count))
+    error = operations.write(file, bytes.data(), bytes.size(), count);
+  const int closing = operations.close(file);
+  return error != 0 ? error : closing;
+}
+
+// Writes a file that is only there for the merge: nothing that the user has is changed by it.
+void WriteAside(const std::string& path, std::string_view bytes) {
+  const platform::FileOperations& operations = platform::CurrentFileOperations();
+  operations.remove(path);  // of a merge that was killed
+  platform::RemoveAtEnd(path);
+  const int error = WriteNew(path, bytes);
+  if (error == 0) return;
+  operations.remove(path);
+  throw Error("cannot be written: " + platform::SystemReason(error), {.file = path});
+}
+
+// The source as the module merges it, which takes bytes as they are: in the target's encoding, as a file of
+// its own beside the target where that is not the source's.
+class SourceInEncoding {
+ public:
+  // `said` is what the user says of the source's encoding; empty: what its bytes say.
+  SourceInEncoding(const Digest& source, const Digest& target, const std::string& said) : path_(source.path) {
+    if (!source.encoding) return;  // the same in all encodings
+    const CatalogueEncoding from = said.empty() ? *source.encoding : EncodingNamed(said);
+    const CatalogueEncoding to = target.encoding.value_or(ReadableLike(from));
+    if (from == to && said.empty()) return;
+    const std::string converted =
+        Converted(platform::ReadWholeFile(source.path).View(), from, to, source.path);
+    if (from == to) return;
+    path_ = target.path + ".source.tmp";
+    isConverted_ = true;
+    WriteAside(path_, converted);
+    note_ = fmt::format("the windows of {}, which is in {}, are taken over in {}", source.path, NameOf(from),
+                        NameOf(to));
+  }
+  ~SourceInEncoding() {
+    if (!isConverted_) return;
+    platform::CurrentFileOperations().remove(path_);
+    platform::RemoveAtEnd("");
+  }
+  SourceInEncoding(const SourceInEncoding&) = delete;
+  SourceInEncoding& operator=(const SourceInEncoding&) = delete;
+
+  const std::string& Path() const { return path_; }
+
+  // What became of it, for people; empty when nothing did.
+  const std::string& Note() const { return note_; }
+
+ private:
+  std::string path_;
+  std::string note_;
+  bool isConverted_ = false;
+};
+
 // Holds the catalogue open while the module rewrites it, so that its bytes can be had even when the module
 // has removed it and its backup.
 class HeldCatalogue {
@@ -241,7 +306,7 @@ std::string BackupOf(const std::string& target) {
 }
 
 MergeReport MergeCatalogues(const WindowModule& module, const std::string& source,
-                            const std::optional<std::string>& target) {
+                            const std::optional<std::string>& target, const std::string& encoding) {
   MergeReport report;
   report.target = MergeTarget(target);
   const std::string sourcePath = CatalogueIn(source);
@@ -255,13 +320,18 @@ MergeReport MergeCatalogues(const WindowModule& module, const std::string& sourc
   CheckTarget(sourcePath, report.target);
   if (BehindLinks(report.target) != report.target)
     throw Error(fmt::format("{} is a link; say as TARGET which catalogue it leads to", report.target));
-  const Digest from = DigestOf(sourcePath);
+  Digest from = DigestOf(sourcePath);
   const Digest before = DigestOf(report.target);
+  const SourceInEncoding encoded(from, before, encoding);
+  if (!encoded.Note().empty()) from = DigestOf(encoded.Path());
+  from.path = sourcePath;
   report.warnings = WarningsOf(from, before);
+  if (!encoded.Note().empty()) report.warnings.push_back(encoded.Note());
 
   std::optional<HeldCatalogue> old(report.target);
   const auto rights = std::filesystem::status(ToPath(report.target)).permissions();
-  const std::int32_t result = module.Merge(sourcePath, target ? std::optional(report.target) : std::nullopt);
+  const std::int32_t result =
+      module.Merge(encoded.Path(), target ? std::optional(report.target) : std::nullopt);
   if (result != brevanta::MERGE_DONE) FailMerge(result, sourcePath, report.target);
   const Digest after = LookAtMerged(from, before, *old);
   old.reset();  // where an open file keeps its name after its removal, that ends here

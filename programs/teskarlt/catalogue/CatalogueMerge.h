@@ -25,11 +25,12 @@ std::string MergeTarget(const std::optional<std::string>& target);
 // The name under which the module keeps the catalogue while it writes the new one.
 std::string BackupOf(const std::string& target);
 
-// Merges. Throws Error, with both files as they were, when one of them cannot be used, an interrupted merge
-// has left its backup, or another process is at work; and when the module fails, with the place of the
-// complete catalogue.
+// Merges; what is in another encoding than the target is converted into that. `encoding` is that of the
+// source, by a name of CatalogueEncoding.h; empty: by its bytes. Throws Error, with both files as they were,
+// when one of them cannot be used or converted, an interrupted merge has left its backup, or another process
+// is at work; and when the module fails, with the place of the complete catalogue.
 MergeReport MergeCatalogues(const WindowModule& module, const std::string& source,
-                            const std::optional<std::string>& target);
+                            const std::optional<std::string>& target, const std::string& encoding = {});
 
 struct Recovery {
   std::string target;    // the catalogue that was brought back

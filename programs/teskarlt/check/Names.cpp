@@ -6,7 +6,6 @@
 
 #include <fmt/format.h>
 
-#include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -79,13 +78,8 @@ bool IsImplied(std::string_view table, std::string_view folded) {
   });
 }
 
-// A name of a code page that nobody knows is compared by its bytes.
 std::string Folded(const dxf::TextCodec& codec, std::string_view raw) {
-  try {
-    return dxf::FoldedName(codec.Decode(raw));
-  } catch (const Error&) {
-    return std::string(raw);
-  }
+  return dxf::FoldedName(codec.Decode(raw));
 }
 
 // Entries that the big programs do not count in the head of their table.
@@ -99,14 +93,10 @@ bool IsUncounted(std::string_view name) {
 // A name for a message, in the characters that people know it by.
 std::string Shown(const dxf::TextCodec& codec, std::string_view raw) {
   if (raw.size() > LONGEST_NAME) return Quoted(raw);
-  try {
-    std::string shown = codec.Decode(raw);
-    std::replace_if(
-        shown.begin(), shown.end(), [](char byte) { return byte >= 0 && byte < ' '; }, '?');
-    return fmt::format("\"{}\"", shown);
-  } catch (const Error&) {
-    return Quoted(raw);
-  }
+  std::string shown = codec.Decode(raw);
+  std::replace_if(
+      shown.begin(), shown.end(), [](char byte) { return byte >= 0 && byte < ' '; }, '?');
+  return fmt::format("\"{}\"", shown);
 }
 
 bool IsAllowedInOldName(char byte) {
@@ -238,7 +228,7 @@ void Names::Use(Space space, const Object& object, const Tag& tag) {
 }
 
 void Names::Finish() {
-  const dxf::TextCodec codec("", std::string(header_.codePage), dxf::IsUtf8(header_.version));
+  const dxf::TextCodec codec(std::string(header_.codePage), dxf::IsUtf8(header_.version));
   for (int i = 0; i < SpaceCount; ++i) {
     FoldDefined(static_cast<Space>(i), codec);
     CheckUses(static_cast<Space>(i), codec);

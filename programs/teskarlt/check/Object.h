@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "teskarlt/dxf/read/HeaderValues.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/Tag.h"
 #include "teskarlt/dxf/tags/Version.h"
 

@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
-#include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/ValueKind.h"
 
@@ -99,16 +99,13 @@ void Texts::CheckPageBytes(const Object& object, const Tag& tag) {
 // The drawing's code page; false, after one finding, when it is not known.
 bool Texts::FindPage(const Tag& tag) {
   if (page_ || isPageUnknown_) return page_.has_value();
-  try {
-    if (const auto number = platform::CodePageNumber(header_.codePage)) page_.emplace(*number);
-  } catch (const Error&) {
-    page_.reset();  // known by name, but not to this system
-  }
+  page_ = platform::FindCodePage(header_.codePage);
   isPageUnknown_ = !page_;
   if (isPageUnknown_) {
-    findings_.Warning(Kind::CodePage, tag.value.data(),
-                      fmt::format("the code page {} is not known, so this text and others cannot be read",
-                                  Quoted(header_.codePage)));
+    findings_.Warning(
+        Kind::CodePage, tag.value.data(),
+        fmt::format("the code page {} is not known, so this text and others are taken to be in {}",
+                    Quoted(header_.codePage), dxf::DEFAULT_CODE_PAGE));
   }
   return page_.has_value();
 }

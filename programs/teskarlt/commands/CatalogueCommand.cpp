@@ -109,6 +109,10 @@ void AddCatalogueCommand(OptionParser& parser) {
   command.Value("--section", options->section, "show this maker's windows only").Named("MAKER");
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
+      "Opening codes: hinges at B the top, C the bottom, E a side, D a pivot in the middle; behind B, C and "
+      "E\n"
+      "an I (inward) or O (outward), behind E also an L or R (left or right, seen from inside); - is fixed\n"
+      "glazing, an empty code what a window has by itself, D.\n"
       "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder.\n"
       "Example: teskarlt catalogue examples/BREVANTA.LIB");
   command.Run([options] { RunCatalogue(*options); });

@@ -44,7 +44,7 @@ Json FieldJson(const WindowParams& record, const RecordField& field, const dxf::
     case FieldKind::Integer:
       return IntegerIn(record, field);
     case FieldKind::Text:
-      return drawing.ToUtf8(TextIn(record, field));
+      return drawing.Decode(TextIn(record, field));
     case FieldKind::Points:
       return PointsJson(PointsIn(record, field));
   }
@@ -60,7 +60,7 @@ std::string FieldText(const WindowParams& record, const RecordField& field, cons
     case FieldKind::Integer:
       return fmt::format("{}", IntegerIn(record, field));
     case FieldKind::Text:
-      return fmt::format("\"{}\"", drawing.ToUtf8(TextIn(record, field)));
+      return fmt::format("\"{}\"", drawing.Decode(TextIn(record, field)));
     case FieldKind::Points:
       return PointsText(PointsIn(record, field));
   }

@@ -112,12 +112,12 @@ void PrintTotals(const ResultTarget& target, const JobTotals& totals) {
 }  // namespace
 
 void RunJobs(WindowOptions& defaults, const JobsOptions& options) {
+  const WindowModule module;  // before jobs that may take hours to come; its files may be others by then
   const std::string text = ReadJobs(options.file);
   const std::string file = options.file == STANDARD_INPUT ? "standard input" : options.file;
   const std::vector<Job> jobs = JobsIn(text);
   if (jobs.empty()) throw Error(fmt::format("{} holds no jobs", file));
 
-  const WindowModule module;
   dxf::Document drawing = dxf::Document::Load(defaults.target.File());
   const DrawingUnit& unit = ChooseUnitAndWarn(drawing, defaults.units);
   WindowInserter inserter(module, drawing, unit);
@@ -125,6 +125,7 @@ void RunJobs(WindowOptions& defaults, const JobsOptions& options) {
 
   const bool isWanted = totals.refused == 0 || (options.keepGoing && totals.inserted > 0);
   WarnOfClosedLayers(drawing, totals.layers);
+  WarnOfTexts(drawing);
   if (isWanted) SaveDrawing(drawing, defaults.target);
   if (defaults.asJson) {
     defaults.target.AddTo(answer);

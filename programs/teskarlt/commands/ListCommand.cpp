@@ -85,7 +85,7 @@ Json ToJson(const Row& row, const dxf::Document& drawing) {
   Json json;
   json["number"] = window.number;
   json["complete"] = window.isComplete;
-  json["editable"] = reading.obstacle.empty();
+  json["editable"] = reading.obstacle.empty() && reading.longText.empty();
   json["mirrored"] = reading.isMirrored;
   json["faces"] = window.faces;
   json["lines"] = window.entities.size() - window.faces;
@@ -167,6 +167,7 @@ void RunList(const ListOptions& options) {
   const DrawingUnit& unit = UnitOf(drawing, options.units);
   const std::vector<DrawnWindow> windows = WindowsByNumber(drawing, unit);
   const std::vector<Row> rows = ReadRows(drawing, windows);
+  WarnOfTexts(drawing);
   if (options.asJson) {
     PrintRows(rows, drawing, unit);
   } else if (windows.empty()) {

@@ -19,6 +19,7 @@ namespace {
 struct MergeOptions {
   std::string source;
   std::string target;
+  std::string encoding;
   bool hasTarget = false;  // an empty name is no way to ask for the data folder
   bool recover = false;
   bool asJson = false;
@@ -54,7 +55,7 @@ void RunMerge(const MergeOptions& options) {
   if (options.source.empty()) throw UsageError("SOURCE is required");
   if (options.hasTarget && options.target.empty()) throw UsageError("the name of TARGET is empty");
   const WindowModule module;
-  const MergeReport report = MergeCatalogues(module, options.source, Given(options.target));
+  const MergeReport report = MergeCatalogues(module, options.source, Given(options.target), options.encoding);
   if (report.taken > 0) platform::NoteWrittenFile();
   for (const std::string& warning : report.warnings)
     TellWarning(warning);
@@ -77,13 +78,21 @@ void AddMergeCommand(OptionParser& parser) {
                        "the catalogue that takes them, or its folder; without it the one in the data folder");
   command.Flag("--recover", options->recover,
                "bring back what an interrupted merge left of the catalogue SOURCE, or of the data folder's");
+  command
+      .Value(
+          "--encoding", options->encoding,
+          "the encoding of SOURCE, utf-8 or a code page; without it UTF-8 where SOURCE is that, else cp1250")
+      .Named("NAME")
+      .NotEmpty();
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
-      "A window that the target has already stays as the target has it.\n"
+      "A window that the target has already stays as the target has it. Windows of a source in another\n"
+      "encoding are taken over in that of the target, or refused where it lacks one of their characters.\n"
       "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder.\n"
       "Examples:\n"
       "  teskarlt merge update.LIB\n"
       "  teskarlt merge update.LIB catalogues/BREVANTA.LIB\n"
+      "  teskarlt merge western.LIB --encoding cp1252\n"
       "  teskarlt merge --recover catalogues/BREVANTA.LIB");
   command.Run([options, target] {
     options->hasTarget = target.IsGiven();

@@ -115,6 +115,7 @@ void RunRefit(RefitOptions& options) {
   const RefitReport report =
       RefitWindows(module, drawing, unit, {options.numbers, keeps, options.isLockedToo, options.reach});
   TellProblems(options, report);
+  WarnOfTexts(drawing);
   const bool isWanted = report.problems.empty() || options.keepGoing;
   const bool isChanged = !report.refitted.empty() || options.target.IsNamed();
   if (isWanted && isChanged) SaveDrawing(drawing, options.target);

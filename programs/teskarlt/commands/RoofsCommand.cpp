@@ -7,6 +7,7 @@
 
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
+#include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Json.h"
@@ -149,6 +150,7 @@ void RunRoofs(const RoofsOptions& options) {
   const DrawingUnit& unit = UnitOf(drawing, options.units);
   const RoofFaces faces = FacesIn(drawing, RoofTolerance(unit));
   if (!options.isAll) TellOfWarped(faces.warped, unit);
+  WarnOfTexts(drawing);
   if (options.asJson) {
     PrintRoofs(faces, options, unit);
   } else if (options.isAll) {

@@ -76,6 +76,7 @@ void Warn(const dxf::Document& drawing, const PlacedWindow& window) {
   const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
   if (!misfit.empty()) TellWarning(misfit);
   WarnOfClosedLayers(drawing, window.layers);
+  WarnOfTexts(drawing);
 }
 
 }  // namespace
@@ -93,6 +94,11 @@ std::string MisfitWarning(std::int32_t number, const std::vector<std::string>& m
 void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string>& layers) {
   for (const std::string& warning : ClosedLayerWarnings(drawing, layers))
     TellWarning(warning);
+}
+
+void WarnOfTexts(const dxf::Document& drawing) {
+  const std::string note = drawing.TextNote();
+  if (!note.empty()) TellWarning(fmt::format("{}: {}", drawing.FileName(), note));
 }
 
 Json WindowJson(const PlacedWindow& window) {

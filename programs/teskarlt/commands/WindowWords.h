@@ -28,6 +28,9 @@ std::string MisfitWarning(std::int32_t number, const std::vector<std::string>& m
 // Warns where new entities came onto layers (names in UTF-8) on which they cannot be seen, or not be changed.
 void WarnOfClosedLayers(const dxf::Document& drawing, const std::set<std::string>& layers);
 
+// Warns where the drawing's texts may not be what they look like.
+void WarnOfTexts(const dxf::Document& drawing);
+
 // For programs: the window that came into the drawing.
 Json WindowJson(const PlacedWindow& window);
 

@@ -34,11 +34,18 @@ constexpr double SAME_LENGTH = 0.001;  // metres
 constexpr double SAME_ANGLE = 0.01;    // degrees
 constexpr double ROUNDING = 1e6;       // sizes out of the geometry are whole micrometres
 
-// As much of the text as the field holds, terminated, in the drawing's code page.
+// The text as the record has it; one that is too long for the record stays out of it.
 void StoreText(const dxf::Document& drawing, const std::string& utf8, const brevanta::RecordField& field,
-               WindowParams& params) {
-  const std::string bytes = drawing.ToCodePage(utf8).substr(0, field.size - 1);
-  std::memcpy(FieldPlace(params, field), bytes.c_str(), bytes.size() + 1);
+               WindowReading& reading) {
+  const std::string raw = drawing.Encode(utf8);
+  if (raw.size() < field.size) {
+    std::memcpy(FieldPlace(reading.params, field), raw.c_str(), raw.size() + 1);
+    return;
+  }
+  reading.longText = fmt::format(
+      "its {} takes {} bytes in this drawing, and an edit can keep {}; erase it and insert it anew",
+      field.name, raw.size(), field.size - 1);
+  reading.notes.push_back(reading.longText);
 }
 
 // The opening code of the mirrored window: hinges on the left without a word go to the right.
@@ -277,7 +284,7 @@ WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window
     return reading;
   }
   for (const DrawnText& drawn : DRAWN_TEXTS)
-    StoreText(drawing, window.*drawn.text, *brevanta::FindRecordField(drawn.field), reading.params);
+    StoreText(drawing, window.*drawn.text, *brevanta::FindRecordField(drawn.field), reading);
   reading.obstacle = EntityMismatch(window);
   if (!reading.obstacle.empty()) return reading;
   WindowReading described = reading;
@@ -295,8 +302,8 @@ WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window
 
 WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow& window) {
   WindowReading reading = ReadWindow(drawing, window);
-  if (!reading.obstacle.empty())
-    throw Error(fmt::format("window {} cannot be changed: {}", window.number, reading.obstacle));
+  const std::string& reason = reading.obstacle.empty() ? reading.longText : reading.obstacle;
+  if (!reason.empty()) throw Error(fmt::format("window {} cannot be changed: {}", window.number, reason));
   return reading;
 }
 

@@ -16,7 +16,7 @@ namespace teskarlt {
 // A window as it stands in its drawing. Other programs move, turn, mirror and scale windows, and some of them
 // leave the description as it was or change parts of it: where the two disagree, the geometry holds.
 struct WindowReading {
-  brevanta::WindowParams params{};  // texts in the drawing's code page
+  brevanta::WindowParams params{};  // texts as in the drawing's file
   // Of the frame as it is drawn, drawing coordinates; none where the entities show no window.
   std::optional<brevanta::Outline> outline;
   bool isMirrored = false;  // since it was inserted; its hinges and its anchor have changed sides then
@@ -25,12 +25,14 @@ struct WindowReading {
   std::vector<std::string> defaults;  // names of the fields that nothing tells
   std::vector<std::string> notes;     // what another program did to it, for people; UTF-8
   std::string obstacle;               // why it cannot be inserted again; empty: it can
+  std::string longText;               // which text an edit would lose, also among the notes; empty: none
 };
 
 // Reads a window. With an obstacle, the record is what the description says.
 WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window);
 
-// The record of a window that can be inserted again. Throws Error with the obstacle for one that cannot.
+// The record of a window that can be inserted again as it is. Throws Error with the reason for one that
+// cannot.
 WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow& window);
 
 }  // namespace teskarlt

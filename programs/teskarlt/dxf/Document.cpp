@@ -86,7 +86,7 @@ struct Document::State {
         file(stateOfFile),
         index(BuildIndex(source)),
         rules(RulesOf(source, index)),
-        codec(source.Name(), std::string(CodePageOf(VariableText(index, VARIABLE_CODE_PAGE))),
+        codec(std::string(CodePageOf(VariableText(index, VARIABLE_CODE_PAGE))),
               HasUtf8(source, index, rules.version)),
         edits(source, index, codec, rules) {}
 
@@ -192,18 +192,16 @@ std::string Document::Text(const Tag& tag) const {
   return state_->codec.Decode(tag.value);
 }
 
-std::string Document::ToCodePage(std::string_view utf8) const {
-  return state_->codec.ToCodePage(utf8);
+std::string Document::Decode(std::string_view raw) const {
+  return state_->codec.Decode(raw);
 }
 
-std::string Document::ToUtf8(std::string_view bytes) const {
-  return state_->codec.ToUtf8(bytes);
+std::string Document::Encode(std::string_view utf8) const {
+  return state_->codec.Encode(utf8);
 }
 
-std::size_t Document::EncodedSize(std::string_view bytes) const {
-  std::string raw;
-  state_->codec.Encode(bytes, raw);
-  return raw.size();
+std::string Document::TextNote() const {
+  return state_->codec.Note();
 }
 
 std::uint64_t Document::AddEntity(std::span<const TypedTag> tags) {

@@ -70,18 +70,19 @@ class Document {
 
   // The table of layers.
   Layers ReadLayers() const;
-  // `name` in bytes of the drawing's code page.
+  // `name` as it stands in the file.
   bool HasLayer(std::string_view name) const;
 
   // --- Texts ---
 
   // A tag's text in UTF-8, with \U+XXXX and ^ escapes resolved. Bytes that are malformed become U+FFFD.
   std::string Text(const Tag& tag) const;
-  // Between UTF-8 and bytes of the drawing's code page; throws for a character that the page does not have.
-  std::string ToCodePage(std::string_view utf8) const;
-  std::string ToUtf8(std::string_view bytes) const;
-  // Bytes that a text in the drawing's code page takes in the file, with its encoding and escapes.
-  std::size_t EncodedSize(std::string_view bytes) const;
+  // Between UTF-8 and texts as they stand in the file, which is how edits and the module have them: in its
+  // encoding, with escapes for what that lacks. Encode throws for malformed UTF-8.
+  std::string Decode(std::string_view raw) const;
+  std::string Encode(std::string_view utf8) const;
+  // What is doubtful about the texts read and written so far, for people; empty when nothing is.
+  std::string TextNote() const;
 
   // --- Edits ---
 
@@ -114,8 +115,8 @@ class Document {
   void EndGroup(std::string_view name, std::string_view description);
 
   // Adds the table entry when the drawing has none of that name; an existing one stays as it is. Names are
-  // bytes of the drawing's code page. RequireLayer gives the name that the drawing uses: characters that the
-  // version does not allow become "_", an R12 name is in capitals and cut at 31 characters.
+  // as they stand in the file. RequireLayer gives the name that the drawing uses: characters that the version
+  // does not allow become "_", an R12 name is in capitals and cut at 31 characters.
   std::string RequireLayer(std::string_view name);
   // "DASHED" and "CONTINUOUS" are known.
   void RequireLinetype(std::string_view name);

@@ -15,7 +15,7 @@ constexpr const char* NEW_DRAWING_CODE_PAGE = "ANSI_1250";
 struct NewDrawingOptions {
   int version = VERSION_R2000;            // VERSION_R12, VERSION_R2000 or VERSION_R2018
   int units = UNITS_METRES;               // for $INSUNITS; $MEASUREMENT follows
-  std::vector<std::string> layers;        // besides "0", in bytes of NEW_DRAWING_CODE_PAGE
+  std::vector<std::string> layers;        // besides "0", as they stand in the file
   std::vector<std::string> applications;  // names of extended data
 };
 

@@ -29,7 +29,11 @@ ModuleSession* currentSession = nullptr;
 
 // The dialog's questions; `context` is the session.
 struct ServiceCalls {
-  static ModuleSession& Session(void* context) { return *static_cast<ModuleSession*>(context); }
+  static ModuleSession& Session(void* context) {
+    auto& session = *static_cast<ModuleSession*>(context);
+    session.outcome_.isDialogRun = true;
+    return session;
+  }
 
   static std::int32_t Answer(void* context, const char* field, char* buffer, std::int32_t size) {
     const auto& answers = Session(context).request_.answers;
@@ -126,7 +130,8 @@ struct ServiceCalls {
   static void Report(void* context, std::int32_t gravity, const char* text) {
     WorkForModule([&] {
       if (gravity == brevanta::REPORT_OUT_OF_MEMORY) throw std::bad_alloc();
-      Session(context).outcome_.reports.push_back({gravity, text});
+      ModuleSession& session = Session(context);
+      session.outcome_.reports.push_back({gravity, session.drawing_.Decode(text)});
     });
   }
 };
@@ -179,7 +184,7 @@ void ModuleSession::AddEntity(const brevanta::ValueNode* list) {
   ++(isFace ? batchFaces_ : batchLines_);
   for (const dxf::TypedTag& tag : tags) {
     if (tag.code != dxf::CODE_LAYER) continue;
-    outcome_.layers.insert(drawing_.ToUtf8(std::get<std::string_view>(tag.value)));
+    outcome_.layers.insert(drawing_.Decode(std::get<std::string_view>(tag.value)));
     break;
   }
 }

@@ -31,8 +31,8 @@ using FaceCorners = std::vector<geometry::Vec3>;  // in order around the face
 // Gives the faces of a roof, within which a window must stay, that touch the area.
 using FacesNear = std::function<std::vector<FaceCorners>(const PlanBox& area)>;
 
-// What the user wants, as the dialog asks for it. Coordinates are those of the drawing; texts are bytes in
-// its code page.
+// What the user wants, as the dialog asks for it. Coordinates are those of the drawing; texts are as they
+// stand in its file.
 struct WindowRequest {
   std::int32_t unitFactor = 1;  // drawing units per metre
   DialogAnswers answers;
@@ -52,6 +52,7 @@ struct DialogReport {
 
 // What a command left behind.
 struct CommandOutcome {
+  bool isDialogRun = false;                         // it asked for something
   std::optional<brevanta::WindowParams> confirmed;  // the record that the dialog confirmed
   std::size_t faces = 0;                            // entities of finished batches
   std::size_t lines = 0;

@@ -6,10 +6,10 @@
 
 #include <fmt/format.h>
 
+#include "inc/StringModule.h"
 #include "inc/ValueList.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/Codes.h"
-#include "teskarlt/dxf/tags/Names.h"
 
 namespace teskarlt {
 
@@ -24,7 +24,10 @@ NodeValue TextOf(const brevanta::ValueNode& node) {
     throw Error(fmt::format("the module handed over an entity without a text in group {}", node.typeCode));
   }
   const std::string_view text = node.value.text;
-  if (node.typeCode == dxf::CODE_LAYER && text.empty()) return dxf::DEFAULT_LAYER;
+  if (node.typeCode == dxf::CODE_LAYER && text.empty()) {
+    throw Error(fmt::format("the module gave an entity no layer, since it could not open {} at that moment",
+                            brevanta::RESOURCE_MODULE));
+  }
   return text;
 }
 

@@ -8,8 +8,8 @@
 
 namespace teskarlt {
 
-// The list's tags in their order; texts stay the list's. The marker in front of extended data goes, an
-// empty layer name becomes "0". Throws Error for a code that has no kind, a missing text and an endless list.
+// The list's tags in their order; texts stay the list's. The marker in front of extended data goes. Throws
+// Error for a code that has no kind, a missing text, an empty layer name and an endless list.
 std::vector<dxf::TypedTag> TagsOf(const brevanta::ValueNode* list);
 
 }  // namespace teskarlt

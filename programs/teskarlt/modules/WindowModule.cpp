@@ -1,7 +1,6 @@
 // WindowModule.cpp - loads the roof window module and runs its commands.
 #include "teskarlt/modules/WindowModule.h"
 
-#include <algorithm>
 #include <initializer_list>
 
 #include <fmt/format.h>
@@ -43,30 +42,39 @@ void CheckProgramName() {
                   platform::FromSystemPath(ProgramPath())));
 }
 
-[[noreturn]] void ThrowForeign(const char* name, const char* meaning, const char* missingExport) {
-  throw Error(fmt::format("{}{} is not {}: it has no export \"{}\"",
-                          platform::FromSystemPath(ProgramFolder()), name, meaning, missingExport));
+[[noreturn]] void ThrowForeign(const char* name, const char* meaning, const std::string& missing) {
+  throw Error(fmt::format("{}{} is not {}: it has no {}", platform::FromSystemPath(ProgramFolder()), name,
+                          meaning, missing));
 }
 
-HMODULE LoadFromFolder(const char* name) {
+LoadedModule LoadFromFolder(const char* name) {
   const std::string path = ProgramFolder() + name;
-  HMODULE module = AfxLoadLibrary(path.c_str());
-  if (module != nullptr) return module;
+  if (HMODULE module = AfxLoadLibrary(path.c_str())) return LoadedModule(module);
   std::string reason = ModuleLoadError();
   if (reason.starts_with(path + ": ")) reason.erase(0, path.size() + 2);  // some loaders name the file too
   throw Error(fmt::format("cannot load {}: {}", platform::FromSystemPath(path), reason));
 }
 
 // The module itself says nothing when a companion is missing, and calls the companion's exports unseen, so
-// each is tried first.
-void CheckCompanion(const char* name, const char* meaning, std::initializer_list<const char*> exports) {
-  HMODULE companion = LoadFromFolder(name);
-  const auto* missing = std::find_if(exports.begin(), exports.end(), [&](const char* wanted) {
-    return GetProcAddress(companion, wanted) == nullptr;
-  });
-  const char* const missingName = missing == exports.end() ? nullptr : *missing;
-  FreeLibrary(companion);
-  if (missingName != nullptr) ThrowForeign(name, meaning, missingName);
+// they are looked for beforehand.
+LoadedModule LoadWithExports(const char* name, const char* meaning,
+                             std::initializer_list<const char*> exports) {
+  LoadedModule module = LoadFromFolder(name);
+  for (const char* wanted : exports) {
+    if (GetProcAddress(module.get(), wanted) == nullptr)
+      ThrowForeign(name, meaning, fmt::format("export \"{}\"", wanted));
+  }
+  return module;
+}
+
+LoadedModule LoadStringModule() {
+  LoadedModule module = LoadFromFolder(brevanta::RESOURCE_MODULE);
+  for (const unsigned number : brevanta::LAYER_NAMES) {
+    char name[2];  // only whether there is one counts
+    if (LoadStringA(module.get(), number, name, sizeof name) == 0)
+      ThrowForeign(brevanta::RESOURCE_MODULE, "the string module", fmt::format("string {}", number));
+  }
+  return module;
 }
 
 std::string SystemPath(const std::string& path) {
@@ -79,6 +87,16 @@ std::string FirstRefusal(const CommandOutcome& outcome) {
     if (report.gravity == brevanta::REPORT_REFUSAL) return report.text;
   }
   return {};
+}
+
+// Also a module whose companion was there a moment ago may fail to load it, and says so by its answer alone.
+void CheckDialogRan(const CommandOutcome& outcome, std::int32_t answer) {
+  constexpr std::int32_t dialogNotLoaded = 0;
+  if (outcome.isDialogRun) return;
+  const std::string dialog = platform::FromSystemPath(ProgramFolder()) + brevanta::DIALOG_MODULE;
+  if (answer == dialogNotLoaded)
+    throw Error(fmt::format("the roof window module could not load its dialog module {}", dialog));
+  throw Error(fmt::format("the dialog module {} belongs to another version of this program", dialog));
 }
 
 // The module reports nothing, so what it left behind has to show whether it did what was asked.
@@ -109,8 +127,9 @@ CommandOutcome Run(dxf::Document& drawing, const WindowRequest& request, Command
   const dxf::EditMark before = drawing.Mark();
   try {
     ModuleSession session(drawing, request);
-    command(session.Services());
+    const std::int32_t answer = command(session.Services());
     RethrowKeptException();
+    CheckDialogRan(session.Outcome(), answer);
     finish(session.Outcome());
     return session.Outcome();
   } catch (...) {
@@ -123,26 +142,21 @@ CommandOutcome Run(dxf::Document& drawing, const WindowRequest& request, Command
 
 WindowModule::WindowModule() {
   CheckProgramName();
-  CheckCompanion(brevanta::DIALOG_MODULE, "the dialog module",
-                 {brevanta::DIALOG_EXPORT, brevanta::ERASE_WINDOW_EXPORT});
-  CheckCompanion(brevanta::RESOURCE_MODULE, "the string module", {});
-  CheckCompanion(WINDOW_MODULE, "the roof window module",
-                 {INSERT_EXPORT, EDIT_EXPORT, brevanta::MERGE_LIBRARY_FILES_EXPORT});
-  module_ = LoadFromFolder(WINDOW_MODULE);
-  insert_ = ExportedFunction<InsertFunction>(module_, INSERT_EXPORT);
-  edit_ = ExportedFunction<EditFunction>(module_, EDIT_EXPORT);
-  merge_ =
-      ExportedFunction<brevanta::MergeLibraryFilesFunction>(module_, brevanta::MERGE_LIBRARY_FILES_EXPORT);
-}
-
-WindowModule::~WindowModule() {
-  FreeLibrary(module_);
+  dialog_ = LoadWithExports(brevanta::DIALOG_MODULE, "the dialog module",
+                            {brevanta::DIALOG_EXPORT, brevanta::ERASE_WINDOW_EXPORT});
+  strings_ = LoadStringModule();
+  module_ = LoadWithExports(WINDOW_MODULE, "the roof window module",
+                            {INSERT_EXPORT, EDIT_EXPORT, brevanta::MERGE_LIBRARY_FILES_EXPORT});
+  insert_ = ExportedFunction<InsertFunction>(module_.get(), INSERT_EXPORT);
+  edit_ = ExportedFunction<EditFunction>(module_.get(), EDIT_EXPORT);
+  merge_ = ExportedFunction<brevanta::MergeLibraryFilesFunction>(module_.get(),
+                                                                 brevanta::MERGE_LIBRARY_FILES_EXPORT);
 }
 
 CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest& request) const {
   const auto insert = [&](brevanta::DialogServices* services) {
     drawing.BeginGroup({});
-    insert_(services, request.unitFactor, nullptr, 0);
+    return insert_(services, request.unitFactor, nullptr, 0);
   };
   return Run(drawing, request, insert,
              [&](const CommandOutcome& outcome) { FinishWindow(drawing, outcome); });
@@ -151,14 +165,14 @@ CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest&
 CommandOutcome WindowModule::Edit(dxf::Document& drawing, const WindowRequest& request) const {
   const auto edit = [&](brevanta::DialogServices* services) {
     drawing.BeginGroup(request.replaced);
-    edit_(services, request.unitFactor, EDIT_MODE_DIALOG);
+    return edit_(services, request.unitFactor, EDIT_MODE_DIALOG);
   };
   return Run(drawing, request, edit, [&](const CommandOutcome& outcome) { FinishWindow(drawing, outcome); });
 }
 
 CommandOutcome WindowModule::Erase(dxf::Document& drawing, const WindowRequest& request) const {
   const auto erase = [&](brevanta::DialogServices* services) {
-    edit_(services, request.unitFactor, brevanta::EDIT_MODE_ERASE);
+    return edit_(services, request.unitFactor, brevanta::EDIT_MODE_ERASE);
   };
   return Run(drawing, request, erase, [](const CommandOutcome& outcome) {
     if (outcome.erased == 0) throw Error("the dialog module erased nothing and gave no reason");

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
+#include <type_traits>
 
 #include "inc/LibraryMerge.h"
 #include "platform/ModuleServices.h"
@@ -12,15 +14,19 @@
 
 namespace teskarlt {
 
-// Loads BREVANTA.CRX from the program's folder and keeps it loaded.
+struct ModuleRelease {
+  using pointer = HMODULE;
+  void operator()(HMODULE module) const { FreeLibrary(module); }
+};
+using LoadedModule = std::unique_ptr<std::remove_pointer_t<HMODULE>, ModuleRelease>;
+
+// Loads BREVANTA.CRX and its companions from the program's folder and keeps them loaded: what becomes of
+// their files meanwhile, or of the files that this process may open, does not touch a command.
 class WindowModule {
  public:
   // Throws Error, naming the file and the folder, when the module or one of its companions is missing or
   // cannot be loaded, or when the program does not bear the name by which they find it.
   WindowModule();
-  ~WindowModule();
-  WindowModule(const WindowModule&) = delete;
-  WindowModule& operator=(const WindowModule&) = delete;
 
   // Runs the command `Brevanta`: the window comes into the drawing as the request asks. Throws Error with the
   // reason, the drawing being what it was, when the dialog refuses the request or no complete window comes
@@ -46,7 +52,9 @@ class WindowModule {
 
   using EditFunction = std::int32_t (*)(void* hostContext, std::int32_t unitFactor, std::int32_t editMode);
 
-  HMODULE module_ = nullptr;
+  LoadedModule dialog_;
+  LoadedModule strings_;
+  LoadedModule module_;
   InsertFunction insert_ = nullptr;
   EditFunction edit_ = nullptr;
   brevanta::MergeLibraryFilesFunction merge_ = nullptr;

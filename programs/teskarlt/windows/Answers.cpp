@@ -4,22 +4,12 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
-#include "teskarlt/dxf/tags/ExtendedData.h"
 #include "teskarlt/modules/DataFolder.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
 
 namespace {
-
-// A text in the drawing's code page, which extended data can hold in the drawing's version.
-std::string StoredText(const std::string& utf8, const dxf::Document& drawing) {
-  std::string bytes = drawing.ToCodePage(utf8);
-  const std::size_t size = drawing.EncodedSize(bytes);
-  if (size <= dxf::LONGEST_EXTENDED_TEXT) return bytes;
-  throw Error(fmt::format("the text takes {} bytes in this drawing, and {} is the most that it can hold",
-                          size, dxf::LONGEST_EXTENDED_TEXT));
-}
 
 void AddSetting(const FieldSetting& setting, const dxf::Document& drawing, DialogAnswers& answers) {
   const brevanta::RecordField* field = brevanta::FindRecordField(setting.field);
@@ -30,7 +20,7 @@ void AddSetting(const FieldSetting& setting, const dxf::Document& drawing, Dialo
   }
   try {
     const bool isText = field->kind == brevanta::FieldKind::Text;
-    answers[setting.field] = isText ? StoredText(setting.value, drawing) : setting.value;
+    answers[setting.field] = isText ? drawing.Encode(setting.value) : setting.value;
   } catch (const Error& error) {
     throw Error(fmt::format("--set {}: {}", setting.field, error.what()), {.value = setting.value});
   }
@@ -41,9 +31,9 @@ void AddCatalogueWindow(const WindowOrder& order, const dxf::Document& drawing, 
   const Catalogue& catalogue = shelf.Get(order.catalogue);
   const CatalogueItem& item = ChooseItem(catalogue, order.window);
   try {
-    answers[brevanta::ANSWER_CATALOGUE_ITEM] = drawing.ToCodePage(CatalogueText(item.line));
+    answers[brevanta::ANSWER_CATALOGUE_ITEM] = drawing.Encode(CatalogueText(item.line));
     answers[brevanta::ANSWER_CATALOGUE_MAKER] =
-        drawing.ToCodePage(CatalogueText(MakerOf(catalogue.sections[item.section])));
+        drawing.Encode(CatalogueText(MakerOf(catalogue.sections[item.section])));
   } catch (const Error& error) {
     throw Error(fmt::format("--window {}: {}", order.window, error.what()), {.value = order.window});
   }

@@ -22,9 +22,9 @@ class CatalogueShelf {
   std::map<std::string, Catalogue> catalogues_;
 };
 
-// What the dialog is answered: the catalogue's window of the order and its settings, texts in the drawing's
-// code page. Throws Error, naming the option, for a window or field that there is not and for a text that the
-// drawing cannot hold.
+// What the dialog is answered: the catalogue's window of the order and its settings, texts as they stand in
+// the drawing's file. Throws Error, naming the option, for a window or field that there is not and for a text
+// that is no UTF-8.
 DialogAnswers AnswersOf(const WindowOrder& order, const dxf::Document& drawing, CatalogueShelf& shelf);
 
 }  // namespace teskarlt

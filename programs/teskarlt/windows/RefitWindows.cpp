@@ -98,6 +98,7 @@ class Refitter {
       ++report_.fitting;
       return;
     }
+    if (!reading.longText.empty()) throw Error("it cannot be changed: " + reading.longText);
     ChooseWindow(work_.windows, work_.drawing.FileName(), window.number);  // refuses copies
     if (!order_.isLockedToo) RefuseClosedLayers(work_.drawing, window);
     const CommandOutcome outcome = module_.Edit(work_.drawing, RequestFor(window, reading, *face));

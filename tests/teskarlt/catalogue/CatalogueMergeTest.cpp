@@ -346,5 +346,66 @@ TEST_F(CatalogueMerge, RecoveryTellsOfABackupThatStays) {
   EXPECT_EQ(Text(target), NEW);
 }
 
+constexpr const char* CZECH_TARGET = "VYROBCE B\xECla\nb; 1\n";  // code page 1250
+constexpr const char* UTF8_SOURCE = "VYROBCE Běla\nb; 1\nšedá; 2\n";
+constexpr const char* CZECH_MERGED =
+    "VYROBCE B\xECla\nb; 1\n\x9A"
+    "ed\xE1; 2\n";
+
+TEST_F(CatalogueMerge, SourceInUtf8IsTakenOverInTheCodePageOfTheTarget) {
+  platform::WriteWholeFile(target, CZECH_TARGET);
+  platform::WriteWholeFile(source, UTF8_SOURCE);
+  const MergeReport report = Merge();
+  EXPECT_EQ(Text(target), CZECH_MERGED);
+  EXPECT_EQ(report.alreadyThere, 1U);
+  EXPECT_THAT(report.warnings, ElementsAre("the windows of " + source +
+                                           ", which is in UTF-8, are taken over in code page 1250"));
+  EXPECT_EQ(Text(source), UTF8_SOURCE);
+  EXPECT_FALSE(fs::exists(target + ".source.tmp"));
+}
+
+TEST_F(CatalogueMerge, SourceInACodePageIsTakenOverInUtf8) {
+  platform::WriteWholeFile(target, "VYROBCE Běla\nb; 1\n");
+  platform::WriteWholeFile(source, CZECH_MERGED);
+  Merge();
+  EXPECT_EQ(Text(target), UTF8_SOURCE);
+}
+
+TEST_F(CatalogueMerge, CharacterThatTheTargetLacksIsRefusedWithItsLine) {
+  platform::WriteWholeFile(target, CZECH_TARGET);
+  platform::WriteWholeFile(source, "VYROBCE Běla\n天窓; 1\n");
+  EXPECT_EQ(Refusal(), source + ":2: the character \"天\" (U+5929) does not exist in code page 1250");
+  EXPECT_EQ(Text(target), CZECH_TARGET);
+}
+
+TEST_F(CatalogueMerge, EncodingOfTheSourceCanBeSaid) {
+  platform::WriteWholeFile(target, "VYROBCE Běla\nb; 1\n");
+  platform::WriteWholeFile(source, "VYROBCE Sm\xF8r\ns; 1\n");  // r with caron in 1250, o with stroke in 1252
+  MergeCatalogues(module, source, target, "cp1252");
+  EXPECT_THAT(Text(target), HasSubstr("VYROBCE Smør\n"));
+}
+
+TEST_F(CatalogueMerge, EncodingThatTheProgramWouldNotFindAgainBecomesUtf8) {
+  platform::WriteWholeFile(source, "VYROBCE Sm\xF8r\ns; 1\n");  // the target is plain ASCII
+  MergeCatalogues(module, source, target, "cp1252");
+  EXPECT_THAT(Text(target), HasSubstr("VYROBCE Smør\n"));
+}
+
+TEST_F(CatalogueMerge, EncodingThatTheSourceIsNotInIsRefused) {
+  platform::WriteWholeFile(source, CZECH_MERGED);
+  EXPECT_EQ(RefusalOf([&] { MergeCatalogues(module, source, target, "utf-8"); }),
+            source + ":1: the line is not in UTF-8");
+  EXPECT_THAT(RefusalOf([&] { MergeCatalogues(module, source, target, "latin9"); }),
+              HasSubstr("--encoding latin9: no such encoding is known"));
+  EXPECT_EQ(Text(target), OLD);
+}
+
+TEST_F(CatalogueMerge, CataloguesInOneEncodingAreMergedByteForByte) {
+  platform::WriteWholeFile(target, CZECH_TARGET);
+  platform::WriteWholeFile(source, CZECH_MERGED);
+  EXPECT_THAT(Merge().warnings, IsEmpty());
+  EXPECT_EQ(Text(target), CZECH_MERGED);
+}
+
 }  // namespace
 }  // namespace teskarlt

@@ -93,7 +93,7 @@ TEST(ReadWindow, UpperEdgeFollowsFromTheLowerOne) {
   EXPECT_NEAR(record.upperEdgeHeight, 1.5 + 2 * 0.6, SAME);  // 2 m long, sine 0.6
 }
 
-TEST(ReadWindow, TextsComeBackAsBytesOfTheDrawingsCodePage) {
+TEST(ReadWindow, TextsComeBackAsTheDrawingHasThem) {
   const Answers answers = {{"text1", "Podkrov\xED"}, {"text2", "se\xE8 50 %"}, {"text3", "No. 7"}};
   const WindowParams record = ReadBack(Insert(answers).entities).params;
   EXPECT_STREQ(record.text1, "Podkrov\xED");
@@ -101,13 +101,18 @@ TEST(ReadWindow, TextsComeBackAsBytesOfTheDrawingsCodePage) {
   EXPECT_STREQ(record.text3, "No. 7");
 }
 
-TEST(ReadWindow, TextThatIsLongerThanItsFieldIsCut) {
+TEST(ReadWindow, TextThatIsLongerThanItsFieldKeepsTheWindowFromEdits) {
   Entities window = Insert({{"text1", "short"}}).entities;
   for (node_list::NodeList& entity : window) {
     for (node_list::Node& node : entity)
       if (node.value == node_list::Value("short")) node = node_list::Text(1000, std::string(250, 'x'));
   }
-  EXPECT_EQ(ReadBack(window).params.text1, std::string(brevanta::TEXT_FIELD_SIZE - 1, 'x'));
+  const WindowReading reading = ReadBack(window);
+  EXPECT_EQ(
+      reading.longText,
+      "its text1 takes 250 bytes in this drawing, and an edit can keep 199; erase it and insert it anew");
+  EXPECT_THAT(reading.notes, testing::ElementsAre(reading.longText));
+  EXPECT_EQ(reading.obstacle, "");
 }
 
 TEST(ReadWindow, FlatWindowIsReadAsItWasInserted) {

@@ -26,8 +26,8 @@ TEST(Document, Utf8InADrawingOfACodePageIsReadAndWrittenAsUtf8) {
                           "ez"}),
             "\xC5\x99"
             "ez");
-  const std::string layer = drawing.ToCodePage("Krytina \xC5\x99");
-  EXPECT_EQ(layer, "Krytina \xF8");
+  const std::string layer = drawing.Encode("Krytina \xC5\x99");
+  EXPECT_EQ(layer, "Krytina \xC5\x99");
   const TypedTag groups[] = {{0, "POINT"}, {8, std::string_view(layer)}, {10, Point{}}};
   drawing.AddEntity(groups);
   EXPECT_THAT(drawing.Serialize(), testing::HasSubstr("  8\nKrytina \xC5\x99\n"));
@@ -90,8 +90,7 @@ TEST(Document, MissingCodePageIsWestern) {
 TEST(Document, TextsFromR2007OnAreUtf8) {
   const Document drawing = Parsed(WithHeader("9|$ACADVER|1|AC1021|9|$DWGCODEPAGE|3|ANSI_1250|"));
   EXPECT_EQ(drawing.Text({1, "ř"}), "ř");
-  EXPECT_EQ(drawing.ToUtf8("\xF8"), "ř");
-  EXPECT_EQ(drawing.ToCodePage("ř"), "\xF8");
+  EXPECT_EQ(drawing.Encode("ř天"), "ř天");
 }
 
 TEST(Document, UnitsAreThoseOfTheHeader) {
@@ -120,10 +119,12 @@ TEST(Document, AssumedUnitsGoBeforeThoseOfTheHeader) {
   EXPECT_NE(DashedIn(UNITS_MILLIMETRES, UNITS_MILLIMETRES), metres);
 }
 
-TEST(Document, EncodedSizeIsThatInTheFile) {
-  EXPECT_EQ(Parsed(OfVersion("AC1015")).EncodedSize("\xF8"), 1U);
-  EXPECT_EQ(Parsed(OfVersion("AC1015", "  0|TEXT|  1|\xC5\x99")).EncodedSize("\xF8"), 2U);  // a file in UTF-8
-  EXPECT_EQ(Parsed(OfVersion("AC1015")).EncodedSize("a\n"), 3U);  // the line end as ^J
+TEST(Document, UnknownCodePageIsNotedOnceItMatters) {
+  const Document drawing = Parsed(WithHeader("9|$DWGCODEPAGE|3|UNDEFINED|"));
+  EXPECT_EQ(drawing.TextNote(), "");
+  EXPECT_EQ(drawing.Text({1, "\xFC"}), "ü");
+  EXPECT_EQ(drawing.TextNote(),
+            "the code page \"UNDEFINED\" is not known; texts beyond ASCII are taken to be in ANSI_1252");
 }
 
 TEST(Document, AnotherDrawingCanTakeItsPlace) {

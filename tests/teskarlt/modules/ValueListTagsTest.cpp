@@ -10,7 +10,6 @@ namespace teskarlt {
 namespace {
 
 using brevanta::ValueNode;
-using Value = decltype(dxf::TypedTag::value);
 
 // A value list whose nodes live in the test.
 class List {
@@ -55,10 +54,15 @@ TEST(TagsOf, MarkerOfTheExtendedDataGoes) {
   EXPECT_EQ(TagsOf(list.Head()).size(), 2U);
 }
 
-TEST(TagsOf, EmptyLayerNameBecomesLayerZero) {
+TEST(TagsOf, EmptyLayerNameIsAnErrorThatNamesTheStringModule) {
   List list;
   list.Text(0, "LINE").Text(8, "");
-  EXPECT_EQ(TagsOf(list.Head())[1].value, Value(std::string_view("0")));
+  try {
+    TagsOf(list.Head());
+    FAIL();
+  } catch (const Error& error) {
+    EXPECT_NE(error.Message().find("no layer, since it could not open Brevanta_d.tkr"), std::string::npos);
+  }
 }
 
 TEST(TagsOf, MissingTextIsAnError) {

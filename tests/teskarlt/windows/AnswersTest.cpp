@@ -25,19 +25,15 @@ class AnswersTest : public testing::Test {
   CatalogueShelf shelf;
 };
 
-TEST_F(AnswersTest, TextGoesIntoTheCodePageOfTheDrawing) {
-  EXPECT_EQ(Answers({"text1", "\xC5\x99"})["text1"], "\xF8");  // r with caron in ANSI_1250
+TEST_F(AnswersTest, TextIsAnsweredAsTheDrawingHasIt) {
+  EXPECT_EQ(Answers({"text1", "ř ☃"})["text1"], "\xF8 \\U+2603");  // ANSI_1250 has no snowman
 }
 
-TEST_F(AnswersTest, TextBeyondTheCodePageIsRefused) {
-  EXPECT_THAT(RefusalOf([&] { Answers({"text1", "\xE2\x98\x83"}); }), HasSubstr("--set text1: house.dxf: "));
-}
-
-TEST_F(AnswersTest, TextThatExtendedDataCannotHoldIsRefused) {
-  EXPECT_EQ(RefusalOf([&] {
-              Answers({"text1", std::string(256, 'x')});
-            }),
-            "--set text1: the text takes 256 bytes in this drawing, and 255 is the most that it can hold");
+TEST_F(AnswersTest, TextThatIsNoUtf8IsRefused) {
+  EXPECT_THAT(RefusalOf([&] {
+                Answers({"text1", "\xFF"});
+              }),
+              HasSubstr("--set text1: the text is not UTF-8"));
 }
 
 TEST_F(AnswersTest, UnknownFieldIsRefused) {
@@ -63,12 +59,12 @@ TEST_F(AnswersTest, WindowOfACatalogueIsAnsweredWithItsMaker) {
   platform::CurrentFileOperations().remove("answers_test.LIB");
 }
 
-TEST_F(AnswersTest, WindowThatTheDrawingCannotHoldIsRefused) {
+TEST_F(AnswersTest, CatalogueOfAnotherLanguageIsAnsweredAsTheDrawingHasIt) {
   platform::WriteWholeFile("answers_test.LIB", "VYROBCE Alfa\nA1; \xE2\x98\x83\n");
   WindowOrder order;
   order.catalogue = "answers_test.LIB";
   order.window = "A1";
-  EXPECT_THAT(RefusalOf([&] { AnswersOf(order, drawing, shelf); }), HasSubstr("--window A1: house.dxf: "));
+  EXPECT_EQ(AnswersOf(order, drawing, shelf).at(brevanta::ANSWER_CATALOGUE_ITEM), "A1; \\U+2603");
   platform::CurrentFileOperations().remove("answers_test.LIB");
 }
 

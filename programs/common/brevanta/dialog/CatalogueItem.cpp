@@ -10,6 +10,7 @@ namespace brevanta {
 namespace {
 
 constexpr double CENTIMETRES_PER_METRE = 100.0;
+constexpr std::string_view FIXED_GLAZING = "-";  // an empty field would leave the default code
 
 void TakeSize(std::string_view name, std::string_view text, double& metres) {
   if (!text.empty()) metres = ParseReal(name, text) / CENTIMETRES_PER_METRE;
@@ -20,6 +21,14 @@ void TakeText(std::string_view name, std::string_view text, char (&field)[SIZE])
   if (!text.empty()) StoreText(name, text, SIZE, field);
 }
 
+void TakeOpeningCode(std::string_view text, WindowParams& record) {
+  if (text == FIXED_GLAZING) {
+    record.openingCode[0] = '\0';
+  } else {
+    TakeText("openingCode", text, record.openingCode);
+  }
+}
+
 void TakeFields(std::string_view line, WindowParams& record) {
   const auto next = [&line] { return Trimmed(CutField(line, FIELD_DELIMITER)); };
   TakeText("text2", next(), record.text2);
@@ -27,7 +36,7 @@ void TakeFields(std::string_view line, WindowParams& record) {
   TakeSize("length", next(), record.length);
   TakeSize("frameWidth", next(), record.frameWidth);
   TakeSize("frameDepth", next(), record.frameDepth);
-  TakeText("openingCode", next(), record.openingCode);
+  TakeOpeningCode(next(), record);
   TakeText("text3", next(), record.text3);
 }
 

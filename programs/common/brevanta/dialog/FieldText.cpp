@@ -71,7 +71,7 @@ void ParsePoints(std::string_view field, std::string_view text, std::size_t coun
 void StoreText(std::string_view field, std::string_view text, std::size_t size, void* place) {
   if (text.size() >= size) {
     throw Refusal(std::string(field) + " is too long: " + NumberText(text.size()) +
-                  " bytes in the drawing's code page, at most " + NumberText(size - 1) + " fit");
+                  " bytes as the drawing keeps it, at most " + NumberText(size - 1) + " fit");
   }
   std::memset(place, 0, size);
   std::memcpy(place, text.data(), text.size());

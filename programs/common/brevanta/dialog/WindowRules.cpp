@@ -105,8 +105,9 @@ void CheckOpeningCode(const WindowParams& record) {
     if (TakeMark(rest)) continue;
     throw Refusal(
         "openingCode: " + Quoted(code) + " is not understood from " + Quoted(rest) +
-        " on; the letters are B, C, D and E, behind B, C and E an I (dashed) or O (solid), behind E also an "
-        "L or R (hinge side)");
+        " on; the letters are B (hinges at the top), C (bottom), D (pivot) and E (side), behind B, C and E "
+        "an "
+        "I (inward) or O (outward), behind E also an L or R (hinges left or right, seen from inside)");
   }
 }
 

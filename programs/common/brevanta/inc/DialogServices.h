@@ -25,7 +25,8 @@ constexpr std::int32_t REPORT_OUT_OF_MEMORY = 3;  // it does not confirm for tha
 
 // A record of functions that the host owns and hands to "Dialog" as `hostContext`; "EraseWindow", which takes
 // no arguments, gets it from the host's export DIALOG_SERVICES_EXPORT. No entry is null. Coordinates are
-// those of the drawing; texts are zero-terminated bytes in the drawing's code page, messages are UTF-8.
+// those of the drawing; texts, those quoted in messages too, are zero-terminated bytes as the drawing's
+// file has them.
 // `context` is the first argument of every call and is the host's own.
 struct DialogServices {
   std::int32_t version;  // DIALOG_SERVICES_VERSION

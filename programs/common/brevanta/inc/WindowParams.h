@@ -20,8 +20,8 @@ struct RecordPoint {
 
 // One roof window. The layout is the interface between separately built modules: little-endian, natural
 // alignment, every offset asserted below. Lengths are metres, each consumer multiplies them by `unitFactor`.
-// Texts are zero-terminated bytes in the drawing's code page; a reader never goes past the field's size. The
-// values of its choices have names in window/Choices.h.
+// Texts are zero-terminated bytes as the drawing's file has them; a reader never goes past the field's size.
+// The values of its choices have names in window/Choices.h.
 struct WindowParams {
   double width;            // 0    0.94   m, across the slope
   double length;           // 8    1.4    m, along the slope; the rise is length * sin(pitch)

@@ -69,7 +69,8 @@ inline constexpr std::array RECORD_FIELDS = {
     RecordField{"text3", FieldKind::Text, offsetof(WindowParams, text3), TEXT_FIELD_SIZE,
                 "third text, at most 199"},
     RecordField{"openingCode", FieldKind::Text, offsetof(WindowParams, openingCode), OPENING_CODE_SIZE,
-                "letters B C D E, each with I dashed or O solid, E also with L or R"},
+                "hinges: B top, C bottom, D pivot, E side; B C E with I inward or O outward, E with L or R "
+                "from inside"},
     RecordField{"storedPoint", FieldKind::Points, offsetof(WindowParams, storedPoint), 24,
                 "x,y,z that is only stored; the window's point in the drawing"},
     RecordField{"insertionPoint", FieldKind::Points, offsetof(WindowParams, insertionPoint), 24,

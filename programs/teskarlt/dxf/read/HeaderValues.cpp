@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/Version.h"
 

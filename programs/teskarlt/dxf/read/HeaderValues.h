@@ -10,9 +10,6 @@ namespace teskarlt::dxf {
 // a number that cannot be read. Nothing for a text that names no version.
 std::optional<int> VersionNumber(std::string_view text);
 
-// Of drawings that name none.
-constexpr std::string_view DEFAULT_CODE_PAGE = "ANSI_1252";
-
 // The name of the code page by the value of $DWGCODEPAGE, or the default one.
 std::string_view CodePageOf(std::string_view text);
 

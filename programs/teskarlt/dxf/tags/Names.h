@@ -26,6 +26,7 @@ constexpr std::string_view SECTION_OBJECTS = "OBJECTS";
 
 constexpr std::string_view VARIABLE_VERSION = "$ACADVER";
 constexpr std::string_view VARIABLE_CODE_PAGE = "$DWGCODEPAGE";
+constexpr std::string_view DEFAULT_CODE_PAGE = "ANSI_1252";  // of a drawing that names none, or none known
 constexpr std::string_view VARIABLE_HANDLING = "$HANDLING";  // up to R12: whether objects have handles
 constexpr std::string_view VARIABLE_HANDLE_SEED = "$HANDSEED";
 constexpr std::string_view VARIABLE_UNITS = "$INSUNITS";

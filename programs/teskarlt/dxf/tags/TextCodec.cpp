@@ -3,11 +3,14 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
+#include <iterator>
 #include <utility>
 
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/Names.h"
 
 namespace teskarlt::dxf {
 namespace {
@@ -15,7 +18,10 @@ namespace {
 constexpr char32_t REPLACEMENT = 0xFFFD;
 constexpr std::string_view UNICODE_ESCAPE = "\\U+";
 constexpr std::size_t UNICODE_DIGITS = 4;
-constexpr std::string_view ESCAPED_BACKSLASH = "\\U+005C";
+constexpr char32_t FIRST_PAIRED = 0x10000;  // characters from here on are escaped as two surrogates
+constexpr char32_t HIGH_SURROGATE = 0xD800;
+constexpr char32_t LOW_SURROGATE = 0xDC00;
+constexpr char32_t FIRST_BEYOND_ASCII = 0x80;
 constexpr char FIRST_CONTROL_LETTER = '@';  // ^@ is U+0000
 constexpr char LAST_CONTROL_LETTER = '_';
 
@@ -35,11 +41,11 @@ std::optional<char32_t> UnicodeEscape(std::string_view text) {
 }
 
 bool IsHighSurrogate(char32_t unit) {
-  return unit >= 0xD800 && unit < 0xDC00;
+  return unit >= HIGH_SURROGATE && unit < LOW_SURROGATE;
 }
 
 bool IsLowSurrogate(char32_t unit) {
-  return unit >= 0xDC00 && unit < 0xE000;
+  return unit >= LOW_SURROGATE && unit < 0xE000;
 }
 
 // Resolves the escape at the start of the text, puts its character behind `out` and gives its length; 0 when
@@ -51,7 +57,7 @@ std::size_t ResolveUnicode(std::string_view text, std::string& out) {
   if (IsHighSurrogate(*unit)) {
     const auto low = UnicodeEscape(text.substr(LENGTH));
     if (low && IsLowSurrogate(*low)) {
-      platform::AppendUtf8(out, 0x10000 + ((*unit - 0xD800) << 10) + (*low - 0xDC00));
+      platform::AppendUtf8(out, FIRST_PAIRED + ((*unit - HIGH_SURROGATE) << 10) + (*low - LOW_SURROGATE));
       return 2 * LENGTH;
     }
   }
@@ -82,20 +88,53 @@ std::string ResolveEscapes(std::string_view text) {
   return out;
 }
 
-void AppendEscaped(std::string_view text, std::string& out) {
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const char byte = text[at];
+void AppendUnicodeEscape(char32_t character, std::string& out) {
+  if (character >= FIRST_PAIRED) {
+    const char32_t distance = character - FIRST_PAIRED;
+    AppendUnicodeEscape(HIGH_SURROGATE + (distance >> 10), out);
+    AppendUnicodeEscape(LOW_SURROGATE + (distance & 0x3FF), out);
+  } else {
+    fmt::format_to(std::back_inserter(out), "{}{:04X}", UNICODE_ESCAPE, std::uint32_t{character});
+  }
+}
+
+// The text with escapes for what would end it or be read as an escape.
+std::string WithEscapes(std::string_view utf8) {
+  std::string out;
+  out.reserve(utf8.size());
+  for (std::size_t at = 0; at < utf8.size(); ++at) {
+    const char byte = utf8[at];
     if (byte >= '\0' && byte < ' ') {
       out += '^';
       out += static_cast<char>(byte + FIRST_CONTROL_LETTER);
     } else if (byte == '^') {
       out += "^ ";
-    } else if (byte == '\\' && UnicodeEscape(text.substr(at))) {
-      out += ESCAPED_BACKSLASH;
+    } else if (byte == '\\' && UnicodeEscape(utf8.substr(at))) {
+      AppendUnicodeEscape(U'\\', out);
     } else {
       out += byte;
     }
   }
+  return out;
+}
+
+// The text in bytes of the page; what the page, or all of it where there is none, lacks beyond ASCII is
+// escaped.
+std::string InPage(std::string_view utf8, const platform::CodePage* page) {
+  std::string out;
+  for (std::size_t at = 0; at < utf8.size();) {
+    const char32_t character = *platform::NextCharacter(utf8, at);
+    if (character < FIRST_BEYOND_ASCII) {
+      out += static_cast<char>(character);
+    } else if (page == nullptr || !page->Append(character, out)) {
+      AppendUnicodeEscape(character, out);
+    }
+  }
+  return out;
+}
+
+bool IsUtf8(std::string_view bytes) {
+  return IsAscii(bytes) || HoldsUtf8(bytes);
 }
 
 std::string WithoutMalformed(std::string_view utf8) {
@@ -132,20 +171,14 @@ char32_t Capital(char32_t character) {
 
 }  // namespace
 
-TextCodec::TextCodec(std::string fileName, std::string pageName, bool isUtf8)
-    : fileName_(std::move(fileName)), pageName_(std::move(pageName)), isUtf8_(isUtf8) {}
+TextCodec::TextCodec(std::string pageName, bool isUtf8) : pageName_(std::move(pageName)), isUtf8_(isUtf8) {}
 
 const platform::CodePage& TextCodec::Page() const {
   if (page_) return *page_;
-  const auto number = platform::CodePageNumber(pageName_);
-  if (!number) {
-    throw Error(fmt::format("the code page \"{}\" is not known", pageName_),
-                {.file = fileName_, .value = pageName_});
-  }
-  try {
-    page_.emplace(*number);
-  } catch (const Error& error) {
-    throw Error(error.Message(), {.file = fileName_, .value = error.Place().value});
+  page_ = platform::FindCodePage(pageName_);
+  if (!page_) {
+    isPageAssumed_ = true;
+    page_ = platform::FindCodePage(DEFAULT_CODE_PAGE);
   }
   return *page_;
 }
@@ -155,25 +188,19 @@ std::string TextCodec::Decode(std::string_view raw) const {
   return ResolveEscapes(isUtf8_ ? WithoutMalformed(raw) : Page().ToUtf8(raw));
 }
 
-void TextCodec::Encode(std::string_view bytes, std::string& raw) const {
-  if (IsAscii(bytes)) return AppendEscaped(bytes, raw);
-  // The second byte of a double-byte character may look like "^" or "\", so escapes are found in UTF-8.
-  std::string escaped;
-  AppendEscaped(Page().ToUtf8(bytes), escaped);
-  raw += isUtf8_ ? escaped : Page().FromUtf8(escaped);
+std::string TextCodec::Encode(std::string_view utf8) const {
+  if (!IsUtf8(utf8)) throw Error("the text is not UTF-8", {.value = std::string(utf8)});
+  std::string escaped = WithEscapes(utf8);
+  if (isUtf8_ || IsAscii(escaped)) return escaped;
+  std::string raw = InPage(escaped, &Page());
+  // A drawing whose only texts beyond ASCII are UTF-8 by chance would be taken for one in UTF-8.
+  return HoldsUtf8(raw) ? InPage(escaped, nullptr) : raw;
 }
 
-std::string TextCodec::ToCodePage(std::string_view utf8) const {
-  if (IsAscii(utf8)) return std::string(utf8);
-  try {
-    return Page().FromUtf8(utf8);
-  } catch (const Error& error) {
-    throw Error(error.Message(), {.file = fileName_, .value = error.Place().value});
-  }
-}
-
-std::string TextCodec::ToUtf8(std::string_view bytes) const {
-  return IsAscii(bytes) ? std::string(bytes) : Page().ToUtf8(bytes);
+std::string TextCodec::Note() const {
+  if (!isPageAssumed_) return {};
+  return fmt::format("the code page \"{}\" is not known; texts beyond ASCII are taken to be in {}", pageName_,
+                     DEFAULT_CODE_PAGE);
 }
 
 bool HoldsUtf8(std::string_view bytes) {

@@ -9,30 +9,32 @@
 
 namespace teskarlt::dxf {
 
-// The texts of one drawing. Throws Error for what cannot be converted, and for an unknown code page as soon
-// as a text beyond ASCII needs it.
+// The texts of one drawing: in UTF-8 in the program, and as they stand in the file, which is also how the
+// module and its records have them.
 class TextCodec {
  public:
-  // `pageName` as $DWGCODEPAGE has it. `isUtf8`: the file itself holds UTF-8 whatever the page says.
-  TextCodec(std::string fileName, std::string pageName, bool isUtf8);
+  // `pageName` as $DWGCODEPAGE has it; where no page of that name is known, it is that of DEFAULT_CODE_PAGE.
+  // `isUtf8`: the file itself holds UTF-8 whatever the page says.
+  TextCodec(std::string pageName, bool isUtf8);
 
   // From the file's bytes to UTF-8: \U+XXXX, ^A to ^_ and "^ " resolved, malformed bytes as U+FFFD.
   std::string Decode(std::string_view raw) const;
 
-  // From bytes of the code page to those of the file: control characters as ^A, "^" as "^ ". What would be
-  // read as \U+XXXX gets its backslash escaped.
-  void Encode(std::string_view bytes, std::string& raw) const;
+  // From UTF-8 to the file's bytes, which Decode brings back: control characters as ^A, "^" as "^ ", what the
+  // code page lacks as \U+XXXX, and so the backslash of what would be read as that. Throws Error for
+  // malformed UTF-8.
+  std::string Encode(std::string_view utf8) const;
 
-  std::string ToCodePage(std::string_view utf8) const;
-  std::string ToUtf8(std::string_view bytes) const;
+  // What is doubtful about the texts converted so far, for people; empty when nothing is.
+  std::string Note() const;
 
  private:
   const platform::CodePage& Page() const;
 
-  std::string fileName_;
   std::string pageName_;
   bool isUtf8_;
   mutable std::optional<platform::CodePage> page_;  // looked up when first needed
+  mutable bool isPageAssumed_ = false;
 };
 
 // Whether the bytes are UTF-8 throughout and hold something beyond ASCII. Texts of a code page that are UTF-8

@@ -15,8 +15,8 @@ struct Point {
   bool operator==(const Point&) const = default;
 };
 
-// Texts are bytes of the drawing's code page, without escapes, and stay the caller's; they are read during
-// the call alone. Coordinates in drawing units.
+// Texts are as they stand in the file (TextCodec.h) and stay the caller's; they are read during the call
+// alone. Coordinates in drawing units.
 struct TypedTag {
   int code = 0;
   std::variant<std::string_view, std::int64_t, double, Point> value;

@@ -97,9 +97,9 @@ std::uint64_t Edits::AddCheckedEntity(std::span<const TypedTag> tags) {
   for (const TypedTag& tag : tags.subspan(1, extended - 1)) {
     if (tag.code == CODE_SUBCLASS && !HasSubclassMarkers(rules_.version)) continue;
     if (tag.code == CODE_LAYER) {
-      WriteTag(writer, codec_, {CODE_LAYER, std::string_view(entries_.RequireLayer(TextOf(tag)))});
+      WriteTag(writer, {CODE_LAYER, std::string_view(entries_.RequireLayer(TextOf(tag)))});
     } else {
-      WriteTag(writer, codec_, tag);
+      WriteTag(writer, tag);
     }
   }
   const std::string_view body = store_.Add(scratch_);
@@ -162,7 +162,7 @@ std::string_view Edits::ExtendedData(std::span<const TypedTag> tags) {
   scratch_.clear();
   TagWriter writer(scratch_, rules_.lineEnd);
   for (const TypedTag& tag : tags)
-    if (tag.code != CODE_XDATA_MARKER) WriteTag(writer, codec_, tag);
+    if (tag.code != CODE_XDATA_MARKER) WriteTag(writer, tag);
   lastExtendedData_ = store_.Add(scratch_);
   lastKey_ = std::move(key);
   lastShape_ = ShapeOf(tags, Integers::DoNotCount);

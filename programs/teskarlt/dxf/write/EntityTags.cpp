@@ -60,7 +60,13 @@ void CheckApplication(std::string_view name) {
 
 void CheckText(const TypedTag& tag) {
   const auto text = ValueOf<std::string_view>(tag, "text");
-  if (text.find('\0') != std::string_view::npos) Refuse(tag.code, "holds a text with a zero byte");
+  const bool isLine =
+      std::none_of(text.begin(), text.end(), [](char byte) { return byte >= '\0' && byte < ' '; });
+  if (!isLine) Refuse(tag.code, "holds a text with a control character");
+  if (tag.code == CODE_XDATA_TEXT && text.size() > LONGEST_EXTENDED_TEXT) {
+    Refuse(tag.code, fmt::format("holds a text of {} bytes, and {} is the most that a drawing can hold",
+                                 text.size(), LONGEST_EXTENDED_TEXT));
+  }
   if (tag.code == CODE_XDATA_APPLICATION) CheckApplication(text);
 }
 
@@ -161,18 +167,12 @@ void CheckTags(std::span<const TypedTag> tags) {
   }
 }
 
-void WriteTag(TagWriter& writer, const TextCodec& codec, const TypedTag& tag) {
+void WriteTag(TagWriter& writer, const TypedTag& tag) {
   if (const auto* const point = std::get_if<Point>(&tag.value)) return writer.Coordinates(tag.code, *point);
   if (const auto* const real = std::get_if<double>(&tag.value)) return writer.Real(tag.code, *real);
   if (const auto* const integer = std::get_if<std::int64_t>(&tag.value))
     return writer.Integer(tag.code, *integer);
-  std::string raw;
-  codec.Encode(TextOf(tag), raw);
-  if (tag.code == CODE_XDATA_TEXT && raw.size() > LONGEST_EXTENDED_TEXT) {
-    Refuse(tag.code, fmt::format("holds a text of {} bytes, and {} is the most that a drawing can hold",
-                                 raw.size(), LONGEST_EXTENDED_TEXT));
-  }
-  writer.Text(tag.code, raw);
+  writer.Text(tag.code, TextOf(tag));
 }
 
 }  // namespace teskarlt::dxf

@@ -5,7 +5,6 @@
 #include <span>
 #include <string_view>
 
-#include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/dxf/tags/TypedTag.h"
 #include "teskarlt/dxf/write/TagWriter.h"
 
@@ -29,8 +28,7 @@ std::size_t ShapeOf(std::span<const TypedTag> tags, Integers integers);
 // The text of a tag that holds one.
 std::string_view TextOf(const TypedTag& tag);
 
-// Writes a tag that passed the check; throws Error for
-// an extended text that is too long once it is encoded.
-void WriteTag(TagWriter& writer, const TextCodec& codec, const TypedTag& tag);
+// Writes a tag that passed the check.
+void WriteTag(TagWriter& writer, const TypedTag& tag);
 
 }  // namespace teskarlt::dxf

@@ -38,7 +38,7 @@ class NewGroups {
 
   // The handle of a group to be made; 0 where the drawing has none.
   std::uint64_t AllocateHandle();
-  // Adds the group. A name that is taken gets a number behind it. Texts are bytes of the code page.
+  // Adds the group. A name that is taken gets a number behind it. Texts are as they stand in the file.
   void Add(std::uint64_t handle, std::string_view name, std::string_view description,
            std::span<const std::uint64_t> members);
   // Adds members to a group of the file.

@@ -64,12 +64,12 @@ const std::string& NewTableEntries::RequireLayer(std::string_view name) {
   if (const auto known = layers_.find(name); known != layers_.end()) return known->second;
   std::string used(name);
   if (name.empty() || !Has(TableKind::Layer, name)) {
-    const std::string allowed = AllowedLayerName(codec_.ToUtf8(name), rules_.version);
+    const std::string allowed = AllowedLayerName(codec_.Decode(name), rules_.version);
     if (!HasFolded(TableKind::Layer, FoldedName(allowed))) {
       RequireLinetype(LINETYPE_CONTINUOUS);
       Add(TableKind::Layer, allowed);
     }
-    used = codec_.ToCodePage(allowed);
+    used = codec_.Encode(allowed);
   }
   return layers_.emplace(name, std::move(used)).first->second;
 }
@@ -87,12 +87,12 @@ void NewTableEntries::RequireLinetype(std::string_view name) {
 
 void NewTableEntries::RequireApplication(std::string_view name) {
   if (applications_.contains(name)) return;
-  if (!Has(TableKind::Application, name)) Add(TableKind::Application, codec_.ToUtf8(name));
+  if (!Has(TableKind::Application, name)) Add(TableKind::Application, codec_.Decode(name));
   applications_.emplace(name, std::string());
 }
 
 bool NewTableEntries::Has(TableKind kind, std::string_view name) const {
-  return HasFolded(kind, FoldedName(codec_.ToUtf8(name)));
+  return HasFolded(kind, FoldedName(codec_.Decode(name)));
 }
 
 bool NewTableEntries::HasFolded(TableKind kind, const std::string& foldedName) const {
@@ -185,8 +185,7 @@ void NewTableEntries::Add(TableKind kind, std::string_view utf8Name) {
   std::string foldedName = FoldedName(utf8Name);
   if (HasFolded(kind, foldedName)) return;  // came with the table
   const EntryHead head{rules_.version, AllocateEntryHandle(), owner};
-  std::string raw;
-  codec_.Encode(codec_.ToCodePage(utf8Name), raw);
+  const std::string raw = codec_.Encode(utf8Name);
   entries_.push_back({kind, std::move(foldedName), EntryText(kind, raw, head), false, 0});
 }
 

@@ -20,7 +20,7 @@
 
 namespace teskarlt::dxf {
 
-// All references must outlive the object. Names are bytes of the drawing's code page. Throws Error.
+// All references must outlive the object. Names are as they stand in the file. Throws Error.
 class NewTableEntries {
  public:
   NewTableEntries(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules,

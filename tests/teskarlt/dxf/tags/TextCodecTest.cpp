@@ -5,15 +5,9 @@
 namespace teskarlt::dxf {
 namespace {
 
-const TextCodec CZECH("roof.dxf", "ANSI_1250", false);
-const TextCodec UNICODE("roof.dxf", "ANSI_1250", true);
-const TextCodec JAPANESE("roof.dxf", "dos932", false);
-
-std::string Encoded(const TextCodec& codec, std::string_view bytes) {
-  std::string raw;
-  codec.Encode(bytes, raw);
-  return raw;
-}
+const TextCodec CZECH("ANSI_1250", false);
+const TextCodec UNICODE("ANSI_1250", true);
+const TextCodec JAPANESE("dos932", false);
 
 TEST(TextCodecDecode, PlainTextIsItself) {
   EXPECT_EQ(CZECH.Decode("  Roof 1 "), "  Roof 1 ");
@@ -56,52 +50,73 @@ TEST(TextCodecDecode, ControlCharacters) {
   EXPECT_EQ(CZECH.Decode("a^Jb^Ic^ d"), "a\nb\tc^d");
 }
 
-TEST(TextCodecEncode, BytesOfTheCodePageStay) {
-  EXPECT_EQ(Encoded(CZECH, "okn\xED"), "okn\xED");
+TEST(TextCodecEncode, CharactersOfTheCodePageAreItsBytes) {
+  EXPECT_EQ(CZECH.Encode("okní ř"), "okn\xED \xF8");
 }
 
-TEST(TextCodecEncode, NewerVersionsGetUtf8) {
-  EXPECT_EQ(Encoded(UNICODE, "okn\xED \xF8"), "okní ř");
+TEST(TextCodecEncode, Utf8FileHoldsEveryCharacter) {
+  EXPECT_EQ(UNICODE.Encode("okní 天窓 \xF0\x9F\x8F\xA0"), "okní 天窓 \xF0\x9F\x8F\xA0");
+}
+
+TEST(TextCodecEncode, CharactersThatThePageLacksAreEscaped) {
+  EXPECT_EQ(CZECH.Encode("ř天"), "\xF8\\U+5929");
+  EXPECT_EQ(CZECH.Encode("ř\xF0\x9F\x8F\xA0"), "\xF8\\U+D83C\\U+DFE0");
 }
 
 TEST(TextCodecEncode, ControlCharactersAndCaret) {
-  EXPECT_EQ(Encoded(CZECH, "a\nb\tc^d"), "a^Jb^Ic^ d");
+  EXPECT_EQ(CZECH.Encode("a\nb\tc^d"), "a^Jb^Ic^ d");
 }
 
 TEST(TextCodecEncode, BlanksAtBothEndsStay) {
-  EXPECT_EQ(Encoded(CZECH, "  a "), "  a ");
-  EXPECT_EQ(Encoded(CZECH, ""), "");
+  EXPECT_EQ(CZECH.Encode("  a "), "  a ");
+  EXPECT_EQ(CZECH.Encode(""), "");
 }
 
 TEST(TextCodecEncode, WhatLooksLikeAnEscapeIsEscaped) {
-  EXPECT_EQ(Encoded(CZECH, "\\U+0159"), "\\U+005CU+0159");
+  EXPECT_EQ(CZECH.Encode("\\U+0159"), "\\U+005CU+0159");
   EXPECT_EQ(CZECH.Decode("\\U+005CU+0159"), "\\U+0159");
 }
 
 TEST(TextCodecEncode, SecondByteOfADoubleByteCharacterIsNoCaret) {
-  const std::string bytes = JAPANESE.ToCodePage("ソ構ポ十^");  // second bytes 5C, 5C, 5C and 5C
-  EXPECT_EQ(Encoded(JAPANESE, bytes), bytes + " ");
-  EXPECT_EQ(Encoded(JAPANESE, "\x83\x5E"), "\x83\x5E");  // タ
+  EXPECT_EQ(JAPANESE.Encode("ソ構^"), "\x83\x5C\x8D\x5C^ ");
+  EXPECT_EQ(JAPANESE.Encode("タ"), "\x83\x5E");
 }
 
-TEST(TextCodec, EveryTextOfThePageComesBack) {
-  for (int byte = 1; byte < 256; ++byte) {
-    const std::string text = "^" + std::string(1, static_cast<char>(byte)) + "\\U+0041";
-    for (const TextCodec* codec : {&CZECH, &UNICODE})
-      EXPECT_EQ(codec->ToCodePage(codec->Decode(Encoded(*codec, text))), text) << byte;
+// Bytes that are UTF-8 by chance would make the whole drawing be read as UTF-8.
+TEST(TextCodecEncode, BytesThatLookLikeUtf8AreEscaped) {
+  EXPECT_EQ(TextCodec("ANSI_1252", false).Encode("Ã©"), "\\U+00C3\\U+00A9");  // C3 A9, an "é" in UTF-8
+}
+
+TEST(TextCodecEncode, MalformedUtf8IsRefused) {
+  for (const TextCodec* codec : {&CZECH, &UNICODE})
+    EXPECT_EQ(ErrorOf([&] { return codec->Encode("a\xED"); }), "the text is not UTF-8");
+}
+
+TEST(TextCodec, EveryCharacterComesBack) {
+  const TextCodec unknown("UNDEFINED", false);
+  for (char32_t character = 0; character <= 0x10FFFF; character += character < 0x500 ? 1 : 0x101) {
+    if (character >= 0xD800 && character < 0xE000) continue;  // halves of pairs are no characters
+    std::string text = "^";
+    platform::AppendUtf8(text, character);
+    text += "\\U+0041";
+    for (const TextCodec* codec : {&CZECH, &UNICODE, &JAPANESE, &unknown})
+      EXPECT_EQ(codec->Decode(codec->Encode(text)), text) << std::uint32_t{character};
   }
 }
 
-TEST(TextCodec, CharacterThatThePageLacksIsNamed) {
-  EXPECT_EQ(ErrorOf([] { return CZECH.ToCodePage("a日b"); }),
-            "roof.dxf: the character \"日\" (U+65E5) does not exist in code page 1250");
+TEST(TextCodec, UnknownCodePageIsTakenForTheWesternOneWithANote) {
+  const TextCodec codec("UNDEFINED", false);
+  EXPECT_EQ(codec.Decode("Roof"), "Roof");
+  EXPECT_EQ(codec.Note(), "");  // nothing was doubtful yet
+  EXPECT_EQ(codec.Decode("\xE9"), "é");
+  EXPECT_EQ(codec.Encode("é"), "\xE9");
+  EXPECT_EQ(codec.Note(),
+            "the code page \"UNDEFINED\" is not known; texts beyond ASCII are taken to be in ANSI_1252");
 }
 
-TEST(TextCodec, UnknownCodePageMattersOnlyBeyondAscii) {
-  const TextCodec codec("roof.dxf", "EBCDIC", false);
-  EXPECT_EQ(codec.Decode("Roof"), "Roof");
-  EXPECT_EQ(codec.ToCodePage("Roof"), "Roof");
-  EXPECT_EQ(ErrorOf([&] { return codec.Decode("\xED"); }), "roof.dxf: the code page \"EBCDIC\" is not known");
+TEST(TextCodec, KnownCodePageNeedsNoNote) {
+  EXPECT_EQ(CZECH.Decode("\xE8"), "č");
+  EXPECT_EQ(CZECH.Note(), "");
 }
 
 TEST(FoldedName, CaseDoesNotMatterInLatinGreekAndCyrillic) {
