@@ -63,7 +63,6 @@ void DropNested(std::vector<Splice>& splices) {
 Edits::Edits(const SourceText& source, const Index& index, const TextCodec& codec, const Rules& rules)
     : source_(source),
       index_(index),
-      codec_(codec),
       rules_(rules),
       handles_(SeedOf(index, rules)),
       entries_(source, index, codec, rules, handles_),
@@ -199,7 +198,7 @@ void Edits::Redraw(const Entity& entity, std::span<const TypedTag> tags, Linetyp
     grouping_->members.push_back(entity.handle);
     if (groups_.NamesOwners()) redrawn.reactor = grouping_->newGroup;
   }
-  AddRedrawSplices(source_, codec_, rules_, entity.text, redrawn, replaced_);
+  AddRedrawSplices(source_, rules_, entity.text, redrawn, replaced_);
   const std::size_t number = NumberOf(entity);
   if (!isRemoved_[number]) return;
   isRemoved_[number] = false;

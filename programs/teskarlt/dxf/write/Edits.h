@@ -90,7 +90,6 @@ class Edits {
 
   const SourceText& source_;
   const Index& index_;
-  const TextCodec& codec_;
   const Rules& rules_;
   HandleSeed handles_;
   NewTableEntries entries_;

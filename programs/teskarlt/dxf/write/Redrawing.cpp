@@ -29,10 +29,9 @@ bool IsGeometry(int code) {
 
 class Redrawing {
  public:
-  Redrawing(const SourceText& source, const TextCodec& codec, const Rules& rules, const Redrawn& redrawn,
+  Redrawing(const SourceText& source, const Rules& rules, const Redrawn& redrawn,
             std::vector<Splice>& splices)
       : source_(source),
-        codec_(codec),
         rules_(rules),
         redrawn_(redrawn),
         splices_(splices),
@@ -62,7 +61,7 @@ class Redrawing {
     std::string text;
     TagWriter writer(text, rules_.lineEnd);
     for (const TypedTag& tag : redrawn_.tags.first(ExtendedDataBegin(redrawn_.tags)))
-      if (wanted(tag)) WriteTag(writer, codec_, tag);
+      if (wanted(tag)) WriteTag(writer, tag);
     return text;
   }
 
@@ -115,7 +114,6 @@ class Redrawing {
   void Insert(const char* at, std::string text) { splices_.push_back({at, at, std::move(text)}); }
 
   const SourceText& source_;
-  const TextCodec& codec_;
   const Rules& rules_;
   const Redrawn& redrawn_;
   std::vector<Splice>& splices_;
@@ -130,9 +128,9 @@ class Redrawing {
 
 }  // namespace
 
-void AddRedrawSplices(const SourceText& source, const TextCodec& codec, const Rules& rules,
-                      std::string_view entity, const Redrawn& redrawn, std::vector<Splice>& splices) {
-  Redrawing(source, codec, rules, redrawn, splices).Run(entity);
+void AddRedrawSplices(const SourceText& source, const Rules& rules, std::string_view entity,
+                      const Redrawn& redrawn, std::vector<Splice>& splices) {
+  Redrawing(source, rules, redrawn, splices).Run(entity);
 }
 
 }  // namespace teskarlt::dxf

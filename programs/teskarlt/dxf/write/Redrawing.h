@@ -8,7 +8,6 @@
 
 #include "teskarlt/dxf/tags/SourceText.h"
 #include "teskarlt/dxf/tags/Splice.h"
-#include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/dxf/tags/TypedTag.h"
 #include "teskarlt/dxf/write/Rules.h"
 
@@ -28,7 +27,7 @@ struct Redrawn {
 
 // Adds what gives the entity, a line or 3D face with that text, its new points and numbers. All else stays:
 // handle, owner, layer, colour, other applications' data. The extended data must outlive the splices.
-void AddRedrawSplices(const SourceText& source, const TextCodec& codec, const Rules& rules,
-                      std::string_view entity, const Redrawn& redrawn, std::vector<Splice>& splices);
+void AddRedrawSplices(const SourceText& source, const Rules& rules, std::string_view entity,
+                      const Redrawn& redrawn, std::vector<Splice>& splices);
 
 }  // namespace teskarlt::dxf
