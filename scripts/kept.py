@@ -23,10 +23,13 @@ def folder():
 
 @functools.cache
 def digest_of_sources():
-    """Of every file that git knows or would take."""
+    """Of every file that git knows or would take; None without git or outside of a clone."""
     digest = hashlib.sha256()
-    names = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT,
-                           capture_output=True, check=True).stdout
+    try:
+        names = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT,
+                               capture_output=True, check=True).stdout
+    except (FileNotFoundError, subprocess.CalledProcessError):
+        return None
     for name in sorted(name for name in names.decode().split("\0") if name):
         path = ROOT / name
         digest.update(name.encode() + (path.read_bytes() if path.is_file() else b"none"))
@@ -49,7 +52,11 @@ def digest_of_programs(preset):
 
 
 def key(suite, presets):
-    digest = hashlib.sha256(digest_of_sources() + digest_of_machine())
+    """The name under which the suite's results are kept; None where nobody can tell what decides them."""
+    sources = digest_of_sources()
+    if sources is None:
+        return None
+    digest = hashlib.sha256(sources + digest_of_machine())
     for preset in presets:
         digest.update(digest_of_programs(preset))
     return f"{suite}-{digest.hexdigest()}"
