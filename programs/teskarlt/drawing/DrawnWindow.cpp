@@ -165,7 +165,8 @@ std::vector<Entities> Split(const dxf::Document& drawing, const DrawnWindow& win
   return inOrder;
 }
 
-void AddWithCopies(const dxf::Document& drawing, DrawnWindow window, std::vector<DrawnWindow>& windows) {
+void AddWithCopies(const dxf::Document& drawing, const DrawnWindow& window,
+                   std::vector<DrawnWindow>& windows) {
   for (Entities& entities : Split(drawing, window)) {
     DrawnWindow& copy = windows.emplace_back(window);
     copy.faces = FacesAmong(entities);
@@ -232,8 +233,8 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
     if (IsFace(entity)) ++window.faces;
   }
   std::vector<DrawnWindow> withCopies;
-  for (DrawnWindow& window : windows)
-    AddWithCopies(drawing, std::move(window), withCopies);
+  for (const DrawnWindow& window : windows)
+    AddWithCopies(drawing, window, withCopies);
   std::stable_sort(withCopies.begin(), withCopies.end(), [](const DrawnWindow& a, const DrawnWindow& b) {
     return a.entities.front() < b.entities.front();  // of one array
   });

@@ -1,11 +1,11 @@
 // WindowParts.h - where the parts of a window lie, in the order in which they were drawn.
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <map>
 #include <span>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "teskarlt/drawing/DrawnWindow.h"
@@ -34,7 +34,9 @@ struct PartRole {
   bool isFace;
   int number;
   bool IsMark() const;  // a line of an opening mark, whose linetype the opening code tells
-  auto operator<=>(const PartRole&) const = default;
+  bool operator<(const PartRole& other) const {
+    return std::tie(isFace, number) < std::tie(other.isFace, other.number);
+  }
 };
 
 // The roles of the faces, and of the lines, of a window in the order in which they are drawn.
