@@ -87,9 +87,10 @@ void PrintText(const RefitOptions& options, const RefitReport& report) {
     fmt::print("{} window{} fit{} as {}.\n", report.fitting, report.fitting == 1 ? "" : "s",
                report.fitting == 1 ? "s" : "", report.fitting == 1 ? "it is" : "they are");
   }
-  if (const std::size_t staying = report.staying.size(); staying > 0)
+  if (const std::size_t staying = report.staying.size(); staying > 0) {
     fmt::print("{} window{} no roof face of {} own.\n", staying, staying == 1 ? " has" : "s have",
                staying == 1 ? "its" : "their");
+  }
   if (count + report.fitting + report.staying.size() + report.problems.size() == 0)
     fmt::print("{} holds no roof window.\n", options.target.File());
 }

@@ -89,9 +89,10 @@ std::vector<std::vector<const dxf::Entity*>> GroupByPlace(const dxf::Document& d
   points.reserve(entities.size() * 4);
   for (std::size_t i = 0; i < entities.size(); ++i) {
     const WindowParts part = ReadParts(drawing, {&entities[i], 1});
-    for (const PartCorners& corners : part.faces)
+    for (const PartCorners& corners : part.faces) {
       for (const Vec3& corner : corners)
         points.push_back({corner, i});
+    }
     for (const PartCorners& ends : part.lines) {
       points.push_back({ends[0], i});
       points.push_back({ends[1], i});

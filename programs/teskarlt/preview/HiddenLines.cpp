@@ -103,11 +103,12 @@ std::vector<Part> HiddenLines::Visible(const Vec3& a, const Vec3& b) {
                          [&](const PictureTriangle& triangle) { line.HideBehind(triangle); });
   std::vector<Part> visible = std::move(line).Visible();
   steps_ += visible.size() * STEPS_OF_A_PART;
-  if (steps_ > mostSteps_)
+  if (steps_ > mostSteps_) {
     throw Error(
         file_ +
         ": too many surfaces hide parts of one another for a picture with lines; give some of the layers "
         "with --layer, or write a .html or .glb");
+  }
   return visible;
 }
 
