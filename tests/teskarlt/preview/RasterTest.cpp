@@ -80,7 +80,7 @@ TEST(Render, DashesOfALineAreToldApart) {
   PictureOptions options;
   options.view = FindView("plan");
   options.width = 200;  // 184 pixels between the margins, in periods of 6
-  EXPECT_NEAR(DarkRunsInTheMiddle(Render(SceneOf(line), options)), 184 / 6, 2);
+  EXPECT_NEAR(DarkRunsInTheMiddle(Render(SceneOf(line), options)), 184 / 6.0, 2);
 }
 
 TEST(Render, OfEquallyNearSurfacesTheFirstIsSeen) {
