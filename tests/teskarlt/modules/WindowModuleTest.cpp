@@ -23,7 +23,7 @@ std::string ErrorOf(const std::function<void()>& command) {
 class WindowModuleTest : public testing::Test {
  protected:
   dxf::Document drawing = Drawing("", "");
-  const WindowRequest request;
+  const WindowRequest request{};
   const WindowModule module;
   const std::string dialog = ProgramFolder() + "BREVANTA_D.CRX";
 };
