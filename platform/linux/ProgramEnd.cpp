@@ -10,7 +10,9 @@
 namespace platform {
 namespace {
 
-constexpr int ENDING_SIGNALS[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE};
+// Those that come from outside, or when a limit of the user is met.
+constexpr int ENDING_SIGNALS[] = {SIGINT,  SIGTERM, SIGHUP,  SIGQUIT, SIGPIPE,
+                                  SIGALRM, SIGUSR1, SIGUSR2, SIGXCPU, SIGXFSZ};
 
 // A signal can come at any time, so its handler reads static memory and calls the kernel, nothing else.
 char fileAtEnd[PATH_MAX];

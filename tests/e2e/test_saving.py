@@ -1,4 +1,5 @@
 # test_saving.py - what a save adds to drawings of other programs, and what is left of it when it is cut off or fails.
+import resource
 import signal
 import subprocess
 import time
@@ -11,7 +12,7 @@ from roofs import Roof
 
 AT = ("--at", "2500,1200")
 HARD = [(1000, "TREAT_AS_HARD"), (1070, 0)]
-ENDINGS = ("SIGINT", "SIGTERM", "SIGHUP")
+ENDINGS = ("SIGINT", "SIGTERM", "SIGHUP", "SIGXCPU")
 
 
 def dictionaries_with_data(path, version, has_groups=True):
@@ -94,13 +95,27 @@ def test_program_that_is_ended_leaves_no_temporary_file(teskarlt, tmp_path, endi
         pytest.skip("there are no signals")
     path = lines_of(tmp_path / "roof.dxf", 600_000)
     before = path.stat().st_mtime_ns
-    program = subprocess.Popen([teskarlt.path, "insert", path, "--at", "0,0"], stdout=subprocess.DEVNULL)
+    number = getattr(signal, ending)
+    # Whoever starts the tests may ignore signals (nohup), which programs inherit.
+    program = subprocess.Popen([teskarlt.path, "insert", path, "--at", "0,0"], stdout=subprocess.DEVNULL,
+                               preexec_fn=lambda: signal.signal(number, signal.SIG_DFL))
     while not temporary_files(tmp_path) and program.poll() is None:
         time.sleep(0.001)
-    program.send_signal(getattr(signal, ending))
-    assert program.wait() == -getattr(signal, ending)
+    program.send_signal(number)
+    assert program.wait() == -number
     assert temporary_files(tmp_path) == []
     assert path.stat().st_mtime_ns == before
+
+
+def test_program_that_may_not_write_so_much_leaves_no_temporary_file(teskarlt, tmp_path):
+    if teskarlt.windows:
+        pytest.skip("there is no such limit")
+    path = lines_of(tmp_path / "roof.dxf", 100_000)
+    before, most = path.read_bytes(), 1_000_000
+    program = subprocess.run([teskarlt.path, "insert", path, "--at", "0,0"], capture_output=True,
+                             preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (most, most)))
+    assert program.returncode == -signal.SIGXFSZ
+    assert temporary_files(tmp_path) == [] and path.read_bytes() == before
 
 
 def test_signal_that_is_ignored_stays_ignored(teskarlt, tmp_path):
