@@ -71,8 +71,15 @@ bool IsOneOf(std::string_view name, std::initializer_list<std::string_view> name
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
+// The direction of pickOffset is read in the roof's frame and described in the drawing's, where it follows
+// from the roof.
+bool IsDirectionOfPick(const RecordField& field) {
+  return field.name == "rotation";
+}
+
 bool Matters(const RecordField& field, const WindowParams& before, const WindowParams& after) {
-  if (IsOneOf(field.name, {"placeByHeight", "pickOffset", "insertionPoint"})) return false;
+  if (IsDirectionOfPick(field) || IsOneOf(field.name, {"placeByHeight", "pickOffset", "insertionPoint"}))
+    return false;
   if (field.name == "secondPlanePoints") return !IsUnderside(after, SAME * after.unitFactor);
   return field.name != "slopeOffset" || before.roofBuildUp == brevanta::BUILD_UP_SLOPE_OFFSET ||
          after.roofBuildUp == brevanta::BUILD_UP_SLOPE_OFFSET;
@@ -90,11 +97,12 @@ std::vector<const RecordField*> ChangedFields(const WindowParams& before, const 
 }
 
 bool DiffersFromDescription(const WindowParams& described, const WindowParams& after) {
-  return std::any_of(
-      brevanta::DESCRIPTION.begin(), brevanta::DESCRIPTION.end(), [&](const brevanta::DescriptionItem& item) {
-        const RecordField* const field = item.Field();
-        return field != nullptr && field->kind != FieldKind::Text && !IsSame(*field, described, after);
-      });
+  return std::any_of(brevanta::DESCRIPTION.begin(), brevanta::DESCRIPTION.end(),
+                     [&](const brevanta::DescriptionItem& item) {
+                       const RecordField* const field = item.Field();
+                       return field != nullptr && field->kind != FieldKind::Text &&
+                              !IsDirectionOfPick(*field) && !IsSame(*field, described, after);
+                     });
 }
 
 }  // namespace teskarlt

@@ -59,6 +59,13 @@ TEST(WindowChanges, OffsetCountsWhereItIsUsed) {
   EXPECT_THAT(NamesOf(before, after), ElementsAre("slopeOffset"));
 }
 
+TEST(WindowChanges, DirectionOfThePickIsNoChange) {
+  WindowParams after = OnRoof();
+  after.rotation = 1;
+  EXPECT_THAT(NamesOf(OnRoof(), after), ElementsAre());
+  EXPECT_FALSE(DiffersFromDescription(OnRoof(), after));
+}
+
 TEST(WindowChanges, DescriptionDiffersByWhatItHolds) {
   WindowParams after = OnRoof();
   after.bodyAsFaces = 1;  // which no description holds
