@@ -241,11 +241,19 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
   return withCopies;
 }
 
-WindowNumbers NumbersOf(const std::vector<DrawnWindow>& windows) {
+WindowNumbers NumbersOf(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows) {
   WindowNumbers numbers;
+  numbers.KeepTaken(drawing.ApplicationNumber(brevanta::ELEMENT_APPLICATION).value_or(0));
   for (const DrawnWindow& window : windows)
     numbers.Take(window.number);
   return numbers;
+}
+
+void KeepNumberTaken(dxf::Document& drawing, const std::vector<DrawnWindow>& windows, std::int32_t number) {
+  const bool isHighest = std::none_of(windows.begin(), windows.end(),
+                                      [&](const DrawnWindow& window) { return window.number > number; });
+  if (isHighest && number > drawing.ApplicationNumber(brevanta::ELEMENT_APPLICATION).value_or(0))
+    drawing.KeepApplicationNumber(brevanta::ELEMENT_APPLICATION, number);
 }
 
 }  // namespace teskarlt

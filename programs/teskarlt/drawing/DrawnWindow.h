@@ -65,7 +65,11 @@ std::string EntityMismatch(const DrawnWindow& window);
 // in drawing units per metre. The drawing must outlive the result.
 std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor);
 
-// The numbers of the windows.
-WindowNumbers NumbersOf(const std::vector<DrawnWindow>& windows);
+// The numbers of the windows, and those that the drawing keeps taken.
+WindowNumbers NumbersOf(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows);
+
+// Keeps the number of a window that goes from being given again, if none of the windows has a higher one.
+// Once before the drawing is saved.
+void KeepNumberTaken(dxf::Document& drawing, const std::vector<DrawnWindow>& windows, std::int32_t number);
 
 }  // namespace teskarlt

@@ -24,6 +24,9 @@ class WindowNumbers {
     return highest_ < std::numeric_limits<std::int32_t>::max() ? highest_ + 1 : lowestFree_;
   }
 
+  // Gives no number up to this one any more while there is a higher one.
+  void KeepTaken(std::int32_t number) { highest_ = std::max(highest_, number); }
+
   void Take(std::int32_t number) {
     taken_.insert(number);
     highest_ = std::max(highest_, number);

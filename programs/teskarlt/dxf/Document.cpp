@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 #include <utility>
 
 #include "platform/FileOperations.h"
@@ -12,6 +13,7 @@
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 #include "teskarlt/dxf/tags/Version.h"
+#include "teskarlt/dxf/write/ApplicationNumber.h"
 #include "teskarlt/dxf/write/Rules.h"
 
 namespace teskarlt::dxf {
@@ -184,6 +186,15 @@ Layers Document::ReadLayers() const {
   return Layers(TagLists(SectionText(SECTION_TABLES)));
 }
 
+std::optional<std::int32_t> Document::ApplicationNumber(std::string_view name) const {
+  const auto entry = FindApplicationEntry(state_->source, state_->index, name);
+  const auto number = entry && entry->number.code != 0 ? ParseInteger(entry->number.value) : std::nullopt;
+  if (!number || *number < std::numeric_limits<std::int32_t>::min() ||
+      *number > std::numeric_limits<std::int32_t>::max())
+    return std::nullopt;
+  return static_cast<std::int32_t>(*number);
+}
+
 bool Document::HasLayer(std::string_view name) const {
   return state_->edits.TableEntries().Has(TableKind::Layer, name);
 }
@@ -222,6 +233,10 @@ void Document::Redraw(const Entity& entity, std::span<const TypedTag> tags, Line
 
 void Document::ReplaceValue(const Tag& tag, std::string value) {
   state_->edits.ReplaceValue(tag, std::move(value));
+}
+
+void Document::KeepApplicationNumber(std::string_view name, std::int32_t number) {
+  state_->edits.KeepApplicationNumber(name, number);
 }
 
 void Document::BeginGroup(std::span<const Entity* const> replaced) {

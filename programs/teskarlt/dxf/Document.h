@@ -65,6 +65,8 @@ class Document {
   TagReader Reader(const Entity& entity) const;
   // The tags of an entity and of its vertices or attributes, or whatever else the range of the file holds.
   std::vector<TagList> TagLists(std::string_view range) const;
+  // The number that KeepApplicationNumber left with the drawing; nothing without a readable one.
+  std::optional<std::int32_t> ApplicationNumber(std::string_view name) const;
   // Number of entities that are not in the model space but in paper space.
   std::size_t PaperSpaceEntities() const;
 
@@ -106,6 +108,10 @@ class Document {
   // Writes another value, in the drawing's encoding, in the place of the tag's. The tag is one of the file,
   // and none is replaced twice.
   void ReplaceValue(const Tag& tag, std::string value);
+
+  // Keeps a number of an application with the drawing, in its entry in the table APPID; another one gives
+  // way. Does nothing in a drawing that does not declare the application. Once before the drawing is saved.
+  void KeepApplicationNumber(std::string_view name, std::int32_t number);
 
   // From here on to EndGroup, new entities come into those groups of the drawing that list all `replaced`
   // entities, or else into a group of their own, redrawn ones too. A drawing before R13 has no

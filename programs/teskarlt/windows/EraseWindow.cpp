@@ -25,7 +25,9 @@ std::size_t EraseWindow(const WindowModule& module, dxf::Document& drawing, int 
   if (!isLockedToo) RefuseClosedLayers(drawing, window);
   WindowRequest request;
   request.replaced = window.entities;
-  return module.Erase(drawing, request).erased;
+  const std::size_t erased = module.Erase(drawing, request).erased;
+  KeepNumberTaken(drawing, windows, number);
+  return erased;
 }
 
 }  // namespace teskarlt

@@ -23,7 +23,7 @@ void StoreNumber(const DrawnWindow& window, std::int32_t number, dxf::Document& 
 std::vector<Renumbered> RenumberCopies(dxf::Document& drawing) {
   constexpr int anyUnit = 1;  // lengths are compared with lengths of the drawing only
   const std::vector<DrawnWindow> windows = FindWindows(drawing, anyUnit);
-  WindowNumbers taken = NumbersOf(windows);
+  WindowNumbers taken = NumbersOf(drawing, windows);
   std::set<std::int32_t> known;
   std::vector<Renumbered> changes;
   for (const DrawnWindow& window : windows) {

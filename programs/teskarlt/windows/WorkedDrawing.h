@@ -19,7 +19,7 @@ struct WorkedDrawing {
         tolerance(RoofTolerance(unit)),
         roofs(FindRoofs(drawing, tolerance)),
         windows(FindWindows(drawing, unit.perMetre)),
-        numbers(NumbersOf(windows)) {}
+        numbers(NumbersOf(drawing, windows)) {}
 
   dxf::Document& drawing;
   const DrawingUnit& unit;

@@ -89,7 +89,7 @@ TEST(FindWindows, EntitiesWithTheSameDataAreOneWindow) {
   EXPECT_EQ(windows[0].entities.size(), 2U);
   EXPECT_EQ(windows[0].faces, 1U);
   EXPECT_EQ(windows[1].number, 2);
-  EXPECT_EQ(NumbersOf(windows).Free(), 3);
+  EXPECT_EQ(NumbersOf(drawing, windows).Free(), 3);
 }
 
 TEST(FindWindows, SameNumberWithAnotherDescriptionIsAnotherWindow) {

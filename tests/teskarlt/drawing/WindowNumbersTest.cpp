@@ -19,6 +19,14 @@ TEST(WindowNumbers, NumberOfAGapIsNotGivenAgain) {
   EXPECT_EQ(numbers.Free(), 7);
 }
 
+TEST(WindowNumbers, NumberThatIsKeptTakenIsNotGivenAgain) {
+  WindowNumbers numbers{2};
+  numbers.KeepTaken(5);
+  numbers.KeepTaken(1);
+  EXPECT_EQ(numbers.Free(), 6);
+  EXPECT_FALSE(numbers.IsTaken(5));
+}
+
 TEST(WindowNumbers, GapIsTheLastResort) {
   EXPECT_EQ((WindowNumbers{1, 2, std::numeric_limits<std::int32_t>::max()}.Free()), 3);
 }

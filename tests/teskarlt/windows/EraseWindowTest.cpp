@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/windows/EraseWindow.h"
 #include "tests/teskarlt/windows/Houses.h"
 
@@ -14,6 +15,14 @@ TEST(EraseWindow, AllEntitiesOfTheWindowGo) {
   const std::size_t entities = drawing.Entities().size();
   EXPECT_EQ(EraseWindow(module, drawing, 1, false), entities - 1);  // all but the roof
   EXPECT_EQ(Reloaded(drawing).Entities().size(), 1U);
+}
+
+TEST(EraseWindow, NumberOfTheHighestWindowIsNotGivenAgain) {
+  const WindowModule module;
+  dxf::Document drawing = HouseWithWindow();
+  EraseWindow(module, drawing, 1, false);
+  drawing = Reloaded(drawing);
+  EXPECT_EQ(NumbersOf(drawing, FindWindows(drawing, 1000)).Free(), 2);
 }
 
 TEST(EraseWindow, DrawingWithoutWindowsIsRefused) {

@@ -14,6 +14,7 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/Version.h"
+#include "teskarlt/dxf/write/ApplicationNumber.h"
 #include "teskarlt/dxf/write/EntityTags.h"
 #include "teskarlt/dxf/write/Referrers.h"
 #include "teskarlt/dxf/write/TagWriter.h"
@@ -211,6 +212,20 @@ bool Edits::IsRemoved(const Entity& entity) const {
 
 void Edits::ReplaceValue(const Tag& tag, std::string value) {
   replaced_.push_back({tag.value.data(), tag.value.data() + tag.value.size(), std::move(value)});
+}
+
+void Edits::KeepApplicationNumber(std::string_view name, std::int32_t number) {
+  const std::optional<ApplicationEntry> entry = FindApplicationEntry(source_, index_, name);
+  if (!entry) return;
+  if (entry->number.code != 0) {
+    ReplaceValue(entry->number, std::to_string(number));
+    return;
+  }
+  std::string data;
+  TagWriter writer(data, rules_.lineEnd);
+  writer.Text(CODE_XDATA_APPLICATION, name);
+  writer.Integer(CODE_XDATA_INTEGER32, number);
+  replaced_.push_back({entry->end, entry->end, std::move(data)});
 }
 
 // Entities that replace others come into the groups that had all of those.

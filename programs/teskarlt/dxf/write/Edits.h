@@ -46,6 +46,7 @@ class Edits {
   bool IsRemoved(const Entity& entity) const;
   void Redraw(const Entity& entity, std::span<const TypedTag> tags, LinetypeOnRedraw linetype);
   void ReplaceValue(const Tag& tag, std::string value);
+  void KeepApplicationNumber(std::string_view name, std::int32_t number);
   void BeginGroup(std::span<const Entity* const> replaced);
   void EndGroup(std::string_view name, std::string_view description);
   NewTableEntries& TableEntries() { return entries_; }

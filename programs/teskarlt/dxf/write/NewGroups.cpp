@@ -137,8 +137,8 @@ std::vector<std::string> NewGroups::Notes() const {
   if (Opener() == nullptr || !Objects().groupNamesEntry) return {};
   const DictionaryEntry& entry = *Objects().groupNamesEntry;
   const std::string note = fmt::format(
-      "{} led to the object {:X}, which the drawing does not hold, and leads to a new dictionary "
-      "of groups now",
+      "{} led to {:X}, which is no dictionary of the drawing, and leads to a new dictionary of "
+      "groups now",
       GROUP_DICTIONARY, entry.handle);
   return {Error(note, source_.PlaceOf(entry.name.data())).what()};
 }

@@ -312,5 +312,46 @@ TEST(ReplaceValue, PutsTheNewValueInThePlaceOfTheOldOne) {
   EXPECT_FALSE(drawing.IsChanged());
 }
 
+// Complete's drawing with a text of tags behind the entry of the application.
+std::string WithApplicationData(std::string_view version, const std::string& data) {
+  std::string text = Complete(version);
+  const std::string entry = Tags("  2|TK_LT_ELEM");
+  return text.insert(text.find(entry) + entry.size(), data);
+}
+
+TEST(KeepApplicationNumber, ComesBackFromItsTableEntry) {
+  Document drawing = Parsed(Complete("AC1015"));
+  EXPECT_EQ(drawing.ApplicationNumber("TK_LT_ELEM"), std::nullopt);
+  drawing.KeepApplicationNumber("tk_lt_elem", 7);
+  EXPECT_EQ(drawing.Serialize(), WithApplicationData("AC1015", Tags("1001|tk_lt_elem|1071|7")));
+  EXPECT_EQ(Parsed(drawing.Serialize()).ApplicationNumber("TK_LT_ELEM"), 7);
+}
+
+TEST(KeepApplicationNumber, ReplacesTheOneBeforeAndNoOtherApplicationsData) {
+  const auto data = [](const char* number) {
+    return Tags("1001|ACAD|1071|1|1001|TK_LT_ELEM|1000|A|1071|" + std::string(number));
+  };
+  Document drawing = Parsed(WithApplicationData("AC1009", data("4")));
+  EXPECT_EQ(drawing.ApplicationNumber("TK_LT_ELEM"), 4);
+  drawing.KeepApplicationNumber("TK_LT_ELEM", 12);
+  EXPECT_EQ(drawing.Serialize(), WithApplicationData("AC1009", data("12")));
+}
+
+TEST(KeepApplicationNumber, IsNoneForAnUnknownApplicationAndAnUnreadableNumber) {
+  Document drawing = Parsed(WithApplicationData("AC1015", Tags("1001|TK_LT_ELEM|1071|99999999999")));
+  EXPECT_EQ(drawing.ApplicationNumber("TK_LT_ELEM"), std::nullopt);
+  drawing.KeepApplicationNumber("OTHER", 1);
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
+TEST(KeepApplicationNumber, StandsBeforeEntriesThatTheTableGets) {
+  Document drawing = Parsed(Complete("AC1009"));
+  drawing.RequireApplication("OTHER");
+  drawing.KeepApplicationNumber("TK_LT_ELEM", 3);
+  const Document saved = Parsed(drawing.Serialize());
+  EXPECT_EQ(saved.ApplicationNumber("TK_LT_ELEM"), 3);
+  EXPECT_EQ(saved.ApplicationNumber("OTHER"), std::nullopt);
+}
+
 }  // namespace
 }  // namespace teskarlt::dxf
