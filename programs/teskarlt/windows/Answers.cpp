@@ -5,6 +5,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/modules/DataFolder.h"
+#include "window/Choices.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
@@ -20,7 +21,8 @@ void AddSetting(const FieldSetting& setting, const dxf::Document& drawing, Dialo
   }
   try {
     const bool isText = field->kind == brevanta::FieldKind::Text;
-    answers[setting.field] = isText ? drawing.Encode(setting.value) : setting.value;
+    const bool isFixed = setting.field == "openingCode" && setting.value == brevanta::FIXED_GLAZING;
+    answers[setting.field] = isText ? drawing.Encode(isFixed ? "" : setting.value) : setting.value;
   } catch (const Error& error) {
     throw Error(fmt::format("--set {}: {}", setting.field, error.what()), {.value = setting.value});
   }

@@ -36,6 +36,11 @@ TEST_F(AnswersTest, TextThatIsNoUtf8IsRefused) {
               HasSubstr("--set text1: the text is not UTF-8"));
 }
 
+TEST_F(AnswersTest, FixedGlazingIsTheEmptyCode) {
+  EXPECT_EQ(Answers({"openingCode", "-"})["openingCode"], "");
+  EXPECT_EQ(Answers({"text1", "-"})["text1"], "-");
+}
+
 TEST_F(AnswersTest, UnknownFieldIsRefused) {
   EXPECT_EQ(RefusalOf([&] {
               Answers({"depth", "1"});

@@ -4,13 +4,13 @@
 #include "dialog/FieldText.h"
 #include "dialog/Refusal.h"
 #include "inc/LibraryMerge.h"
+#include "window/Choices.h"
 
 namespace brevanta {
 
 namespace {
 
 constexpr double CENTIMETRES_PER_METRE = 100.0;
-constexpr std::string_view FIXED_GLAZING = "-";  // an empty field would leave the default code
 
 void TakeSize(std::string_view name, std::string_view text, double& metres) {
   if (!text.empty()) metres = ParseReal(name, text) / CENTIMETRES_PER_METRE;

@@ -107,7 +107,8 @@ void CheckOpeningCode(const WindowParams& record) {
         "openingCode: " + Quoted(code) + " is not understood from " + Quoted(rest) +
         " on; the letters are B (hinges at the top), C (bottom), D (pivot) and E (side), behind B, C and E "
         "an "
-        "I (inward) or O (outward), behind E also an L or R (hinges left or right, seen from inside)");
+        "I (inward) or O (outward), behind E also an L or R (hinges left or right, seen from inside); - or "
+        "no letter is fixed glazing");
   }
 }
 

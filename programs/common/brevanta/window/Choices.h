@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "inc/WindowParams.h"
 
@@ -32,6 +33,10 @@ constexpr bool HasLevelUpperReveal(const WindowParams& params) {
   return params.heightReference == REVEALS_PLUMB_AND_LEVEL ||
          params.heightReference == REVEALS_SQUARE_AND_LEVEL;
 }
+
+// What users and catalogues write for an empty `openingCode`: an empty field of theirs leaves the code as it
+// is.
+constexpr std::string_view FIXED_GLAZING = "-";
 
 // `widthAnchor`: where the width lies to the anchor; any other value centres it too.
 constexpr std::int32_t ANCHOR_CENTRE = 0;
