@@ -16,7 +16,7 @@ namespace teskarlt {
 enum class RefitKeeps { Plan, Height };
 
 // About a storey: a face that is farther from a window was never its roof.
-constexpr double REFIT_REACH = 3.0;  // metres
+constexpr double REFIT_REACH = 1.0;  // metres
 
 struct RefitOrder {
   std::vector<int> numbers;  // of the windows; none: all
