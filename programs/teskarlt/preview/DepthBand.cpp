@@ -132,6 +132,7 @@ bool DepthBand::FillTile(const Plane& plane, int tileRow, int tileColumn, const 
   ++steps_;
   if (!(plane.NearestIn(tileRow * TILE, left, TILE) > farthest)) return false;
   const auto slope = static_cast<float>(plane.alongRow);
+  bool isFarthestGone = false;
   for (int row = 0; row < TILE; ++row) {
     const auto i = static_cast<std::size_t>(row);
     const int from = std::max(spans.from[i] - left, 0);
@@ -143,11 +144,13 @@ bool DepthBand::FillTile(const Plane& plane, int tileRow, int tileColumn, const 
     for (int k = from; k < to; ++k) {
       const float depth = start + static_cast<float>(k) * slope;
       const bool isSeen = depth > depths[k] || (depth == depths[k] && owner < owners[k]);
+      isFarthestGone |= isSeen & (depths[k] == farthest);
       depths[k] = isSeen ? depth : depths[k];
       owners[k] = isSeen ? owner : owners[k];
     }
   }
   steps_ += STEPS_OF_A_TILE;
+  if (!isFarthestGone) return false;
   const float before = farthest;
   const auto begin = depths_.begin() + static_cast<std::ptrdiff_t>(Index(tileRow * TILE, left));
   farthest = *std::min_element(begin, begin + static_cast<std::ptrdiff_t>(TILE) * TILE);

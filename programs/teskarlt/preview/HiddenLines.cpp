@@ -12,7 +12,8 @@ namespace {
 
 constexpr double RELATIVE_TOLERANCE = 1e-6;
 constexpr double SHORTEST_PART = 1e-9;
-constexpr std::size_t STEPS_OF_A_PART = 64;  // its memory counts as so many boxes
+constexpr std::size_t STEPS_OF_A_PART = 256;  // the memory of one beside the first counts as so many boxes
+constexpr std::size_t PARTS_OF_A_STEP = 8;    // to look at them, or to move them
 
 using Part = std::pair<double, double>;
 
@@ -31,8 +32,11 @@ class Line {
                          Narrow(box.high.z - a_.z - tolerance_, box.high.z - b_.z - tolerance_, part);
     if (!isThere) return 0;
     double visible = 0;
-    for (auto at = FirstBehind(part.first); at != visible_.end() && at->first < part.second; ++at)
+    const auto first = FirstBehind(part.first);
+    auto at = first;
+    for (; at != visible_.end() && at->first < part.second; ++at)
       visible += std::min(at->second, part.second) - std::max(at->first, part.first);
+    parts_ += static_cast<std::size_t>(at - first);
     return visible;
   }
 
@@ -52,6 +56,11 @@ class Line {
 
   std::vector<Part> Visible() && { return std::move(visible_); }
 
+  // What it took besides the boxes that were asked, as steps of HiddenLines.
+  std::size_t Steps() const {
+    return parts_ / PARTS_OF_A_STEP + (visible_.empty() ? 0 : visible_.size() - 1) * STEPS_OF_A_PART;
+  }
+
  private:
   // The first part that ends behind this place.
   std::vector<Part>::const_iterator FirstBehind(double place) const {
@@ -69,6 +78,7 @@ class Line {
     if (hidden.first > begin->first + SHORTEST_PART) rests.emplace_back(begin->first, hidden.first);
     const double last = (end - 1)->second;
     if (last > hidden.second + SHORTEST_PART) rests.emplace_back(hidden.second, last);
+    parts_ += visible_.size();
     visible_.insert(visible_.erase(begin, end), rests.begin(), rests.end());
   }
 
@@ -76,6 +86,7 @@ class Line {
   Vec3 b_;
   double tolerance_;
   std::vector<Part> visible_{{0, 1}};
+  mutable std::size_t parts_ = 0;  // that were looked at or moved
 };
 
 double ToleranceOf(const Scene& scene, const View& view) {
@@ -101,15 +112,14 @@ std::vector<Part> HiddenLines::Visible(const Vec3& a, const Vec3& b) {
   Line line(a, b, tolerance_);
   steps_ += tree_.Search([&](const Box& box) { return line.VisibleBehind(box); },
                          [&](const PictureTriangle& triangle) { line.HideBehind(triangle); });
-  std::vector<Part> visible = std::move(line).Visible();
-  steps_ += visible.size() * STEPS_OF_A_PART;
+  steps_ += line.Steps();
   if (steps_ > mostSteps_) {
     throw Error(
         file_ +
         ": too many surfaces hide parts of one another for a picture with lines; give some of the layers "
         "with --layer, or write a .html or .glb");
   }
-  return visible;
+  return std::move(line).Visible();
 }
 
 }  // namespace teskarlt::preview

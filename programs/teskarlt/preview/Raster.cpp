@@ -11,6 +11,7 @@
 
 #include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/preview/BandLists.h"
 #include "teskarlt/preview/DepthBand.h"
 #include "teskarlt/preview/Picture.h"
 #include "teskarlt/preview/VisibleLines.h"
@@ -64,6 +65,7 @@ class Renderer {
     AddSurfaces();
     for (const VisibleLine& line : lines)
       AddLine(line);
+    ListByBands();
   }
 
   // Nothing when it would take too long.
@@ -127,13 +129,27 @@ class Renderer {
     if (strokes_.size() == 1) firstStroke_ = owner;
   }
 
+  void ListByBands() {
+    const double height = BAND * samples_;
+    const auto bands = static_cast<std::size_t>((picture_.height + BAND - 1) / BAND);
+    surfacesByBand_.emplace(bands, height);
+    for (const Shape& shape : surfaces_) {
+      const auto& [a, b, c] = shape.corners;
+      surfacesByBand_->Add(std::min({a.y, b.y, c.y}), std::max({a.y, b.y, c.y}));
+    }
+    strokesByBand_.emplace(bands, height);
+    const double width = EDGE_WIDTH * samples_;
+    for (const Stroke& stroke : strokes_)
+      strokesByBand_->Add(std::min(stroke.a.y, stroke.b.y) - width, std::max(stroke.a.y, stroke.b.y) + width);
+  }
+
   void RenderBand(DepthBand& band, int firstRow) {
     band.Begin(firstRow * samples_);
-    for (const Shape& shape : surfaces_)
-      band.Fill(shape.corners, shape.owner);
-    auto owner = firstStroke_;
-    for (const Stroke& stroke : strokes_)
-      Draw(stroke, owner++, firstRow, band);
+    const auto number = static_cast<std::size_t>(firstRow / BAND);
+    for (const std::uint32_t i : surfacesByBand_->In(number))
+      band.Fill(surfaces_[i].corners, surfaces_[i].owner);
+    for (const std::uint32_t i : strokesByBand_->In(number))
+      Draw(strokes_[i], firstStroke_ + i, firstRow, band);
     const int rows = std::min(BAND, picture_.height - firstRow);
     for (int row = firstRow; row < firstRow + rows; ++row) {
       for (int column = 0; column < picture_.width; ++column) {
@@ -183,9 +199,21 @@ class Renderer {
     band.Fill({p2, q2, q1}, owner);
   }
 
-  // The middle colour of a pixel's samples.
+  // The middle colour of a pixel's samples, which mostly are of one.
   void Average(const DepthBand& band, int row, int column, std::uint8_t* to) const {
     const std::uint32_t* const owners = band.OwnersFrom(row * samples_, column * samples_);
+    std::uint32_t others = 0;
+    for (int y = 0; y < samples_; ++y) {
+      for (int x = 0; x < samples_; ++x)
+        others |= owners[y * DepthBand::TILE + x] ^ owners[0];
+    }
+    if (others == 0) {
+      const Colour& colour = colours_[owners[0]];
+      to[0] = colour.red;
+      to[1] = colour.green;
+      to[2] = colour.blue;
+      return;
+    }
     int red = 0;
     int green = 0;
     int blue = 0;
@@ -216,6 +244,8 @@ class Renderer {
   std::vector<Shape> surfaces_;
   std::vector<Stroke> strokes_;
   std::uint32_t firstStroke_ = 0;  // owner; those of the others follow
+  std::optional<BandLists> surfacesByBand_;
+  std::optional<BandLists> strokesByBand_;
   Picture picture_;
 };
 

@@ -76,11 +76,6 @@ double PeriodOf(const DashPattern& pattern) {
 
 }  // namespace
 
-void Box::Add(const Vec3& point) {
-  low = {std::min(low.x, point.x), std::min(low.y, point.y), std::min(low.z, point.z)};
-  high = {std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z)};
-}
-
 Vec3 Box::Centre() const {
   return Between(low, high, 0.5);
 }

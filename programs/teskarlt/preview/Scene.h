@@ -2,6 +2,7 @@
 // curves, layers and roof windows, ready for any picture.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -24,7 +25,10 @@ struct Box {
             -std::numeric_limits<double>::infinity()};
 
   bool IsEmpty() const { return low.x > high.x; }
-  void Add(const Vec3& point);
+  void Add(const Vec3& point) {
+    low = {std::min(low.x, point.x), std::min(low.y, point.y), std::min(low.z, point.z)};
+    high = {std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z)};
+  }
   Vec3 Centre() const;
 };
 

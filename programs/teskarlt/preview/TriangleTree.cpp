@@ -4,17 +4,24 @@
 #include <algorithm>
 #include <cmath>
 
+#include "geometry/Vectors.h"
 #include "teskarlt/preview/Picture.h"
 
 namespace teskarlt::preview {
 
 namespace {
 
-Vec3 TwiceTheMiddle(const PictureTriangle& t) {
+Box BoxOf(const PictureTriangle& t) {
   Box box;
   for (const Vec3* corner : {&t.a, &t.b, &t.c})
     box.Add(*corner);
-  return {box.low.x + box.high.x, box.low.y + box.high.y, box.low.z + box.high.z};
+  return box;
+}
+
+// Makes the box one around both; `other` is not empty.
+void Widen(Box& box, const Box& other) {
+  box.Add(other.low);
+  box.Add(other.high);
 }
 
 double Vec3::*LongestDirection(const Box& box) {
@@ -52,40 +59,51 @@ std::vector<PictureTriangle> PictureTriangles(const Scene& scene, const View& vi
   return triangles;
 }
 
-TriangleTree::TriangleTree(std::vector<PictureTriangle> triangles) : triangles_(std::move(triangles)) {
-  if (triangles_.empty()) return;
-  nodes_.reserve(triangles_.size());
-  nodes_.push_back({{}, 0, static_cast<std::uint32_t>(triangles_.size()), 0});
-  Divide(0);
+TriangleTree::TriangleTree(const std::vector<PictureTriangle>& triangles) {
+  if (triangles.empty()) return;
+  std::vector<Item> items;
+  items.reserve(triangles.size());
+  for (const PictureTriangle& triangle : triangles) {
+    const Box box = BoxOf(triangle);
+    items.push_back({geometry::Sum(box.low, box.high), static_cast<std::uint32_t>(items.size())});
+  }
+  nodes_.reserve(triangles.size());
+  nodes_.push_back({{}, 0, static_cast<std::uint32_t>(items.size()), 0});
+  Divide(0, triangles, items);
+  triangles_.reserve(items.size());
+  for (const Item& item : items)
+    triangles_.push_back(triangles[item.triangle]);
 }
 
-void TriangleTree::Divide(std::uint32_t node) {
+void TriangleTree::Divide(std::uint32_t node, const std::vector<PictureTriangle>& from,
+                          std::vector<Item>& items) {
   const std::uint32_t first = nodes_[node].first;
   const std::uint32_t count = nodes_[node].count;
   Box box;
-  Box middles;
-  for (std::uint32_t i = first; i < first + count; ++i) {
-    for (const Vec3* corner : {&triangles_[i].a, &triangles_[i].b, &triangles_[i].c})
-      box.Add(*corner);
-    middles.Add(TwiceTheMiddle(triangles_[i]));
+  if (count <= LEAF) {
+    for (std::uint32_t i = first; i < first + count; ++i)
+      Widen(box, BoxOf(from[items[i].triangle]));
+    nodes_[node].box = box;
+    return;
   }
-  nodes_[node].box = box;
-  if (count <= LEAF) return;
+  Box middles;
+  for (std::uint32_t i = first; i < first + count; ++i)
+    middles.Add(items[i].middle);
   double Vec3::*const direction = LongestDirection(middles);
-  const auto begin = triangles_.begin() + first;
+  const auto begin = items.begin() + first;
   const std::uint32_t half = count / 2;
   std::nth_element(begin, begin + half, begin + count,
-                   [&](const PictureTriangle& a, const PictureTriangle& b) {
-                     return TwiceTheMiddle(a).*direction < TwiceTheMiddle(b).*direction;
-                   });
-  const auto add = [&](std::uint32_t from, std::uint32_t size) {
+                   [&](const Item& a, const Item& b) { return a.middle.*direction < b.middle.*direction; });
+  const auto add = [&](std::uint32_t start, std::uint32_t size) {
     const auto child = static_cast<std::uint32_t>(nodes_.size());
-    nodes_.push_back({{}, from, size, 0});
-    Divide(child);
+    nodes_.push_back({{}, start, size, 0});
+    Divide(child, from, items);
+    Widen(box, nodes_[child].box);
     return child;
   };
   add(first, half);
   nodes_[node].right = add(first + half, count - half);
+  nodes_[node].box = box;
 }
 
 }  // namespace teskarlt::preview

@@ -25,7 +25,7 @@ std::vector<PictureTriangle> PictureTriangles(const Scene& scene, const View& vi
 // Builds in n log n, whatever lies over one another.
 class TriangleTree {
  public:
-  explicit TriangleTree(std::vector<PictureTriangle> triangles);
+  explicit TriangleTree(const std::vector<PictureTriangle>& triangles);
 
   // Looks at the triangles of the boxes that are worth it, the most worthy ones first. `worth` gives for a
   // Box what is to be had there, 0 for nothing; it is asked again after each look. Gives the number of boxes
@@ -45,7 +45,13 @@ class TriangleTree {
     std::uint32_t right = 0;  // node; the left one follows its parent. 0 for a leaf
   };
 
-  void Divide(std::uint32_t node);
+  struct Item {
+    Vec3 middle;  // twice that of its box
+    std::uint32_t triangle;
+  };
+
+  // Fills the node with the items from `first` on, which it puts into order; `from` are their triangles.
+  void Divide(std::uint32_t node, const std::vector<PictureTriangle>& from, std::vector<Item>& items);
 
   template <typename Worth, typename Look>
   std::size_t SearchIn(std::uint32_t index, const Worth& worth, const Look& look) const {
@@ -71,7 +77,7 @@ class TriangleTree {
     return asked;
   }
 
-  std::vector<PictureTriangle> triangles_;
+  std::vector<PictureTriangle> triangles_;  // in the order of the leaves
   std::vector<Node> nodes_;
 };
 

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
-#include <tuple>
+#include <functional>
+#include <unordered_set>
 
 #include "geometry/Vectors.h"
 #include "teskarlt/preview/HiddenLines.h"
@@ -18,6 +18,25 @@ namespace {
 constexpr double INSET = 1e-5;
 // Shorter parts, likewise relative, are left over by that movement.
 constexpr double SHORTEST = 1e-4;
+
+// An edge that two surfaces may share, in the picture.
+struct Edge {
+  std::size_t layer;
+  Colour colour;
+  std::array<double, 4> ends;  // x and y of both, the lesser end first
+
+  bool operator==(const Edge&) const = default;
+};
+
+struct EdgeHash {
+  std::size_t operator()(const Edge& edge) const {
+    constexpr std::size_t odd = 0x9E3779B97F4A7C15;  // spreads what differs little (D. Knuth, TAOCP 6.4)
+    std::size_t hash = edge.layer;
+    for (const double end : edge.ends)
+      hash = (hash ^ (hash >> 29)) * odd + std::hash<double>{}(end);
+    return hash;
+  }
+};
 
 class Gatherer {
  public:
@@ -101,7 +120,7 @@ class Gatherer {
     std::array<double, 2> a = {line.a.x, line.a.y};
     std::array<double, 2> b = {line.b.x, line.b.y};
     if (b < a) std::swap(a, b);
-    return edges_.emplace(line.layer, Hex(line.colour), a, b).second;
+    return edges_.insert({line.layer, line.colour, {a[0], a[1], b[0], b[1]}}).second;
   }
 
   const Scene& scene_;
@@ -109,7 +128,7 @@ class Gatherer {
   const Frame& frame_;
   HiddenLines hidden_;
   double size_ = 0;
-  std::set<std::tuple<std::size_t, std::string, std::array<double, 2>, std::array<double, 2>>> edges_;
+  std::unordered_set<Edge, EdgeHash> edges_;
   std::vector<VisibleLine> lines_;
 };
 
