@@ -29,7 +29,7 @@ constexpr Colour GROUND = {236, 239, 241};
 // Samples in each direction of a pixel: fewer where so many surfaces lie over one another that more would
 // take too long.
 constexpr std::array SAMPLES = {4, 2, 1};
-constexpr std::size_t MOST_STEPS = 1'000'000'000;  // of DepthBand, for each try
+constexpr std::size_t MOST_STEPS = 300'000'000;  // of DepthBand, for each try
 
 static_assert(BAND % DepthBand::TILE == 0 && DepthBand::TILE % SAMPLES[0] == 0);
 
