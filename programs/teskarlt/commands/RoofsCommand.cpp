@@ -87,7 +87,7 @@ void PrintRoofs(const RoofFaces& faces, const RoofsOptions& options, const Drawi
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
-  json["unitFactor"] = unit.perMetre;
+  json["unitFactor"] = UnitFactorJson(unit.perMetre);
   json["roofs"] = ListOf(faces.planar, unit);
   json["warped"] = Json::List();
   for (const RoofFace& face : faces.warped) {

@@ -13,8 +13,7 @@
 namespace teskarlt {
 
 std::size_t EraseWindow(const WindowModule& module, dxf::Document& drawing, int number, bool isLockedToo) {
-  constexpr int anyUnit = 1;  // only the entities count
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, anyUnit);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, IN_DRAWING_UNITS);
   const DrawnWindow& window = ChooseWindow(windows, drawing.FileName(), number);
   if (HasMoreThanOneWindow(window)) {
     throw Error(

@@ -7,9 +7,10 @@
 
 namespace teskarlt {
 
-PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofFace* face) {
+PlacedWindow PlacedBy(const CommandOutcome& outcome, const WorkingUnit& unit, const RoofFace* face) {
   PlacedWindow window;
   window.record = *outcome.confirmed;
+  window.unit = unit;
   window.outline = OutlineOf(window.record);
   if (face != nullptr) window.face = FaceName{face->name, face->layer};
   window.faces = outcome.faces;

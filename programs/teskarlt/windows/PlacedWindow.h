@@ -21,7 +21,8 @@ struct FaceName {
 
 struct PlacedWindow {
   brevanta::WindowParams record{};  // as the dialog confirmed it
-  Outline outline{};                // of the frame
+  WorkingUnit unit;                 // of its points
+  Outline outline{};                // of the frame, in this unit
   std::optional<FaceName> face;     // none where the user gave the plane
   std::size_t faces = 0;            // entities that came into the drawing
   std::size_t lines = 0;
@@ -29,8 +30,8 @@ struct PlacedWindow {
   std::vector<std::string> misfits;  // why it does not fit, as WindowFit tells it
 };
 
-// What the module's command left behind; `face` is null where the user gave the plane.
-PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofFace* face);
+// What the module's command left behind, in its unit; `face` is null where the user gave the plane.
+PlacedWindow PlacedBy(const CommandOutcome& outcome, const WorkingUnit& unit, const RoofFace* face);
 
 // Throws Error for a window with misfits, of which there is at least one.
 [[noreturn]] void RefuseMisfits(const std::vector<std::string>& misfits);

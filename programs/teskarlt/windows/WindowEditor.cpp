@@ -14,6 +14,7 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/ClosedLayers.h"
+#include "teskarlt/windows/OrderUnits.h"
 #include "teskarlt/windows/RoofChoice.h"
 #include "teskarlt/windows/WindowChanges.h"
 #include "teskarlt/windows/WindowChoice.h"
@@ -83,11 +84,12 @@ bool WindowEditor::StandsAs(const WindowParams& record) const {
          ChangedFields(reading_.params, record).empty();
 }
 
-EditedWindow WindowEditor::Edit(const WindowOrder& order) {
+EditedWindow WindowEditor::Edit(const WindowOrder& drawnOrder) {
+  const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
   const WindowParams& record = reading_.params;
   CatalogueShelf shelf;
   WindowRequest request;
-  request.unitFactor = work_.unit.perMetre;
+  request.unit = work_.unit;
   request.edited = record;
   request.replaced = window_.entities;
   request.parts = PartsByRole(work_.drawing, window_);
@@ -102,7 +104,7 @@ EditedWindow WindowEditor::Edit(const WindowOrder& order) {
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
-  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
+  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), work_.unit, roof.face);
   WindowFit fit(work_.roofs);
   fit.AddAll(work_.drawing, work_.windows, &window_);
   const WindowParams& after = edited.placed.record;
