@@ -121,12 +121,12 @@ StatedUnit StatedBy(const dxf::Document& drawing) {
   if (units == dxf::UNITS_NONE) {
     const DrawingUnit* const unit = UnitOfWindows(drawing);
     if (unit == nullptr) return {};
-    return {unit, fmt::format("holds windows drawn in {}", unit->name), true};
+    return {unit, fmt::format("holds windows drawn in {}", unit->words), true};
   }
   const DrawingUnit* unit = UnitOfHeader(units);
   if (unit == nullptr)
     return {nullptr, fmt::format("says that its unit is another one ($INSUNITS {})", units)};
-  return {unit, fmt::format("says that its unit is {} ($INSUNITS {})", unit->name, units)};
+  return {unit, fmt::format("says that its unit is {} ($INSUNITS {})", unit->words, units)};
 }
 
 const DrawingUnit& UnitOf(const dxf::Document& drawing, const AskedUnit& asked) {

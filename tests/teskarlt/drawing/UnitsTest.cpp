@@ -37,7 +37,7 @@ TEST(UnitOf, OptionThatDiffersFromTheHeaderIsRefusedUnlessForced) {
   const dxf::Document drawing = InUnits(4);
   EXPECT_EQ(UnitOf(drawing, {"mm"}).perMetre, 1000);
   EXPECT_EQ(RefusalOfUnit(drawing, {"m"}),
-            "--units m: test.dxf says that its unit is mm ($INSUNITS 4); leave --units out, or add "
+            "--units m: test.dxf says that its unit is millimetres ($INSUNITS 4); leave --units out, or add "
             "--force-units if the drawing is wrong");
   EXPECT_EQ(UnitOf(drawing, {"m", true}).perMetre, 1);
 }
@@ -58,7 +58,7 @@ TEST(UnitOf, WindowsTellTheUnitOfADrawingWithoutOne) {
   drawing = dxf::Document::FromText("test.dxf", std::move(unitless));
   EXPECT_EQ(UnitOf(drawing).name, "mm");
   EXPECT_EQ(RefusalOfUnit(drawing, {"cm"}),
-            "--units cm: test.dxf holds windows drawn in mm; leave --units out, or add --force-units if the "
+            "--units cm: test.dxf holds windows drawn in millimetres; leave --units out, or add --force-units if the "
             "drawing is wrong");
 }
 
