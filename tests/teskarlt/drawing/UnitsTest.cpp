@@ -58,7 +58,8 @@ TEST(UnitOf, WindowsTellTheUnitOfADrawingWithoutOne) {
   drawing = dxf::Document::FromText("test.dxf", std::move(unitless));
   EXPECT_EQ(UnitOf(drawing).name, "mm");
   EXPECT_EQ(RefusalOfUnit(drawing, {"cm"}),
-            "--units cm: test.dxf holds windows drawn in millimetres; leave --units out, or add --force-units if the "
+            "--units cm: test.dxf holds windows drawn in millimetres; leave --units out, or add "
+            "--force-units if the "
             "drawing is wrong");
 }
 

@@ -12,7 +12,7 @@
 #include "teskarlt/drawing/WindowParts.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/Units.h"
-#include "teskarlt/windows/EraseWindow.h"
+#include "teskarlt/windows/EraseWindows.h"
 #include "teskarlt/windows/RefitWindows.h"
 #include "teskarlt/windows/RenumberCopies.h"
 #include "teskarlt/windows/WindowEditor.h"
@@ -39,6 +39,10 @@ std::vector<Vec3> ScaledBy(double factor, std::vector<Vec3> corners) {
   for (Vec3& corner : corners)
     corner = {corner.x * factor, corner.y * factor, corner.z * factor};
   return corners;
+}
+
+WindowSelection NumberOne() {
+  return {.numbers = {{1, 1}}};
 }
 
 // The roof of House, in another unit.
@@ -102,14 +106,14 @@ TEST_P(WindowsInAnyUnit, DescriptionIsReadBackInMetres) {
 
 TEST_P(WindowsInAnyUnit, EditOfNothingLeavesTheBytes) {
   const std::string before = drawing.Serialize();
-  EXPECT_FALSE(WindowEditor(module, drawing, unit, 1, false).Edit({}).isRewritten);
+  EXPECT_FALSE(WindowEditor(module, drawing, unit, NumberOne(), false).Edit({}).front().isRewritten);
   EXPECT_EQ(drawing.Serialize(), before);
 }
 
 TEST_P(WindowsInAnyUnit, EditChangesWhatItSaysAlone) {
   WindowOrder order;
   order.settings = {{"width", "1.2"}};
-  const EditedWindow edited = WindowEditor(module, drawing, unit, 1, false).Edit(order);
+  const EditedWindow edited = WindowEditor(module, drawing, unit, NumberOne(), false).Edit(order).front();
   ASSERT_EQ(edited.changes.size(), 1U);
   EXPECT_EQ(edited.changes[0]->name, "width");
   drawing = Reloaded(drawing);
@@ -117,7 +121,7 @@ TEST_P(WindowsInAnyUnit, EditChangesWhatItSaysAlone) {
 }
 
 TEST_P(WindowsInAnyUnit, EraseLeavesTheEntitiesOfBefore) {
-  EraseWindow(module, drawing, 1, false);
+  EraseWindows(module, drawing, NumberOne(), IN_DRAWING_UNITS, false);
   EXPECT_EQ(Reloaded(drawing).Entities().size(), 1U);
 }
 
