@@ -102,7 +102,7 @@ EditedWindow WindowEditor::Edit(const WindowOrder& order) {
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
-  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
+  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof);
   WindowFit fit(work_.roofs);
   fit.AddAll(work_.drawing, work_.windows, &window_);
   const WindowParams& after = edited.placed.record;
