@@ -89,7 +89,8 @@ def test_windows_of_the_town_fit_where_they_stand(teskarlt, tmp_path):
 
 def slope_area(surface):
     """The area of a polygon in its plane, from that of its plan."""
-    doubled = sum(a[0] * b[1] - b[0] * a[1] for a, b in surface.edges)
+    ox, oy, _ = surface.corners[0]
+    doubled = sum((a[0] - ox) * (b[1] - oy) - (b[0] - ox) * (a[1] - oy) for a, b in surface.edges)
     return abs(doubled) / 2 / surface.normal[2]
 
 
@@ -98,7 +99,9 @@ def test_roofs_of_the_town_are_listed_with_their_outlines(teskarlt, tmp_path):
     listed = teskarlt.done("roofs", path, "--json", "--units", "m").json["roofs"]
     assert not any(len(roof["faces"]) == 1 and len(roof["outline"]) > 1 for roof in listed)
     for roof in listed:
-        plan = sum(a[0] * b[1] - b[0] * a[1] for ring in roof["outline"] for a, b in zip(ring, ring[1:] + ring[:1])) / 2
+        ox, oy, _ = roof["outline"][0][0]  # far from the origin, products lose their last digits
+        plan = sum((a[0] - ox) * (b[1] - oy) - (b[0] - ox) * (a[1] - oy)
+                   for ring in roof["outline"] for a, b in zip(ring, ring[1:] + ring[:1])) / 2
         assert math.isclose(plan / math.cos(math.radians(roof["pitch"])), roof["area"], rel_tol=1e-4), roof["roof"]
     alone = [(surface, place) for surface, place in roofs() if slope_area(surface) > 10]
     for surface, (x, y) in alone[:40]:
