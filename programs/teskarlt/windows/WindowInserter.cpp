@@ -22,7 +22,7 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& drawnOrder) {
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
-  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), work_.unit, roof.face);
+  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), work_.unit, roof);
   window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) {
     work_.drawing.Rollback(before);
