@@ -58,7 +58,7 @@ def test_damaged_drawing(teskarlt, tmp_path, damage):
     (["--at", "99999,99999"], ["--at 99999,99999", "no roof face", "the roofs lie within"]),
     (["--at", "nan,1"], ["--at nan,1"]),
     (["--at", "1"], ["--at 1"]),
-    (["--at", "2500,1200", "--roof-face", "XYZ"], ["--roof-face XYZ"]),
+    (["--at", "2500,1200", "--on", "XYZ"], ["--on XYZ"]),
     (["--at", "2500,1200", "--roof", "0,0,0", "1,0,0", "2,0,0"], ["one line"]),
     (["--at", "2500,1200", "--roof", "0,0,0", "1000,0,0", "0,0,1000"], ["vertical"]),
     (["--at", "2500,1200", "--roof", "0,0", "1000,0,0", "0,0,1000"], ["--roof 0,0"]),
@@ -72,7 +72,7 @@ def test_damaged_drawing(teskarlt, tmp_path, damage):
     ([*INSERT, "--set", "width"], ["--set width", "FIELD=VALUE"]),
     ([*INSERT, "--set", "pickOffset=1e308"], ["pickOffset", "10000"]),
     (["--roof-face", "100", "--set", "insertionPoint=1e308,0,0"], ["farther away than numbers reach"]),
-    ([*INSERT, "--roof-face", "100", "--set", "roofPlanePoints=0,0,0;1,0,0;0,1,1"], ["roofPlanePoints", "--roof-face"]),
+    ([*INSERT, "--roof-face", "100", "--set", "roofPlanePoints=0,0,0;1,0,0;0,1,1"], ["roofPlanePoints", "--on"]),
     ([*INSERT, "--roof", "0,0,0", "1,0,0", "0,1,1", "--set", "roofPlanePoints=0,0,0;1,0,0;0,1,1"],
      ["roofPlanePoints", "--roof"]),
     ([*INSERT, "--set", "openingCode=XYZ"], ["openingCode", "XYZ"]),
@@ -108,7 +108,7 @@ def test_drawing_without_a_unit(teskarlt, tmp_path, house):
     refused(teskarlt("insert", path, *INSERT), "$INSUNITS", "--units")
     teskarlt.done("insert", path, *INSERT, "--units", "mm")
     assert teskarlt.done("list", path, "--json").json["units"] == "mm"  # by the window
-    refused(teskarlt("edit", path, "1", "--set", "width=1", "--units", "m"), "holds windows drawn in mm")
+    refused(teskarlt("edit", path, "1", "--set", "width=1", "--units", "m"), "holds windows drawn in millimetres")
 
 
 @pytest.mark.parametrize("arguments", [(), ("insert",), ("fly", "house.dxf"), ("insert", "house.dxf", "--wings"),
@@ -154,7 +154,7 @@ def test_answer_that_cannot_be_printed_is_a_failure(teskarlt, house):
         pytest.skip("there is no full device")
     done = subprocess.run(["sh", "-c", '"$0" roofs "$1" > /dev/full', teskarlt.path, house], capture_output=True, text=True)
     assert done.returncode == 1
-    assert done.stderr == "teskarlt: the answer cannot be printed: No space left on device\n"
+    assert done.stderr.endswith("\nteskarlt: the answer cannot be printed: No space left on device\n")
 
 
 def test_answer_about_a_file_name_that_is_no_utf8(teskarlt, house, tmp_path):
@@ -244,7 +244,7 @@ def test_unit_that_contradicts_the_header_is_refused_unless_forced(teskarlt, hou
 
 @pytest.mark.parametrize("command", [("roofs",), ("list",), ("refit", "--dry-run"), ("preview", "-o", "plan.svg")])
 def test_no_command_takes_another_unit_than_the_drawings(teskarlt, house, tmp_path, command):
-    refused(teskarlt(command[0], house, *command[1:], "--units", "cm", cwd=tmp_path), "says that its unit is mm")
+    refused(teskarlt(command[0], house, *command[1:], "--units", "cm", cwd=tmp_path), "says that its unit is millimetres")
 
 
 def test_text_that_is_too_long_for_its_drawing_names_its_field(teskarlt, tmp_path):

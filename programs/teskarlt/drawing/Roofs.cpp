@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 
 namespace teskarlt {
@@ -22,17 +23,26 @@ std::vector<PlanBox> BoxesOf(const std::vector<RoofFace>& faces) {
   return boxes;
 }
 
+void TakeToWorking(const WorkingUnit& unit, RoofFace& face) {
+  for (geometry::Vec3& corner : face.corners)
+    corner = ToWorking(corner, unit);
+  face.plane.point = ToWorking(face.plane.point, unit);
+}
+
 }  // namespace
 
-Roofs::Roofs(std::vector<RoofFace> faces, double tolerance)
+Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit)
     : faces_(std::move(faces)),
       tolerance_(tolerance),
+      unit_(unit),
       index_(BoxesOf(faces_)),
       surfaces_(SurfacesOf(faces_, index_, tolerance)),
       surfaceOf_(faces_.size(), NO_SURFACE) {
   for (std::size_t surface = 0; surface < surfaces_.size(); ++surface) {
     for (const std::size_t face : surfaces_[surface].faces)
       surfaceOf_[face] = surface;
+    const std::string& name = surfaces_[surface].name;
+    if (!name.empty()) namedSurfaces_.emplace(dxf::FoldedName(name), surface);
   }
   for (std::size_t face = 0; face < faces_.size(); ++face)
     named_[dxf::FoldedName(faces_[face].name)].push_back(face);
@@ -45,6 +55,11 @@ bool Roofs::IsEmpty() const {
 const RoofSurface* Roofs::SurfaceOf(const RoofFace& face) const {
   const std::size_t surface = surfaceOf_[static_cast<std::size_t>(&face - faces_.data())];
   return surface == NO_SURFACE ? nullptr : &surfaces_[surface];
+}
+
+const RoofSurface* Roofs::SurfaceNamed(std::string_view name) const {
+  const auto found = namedSurfaces_.find(dxf::FoldedName(name));
+  return found == namedSurfaces_.end() ? nullptr : &surfaces_[found->second];
 }
 
 std::vector<const RoofFace*> Roofs::FacesNear(const PlanBox& area) const {
@@ -82,6 +97,14 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
 
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
   return {FindFaces(drawing, tolerance), tolerance};
+}
+
+Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
+  const double tolerance = RoofTolerance(unit);
+  std::vector<RoofFace> faces = FindFaces(drawing, ToDrawn(tolerance, unit));
+  for (RoofFace& face : faces)
+    TakeToWorking(unit, face);
+  return {std::move(faces), tolerance, unit};
 }
 
 }  // namespace teskarlt

@@ -11,6 +11,7 @@
 #include "teskarlt/drawing/PlanIndex.h"
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/RoofSurface.h"
+#include "teskarlt/drawing/WorkingUnit.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
@@ -24,16 +25,25 @@ struct FaceOver {
 
 class Roofs {
  public:
-  // `tolerance` is a millimetre in drawing units.
-  Roofs(std::vector<RoofFace> faces, double tolerance);
+  // `tolerance` is a millimetre in the unit of the faces, which are drawing units where nothing else is said.
+  Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit = IN_DRAWING_UNITS);
 
   double Tolerance() const { return tolerance_; }
+
+  // Of the faces.
+  const WorkingUnit& Unit() const { return unit_; }
 
   // Whether no face can take a window.
   bool IsEmpty() const;
 
   // In the order given. Steep ones are among them.
   const std::vector<RoofFace>& Faces() const { return faces_; }
+
+  // In the order of their first faces (RoofSurface.h).
+  const std::vector<RoofSurface>& Surfaces() const { return surfaces_; }
+
+  // The surface of that name, without regard to case; null when there is none.
+  const RoofSurface* SurfaceNamed(std::string_view name) const;
 
   // The surface of a face of Faces(); null for one that has none (RoofSurface.h).
   const RoofSurface* SurfaceOf(const RoofFace& face) const;
@@ -54,13 +64,16 @@ class Roofs {
  private:
   std::vector<RoofFace> faces_;
   double tolerance_;
+  WorkingUnit unit_;
   PlanIndex index_;
   std::vector<RoofSurface> surfaces_;
   std::vector<std::size_t> surfaceOf_;                               // by the number of the face; NO_SURFACE
   std::unordered_map<std::string, std::vector<std::size_t>> named_;  // numbers of faces by folded names
+  std::unordered_map<std::string, std::size_t> namedSurfaces_;       // and of surfaces
 };
 
-// The roofs of the model space.
+// The roofs of the model space, in drawing units; and in those in which windows are computed.
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance);
+Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit);
 
 }  // namespace teskarlt

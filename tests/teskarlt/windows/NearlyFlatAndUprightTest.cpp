@@ -109,7 +109,7 @@ class RoofAroundTolerances : public testing::TestWithParam<const char*> {
 
   // The outline of the only window, as it is drawn.
   Outline DrawnOnRoof(const Roof& roof, const dxf::Document& drawing) {
-    const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+    const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.working);
     const WindowReading reading = ReadWindow(drawing, windows.at(0));
     EXPECT_THAT(reading.obstacle, IsEmpty());
     EXPECT_THAT(reading.notes, IsEmpty());
@@ -165,7 +165,7 @@ TEST(NearlyFlatFace, WindowStaysWhereItLiesWhenItsRoofIsMadeLevel) {
       DrawingWithFaces({{{0, 0, 3000}, {10000, 0, 3000}, {10000, 8000, low}, {0, 8000, low}}, level});
   WindowOrder order = OrderAt(5000, 4000);
   order.settings = {{"heightReference", "0"}, {"length", "2"}};
-  order.roofFace = fmt::format("{:X}", drawing.Entities().front().handle);
+  order.roofName = fmt::format("{:X}", drawing.Entities().front().handle);
   WindowInserter(module, drawing, Millimetres()).Insert(order);
   drawing.RemoveEntity(drawing.Entities().front());
   drawing = Reloaded(drawing);

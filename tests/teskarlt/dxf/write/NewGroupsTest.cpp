@@ -107,8 +107,8 @@ TEST(NewGroups, NameOfAMissingDictionaryGivesWayToThatOfANewOneAndIsTold) {
   EXPECT_THAT(ObjectsOf(drawing),
               testing::StartsWith("0|DICTIONARY|5|C|3|ACAD_GROUP|350|F|0|DICTIONARY|5|F|"));
   EXPECT_THAT(drawing.Notes(),
-              testing::ElementsAre("roof.dxf:60: ACAD_GROUP led to the object D, which the drawing does not "
-                                   "hold, and leads to a new dictionary of groups now"));
+              testing::ElementsAre("roof.dxf:60: ACAD_GROUP led to D, which is no dictionary of the drawing, "
+                                   "and leads to a new dictionary of groups now"));
 }
 
 TEST(NewGroups, NameOfAnotherObjectIsRefused) {
