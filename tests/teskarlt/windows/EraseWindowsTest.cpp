@@ -42,7 +42,7 @@ TEST(EraseWindows, NumberOfTheHighestWindowIsNotGivenAgain) {
   dxf::Document drawing = HouseWithTwo(module);
   EraseWindows(module, drawing, {.numbers = {{1, 2}}}, PER_METRE, false);
   drawing = Reloaded(drawing);
-  EXPECT_EQ(NumbersOf(drawing, FindWindows(drawing, PER_METRE)).Free(), 3);
+  EXPECT_EQ(NumbersOf(drawing, FindWindows(drawing, IN_DRAWING_UNITS)).Free(), 3);
 }
 
 TEST(EraseWindows, DrawingWithoutWindowsIsRefused) {
