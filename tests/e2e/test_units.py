@@ -9,7 +9,7 @@ import windows
 
 # $INSUNITS, and the name of the unit for --units, with its length in metres by definition.
 UNITS = {"in": (1, 0.0254), "ft": (2, 0.3048), "us-ft": (21, 1200 / 3937), "yd": (10, 0.9144), "km": (7, 1000.0),
-         "um": (13, 1e-6), "mil": (9, 0.0000254)}
+         "um": (13, 1e-6), "mil": (9, 0.0000254), "m": (6, 1.0)}
 PITCH = math.radians(30)
 WIDTH, LENGTH, FRAME, DEPTH, GLASS = 0.94, 1.4, 0.1, 0.08, 0.02  # metres: the defaults, and how deep the glass lies
 PLACE = (4.0, 1.5)  # metres in plan; the eaves are the x axis

@@ -35,13 +35,17 @@ std::optional<double> ParseAmount(std::string_view text) {
   return whole ? std::optional(*whole + fraction) : std::nullopt;
 }
 
-// The inches of what stands behind the feet: a length with its mark, or nothing.
 std::optional<double> ParseInches(std::string_view text) {
+  if (!text.empty() && text.back() == INCH_MARK) text.remove_suffix(1);
+  return ParseAmount(text);
+}
+
+// What stands behind the feet: inches, with a dash in front or none, or nothing.
+std::optional<double> ParseInchesBehindFeet(std::string_view text) {
   text = dxf::Trimmed(text);
   if (text.empty()) return 0.0;
   if (text.front() == '-') text.remove_prefix(1);
-  if (!text.empty() && text.back() == INCH_MARK) text.remove_suffix(1);
-  return ParseAmount(text);
+  return ParseInches(text);
 }
 
 }  // namespace
@@ -51,10 +55,10 @@ std::optional<double> ParseFeetInches(std::string_view text) {
   const bool isNegative = !text.empty() && text.front() == '-';
   if (isNegative) text.remove_prefix(1);
   const std::size_t mark = text.find(FOOT_MARK);
-  const bool hasInches = !text.empty() && text.back() == INCH_MARK;
-  if (mark == std::string_view::npos && !hasInches) return std::nullopt;
-  const auto feet = mark == std::string_view::npos ? 0.0 : ParseAmount(text.substr(0, mark));
-  const auto inches = ParseInches(mark == std::string_view::npos ? text : text.substr(mark + 1));
+  const bool hasFeet = mark != std::string_view::npos;
+  if (!hasFeet && (text.empty() || text.back() != INCH_MARK)) return std::nullopt;
+  const auto feet = hasFeet ? ParseAmount(text.substr(0, mark)) : 0.0;
+  const auto inches = hasFeet ? ParseInchesBehindFeet(text.substr(mark + 1)) : ParseInches(text);
   if (!feet || !inches) return std::nullopt;
   const double metres = (*feet * static_cast<double>(INCHES_PER_FOOT) + *inches) * METRES_PER_INCH;
   return isNegative ? -metres : metres;
@@ -62,8 +66,8 @@ std::optional<double> ParseFeetInches(std::string_view text) {
 
 std::string FeetInchesText(double metres) {
   constexpr std::int64_t PARTS = 64;  // of an inch
-  constexpr double EXACT = 1e-6;  // metres
-  constexpr double MOST = 1e12;   // metres; beyond, inches say nothing
+  constexpr double EXACT = 1e-6;      // metres
+  constexpr double MOST = 1e12;       // metres; beyond, inches say nothing
   if (!(std::abs(metres) <= MOST)) return fmt::format("{:g} m", metres);
   const std::int64_t parts = std::llround(std::abs(metres) / METRES_PER_INCH * PARTS);
   const double written = static_cast<double>(parts) / PARTS * METRES_PER_INCH;
