@@ -40,7 +40,7 @@ TEST(EraseWindows, AllEntitiesOfTheWindowGo) {
 TEST(EraseWindows, NumberOfTheHighestWindowIsNotGivenAgain) {
   const WindowModule module;
   dxf::Document drawing = HouseWithTwo(module);
-  EraseWindows(module, drawing, {.numbers = {{1, 2}}}, PER_METRE, false);
+  EraseWindows(module, drawing, {.numbers = {{1, 2}}}, MILLIMETRES, false);
   drawing = Reloaded(drawing);
   EXPECT_EQ(NumbersOf(drawing, FindWindows(drawing, IN_DRAWING_UNITS)).Free(), 3);
 }
