@@ -14,8 +14,8 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
-#include "teskarlt/preview/Blocks.h"
-#include "teskarlt/preview/Curves.h"
+#include "teskarlt/drawing/Blocks.h"
+#include "teskarlt/drawing/Curves.h"
 #include "teskarlt/preview/Styles.h"
 #include "window/Parts.h"
 

@@ -9,7 +9,7 @@
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/dxf/read/TagList.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 
 struct Block {
   geometry::Vec3 base{};  // the point that comes to lie at the insertion point
@@ -23,4 +23,4 @@ Blocks ReadBlocks(const dxf::Document& drawing);
 // From the block's coordinates to those around the INSERT: one matrix for each row and column of its array.
 std::vector<geometry::Matrix4> InsertMatrices(const dxf::TagList& insert, const geometry::Vec3& base);
 
-}  // namespace teskarlt::preview
+}  // namespace teskarlt

@@ -8,7 +8,7 @@
 #include "geometry/Vec3.h"
 #include "teskarlt/dxf/read/TagList.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 
 using CurvePoints = std::vector<geometry::Vec3>;
 
@@ -24,4 +24,4 @@ constexpr geometry::Vec3 UPWARDS = {0, 0, 1};
 // the arbitrary axis rule of the format.
 geometry::Matrix4 ObjectToDrawing(const geometry::Vec3& extrusion);
 
-}  // namespace teskarlt::preview
+}  // namespace teskarlt

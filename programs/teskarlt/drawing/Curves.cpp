@@ -1,5 +1,5 @@
 // Curves.cpp - divides curves into straight pieces.
-#include "teskarlt/preview/Curves.h"
+#include "teskarlt/drawing/Curves.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +10,7 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 
 namespace {
 
@@ -216,4 +216,4 @@ std::optional<CurvePoints> PointsOf(const std::vector<dxf::TagList>& lists) {
   return std::nullopt;
 }
 
-}  // namespace teskarlt::preview
+}  // namespace teskarlt

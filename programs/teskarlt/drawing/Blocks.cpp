@@ -1,5 +1,5 @@
 // Blocks.cpp - reads blocks and places their insertions.
-#include "teskarlt/preview/Blocks.h"
+#include "teskarlt/drawing/Blocks.h"
 
 #include <algorithm>
 
@@ -7,9 +7,9 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
-#include "teskarlt/preview/Curves.h"
+#include "teskarlt/drawing/Curves.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 
 namespace {
 
@@ -92,4 +92,4 @@ std::vector<Matrix4> InsertMatrices(const dxf::TagList& insert, const Vec3& base
   return matrices;
 }
 
-}  // namespace teskarlt::preview
+}  // namespace teskarlt
