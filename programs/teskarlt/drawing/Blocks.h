@@ -12,7 +12,8 @@
 namespace teskarlt {
 
 struct Block {
-  geometry::Vec3 base{};  // the point that comes to lie at the insertion point
+  geometry::Vec3 base{};    // the point that comes to lie at the insertion point
+  bool isAttached = false;  // it stands for another drawing, whose entities are not here
   std::vector<dxf::Entity> entities;
 };
 

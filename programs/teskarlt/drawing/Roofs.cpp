@@ -14,18 +14,11 @@ namespace {
 
 constexpr std::size_t NO_SURFACE = std::numeric_limits<std::size_t>::max();
 
-std::vector<PlanBox> BoxesOf(const std::vector<RoofFace>& faces) {
-  std::vector<PlanBox> boxes;
-  boxes.reserve(faces.size());
-  for (const RoofFace& face : faces)
-    boxes.push_back(PlanBoxOf(face.corners));
-  return boxes;
-}
-
 }  // namespace
 
-Roofs::Roofs(std::vector<RoofFace> faces, double tolerance)
+Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, UnreadEntities unread)
     : faces_(std::move(faces)),
+      unread_(std::move(unread)),
       tolerance_(tolerance),
       index_(BoxesOf(faces_)),
       surfaces_(SurfacesOf(faces_, index_, tolerance)),
@@ -58,7 +51,7 @@ std::vector<FaceOver> Roofs::FacesAt(double x, double y) const {
   std::vector<FaceOver> found;
   for (const RoofFace* face : FacesNear({x, y, x, y})) {
     const RoofSurface* surface = SurfaceOf(*face);
-    if (surface != nullptr && LiesOver(face->corners, x, y))
+    if (surface != nullptr && LiesOver(*face, x, y))
       found.push_back({face, surface, HeightAt(surface->plane, x, y)});
   }
   return found;
@@ -73,7 +66,7 @@ std::optional<FaceOver> Roofs::UppermostAt(double x, double y) const {
 
 std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
   std::vector<const RoofFace*> named;
-  const auto found = named_.find(dxf::FoldedName(name));
+  const auto found = named_.find(dxf::FoldedName(PresentName(name)));
   if (found == named_.end()) return named;
   for (const std::size_t number : found->second)
     named.push_back(&faces_[number]);
@@ -81,7 +74,8 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
 }
 
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
-  return {FindFaces(drawing, tolerance), tolerance};
+  FoundFaces found = SearchFaces(drawing, tolerance);
+  return {std::move(found.faces), tolerance, std::move(found.unread)};
 }
 
 }  // namespace teskarlt

@@ -11,6 +11,7 @@
 #include "teskarlt/drawing/PlanIndex.h"
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/RoofSurface.h"
+#include "teskarlt/drawing/UnreadEntities.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
@@ -24,13 +25,16 @@ struct FaceOver {
 
 class Roofs {
  public:
-  // `tolerance` is a millimetre in drawing units.
-  Roofs(std::vector<RoofFace> faces, double tolerance);
+  // `tolerance` is a millimetre in drawing units; `unread` is what of the drawing may be a roof besides.
+  Roofs(std::vector<RoofFace> faces, double tolerance, UnreadEntities unread = {});
 
   double Tolerance() const { return tolerance_; }
 
   // Whether no face can take a window.
   bool IsEmpty() const;
+
+  // What may hold roofs that were not found.
+  const UnreadEntities& Unread() const { return unread_; }
 
   // In the order given. Steep ones are among them.
   const std::vector<RoofFace>& Faces() const { return faces_; }
@@ -47,12 +51,13 @@ class Roofs {
   // The faces whose boxes in the plan touch the area, in the order of Faces().
   std::vector<const RoofFace*> FacesNear(const PlanBox& area) const;
 
-  // The faces of that name (RoofFace.h), without regard to case; several where the drawing uses a handle
-  // twice.
+  // The faces of that name (RoofSearch.h), also of one that it had before, without regard to case; several
+  // where the drawing uses a handle twice.
   std::vector<const RoofFace*> FacesNamed(std::string_view name) const;
 
  private:
   std::vector<RoofFace> faces_;
+  UnreadEntities unread_;
   double tolerance_;
   PlanIndex index_;
   std::vector<RoofSurface> surfaces_;
