@@ -39,6 +39,7 @@ void AddCommands(OptionParser& parser) {
   AddListCommand(parser);
   AddRefitCommand(parser);
   AddRenumberCommand(parser);
+  AddUndoCommand(parser);
   AddCheckCommand(parser);
   AddPreviewCommand(parser);
   AddNewCommand(parser);

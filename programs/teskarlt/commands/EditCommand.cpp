@@ -1,8 +1,10 @@
-// EditCommand.cpp - the subcommand "edit": changes a roof window.
+// EditCommand.cpp - the subcommand "edit": changes roof windows.
 #include <memory>
+#include <vector>
 
 #include <fmt/format.h>
 
+#include "teskarlt/commands/SelectionOptions.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/commands/WindowWords.h"
@@ -15,37 +17,51 @@ namespace {
 
 struct EditOptions {
   WindowOptions window;
-  int number = 0;
+  SelectionOptions selection;
   bool isLockedToo = false;
 };
 
 void RunEdit(EditOptions& options) {
+  const WindowSelection selection = SelectionOf(options.selection);
   const WindowModule module;
   dxf::Document drawing = dxf::Document::Load(options.window.target.File());
   const DrawingUnit& unit = ChooseUnitAndWarn(drawing, options.window.units);
-  WindowEditor editor(module, drawing, unit, options.number, options.isLockedToo);
-  for (const std::string& note : editor.Reading().notes)
-    TellNote(fmt::format("window {}: {}", options.number, note));
-  const EditedWindow window = editor.Edit(OrderOf(options.window));
-  SaveAndTell(options.window, drawing, window, editor.Reading());
+  WindowEditor editor(module, drawing, unit, selection, options.isLockedToo);
+  for (const EditableWindow& window : editor.Windows()) {
+    for (const std::string& note : window.reading.notes)
+      TellNote(fmt::format("window {}: {}", window.drawn->number, note));
+  }
+  const std::vector<EditedWindow> edited = editor.Edit(OrderOf(options.window));
+  if (selection.IsOneNumber()) {
+    SaveAndTell(options.window, drawing, edited.front(), editor.Windows().front().reading);
+  } else {
+    SaveAndTell(options.window, drawing, edited, editor.Windows());
+  }
 }
 
 }  // namespace
 
 void AddEditCommand(OptionParser& parser) {
-  Subcommand command = parser.Add("edit", "Change a roof window");
+  Subcommand command = parser.Add("edit", "Change roof windows");
   const auto options = std::make_shared<EditOptions>();
   options->window.target.AddFile(command);
-  command.Argument("NUMBER", options->number, "the window's number, as teskarlt list shows it").Required();
+  AddSelectionOptions(command, options->selection);
   AddWindowOptions(command, options->window);
   AddLockedOption(command, options->isLockedToo);
   command.Footer(
-      "What is not given stays as it is; the window keeps its number and, without --at, its place.\n"
-      "What changes is told with its old and its new value; when nothing does, nothing is written.\n"
-      "teskarlt insert --fields lists the fields for --set.\n"
+      "What is not given stays as it is; each window keeps its number and, without --at, its place.\n"
+      "What changes is told with its old and its new value; when nothing does, nothing is written. Of "
+      "several\n"
+      "windows all are changed, or none when one of them is refused; --json answers a list \"windows\" "
+      "unless\n"
+      "a number alone names the window.\n"
+      "teskarlt insert --fields lists the fields for --set and --where.\n"
       "Examples:\n"
       "  teskarlt edit house-with-window.dxf 1 --set width=1.14\n"
-      "  teskarlt edit house-with-window.dxf 1 --at 4800,1200");
+      "  teskarlt edit house-with-window.dxf 1 --at 4800,1200\n"
+      "  teskarlt edit house-with-window.dxf 1 3 5-9 --set openingCode=B\n"
+      "  teskarlt edit house-with-window.dxf --where \"width<0.8\" --set frameWidth=0.08\n"
+      "  teskarlt edit house-with-window.dxf --type \"OL 78x118\" --window \"OL 94x140\"");
   command.Run([options] { RunEdit(*options); });
 }
 

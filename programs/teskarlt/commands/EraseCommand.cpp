@@ -1,15 +1,19 @@
-// EraseCommand.cpp - the subcommand "erase": takes a roof window out of a drawing.
+// EraseCommand.cpp - the subcommand "erase": takes roof windows out of a drawing.
+#include <cstdint>
 #include <memory>
+#include <vector>
 
 #include <fmt/format.h>
 
 #include "teskarlt/commands/SaveDrawing.h"
+#include "teskarlt/commands/SelectionOptions.h"
 #include "teskarlt/commands/Subcommands.h"
+#include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/terminal/ResultTarget.h"
-#include "teskarlt/windows/EraseWindow.h"
+#include "teskarlt/windows/EraseWindows.h"
 
 namespace teskarlt {
 
@@ -17,40 +21,80 @@ namespace {
 
 struct EraseOptions {
   ResultTarget target;
-  int number = 0;
+  SelectionOptions selection;
+  AskedUnit units;
   bool isLockedToo = false;
   bool asJson = false;
 };
 
+// Lengths of a condition are metres, for which the drawing's unit has to be known; else any will do.
+std::int32_t UnitFactor(const dxf::Document& drawing, const EraseOptions& options) {
+  constexpr std::int32_t anyUnit = 1;
+  return options.selection.where.empty() ? anyUnit : UnitOf(drawing, options.units).perMetre;
+}
+
+// For programs: a number alone is answered as such.
+void PrintAnswer(const EraseOptions& options, const std::vector<ErasedWindow>& erased, bool isOneNumber) {
+  const auto toJson = [](const ErasedWindow& window) {
+    return Json::Object({{"number", window.number}, {"erased", window.entities}});
+  };
+  Json json = Json::Object({{"version", JSON_VERSION}});
+  if (isOneNumber) {
+    json.AddMembers(toJson(erased.front()));
+  } else {
+    json["windows"] = Json::List();
+    for (const ErasedWindow& window : erased)
+      json["windows"].Add(toJson(window));
+  }
+  options.target.AddTo(json);
+  PrintJson(json);
+}
+
+void PrintText(const EraseOptions& options, const std::vector<ErasedWindow>& erased, bool isOneNumber) {
+  if (isOneNumber) {
+    fmt::print("Window {}: {} entities {}.\n", erased.front().number, erased.front().entities,
+               options.target.Ending("erased", "go"));
+    return;
+  }
+  std::size_t entities = 0;
+  for (const ErasedWindow& window : erased) {
+    fmt::print("Window {}: {} entities\n", window.number, window.entities);
+    entities += window.entities;
+  }
+  fmt::print("{} window{} with {} entities {}.\n", erased.size(), erased.size() == 1 ? "" : "s", entities,
+             options.target.Ending("erased", "go"));
+}
+
 void RunErase(EraseOptions& options) {
+  const WindowSelection selection = SelectionOf(options.selection);
   const WindowModule module;
   dxf::Document drawing = dxf::Document::Load(options.target.File());
-  const std::size_t erased = EraseWindow(module, drawing, options.number, options.isLockedToo);
+  const std::vector<ErasedWindow> erased =
+      EraseWindows(module, drawing, selection, UnitFactor(drawing, options), options.isLockedToo);
   SaveDrawing(drawing, options.target);
-  if (options.asJson) {
-    Json json;
-    json["version"] = JSON_VERSION;
-    json["number"] = options.number;
-    json["erased"] = erased;
-    options.target.AddTo(json);
-    PrintJson(json);
-  } else {
-    fmt::print("Window {}: {} entities {}.\n", options.number, erased, options.target.Ending("erased", "go"));
-  }
+  (options.asJson ? PrintAnswer : PrintText)(options, erased, selection.IsOneNumber());
 }
 
 }  // namespace
 
 void AddEraseCommand(OptionParser& parser) {
-  Subcommand command = parser.Add("erase", "Take a roof window out of a drawing");
+  Subcommand command = parser.Add("erase", "Take roof windows out of a drawing");
   const auto options = std::make_shared<EraseOptions>();
   options->target.AddFile(command);
-  command.Argument("NUMBER", options->number, "the window's number, as teskarlt list shows it").Required();
+  AddSelectionOptions(command, options->selection);
   options->target.AddOutput(command);
+  AddUnitOptions(command, options->units);
   AddLockedOption(command, options->isLockedToo);
   options->target.AddDryRun(command);
   command.Flag("--json", options->asJson, JSON_HELP);
-  command.Footer("Example: teskarlt erase house-with-window.dxf 1");
+  command.Footer(
+      "Of several windows all go, or none when one of them is refused. The drawing's unit counts for "
+      "lengths\n"
+      "of --where only.\n"
+      "Examples:\n"
+      "  teskarlt erase house-with-window.dxf 1\n"
+      "  teskarlt erase house-with-window.dxf 2 4-9\n"
+      "  teskarlt erase house-with-window.dxf --where \"width<0.8\" --dry-run");
   command.Run([options] { RunErase(*options); });
 }
 

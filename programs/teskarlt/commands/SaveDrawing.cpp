@@ -9,8 +9,8 @@
 namespace teskarlt {
 
 void SaveDrawing(const dxf::Document& drawing, ResultTarget& target) {
+  if (!target.IsDryRun()) check::ProveChanges(drawing);  // before anything is kept of what is replaced
   target.Write([&](const std::string& path) {
-    check::ProveChanges(drawing);
     drawing.Save(path);
     for (const std::string& note : drawing.Notes())
       TellNote(note);

@@ -18,5 +18,6 @@ void AddPreviewCommand(OptionParser& parser);
 void AddRefitCommand(OptionParser& parser);
 void AddRenumberCommand(OptionParser& parser);
 void AddRoofsCommand(OptionParser& parser);
+void AddUndoCommand(OptionParser& parser);
 
 }  // namespace teskarlt

@@ -72,9 +72,47 @@ void PrintChanges(const EditedWindow& window, const WindowReading& before, const
     fmt::print("skirtHeight: {:g} m by default, since nothing drawn told it\n", after.skirtHeight);
 }
 
-void Warn(const dxf::Document& drawing, const PlacedWindow& window) {
+// Of a window that was changed, for programs.
+Json EditedJson(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+  Json json = WindowJson(window.placed);
+  json["sources"] = SourcesJson(before);
+  json["notes"] = before.notes;
+  json["changes"] = ChangesJson(window, before, drawing);
+  return json;
+}
+
+// "Window 3: width: 0.94 m -> 1.14 m; openingCode: "D" -> "B"".
+std::string EditedLine(const EditedWindow& window, const WindowReading& before,
+                       const dxf::Document& drawing) {
+  const brevanta::WindowParams& after = window.placed.record;
+  std::vector<std::string> changes;
+  for (const brevanta::RecordField* const field : window.changes) {
+    changes.push_back(fmt::format("{}: {} -> {}", field->name, FieldText(before.params, *field, drawing),
+                                  FieldText(after, *field, drawing)));
+  }
+  if (changes.empty())
+    changes.emplace_back(window.isRewritten ? "its description says again what is drawn" : "nothing changes");
+  return OneLine(fmt::format("Window {}: {}", after.markerValue, fmt::join(changes, "; ")));
+}
+
+// For programs: the windows of a selection.
+void PrintEdited(const ResultTarget& target, const std::vector<EditedWindow>& windows,
+                 const std::vector<EditableWindow>& before, const dxf::Document& drawing) {
+  Json json = Json::Object({{"version", JSON_VERSION}});
+  json["windows"] = Json::List();
+  for (std::size_t i = 0; i < windows.size(); ++i)
+    json["windows"].Add(EditedJson(windows[i], before[i].reading, drawing));
+  target.AddTo(json);
+  PrintJson(json);
+}
+
+void WarnOfMisfits(const PlacedWindow& window) {
   const std::string misfit = MisfitWarning(window.record.markerValue, window.misfits);
   if (!misfit.empty()) TellWarning(misfit);
+}
+
+void Warn(const dxf::Document& drawing, const PlacedWindow& window) {
+  WarnOfMisfits(window);
   WarnOfClosedLayers(drawing, window.layers);
   WarnOfTexts(drawing);
 }
@@ -151,9 +189,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Edi
   if (window.isRewritten || options.target.IsNamed()) SaveDrawing(drawing, options.target);
   if (options.asJson) {
     Json json = AnswerJson(options, window.placed);
-    json["sources"] = SourcesJson(before);
-    json["notes"] = before.notes;
-    json["changes"] = ChangesJson(window, before, drawing);
+    json.AddMembers(EditedJson(window, before, drawing));
     PrintJson(json);
     return;
   }
@@ -163,6 +199,33 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Edi
     PrintChanges(window, before, drawing);
   } else {
     fmt::print("Nothing changes: it stands there as ordered; {}.\n", options.target.UnchangedEnding());
+  }
+}
+
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
+                 const std::vector<EditedWindow>& windows, const std::vector<EditableWindow>& before) {
+  std::set<std::string> layers;
+  std::size_t rewritten = 0;
+  for (const EditedWindow& window : windows) {
+    WarnOfMisfits(window.placed);
+    layers.insert(window.placed.layers.begin(), window.placed.layers.end());
+    if (window.isRewritten) ++rewritten;
+  }
+  WarnOfClosedLayers(drawing, layers);
+  WarnOfTexts(drawing);
+  if (rewritten > 0 || options.target.IsNamed()) SaveDrawing(drawing, options.target);
+  if (options.asJson) {
+    PrintEdited(options.target, windows, before, drawing);
+    return;
+  }
+  for (std::size_t i = 0; i < windows.size(); ++i)
+    fmt::print("{}\n", EditedLine(windows[i], before[i].reading, drawing));
+  if (rewritten > 0) {
+    fmt::print("{} of {} window{} {}.\n", rewritten, windows.size(), windows.size() == 1 ? "" : "s",
+               options.target.Ending("changed", "be changed"));
+  } else {
+    fmt::print("Nothing changes: the windows stand there as ordered; {}.\n",
+               options.target.UnchangedEnding());
   }
 }
 

@@ -49,4 +49,8 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
 void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
                  const WindowReading& before);
 
+// The same for the windows of a selection: a line each, and what became of all.
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
+                 const std::vector<EditedWindow>& windows, const std::vector<EditableWindow>& before);
+
 }  // namespace teskarlt

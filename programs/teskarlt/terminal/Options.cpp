@@ -90,6 +90,10 @@ Option Subcommand::Arguments(const char* name, std::vector<int>& values, const c
   return Option(app_->add_option(name, values, help)->type_name("..."));
 }
 
+Option Subcommand::Arguments(const char* name, std::vector<std::string>& values, const char* help) {
+  return Option(app_->add_option(name, values, help)->type_name("..."));
+}
+
 Option Subcommand::Value(const char* name, std::string& value, const char* help) {
   return Option(app_->add_option(name, value, help));
 }

@@ -64,6 +64,7 @@ class Subcommand {
   Option Argument(const char* name, std::string& value, const char* help);
   Option Argument(const char* name, int& value, const char* help);
   Option Arguments(const char* name, std::vector<int>& values, const char* help);
+  Option Arguments(const char* name, std::vector<std::string>& values, const char* help);
   Option Value(const char* name, std::string& value, const char* help);
   Option Value(const char* name, std::optional<int>& value, const char* help);
   Option Value(const char* name, double& value, const char* help);

@@ -3,6 +3,8 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/terminal/Backup.h"
+
 namespace teskarlt {
 
 void ResultTarget::AddFile(Subcommand& command) {
@@ -13,6 +15,10 @@ void ResultTarget::AddOutput(Subcommand& command) {
   command.Value("-o,--output", output_, "the drawing to write; without it FILE is replaced")
       .Named("FILE")
       .NotEmpty();
+  command.Flag(
+      "--backup", wantsBackup_,
+      "keep the drawing that is replaced beside the new one, as FILE.bak; teskarlt undo goes back to "
+      "it");
 }
 
 void ResultTarget::AddDryRun(Subcommand& command) {
@@ -21,12 +27,18 @@ void ResultTarget::AddDryRun(Subcommand& command) {
 
 void ResultTarget::Write(const std::function<void(const std::string& path)>& save) {
   if (isDryRun_) return;
+  if (wantsBackup_) isKept_ = KeepBackup(Path());
   save(Path());
   isWritten_ = true;
+  if (isKept_) SealBackup(Path());
+}
+
+std::string ResultTarget::WrittenPath() const {
+  return isKept_ ? fmt::format("{}, and what it was to {}", Path(), BackupPath(Path())) : Path();
 }
 
 std::string ResultTarget::Ending(const char* done, const char* planned) const {
-  if (isWritten_) return fmt::format("{}; written to {}", done, Path());
+  if (isWritten_) return fmt::format("{}; written to {}", done, WrittenPath());
   if (isDryRun_) return fmt::format("would {}; nothing was written (dry run)", planned);
   return fmt::format("could {}; nothing was written", planned);
 }
@@ -38,6 +50,7 @@ std::string ResultTarget::UnchangedEnding() const {
 void ResultTarget::AddTo(Json& answer) const {
   answer["file"] = isWritten_ ? Json(Path()) : Json(nullptr);
   answer["dryRun"] = isDryRun_;
+  if (wantsBackup_) answer["backup"] = isKept_ ? Json(BackupPath(Path())) : Json(nullptr);
 }
 
 }  // namespace teskarlt

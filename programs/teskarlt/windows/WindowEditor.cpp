@@ -1,9 +1,10 @@
-// WindowEditor.cpp - changes a window of a drawing.
+// WindowEditor.cpp - changes windows of a drawing.
 #include "teskarlt/windows/WindowEditor.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "inc/DialogServices.h"
 #include "inc/RecordPoints.h"
 #include "teskarlt/drawing/WindowFit.h"
+#include "teskarlt/windows/AllOrNone.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/ClosedLayers.h"
 #include "teskarlt/windows/RoofChoice.h"
@@ -67,52 +69,101 @@ std::optional<std::array<double, 2>> PointOf(const WindowOrder& order, const Win
   return std::array{window.storedPoint.x, window.storedPoint.y};
 }
 
+// Whether entities and description stood there as `record` has them.
+bool StandsAs(const EditableWindow& window, const WindowParams& record) {
+  return window.reading.notes.empty() && !DiffersFromDescription(window.drawn->params, record) &&
+         ChangedFields(window.reading.params, record).empty();
+}
+
 }  // namespace
 
 WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
-                           int number, bool isLockedToo)
-    : module_(module),
-      work_(drawing, unit),
-      window_(ChooseWindow(work_.windows, drawing.FileName(), number)) {
-  if (!isLockedToo) RefuseClosedLayers(drawing, window_);
-  reading_ = ReadEditableWindow(drawing, window_);
+                           const WindowSelection& selection, bool isLockedToo)
+    : module_(module), work_(drawing, unit) {
+  for (const DrawnWindow* const window : ChooseWindows(drawing, work_.windows, selection)) {
+    if (!isLockedToo) RefuseClosedLayers(drawing, *window);
+    windows_.push_back({window, ReadEditableWindow(drawing, *window)});
+  }
 }
 
-bool WindowEditor::StandsAs(const WindowParams& record) const {
-  return reading_.notes.empty() && !DiffersFromDescription(window_.params, record) &&
-         ChangedFields(reading_.params, record).empty();
+std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
+  if (order.at && windows_.size() > 1) {
+    throw Error(fmt::format("--at {}: {} windows cannot all stand at one point; name one window",
+                            order.at->text, windows_.size()),
+                {.value = order.at->text});
+  }
+  return AllOrNone(work_.drawing, [&] {
+    std::vector<EditedWindow> edited;
+    edited.reserve(windows_.size());
+    for (const EditableWindow& window : windows_) {
+      try {
+        edited.push_back(EditOne(window, order));
+      } catch (const Error& error) {
+        throw Naming(window, error);
+      }
+    }
+    FindMisfits(edited);
+    if (order.isStrict) RefuseMisfitting(edited);
+    return edited;
+  });
 }
 
-EditedWindow WindowEditor::Edit(const WindowOrder& order) {
-  const WindowParams& record = reading_.params;
-  CatalogueShelf shelf;
+EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrder& order) {
+  const WindowParams& record = window.reading.params;
   WindowRequest request;
   request.unitFactor = work_.unit.perMetre;
   request.edited = record;
-  request.replaced = window_.entities;
-  request.parts = PartsByRole(work_.drawing, window_);
+  request.replaced = window.drawn->entities;
+  request.parts = PartsByRole(work_.drawing, *window.drawn);
   request.numbersInUse = &work_.numbers;
-  request.answers = AnswersOf(order, work_.drawing, shelf);
+  request.answers = AnswersOf(order, work_.drawing, shelf_);
   request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
   if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
   const RoofChoice roof =
-      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(reading_, work_);
+      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(window.reading, work_);
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
   edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
-  WindowFit fit(work_.roofs);
-  fit.AddAll(work_.drawing, work_.windows, &window_);
   const WindowParams& after = edited.placed.record;
-  edited.placed.misfits = fit.Misfits(after, edited.placed.outline);
   edited.changes = ChangedFields(record, after);
-  edited.isRewritten = !StandsAs(after);
-  const bool isRefused = order.isStrict && !edited.placed.misfits.empty();
-  if (isRefused || !edited.isRewritten) work_.drawing.Rollback(before);
-  if (isRefused) RefuseMisfits(edited.placed.misfits);
+  edited.isRewritten = !StandsAs(window, after);
+  if (!edited.isRewritten) work_.drawing.Rollback(before);
   return edited;
+}
+
+void WindowEditor::FindMisfits(std::vector<EditedWindow>& edited) const {
+  std::set<const DrawnWindow*> selected;
+  for (const EditableWindow& window : windows_)
+    selected.insert(window.drawn);
+  WindowFit fit(work_.roofs);
+  for (const DrawnWindow& window : work_.windows) {
+    const std::optional<Outline> outline =
+        selected.contains(&window) ? std::nullopt : DrawnOutline(work_.drawing, window);
+    if (outline) fit.Add(window.number, *outline);
+  }
+  for (EditedWindow& window : edited) {
+    window.placed.misfits = fit.Misfits(window.placed.record, window.placed.outline);
+    fit.Add(window.placed.record.markerValue, window.placed.outline);
+  }
+}
+
+void WindowEditor::RefuseMisfitting(const std::vector<EditedWindow>& edited) const {
+  for (std::size_t i = 0; i < edited.size(); ++i) {
+    if (edited[i].placed.misfits.empty()) continue;
+    try {
+      RefuseMisfits(edited[i].placed.misfits);
+    } catch (const Error& error) {
+      throw Naming(windows_[i], error);
+    }
+  }
+}
+
+Error WindowEditor::Naming(const EditableWindow& window, const Error& error) const {
+  if (windows_.size() == 1) return error;
+  return Error(fmt::format("window {}: {}", window.drawn->number, error.Message()), error.Place());
 }
 
 }  // namespace teskarlt

@@ -1,50 +1,63 @@
-// WindowEditor.h - changes a window of a drawing.
+// WindowEditor.h - changes windows of a drawing.
 #pragma once
 
 #include <vector>
 
+#include "teskarlt/Error.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/modules/WindowModule.h"
+#include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/PlacedWindow.h"
+#include "teskarlt/windows/WindowChoice.h"
 #include "teskarlt/windows/WindowOrder.h"
 #include "teskarlt/windows/WorkedDrawing.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
 
+// A window that can be changed, as it stands in the drawing.
+struct EditableWindow {
+  const DrawnWindow* drawn;
+  WindowReading reading;
+};
+
 struct EditedWindow {
   PlacedWindow placed;
-  // The fields that differ from WindowEditor::Reading, as ChangedFields gives them.
+  // The fields that differ from EditableWindow::reading, as ChangedFields gives them.
   std::vector<const brevanta::RecordField*> changes;
   bool isRewritten = false;  // else it stood there as ordered, and the drawing is what it was
 };
 
 class WindowEditor {
  public:
-  // Reads the window with that number. Module and drawing must outlive the object. Throws Error, with what
-  // there is, when there is no such window, several bear the number, it cannot be changed, or its layer is
-  // locked or frozen and `isLockedToo` is false.
-  WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit, int number,
-               bool isLockedToo);
+  // Reads the selected windows. Module and drawing must outlive the object. Throws Error when ChooseWindows
+  // does, when a window cannot be changed, or when its layer is locked or frozen and `isLockedToo` is false.
+  WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
+               const WindowSelection& selection, bool isLockedToo);
   WindowEditor(const WindowEditor&) = delete;
   WindowEditor& operator=(const WindowEditor&) = delete;
 
-  // The window as it stands in the drawing.
-  const WindowReading& Reading() const { return reading_; }
+  // The selected windows by their numbers.
+  const std::vector<EditableWindow>& Windows() const { return windows_; }
 
-  // Changes what the order says; the window keeps its number and, where the order names no place, its own.
-  // Throws Error with the reason when it is refused; the drawing is what it was before then. Once, since the
-  // window is another one then.
-  EditedWindow Edit(const WindowOrder& order);
+  // Changes what the order says of all the windows, and gives them in the order of Windows(). Each keeps its
+  // number and, where the order names no place, its own. Throws Error with the reason, and with the number
+  // where there are several windows, when one of them is refused; the drawing is what it was before then.
+  // Once, since the windows are others then.
+  std::vector<EditedWindow> Edit(const WindowOrder& order);
 
  private:
-  // Whether entities and description stood there as `record` has them.
-  bool StandsAs(const brevanta::WindowParams& record) const;
+  EditedWindow EditOne(const EditableWindow& window, const WindowOrder& order);
+  void FindMisfits(std::vector<EditedWindow>& edited) const;
+  // Throws Error for windows with misfits.
+  void RefuseMisfitting(const std::vector<EditedWindow>& edited) const;
+  // The same error, with the window's number where there are several windows.
+  Error Naming(const EditableWindow& window, const Error& error) const;
 
   const WindowModule& module_;
   const WorkedDrawing work_;
-  const DrawnWindow& window_;
-  WindowReading reading_;
+  std::vector<EditableWindow> windows_;
+  CatalogueShelf shelf_;
 };
 
 }  // namespace teskarlt

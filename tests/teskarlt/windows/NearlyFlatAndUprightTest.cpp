@@ -133,7 +133,7 @@ TEST_P(RoofAroundTolerances, WindowLiesAtItsPointAndCanBeEdited) {
     for (std::size_t k = 0; k < drawn.size(); ++k)
       EXPECT_LT(Distance(drawn[k], foreseen[k]), SAME * scale) << k;
 
-    WindowEditor(module, drawing, unit, 1, false).Edit(Wider());
+    WindowEditor(module, drawing, unit, {.numbers = {{1, 1}}}, false).Edit(Wider());
     const Outline wider = DrawnOnRoof(roof, Reloaded(drawing));
     EXPECT_LT(Distance(Scaled(Sum(wider[1], wider[2]), 0.5), Scaled(Sum(drawn[1], drawn[2]), 0.5)),
               SAME * scale);
@@ -169,7 +169,8 @@ TEST(NearlyFlatFace, WindowStaysWhereItLiesWhenItsRoofIsMadeLevel) {
   WindowInserter(module, drawing, Millimetres()).Insert(order);
   drawing.RemoveEntity(drawing.Entities().front());
   drawing = Reloaded(drawing);
-  const Outline edited = WindowEditor(module, drawing, Millimetres(), 1, false).Edit(Wider()).placed.outline;
+  WindowEditor editor(module, drawing, Millimetres(), {.numbers = {{1, 1}}}, false);
+  const Outline edited = editor.Edit(Wider()).front().placed.outline;
   EXPECT_NEAR(edited[0].y, 4000, 1e-6);
   EXPECT_NEAR(edited[1].y, 2000, 1e-6);
 }

@@ -14,13 +14,31 @@ namespace {
 using brevanta::RecordPoint;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::StartsWith;
+
+MATCHER_P(HasWidth, metres, "") {
+  return arg.params.width == metres;
+}
+
+WindowSelection NumberOne() {
+  return {.numbers = {{1, 1}}};
+}
 
 class WindowEditorTest : public testing::Test {
  protected:
   PlacedWindow Edit(const WindowOrder& order) { return EditedBy(order).placed; }
 
   EditedWindow EditedBy(const WindowOrder& order) {
-    return WindowEditor(module, drawing, Millimetres(), 1, false).Edit(order);
+    return WindowEditor(module, drawing, Millimetres(), NumberOne(), false).Edit(order).front();
+  }
+
+  // Windows 1 to 3 of a house, 0.94 m wide, beside each other.
+  static dxf::Document HouseWithThree(const WindowModule& module) {
+    dxf::Document house = House();
+    WindowInserter inserter(module, house, Millimetres());
+    for (const double x : {1500.0, 4000.0, 6500.0})
+      inserter.Insert(OrderAt(x, 2000));
+    return Reloaded(house);
   }
 
   WindowModule module;
@@ -44,13 +62,17 @@ TEST_F(WindowEditorTest, WindowMovesToThePointOfTheOrder) {
 }
 
 TEST_F(WindowEditorTest, ReadingShowsTheWindowAsItStands) {
-  const WindowEditor editor(module, drawing, Millimetres(), 1, false);
-  EXPECT_NEAR(editor.Reading().params.storedPoint.y, 2000, 1e-6);
-  EXPECT_TRUE(editor.Reading().notes.empty());
+  const WindowEditor editor(module, drawing, Millimetres(), NumberOne(), false);
+  const WindowReading& reading = editor.Windows().front().reading;
+  EXPECT_NEAR(reading.params.storedPoint.y, 2000, 1e-6);
+  EXPECT_TRUE(reading.notes.empty());
 }
 
 TEST_F(WindowEditorTest, WindowMovesToAPointOfTheRoofsOwnFrame) {
-  RecordPoint point = WindowEditor(module, drawing, Millimetres(), 1, false).Reading().params.insertionPoint;
+  RecordPoint point = WindowEditor(module, drawing, Millimetres(), NumberOne(), false)
+                          .Windows()
+                          .front()
+                          .reading.params.insertionPoint;
   point.x += 500;  // along the eaves, which run along the drawing's x axis
   WindowOrder order;
   order.settings = {{"insertionPoint", fmt::format("{},{},{}", point.x, point.y, point.z)}};
@@ -86,13 +108,15 @@ TEST_F(WindowEditorTest, RefusedChangeLeavesTheDrawingAsItWas) {
 }
 
 TEST_F(WindowEditorTest, MissingNumberIsRefused) {
-  EXPECT_EQ(RefusalOf([&] { WindowEditor(module, drawing, Millimetres(), 7, false); }),
+  EXPECT_EQ(RefusalOf([&] {
+              WindowEditor(module, drawing, Millimetres(), {.numbers = {{7, 7}}}, false);
+            }),
             "house.dxf has no window 7; teskarlt list shows its windows");
 }
 
 TEST_F(WindowEditorTest, NumberOfACopyIsRefused) {
   drawing = HouseWithCopy();
-  EXPECT_THAT(RefusalOf([&] { WindowEditor(module, drawing, Millimetres(), 1, false); }),
+  EXPECT_THAT(RefusalOf([&] { WindowEditor(module, drawing, Millimetres(), NumberOne(), false); }),
               HasSubstr("house.dxf has 2 windows with the number 1"));
 }
 
@@ -145,6 +169,46 @@ TEST_F(WindowEditorTest, StrictOrderRefusesAnOverlapAndLeavesTheDrawing) {
   order.isStrict = true;
   EXPECT_THAT(RefusalOf([&] { Edit(order); }), HasSubstr("overlaps window 2"));
   EXPECT_FALSE(drawing.IsChanged());
+}
+
+TEST_F(WindowEditorTest, AllSelectedWindowsAreChanged) {
+  drawing = HouseWithThree(module);
+  WindowOrder order;
+  order.settings = {{"width", "1.14"}};
+  const auto edited = WindowEditor(module, drawing, Millimetres(), {.numbers = {{2, 3}}}, false).Edit(order);
+  ASSERT_EQ(edited.size(), 2U);
+  EXPECT_EQ(edited[1].placed.record.markerValue, 3);
+  const auto windows = FindWindows(Reloaded(drawing), Millimetres().perMetre);
+  EXPECT_THAT(windows, ElementsAre(HasWidth(0.94), HasWidth(1.14), HasWidth(1.14)));
+}
+
+TEST_F(WindowEditorTest, NoWindowIsChangedWhenOneIsRefused) {
+  drawing = HouseWithThree(module);
+  const std::string before = drawing.Serialize();
+  WindowOrder order;
+  order.settings = {{"width", "4"}};  // 1.5 m from the verge there is room for 3 m
+  EXPECT_THAT(RefusalOf([&] {
+                WindowEditor(module, drawing, Millimetres(), {.numbers = {{1, 3}}}, false).Edit(order);
+              }),
+              StartsWith("window 1: the window would leave the roof face"));
+  EXPECT_EQ(drawing.Serialize(), before);
+}
+
+TEST_F(WindowEditorTest, WindowsThatBecomeTooWideOverlapEachOther) {
+  drawing = HouseWithThree(module);
+  WindowOrder order;
+  order.settings = {{"width", "2.8"}};  // they stand 2.5 m apart
+  const auto edited = WindowEditor(module, drawing, Millimetres(), {.numbers = {{1, 3}}}, false).Edit(order);
+  EXPECT_TRUE(edited[0].placed.misfits.empty());
+  EXPECT_THAT(edited[1].placed.misfits, ElementsAre("it overlaps window 1"));
+  EXPECT_THAT(edited[2].placed.misfits, ElementsAre("it overlaps window 2"));
+}
+
+TEST_F(WindowEditorTest, SeveralWindowsDoNotGoToOnePoint) {
+  drawing = HouseWithThree(module);
+  WindowEditor editor(module, drawing, Millimetres(), {.numbers = {{1, 2}}}, false);
+  EXPECT_EQ(RefusalOf([&] { editor.Edit(OrderAt(4000, 3000)); }),
+            "--at 4000,3000: 2 windows cannot all stand at one point; name one window");
 }
 
 }  // namespace
