@@ -40,7 +40,7 @@ void AddInsertCommand(OptionParser& parser) {
   const Option jobsFile =
       command
           .Value("--jobs", jobs->file,
-                 "many windows: a JSON object a line with \"at\", \"roof-face\", \"roof\", \"window\", "
+                 "many windows: a JSON object a line with \"at\", \"on\", \"roof\", \"window\", "
                  "\"catalogue\", \"set\"; - reads standard input")
           .Named("FILE")
           .NotEmpty()
@@ -61,7 +61,7 @@ void AddInsertCommand(OptionParser& parser) {
       "  teskarlt insert house.dxf --at 3000,2000 -o out.dxf\n"
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
       "  teskarlt insert house.dxf --at 3000,2000 --window \"OL 94x140\" --catalogue examples/BREVANTA.LIB\n"
-      "  teskarlt insert house.dxf --at 3000,2000 --roof-face 100 --set lowerEdgeHeight=4.2\n"
+      "  teskarlt insert house.dxf --at 3000,2000 --on R1 --set lowerEdgeHeight=4.2\n"
       "  teskarlt insert house.dxf --jobs windows.jsonl --set frameWidth=0.1\n"
       "A line of windows.jsonl; options beside --jobs hold where a line does not say otherwise:\n"
       "  {\"at\": [3000, 2000], \"set\": {\"width\": 0.78, \"openingCode\": \"D\"}}");

@@ -75,12 +75,12 @@ void AddSettings(const json& value, std::vector<FieldSetting>& settings) {
 void ApplyMember(const std::string& name, const json& value, WindowOrder& order) {
   if (name == "at") {
     order.at = ParsePlanPoint("--at", ValueText(name, value));
-  } else if (name == "roof-face") {
-    order.roofFace = NameText(name, value);
+  } else if (name == "on" || name == "roof-face") {
+    order.roofName = NameText(name, value);
     order.roof.clear();
   } else if (name == "roof") {
     order.roof = PlanePoints(name, value);
-    order.roofFace.clear();
+    order.roofName.clear();
   } else if (name == "window") {
     order.window = NameText(name, value);
   } else if (name == "catalogue") {
@@ -89,8 +89,7 @@ void ApplyMember(const std::string& name, const json& value, WindowOrder& order)
     AddSettings(value, order.settings);
   } else {
     throw Error(
-        fmt::format("a job has no member \"{}\"; it can have at, roof-face, roof, window, catalogue and set",
-                    name),
+        fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue and set", name),
         {.value = name});
   }
 }

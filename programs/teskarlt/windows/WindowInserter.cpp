@@ -20,7 +20,7 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
   PutRoof(roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
-  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof.face);
+  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof);
   window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) {
     work_.drawing.Rollback(before);
