@@ -156,9 +156,13 @@ def vertices(flags, points=FALLING):
     return "|".join(f"0 VERTEX|8 R|10 {x}|20 {y}|30 {z}|70 {flags}" for x, y, z in points)
 
 
+def light_polyline(elevation, tilt="210 0|220 0|230 1"):
+    return f"0 LWPOLYLINE|100 AcDbEntity|8 R|100 AcDbPolyline|90 4|70 1|38 {elevation}|{plan(SQUARE)}|{tilt}"
+
+
 WRITTEN = {
     "3DFACE": f"0 3DFACE|8 R|{corner_tags(FALLING)}",
-    "MESH": "0 MESH|8 R|71 2|72 0|91 0|92 4|" + "|".join(f"10 {x}|20 {y}|30 {z}" for x, y, z in FALLING)
+    "MESH": "0 MESH|100 AcDbEntity|8 R|100 AcDbSubDMesh|71 2|72 0|91 0|92 4|" + "|".join(f"10 {x}|20 {y}|30 {z}" for x, y, z in FALLING)
             + "|93 5|90 4|90 0|90 1|90 2|90 3|94 0|95 0|90 0",
     "POLYFACE MESH": f"0 POLYLINE|8 R|66 1|70 64|71 4|72 1|{vertices(192)}|0 VERTEX|8 R|10 0|20 0|30 0|70 128|71 1|72 2|73 3|74 4"
                      "|0 SEQEND|8 R",
@@ -166,10 +170,10 @@ WRITTEN = {
     "3D POLYLINE": f"0 POLYLINE|8 R|66 1|70 9|{vertices(32)}|0 SEQEND|8 R",
     "2D POLYLINE": f"0 POLYLINE|8 R|66 1|70 1|10 0|20 0|30 10|{TILT}|"
                    + "|".join(f"0 VERTEX|8 R|10 {a}|20 {b}|30 10" for a, b in SQUARE) + "|0 SEQEND|8 R",
-    "LWPOLYLINE": f"0 LWPOLYLINE|8 R|90 4|70 1|38 10|{plan(SQUARE)}|{TILT}",
+    "LWPOLYLINE": light_polyline(10, TILT),
     "SOLID": f"0 SOLID|8 R|{corner_tags([(*SQUARE[n], 10) for n in (0, 1, 3, 2)])}|{TILT}",
     "TRACE": f"0 TRACE|8 R|{corner_tags([(*SQUARE[n], 10) for n in (0, 1, 3, 2)])}|{TILT}",
-    "HATCH": f"0 HATCH|8 R|10 0|20 0|30 10|{TILT}|2 SOLID|70 1|71 0|91 1|92 2|72 0|73 1|93 4|{plan(SQUARE)}|97 0|75 0|76 1|98 0",
+    "HATCH": f"0 HATCH|100 AcDbEntity|8 R|100 AcDbHatch|10 0|20 0|30 10|{TILT}|2 SOLID|70 1|71 0|91 1|92 2|72 0|73 1|93 4|{plan(SQUARE)}|97 0|75 0|76 1|98 0",
 }
 
 
@@ -224,7 +228,7 @@ def test_nested_block_turned_scaled_and_mirrored_in_rows_and_columns(teskarlt, t
 
 def test_tilted_block_takes_a_window(teskarlt, tmp_path):
     path = written(tmp_path / "tilted.dxf", f"0 INSERT|8 0|2 B|10 0|20 0|30 10|{TILT}",
-                   f"0 BLOCK|8 0|2 B|70 0|10 0|20 0|30 0|3 B|0 LWPOLYLINE|8 R|90 4|70 1|38 0|{plan(SQUARE)}|0 ENDBLK|8 0")
+                   f"0 BLOCK|8 0|2 B|70 0|10 0|20 0|30 0|3 B|{light_polyline(0)}|0 ENDBLK|8 0")
     answer, outline = insert(teskarlt, path, at="4.5,3")
     assert answer["face"] == "N1.N1"
     expect_in_plane(outline, falling, (0.6, 0, 0.8))
