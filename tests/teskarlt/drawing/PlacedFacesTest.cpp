@@ -132,8 +132,9 @@ TEST(PlacedFaces, InsertionsThatCannotBeReadAreCounted) {
 }
 
 TEST(PlacedFaces, SolidsAreCountedInBlocksToo) {
-  const Found found = Read(Block("B", "0 3DSOLID|5 2F|8 0|0 REGION|5 30|8 0|"),
-                           Insert("1A", "B", "70 3|44 9|") + "0 3DSOLID|5 1B|8 0|0 HATCH|8 0|30 5|0 HATCH|8 0|");
+  const Found found =
+      Read(Block("B", "0 3DSOLID|5 2F|8 0|0 REGION|5 30|8 0|"),
+           Insert("1A", "B", "70 3|44 9|") + "0 3DSOLID|5 1B|8 0|0 HATCH|8 0|30 5|0 HATCH|8 0|");
   EXPECT_THAT(found.unread,
               ElementsAre(Pair("3DSOLID", 4U), Pair(std::string(UNREAD_HATCH), 1U), Pair("REGION", 3U)));
 }

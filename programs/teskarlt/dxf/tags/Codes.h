@@ -173,8 +173,8 @@ constexpr int CODE_MESH_ITEM = 90;        // of the list that was announced last
 constexpr int CODE_MESH_FACE_COUNT = 93;  // of items in the list of faces
 constexpr int CODE_MESH_EDGE_COUNT = 94;
 
-// Of a HATCH: behind the head of each boundary follow the vertices of a polyline, or edges with the codes that
-// LINE and ARC have; the style ends the boundaries.
+// Of a HATCH: behind the head of each boundary follow the vertices of a polyline, or edges with the codes
+// that LINE and ARC have; the style ends the boundaries.
 constexpr int CODE_HATCH_ELEVATION = 30;
 constexpr int CODE_HATCH_EDGE = 72;  // its type
 constexpr std::int64_t HATCH_EDGE_LINE = 1;
