@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 
 namespace teskarlt {
@@ -14,12 +15,25 @@ namespace {
 
 constexpr std::size_t NO_SURFACE = std::numeric_limits<std::size_t>::max();
 
+void TakeToWorking(const WorkingUnit& unit, Ring& ring) {
+  for (geometry::Vec3& corner : ring)
+    corner = ToWorking(corner, unit);
+}
+
+void TakeToWorking(const WorkingUnit& unit, RoofFace& face) {
+  TakeToWorking(unit, face.corners);
+  for (Ring& hole : face.holes)
+    TakeToWorking(unit, hole);
+  face.plane.point = ToWorking(face.plane.point, unit);
+}
+
 }  // namespace
 
-Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, UnreadEntities unread)
+Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit, UnreadEntities unread)
     : faces_(std::move(faces)),
       unread_(std::move(unread)),
       tolerance_(tolerance),
+      unit_(unit),
       index_(BoxesOf(faces_)),
       surfaces_(SurfacesOf(faces_, index_, tolerance)),
       surfaceOf_(faces_.size(), NO_SURFACE) {
@@ -82,7 +96,15 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
 
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
   FoundFaces found = SearchFaces(drawing, tolerance);
-  return {std::move(found.faces), tolerance, std::move(found.unread)};
+  return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread)};
+}
+
+Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
+  const double tolerance = RoofTolerance(unit);
+  FoundFaces found = SearchFaces(drawing, ToDrawn(tolerance, unit));
+  for (RoofFace& face : found.faces)
+    TakeToWorking(unit, face);
+  return {std::move(found.faces), tolerance, unit, std::move(found.unread)};
 }
 
 }  // namespace teskarlt

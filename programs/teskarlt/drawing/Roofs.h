@@ -12,6 +12,7 @@
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/RoofSurface.h"
 #include "teskarlt/drawing/UnreadEntities.h"
+#include "teskarlt/drawing/WorkingUnit.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
@@ -25,10 +26,15 @@ struct FaceOver {
 
 class Roofs {
  public:
-  // `tolerance` is a millimetre in drawing units; `unread` is what of the drawing may be a roof besides.
-  Roofs(std::vector<RoofFace> faces, double tolerance, UnreadEntities unread = {});
+  // `tolerance` is a millimetre in the unit of the faces, which are drawing units where nothing else is said;
+  // `unread` is what of the drawing may be a roof besides.
+  Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit = IN_DRAWING_UNITS,
+        UnreadEntities unread = {});
 
   double Tolerance() const { return tolerance_; }
+
+  // Of the faces.
+  const WorkingUnit& Unit() const { return unit_; }
 
   // Whether no face can take a window.
   bool IsEmpty() const;
@@ -65,6 +71,7 @@ class Roofs {
   std::vector<RoofFace> faces_;
   UnreadEntities unread_;
   double tolerance_;
+  WorkingUnit unit_;
   PlanIndex index_;
   std::vector<RoofSurface> surfaces_;
   std::vector<std::size_t> surfaceOf_;                               // by the number of the face; NO_SURFACE
@@ -72,7 +79,8 @@ class Roofs {
   std::unordered_map<std::string, std::size_t> namedSurfaces_;       // and of surfaces
 };
 
-// The roofs of the model space.
+// The roofs of the model space, in drawing units; and in those in which windows are computed.
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance);
+Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit);
 
 }  // namespace teskarlt

@@ -96,9 +96,9 @@ TEST_F(RoofChoiceTest, DrawingWithoutFacesIsToldSo) {
 }
 
 TEST_F(RoofChoiceTest, RefusalsNameWhatWasNotRead) {
-  roofs = Roofs(roofs.Faces(), 1.0, {{"3DSOLID", 2}});
+  roofs = Roofs(roofs.Faces(), 1.0, IN_DRAWING_UNITS, {{"3DSOLID", 2}});
   EXPECT_THAT(Refusal(OrderAt(9000, 2000)), HasSubstr("y 0 to 6000; 2 3DSOLID are not read: explode them"));
-  roofs = Roofs({}, 1.0, {{"3DSOLID", 2}});
+  roofs = Roofs({}, 1.0, IN_DRAWING_UNITS, {{"3DSOLID", 2}});
   EXPECT_THAT(Refusal(OrderAt(1, 1)), HasSubstr("can take a roof window; 2 3DSOLID are not read"));
 }
 
