@@ -280,6 +280,19 @@ def test_what_cannot_be_read_is_told_with_a_remedy(teskarlt, tmp_path):
                   "1 INSERT of an attached drawing", "bind the other drawing", "1 INSERT of a missing block",
                   "1 INSERT of a block that contains itself", "1 INSERT with a scale of 0"):
         assert words in told
+    looked = teskarlt.done("roofs", path, "--json")
+    assert looked.json["unread"]["3DSOLID"] == 2 and "2 3DSOLID" in looked.stderr
+
+
+def test_faces_of_a_mesh_count_as_one_entity(teskarlt, tmp_path):
+    path = tmp_path / "mesh.dxf"
+    drawing = new_drawing()
+    with drawing.modelspace().add_mesh().edit_data() as mesh:
+        mesh.vertices = [tuple(corner) for corner in (*CORNERS, CORNERS[1] + Vec3(4, 0, 0), CORNERS[2] + Vec3(4, 0, 0))]
+        mesh.faces = [(0, 1, 2, 3), (1, 4, 5, 2)]
+    drawing.saveas(path)
+    roof, = teskarlt.done("roofs", path, "--json").json["roofs"]
+    assert roof["entities"] == {"MESH": 1} and [name.split(".")[1] for name in sorted(roof["faces"])] == ["1", "2"]
 
 
 @pytest.mark.parametrize("corners", [[(0, 0, 2), (8, 0, 2), (0, 5, 5), (8, 5, 5)], [(0, 0, 2), (8, 0, 2), (4, 0, 2), (2, 0, 2)],

@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/PointText.h"
@@ -46,6 +47,7 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
       .Named("FIELD=VALUE");
   options.target.AddOutput(command);
   AddUnitOptions(command, options.units);
+  AddLengthsOption(command, options.lengths);
   command.Flag("--strict", options.isStrict,
                "refuse a window that overlaps another or does not lie on a roof face");
   options.target.AddDryRun(command);
@@ -68,6 +70,7 @@ WindowOrder OrderOf(const WindowOptions& options) {
   for (const std::string& point : options.roof)
     order.roof.push_back(ParsePoint("--roof", point));
   order.isStrict = options.isStrict;
+  order.lengths = StyleSaid(options.lengths);
   return order;
 }
 

@@ -212,7 +212,7 @@ class FaceWalk {
   void Take(const std::string& name, EntityFaces faces) {
     const std::size_t count = faces.faces.size();
     for (std::size_t i = 0; i < count; ++i) {
-      take_({NumberedName(name, i + 1, count), faces.layer, faces.type, faces.isFlatKind,
+      take_({NumberedName(name, i + 1, count), name, faces.layer, faces.type, faces.isFlatKind,
              std::move(faces.faces[i])});
     }
   }

@@ -11,10 +11,11 @@
 namespace teskarlt {
 
 struct PlacedFace {
-  std::string name;   // as RoofSearch.h says
-  std::string layer;  // UTF-8; in a block, layer 0 is that of the INSERT
-  const char* type;   // as EntityFaces has it
-  bool isFlatKind;    // likewise
+  std::string name;    // as RoofSearch.h says
+  std::string entity;  // the name without the number of the face
+  std::string layer;   // UTF-8; in a block, layer 0 is that of the INSERT
+  const char* type;    // as EntityFaces has it
+  bool isFlatKind;     // likewise
   EntityFace face;  // in drawing coordinates; one of a scaled block need not be of its entity's kind any more
 };
 

@@ -14,6 +14,7 @@ namespace teskarlt {
 // Drawing coordinates and units.
 struct RoofFace {
   std::string name;         // RoofSearch.h; stable, and safe in a shell
+  std::string entity;       // the name without the number of the face
   std::string layer;        // UTF-8
   std::string type;         // of its entity, as EntityFaces has it
   Ring corners;             // in order around the face

@@ -27,6 +27,7 @@ FoundFaces SearchFaces(const dxf::Document& drawing, double tolerance) {
     std::optional<RoofFace> face = MakeRoofFace(placed.face.corners, placed.face.holes, tolerance);
     if (!face) return;
     face->name = std::move(placed.name);
+    face->entity = std::move(placed.entity);
     face->layer = std::move(placed.layer);
     face->type = placed.type;
     found.faces.push_back(*std::move(face));
