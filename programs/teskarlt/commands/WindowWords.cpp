@@ -183,6 +183,33 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
   }
 }
 
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
+                 const std::vector<PlacedWindow>& windows) {
+  PlacedWindow all;  // their sums
+  for (const PlacedWindow& window : windows) {
+    WarnOfMisfits(window);
+    all.faces += window.faces;
+    all.lines += window.lines;
+    all.layers.insert(window.layers.begin(), window.layers.end());
+  }
+  WarnOfClosedLayers(drawing, all.layers);
+  WarnOfTexts(drawing);
+  SaveDrawing(drawing, options.target);
+  if (options.asJson) {
+    Json json = Json::Object({{"version", JSON_VERSION}});
+    json["windows"] = Json::List();
+    for (const PlacedWindow& window : windows)
+      json["windows"].Add(WindowJson(window));
+    options.target.AddTo(json);
+    PrintJson(json);
+    return;
+  }
+  for (const PlacedWindow& window : windows)
+    PrintPlace(window);
+  fmt::print("{} windows: ", windows.size());
+  PrintEntities(options, all);
+}
+
 void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
                  const WindowReading& before) {
   Warn(drawing, window.placed);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "geometry/Vec3.h"
+#include "teskarlt/windows/RowOrder.h"
 
 namespace teskarlt {
 
@@ -14,6 +15,12 @@ struct PlanPoint {
   double x;
   double y;
   std::string text;  // as the user wrote it, for messages
+};
+
+// How far a window moves in its roof, metres.
+struct SlopeMove {
+  double across;  // along the eaves, to the right as seen from below them
+  double up;      // up the slope
 };
 
 // A value for a field of the record; UTF-8.
@@ -25,6 +32,8 @@ struct FieldSetting {
 // Texts are UTF-8 and empty where the user said nothing.
 struct WindowOrder {
   std::optional<PlanPoint> at;
+  std::optional<SlopeMove> by;       // of a window that is changed, from where it stands
+  RowOrder row;                      // of windows that are inserted
   std::string roofFace;              // by its name; without it the uppermost face at the point is taken
   std::vector<geometry::Vec3> roof;  // three points of a plane in place of a face, in drawing units; or none
   std::string window;                // of a catalogue, "MAKER/KEY"
