@@ -106,7 +106,7 @@ def test_three_points_stand_for_a_roof(teskarlt, tmp_path):
 
 def test_uppermost_roof_over_the_point_is_taken(teskarlt, tmp_path, house):
     output = tmp_path / "out.dxf"
-    faces = {face["face"]: face["layer"] for face in teskarlt.done("roofs", house, "--json").json["roofs"]}
+    faces = {face["face"]: face["layer"] for face in teskarlt.done("roofs", house, "--all", "--json").json["faces"]}
     answer = teskarlt.done("insert", house, "--at", "7600,1600", "-o", output, "--json").json
     assert faces[answer["face"]] == "ROOF_DORMER"
 

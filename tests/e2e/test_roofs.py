@@ -71,7 +71,7 @@ def test_wall_that_is_not_quite_upright_takes_no_window_and_is_listed_on_demand(
     for place in ("4,1", "4,0.25"):
         assert teskarlt.done("insert", path, "--at", place, "--set", "length=0.2", "--set", "width=0.2", "--dry-run",
                              "--set", "frameWidth=0.05", "--json").json["face"] == roof
-    assert [face["face"] for face in teskarlt.done("roofs", path, "--json").json["roofs"]] == [roof]
+    assert [listed["faces"] for listed in teskarlt.done("roofs", path, "--json").json["roofs"]] == [[roof]]
     assert leaning not in teskarlt.done("roofs", path).stdout
     assert "steeper than 85 degrees" in teskarlt.done("roofs", path, "--all").stdout
     answer = teskarlt("insert", path, "--at", "4,0.25", "--roof-face", leaning)
@@ -122,3 +122,53 @@ def test_window_lies_on_triangles_and_the_sliver_between_them(teskarlt, tmp_path
         answer = teskarlt.done("insert", path, "--at", place, "--strict", "--json").json
         assert abs(answer["pitch"] - math.degrees(math.atan(0.75))) < 0.02
     assert "2 windows fit" in teskarlt.done("refit", path, "--dry-run").stdout
+
+
+def triangles(rows, columns, at):
+    """A grid of fields with a diagonal each, without the one in the middle; `at` gives a corner's point."""
+    faces = []
+    for i in range(columns):
+        for j in range(rows):
+            if (i, j) != (columns // 2, rows // 2):
+                a, b, c, d = at(i, j), at(i + 1, j), at(i + 1, j + 1), at(i, j + 1)
+                faces += [(a, b, c, c), (a, c, d, d)]
+    return faces
+
+
+def test_triangles_in_one_plane_are_one_roof_with_its_hole(teskarlt, tmp_path):
+    path = tmp_path / "grid.dxf"
+    # Rises by 0.6 for every 0.8 in the plan: each field is 1 by 1 in the slope. It falls to the west.
+    faces = triangles(3, 5, lambda i, j: (0.8 * j, -i, 2 + 0.6 * j))
+    drawing_in_metres(path, *faces, [(0, -9, 3), (1, -9, 3), (1, -8, 3), (0, -8, 3)])
+    answer = teskarlt.done("roofs", path, "--json")
+    [roof] = answer.json["roofs"]
+    assert (roof["roof"], roof["compass"], roof["entities"], len(roof["faces"])) == ("R1", "W", {"3DFACE": 28}, 28)
+    assert math.isclose(roof["fallDirection"], 180) and math.isclose(roof["pitch"], math.degrees(math.atan(0.75)))
+    assert math.isclose(roof["area"], 14) and math.isclose(roof["eavesHeight"], 2) and math.isclose(roof["ridgeHeight"], 3.8)
+    assert [len(ring) for ring in roof["outline"]] == [4, 4]
+    assert [flat["roof"] for flat in answer.json["flat"]] == ["R2"]
+    assert answer.stderr == "teskarlt: note: 1 flat surface is left out; --all lists it\n"
+
+
+def test_roof_keeps_its_name_when_windows_come_and_takes_them_by_it(teskarlt, tmp_path):
+    path = tmp_path / "roofs.dxf"
+    above = [(x, y, z + 1) for x, y, z in ROOF]
+    lower, _ = drawing_in_metres(path, ROOF, above)
+    before = teskarlt.done("roofs", path).stdout
+    answer = teskarlt.done("insert", path, "--at", "4,1", "--on", "r1", "--json").json
+    assert (answer["roof"], answer["face"]) == ("R1", lower) and math.isclose(answer["place"][2], 3.75)
+    assert teskarlt.done("roofs", path).stdout == before
+    jobs = tmp_path / "jobs.jsonl"
+    jobs.write_text('{"at": [2, 1], "on": "R2"}\n')
+    [window] = teskarlt.done("insert", path, "--jobs", jobs, "--json").json["windows"]
+    assert window["roof"] == "R2" and math.isclose(window["place"][2], 4 + 0.75)
+
+
+def test_list_of_all_shows_the_roof_of_each_face(teskarlt, tmp_path):
+    path = tmp_path / "roofs.dxf"
+    left, right = ([(x + dx, y, z) for x, y, z in ROOF] for dx in (0, 8))
+    one, two, wall = drawing_in_metres(path, left, right, [(0, 0, 7), (8, 0, 7), (8, 0.5, 20), (0, 0.5, 20)])
+    faces = teskarlt.done("roofs", path, "--all", "--json").json["faces"]
+    assert [(face["face"], face["roof"]) for face in faces] == [(one, "R1"), (two, "R1"), (wall, None)]
+    lines = teskarlt.done("roofs", path, "--all").stdout.splitlines()
+    assert lines[1].split()[:2] == ["R1", "0"] and lines[-1].endswith("none: steeper than 85 degrees")

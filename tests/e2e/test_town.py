@@ -85,3 +85,26 @@ def test_windows_of_the_town_fit_where_they_stand(teskarlt, tmp_path):
     count = len(inserted(teskarlt, path, tmp_path / "jobs.jsonl").json["windows"])
     assert "window" not in " ".join(finding["message"] for finding in teskarlt("check", path, "--json").json["findings"])
     assert teskarlt.done("refit", path, "--dry-run", "--json").json["fitting"] == count
+
+
+def slope_area(surface):
+    """The area of a polygon in its plane, from that of its plan."""
+    ox, oy, _ = surface.corners[0]
+    doubled = sum((a[0] - ox) * (b[1] - oy) - (b[0] - ox) * (a[1] - oy) for a, b in surface.edges)
+    return abs(doubled) / 2 / surface.normal[2]
+
+
+def test_roofs_of_the_town_are_listed_with_their_outlines(teskarlt, tmp_path):
+    path = town.drawing("town_3dface_r2000", tmp_path / "town.dxf")
+    listed = teskarlt.done("roofs", path, "--json", "--units", "m").json["roofs"]
+    assert not any(len(roof["faces"]) == 1 and len(roof["outline"]) > 1 for roof in listed)
+    for roof in listed:
+        ox, oy, _ = roof["outline"][0][0]  # far from the origin, products lose their last digits
+        plan = sum((a[0] - ox) * (b[1] - oy) - (b[0] - ox) * (a[1] - oy)
+                   for ring in roof["outline"] for a, b in zip(ring, ring[1:] + ring[:1])) / 2
+        assert math.isclose(plan / math.cos(math.radians(roof["pitch"])), roof["area"], rel_tol=1e-4), roof["roof"]
+    alone = [(surface, place) for surface, place in roofs() if slope_area(surface) > 10]
+    for surface, (x, y) in alone[:40]:
+        over = [roof for roof in listed if any(town.Surface(ring).covers(x, y) for ring in roof["outline"])
+                and abs(town.Surface(roof["outline"][0]).height(x, y) - surface.height(x, y)) < 0.1]
+        assert any(roof["area"] > 0.98 * slope_area(surface) for roof in over)

@@ -1,6 +1,9 @@
-// RoofsCommand.cpp - the subcommand "roofs": lists the roof faces of a drawing.
+// RoofsCommand.cpp - the subcommand "roofs": lists the roof surfaces of a drawing.
 #include <algorithm>
+#include <map>
 #include <memory>
+#include <set>
+#include <tuple>
 #include <utility>
 
 #include <fmt/format.h>
@@ -8,7 +11,9 @@
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
-#include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/RingsAround.h"
+#include "teskarlt/drawing/Roofs.h"
+#include "teskarlt/drawing/SurfaceOutline.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Messages.h"
@@ -25,158 +30,253 @@ struct RoofsOptions {
   bool asJson = false;
 };
 
-// The faces that take a window, and those that take none: uneven ones, and walls that are not quite upright.
-struct RoofFaces {
-  std::vector<RoofFace> planar;
-  std::vector<RoofFace> warped;
-  std::vector<RoofFace> steep;
+// A surface that can take a window, with what is told of it. Drawing units.
+struct ListedSurface {
+  const RoofSurface* surface;
+  const RoofFace* largest;  // of its faces
+  SurfaceOutline outline;
+  double area;
+  double eaves;  // heights
+  double ridge;
+  std::map<std::string, std::size_t> entities;  // how many of which type
 };
 
-RoofFaces FacesIn(const dxf::Document& drawing, double tolerance) {
-  RoofFaces faces;
-  for (RoofFace& face : FindFaces(drawing, tolerance)) {
-    std::vector<RoofFace>& kind = IsSteep(face)               ? faces.steep
-                                  : IsPlanar(face, tolerance) ? faces.planar
-                                                              : faces.warped;
-    kind.push_back(std::move(face));
+// The surfaces that take a window, and the faces that take none: uneven ones, and walls that are not quite
+// upright.
+struct RoofList {
+  std::vector<ListedSurface> sloped;
+  std::vector<ListedSurface> flat;
+  std::vector<const RoofFace*> warped;
+  std::vector<const RoofFace*> steep;
+};
+
+bool IsFlat(const RoofSurface& surface) {
+  constexpr double FLATTEST = 1.0;  // degrees; less is the ground, or a floor
+  return Pitch(surface.plane) < FLATTEST;
+}
+
+// A mesh has many faces and is one entity: its handle stands before the first slash of their names.
+std::map<std::string, std::size_t> EntitiesOf(const RoofSurface& surface, const Roofs& roofs) {
+  std::map<std::string, std::set<std::string>> handles;
+  for (const std::size_t number : surface.faces) {
+    const RoofFace& face = roofs.Faces()[number];
+    handles[face.type].insert(face.name.substr(0, face.name.find('/')));
   }
-  return faces;
+  std::map<std::string, std::size_t> counts;
+  for (const auto& [type, ofType] : handles)
+    counts[type] = ofType.size();
+  return counts;
 }
 
-// Lowest and highest corner, in metres.
-std::pair<double, double> HeightRange(const RoofFace& face, double unitFactor) {
-  const auto [low, high] = std::minmax_element(face.corners.begin(), face.corners.end(),
-                                               [](const auto& a, const auto& b) { return a.z < b.z; });
-  return {low->z / unitFactor, high->z / unitFactor};
+ListedSurface Listed(const RoofSurface& surface, const Roofs& roofs) {
+  ListedSurface listed{&surface, &roofs.Faces()[surface.faces.front()], {}, 0.0, 0.0, 0.0, {}};
+  listed.outline = OutlineOf(surface, roofs.Faces(), roofs.Tolerance());
+  listed.area = AreaWithin(listed.outline.rings);
+  std::tie(listed.eaves, listed.ridge) = HeightRange(listed.outline);
+  listed.entities = EntitiesOf(surface, roofs);
+  return listed;
 }
 
-Json ToJson(const RoofFace& face, double unitFactor) {
-  Json json;
-  json["face"] = face.name;
-  json["type"] = face.type;
-  json["layer"] = face.layer;
-  json["pitch"] = Pitch(face.plane);
-  const std::optional<double> fall = FallDirection(face.plane);
-  json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
-  json["area"] = Area(face) / (unitFactor * unitFactor);
-  for (const geometry::Vec3& corner : face.corners)
-    json["corners"].Add(Json::List({corner.x, corner.y, corner.z}));
-  return json;
-}
-
-// Whoever misses a roof in the list learns why.
-void TellOfWarped(const std::vector<RoofFace>& warped, const DrawingUnit& unit) {
-  if (warped.empty()) return;
-  const auto worst = std::max_element(warped.begin(), warped.end(),
-                                      [](const auto& a, const auto& b) { return Warp(a) < Warp(b); });
-  const bool isOne = warped.size() == 1;
-  TellNote(fmt::format(
-      "{} face{} {} left out, not being planar: a corner of {} lies {:.3f} m off its plane; --all lists {}",
-      warped.size(), isOne ? "" : "s", isOne ? "is" : "are", worst->name, Warp(*worst) / unit.perMetre,
-      isOne ? "it" : "them"));
-}
-
-Json ListOf(const std::vector<RoofFace>& faces, const DrawingUnit& unit) {
-  Json list = Json::List();
-  for (const RoofFace& face : faces)
-    list.Add(ToJson(face, unit.perMetre));
+RoofList ListOf(const Roofs& roofs) {
+  RoofList list;
+  for (const RoofSurface& surface : roofs.Surfaces()) {
+    if (surface.isPlanar) (IsFlat(surface) ? list.flat : list.sloped).push_back(Listed(surface, roofs));
+  }
+  for (const RoofFace& face : roofs.Faces()) {
+    if (IsSteep(face)) {
+      list.steep.push_back(&face);
+    } else if (!IsPlanar(face, roofs.Tolerance())) {
+      list.warped.push_back(&face);
+    }
+  }
   return list;
 }
 
-void PrintRoofs(const RoofFaces& faces, const RoofsOptions& options, const DrawingUnit& unit) {
+// Whoever misses a roof in the list learns why.
+void TellOfLeftOut(const RoofList& list, const DrawingUnit& unit) {
+  const auto isOrAre = [](std::size_t count) { return count == 1 ? "is" : "are"; };
+  const auto itOrThem = [](std::size_t count) { return count == 1 ? "it" : "them"; };
+  if (const std::size_t count = list.flat.size(); count > 0) {
+    TellNote(fmt::format("{} flat surface{} {} left out; --all lists {}", count, count == 1 ? "" : "s",
+                         isOrAre(count), itOrThem(count)));
+  }
+  if (list.warped.empty()) return;
+  const RoofFace& worst =
+      **std::max_element(list.warped.begin(), list.warped.end(),
+                         [](const auto* a, const auto* b) { return Warp(*a) < Warp(*b); });
+  const std::size_t count = list.warped.size();
+  TellNote(fmt::format(
+      "{} face{} {} left out, not being planar: a corner of {} lies {:.3f} m off its plane; --all lists {}",
+      count, count == 1 ? "" : "s", isOrAre(count), worst.name, Warp(worst) / unit.perMetre,
+      itOrThem(count)));
+}
+
+Json ToJson(const geometry::Vec3& point) {
+  return Json::List({point.x, point.y, point.z});
+}
+
+void AddDirection(const Plane& plane, Json& json) {
+  const std::optional<double> fall = FallDirection(plane);
+  json["pitch"] = Pitch(plane);
+  json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
+  json["compass"] = fall ? Json(CompassPoint(*fall)) : Json(nullptr);
+}
+
+Json ToJson(const ListedSurface& listed, const Roofs& roofs, const DrawingUnit& unit) {
+  Json json;
+  json["roof"] = listed.surface->name;
+  json["layer"] = listed.largest->layer;
+  AddDirection(listed.surface->plane, json);
+  json["area"] = listed.area / (unit.perMetre * unit.perMetre);
+  json["eavesHeight"] = listed.eaves / unit.perMetre;
+  json["ridgeHeight"] = listed.ridge / unit.perMetre;
+  for (const auto& [type, count] : listed.entities)
+    json["entities"][type] = count;
+  for (const std::size_t face : listed.surface->faces)
+    json["faces"].Add(roofs.Faces()[face].name);
+  for (const SlopeRing& ring : listed.outline.rings) {
+    Json corners = Json::List();
+    for (const SlopePoint& corner : ring)
+      corners.Add(ToJson(listed.outline.frame.At(corner)));
+    json["outline"].Add(std::move(corners));
+  }
+  return json;
+}
+
+Json ToJson(const RoofFace& face, const Roofs& roofs, const DrawingUnit& unit) {
+  const RoofSurface* surface = roofs.SurfaceOf(face);
+  Json json;
+  json["face"] = face.name;
+  json["roof"] = surface != nullptr && surface->isPlanar ? Json(surface->name) : Json(nullptr);
+  json["type"] = face.type;
+  json["layer"] = face.layer;
+  AddDirection(face.plane, json);
+  json["area"] = Area(face) / (unit.perMetre * unit.perMetre);
+  for (const geometry::Vec3& corner : face.corners)
+    json["corners"].Add(ToJson(corner));
+  return json;
+}
+
+Json ToJson(const std::vector<ListedSurface>& surfaces, const Roofs& roofs, const DrawingUnit& unit) {
+  Json list = Json::List();
+  for (const ListedSurface& listed : surfaces)
+    list.Add(ToJson(listed, roofs, unit));
+  return list;
+}
+
+void PrintRoofs(const RoofList& list, const Roofs& roofs, const RoofsOptions& options,
+                const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
   json["unitFactor"] = unit.perMetre;
-  json["roofs"] = ListOf(faces.planar, unit);
+  json["roofs"] = ToJson(list.sloped, roofs, unit);
+  json["flat"] = ToJson(list.flat, roofs, unit);
   json["warped"] = Json::List();
-  for (const RoofFace& face : faces.warped) {
-    json["warped"].Add(
-        Json::Object({{"face", face.name}, {"layer", face.layer}, {"offPlane", Warp(face) / unit.perMetre}}));
+  for (const RoofFace* face : list.warped) {
+    json["warped"].Add(Json::Object(
+        {{"face", face->name}, {"layer", face->layer}, {"offPlane", Warp(*face) / unit.perMetre}}));
   }
-  if (options.isAll) json["steep"] = ListOf(faces.steep, unit);
+  if (options.isAll) {
+    json["steep"] = Json::List();
+    for (const RoofFace* face : list.steep)
+      json["steep"].Add(ToJson(*face, roofs, unit));
+    json["faces"] = Json::List();
+    for (const RoofFace& face : roofs.Faces())
+      json["faces"].Add(ToJson(face, roofs, unit));
+  }
   PrintJson(json);
 }
 
-std::string FallText(const RoofFace& face) {
-  const std::optional<double> fall = FallDirection(face.plane);
-  return fall ? fmt::format("{:.1f}", *fall) : "flat";
+std::string FallText(const Plane& plane) {
+  const std::optional<double> fall = FallDirection(plane);
+  return fall ? fmt::format("{:.1f} {}", *fall, CompassPoint(*fall)) : "flat";
 }
 
-// The face's cells of the table.
-std::vector<std::string> Row(const RoofFace& face, const DrawingUnit& unit) {
-  const auto [low, high] = HeightRange(face, unit.perMetre);
-  return {face.name,
-          face.type,
-          face.layer,
-          fmt::format("{:.2f}", Pitch(face.plane)),
-          FallText(face),
-          fmt::format("{:.2f}", Area(face) / (unit.perMetre * unit.perMetre)),
-          fmt::format("{:.3f}", low),
-          fmt::format("{:.3f}", high)};
+// "4 3DFACE, 1 POLYFACE MESH"
+std::string EntitiesText(const ListedSurface& listed) {
+  std::string text;
+  for (const auto& [type, count] : listed.entities)
+    text += fmt::format("{}{} {}", text.empty() ? "" : ", ", count, type);
+  return text;
 }
 
-const std::vector<std::string> COLUMNS = {"face",         "type",    "layer",  "pitch deg",
-                                          "falls to deg", "area m2", "from m", "to m"};
-
-void PrintTable(const std::vector<RoofFace>& faces, const DrawingUnit& unit) {
-  Table table(COLUMNS);
-  for (const RoofFace& face : faces)
-    table.Add(Row(face, unit));
+void PrintTable(const RoofList& list, bool withFlat, const DrawingUnit& unit) {
+  Table table({"roof", "layer", "pitch deg", "falls to deg", "area m2", "eaves m", "ridge m", "made of"});
+  const auto add = [&](const ListedSurface& listed) {
+    const Plane& plane = listed.surface->plane;
+    table.Add({listed.surface->name, listed.largest->layer, fmt::format("{:.2f}", Pitch(plane)),
+               FallText(plane), fmt::format("{:.2f}", listed.area / (unit.perMetre * unit.perMetre)),
+               fmt::format("{:.3f}", listed.eaves / unit.perMetre),
+               fmt::format("{:.3f}", listed.ridge / unit.perMetre), EntitiesText(listed)});
+  };
+  std::for_each(list.sloped.begin(), list.sloped.end(), add);
+  if (withFlat) std::for_each(list.flat.begin(), list.flat.end(), add);
   table.Print();
 }
 
-// All faces, with the reason why one takes no window.
-void PrintAll(const RoofFaces& faces, const DrawingUnit& unit) {
-  std::vector<std::string> columns = COLUMNS;
-  columns.emplace_back("takes a window");
-  Table table(columns);
-  const auto add = [&](const RoofFace& face, std::string verdict) {
-    std::vector<std::string> row = Row(face, unit);
-    row.push_back(std::move(verdict));
-    table.Add(row);
-  };
-  for (const RoofFace& face : faces.planar)
-    add(face, "yes");
-  for (const RoofFace& face : faces.warped)
-    add(face, fmt::format("no: {:.3f} m off its plane", Warp(face) / unit.perMetre));
-  for (const RoofFace& face : faces.steep)
-    add(face, "no: steeper than 85 degrees");
+// The name of the face's roof, or why it takes no window.
+std::string Verdict(const RoofFace& face, const Roofs& roofs, const DrawingUnit& unit) {
+  const RoofSurface* surface = roofs.SurfaceOf(face);
+  if (surface != nullptr && surface->isPlanar) return surface->name;
+  if (IsSteep(face)) return "none: steeper than 85 degrees";
+  return fmt::format("none: {:.3f} m off its plane", Warp(face) / unit.perMetre);
+}
+
+void PrintFaces(const Roofs& roofs, const DrawingUnit& unit) {
+  Table table({"face", "type", "layer", "pitch deg", "falls to deg", "area m2", "from m", "to m", "roof"});
+  for (const RoofFace& face : roofs.Faces()) {
+    const auto [low, high] = std::minmax_element(face.corners.begin(), face.corners.end(),
+                                                 [](const auto& a, const auto& b) { return a.z < b.z; });
+    table.Add({face.name, face.type, face.layer, fmt::format("{:.2f}", Pitch(face.plane)),
+               FallText(face.plane), fmt::format("{:.2f}", Area(face) / (unit.perMetre * unit.perMetre)),
+               fmt::format("{:.3f}", low->z / unit.perMetre), fmt::format("{:.3f}", high->z / unit.perMetre),
+               Verdict(face, roofs, unit)});
+  }
   table.Print();
 }
 
 void RunRoofs(const RoofsOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
   const DrawingUnit& unit = UnitOf(drawing, options.units);
-  const RoofFaces faces = FacesIn(drawing, RoofTolerance(unit));
-  if (!options.isAll) TellOfWarped(faces.warped, unit);
+  const Roofs roofs = FindRoofs(drawing, RoofTolerance(unit));
+  const RoofList list = ListOf(roofs);
+  if (!options.isAll) TellOfLeftOut(list, unit);
   WarnOfTexts(drawing);
   if (options.asJson) {
-    PrintRoofs(faces, options, unit);
-  } else if (options.isAll) {
-    PrintAll(faces, unit);
-  } else if (faces.planar.empty()) {
-    fmt::print("{} holds no planar face that can take a roof window.\n", options.file);
+    PrintRoofs(list, roofs, options, unit);
+  } else if (list.sloped.empty() && (list.flat.empty() || !options.isAll)) {
+    fmt::print("{} holds no {} that can take a roof window.\n", options.file,
+               list.flat.empty() ? "planar face" : "sloped roof");
   } else {
-    PrintTable(faces.planar, unit);
+    PrintTable(list, options.isAll, unit);
   }
+  if (!options.isAll || options.asJson || roofs.Faces().empty()) return;
+  fmt::print("\n");
+  PrintFaces(roofs, unit);
 }
 
 }  // namespace
 
 void AddRoofsCommand(OptionParser& parser) {
-  Subcommand command = parser.Add("roofs", "List the faces that can take a roof window");
+  Subcommand command = parser.Add("roofs", "List the roofs that can take a window");
   const auto options = std::make_shared<RoofsOptions>();
   command.Argument("FILE", options->file, "the drawing").Required();
   AddUnitOptions(command, options->units);
-  command.Flag("--all", options->isAll, "list the faces that take no window too: uneven ones and walls");
+  command.Flag("--all", options->isAll,
+               "list flat roofs too, and the faces behind all of them with those that take no window: uneven "
+               "ones and walls");
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
-      "A face is named by the handle of its entity. Its pitch is measured from the horizontal; the "
-      "direction\n"
-      "in which it falls counter-clockwise from the drawing's x axis.\n"
+      "A roof is all faces that lie in one plane and touch. R1 is the one whose first face comes first in "
+      "the\n"
+      "file; the names stay while the roofs do not change, whatever windows come. A face is named by the\n"
+      "handle of its entity; its roof is the last column. insert --on takes either name.\n"
+      "The pitch is measured from the horizontal; the direction in which a roof falls counter-clockwise "
+      "from\n"
+      "the drawing's x axis, and by the compass with north along y.\n"
       "A face takes a window when its corners lie within 20 mm, or 1/500 of its extent where that is more,\n"
-      "of its plane, and when it is no steeper than 85 degrees.\n"
+      "of its plane, and when it is no steeper than 85 degrees. A roof below 1 degree is flat.\n"
       "Example: teskarlt roofs house.dxf");
   command.Run([options] { RunRoofs(*options); });
 }

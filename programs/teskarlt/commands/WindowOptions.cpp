@@ -27,12 +27,11 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
   const Option at =
       command.Value("--at", options.at, "the place in the drawing; the uppermost roof face over it is taken")
           .Named("X,Y");
-  const Option roofFace =
-      command.Value("--roof-face", options.roofFace, "name of the roof face, as teskarlt roofs lists it")
-          .Named("FACE");
-  command.Values("--roof", 3, options.roof, "three points of the roof's plane")
-      .Named("X,Y,Z")
-      .Excludes(roofFace);
+  const Option on = command
+                        .Value("--on,--roof-face", options.roofName,
+                               "the roof or one of its faces, as teskarlt roofs lists them")
+                        .Named("NAME");
+  command.Values("--roof", 3, options.roof, "three points of the roof's plane").Named("X,Y,Z").Excludes(on);
   const Option window =
       command.Value("--window", options.window, "a catalogue's window, whose sizes and texts are taken")
           .Named("MAKER/KEY")
@@ -69,7 +68,7 @@ WindowOrder OrderOf(const WindowOptions& options) {
   for (const std::string& setting : options.settings)
     order.settings.push_back(ParseSetting(setting));
   if (!options.at.empty()) order.at = ParsePlanPoint("--at", options.at);
-  order.roofFace = options.roofFace;
+  order.roofName = options.roofName;
   for (const std::string& point : options.roof)
     order.roof.push_back(ParsePoint("--roof", point));
   order.row = RowOf(options.row);

@@ -16,7 +16,7 @@ namespace teskarlt {
 struct WindowOptions {
   ResultTarget target;
   std::string at;
-  std::string roofFace;
+  std::string roofName;
   std::vector<std::string> roof;  // no or three points
   std::string window;
   std::string catalogue;

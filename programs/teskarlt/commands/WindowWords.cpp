@@ -38,9 +38,9 @@ Json ChangesJson(const EditedWindow& window, const WindowReading& before, const 
 
 void PrintPlace(const PlacedWindow& window) {
   const brevanta::WindowParams& record = window.record;
-  const std::string where = window.face
-                                ? fmt::format("face {} of layer {}", window.face->name, window.face->layer)
-                                : "the given plane";
+  const std::string where = window.face ? fmt::format("roof {}, face {} of layer {}", window.face->roof,
+                                                      window.face->name, window.face->layer)
+                                        : "the given plane";
   const brevanta::Edges frame = brevanta::EdgesOf(window.outline, record.unitFactor);
   const brevanta::Edges recorded = brevanta::RecordedEdges(record);
   fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees.\n", record.markerValue, record.width,
@@ -143,6 +143,7 @@ Json WindowJson(const PlacedWindow& window) {
   const brevanta::WindowParams& record = window.record;
   Json json;
   json["number"] = record.markerValue;
+  json["roof"] = window.face ? Json(window.face->roof) : Json(nullptr);
   json["face"] = window.face ? Json(window.face->name) : Json(nullptr);
   json["pitch"] = record.pitch;
   json["place"] = Json::List({record.storedPoint.x, record.storedPoint.y, record.storedPoint.z});

@@ -1,7 +1,9 @@
 // Plane.cpp - pitch and direction of a plane.
 #include "teskarlt/drawing/Plane.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"
@@ -25,6 +27,13 @@ std::optional<double> FallDirection(const Plane& plane) {
   if (std::hypot(normal.x, normal.y) < FLAT_LIMIT) return std::nullopt;
   const double degrees = geometry::RadToDeg(geometry::ArcTangent2(normal.y, normal.x));
   return degrees < 0 ? degrees + 360.0 : degrees;
+}
+
+std::string_view CompassPoint(double degrees) {
+  constexpr std::array<std::string_view, 16> POINTS = {"E", "ENE", "NE", "NNE", "N", "NNW", "NW", "WNW",
+                                                       "W", "WSW", "SW", "SSW", "S", "SSE", "SE", "ESE"};
+  const double steps = degrees / 360.0 * POINTS.size();
+  return POINTS[static_cast<std::size_t>(std::lround(steps)) % POINTS.size()];
 }
 
 }  // namespace teskarlt

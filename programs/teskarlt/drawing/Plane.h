@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "geometry/Vec3.h"
@@ -39,5 +40,8 @@ double Pitch(const Plane& plane);
 // Direction in which the plane falls, in the plan: degrees counter-clockwise from the drawing's x axis, from
 // 0 up to but not 360; none for a flat one.
 std::optional<double> FallDirection(const Plane& plane);
+
+// The nearest of the sixteen points of the compass to such a direction, "N", "NNE", "NE" ...; north is y.
+std::string_view CompassPoint(double degrees);
 
 }  // namespace teskarlt

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <fmt/format.h>
+
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"
 #include "geometry/Vectors.h"
@@ -72,6 +74,18 @@ bool ShareEdge(const RoofFace& one, const RoofFace& other, double tolerance) {
 bool HaveSameDirection(const Plane& a, const Plane& b) {
   static const double LEAST_COSINE = geometry::Cosine(geometry::DegToRad(SAME_DIRECTION));
   return geometry::VecDot(a.normal, b.normal) >= LEAST_COSINE;
+}
+
+// By the order of their first faces; no handle of an entity has an R.
+void SortAndName(std::vector<RoofSurface>& surfaces) {
+  const auto firstFace = [](const RoofSurface& surface) {
+    return *std::min_element(surface.faces.begin(), surface.faces.end());
+  };
+  std::sort(surfaces.begin(), surfaces.end(),
+            [&](const RoofSurface& a, const RoofSurface& b) { return firstFace(a) < firstFace(b); });
+  std::size_t number = 0;
+  for (RoofSurface& surface : surfaces)
+    if (surface.isPlanar) surface.name = fmt::format("R{}", ++number);
 }
 
 class SurfaceFinder {
@@ -177,7 +191,9 @@ class SurfaceFinder {
 
 std::vector<RoofSurface> SurfacesOf(const std::vector<RoofFace>& faces, const PlanIndex& index,
                                     double tolerance) {
-  return SurfaceFinder(faces, index, tolerance).Find();
+  std::vector<RoofSurface> surfaces = SurfaceFinder(faces, index, tolerance).Find();
+  SortAndName(surfaces);
+  return surfaces;
 }
 
 }  // namespace teskarlt

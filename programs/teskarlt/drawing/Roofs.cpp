@@ -33,6 +33,8 @@ Roofs::Roofs(std::vector<RoofFace> faces, double tolerance)
   for (std::size_t surface = 0; surface < surfaces_.size(); ++surface) {
     for (const std::size_t face : surfaces_[surface].faces)
       surfaceOf_[face] = surface;
+    const std::string& name = surfaces_[surface].name;
+    if (!name.empty()) namedSurfaces_.emplace(dxf::FoldedName(name), surface);
   }
   for (std::size_t face = 0; face < faces_.size(); ++face)
     named_[dxf::FoldedName(faces_[face].name)].push_back(face);
@@ -45,6 +47,11 @@ bool Roofs::IsEmpty() const {
 const RoofSurface* Roofs::SurfaceOf(const RoofFace& face) const {
   const std::size_t surface = surfaceOf_[static_cast<std::size_t>(&face - faces_.data())];
   return surface == NO_SURFACE ? nullptr : &surfaces_[surface];
+}
+
+const RoofSurface* Roofs::SurfaceNamed(std::string_view name) const {
+  const auto found = namedSurfaces_.find(dxf::FoldedName(name));
+  return found == namedSurfaces_.end() ? nullptr : &surfaces_[found->second];
 }
 
 std::vector<const RoofFace*> Roofs::FacesNear(const PlanBox& area) const {

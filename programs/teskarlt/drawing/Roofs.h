@@ -35,6 +35,12 @@ class Roofs {
   // In the order given. Steep ones are among them.
   const std::vector<RoofFace>& Faces() const { return faces_; }
 
+  // In the order of their first faces (RoofSurface.h).
+  const std::vector<RoofSurface>& Surfaces() const { return surfaces_; }
+
+  // The surface of that name, without regard to case; null when there is none.
+  const RoofSurface* SurfaceNamed(std::string_view name) const;
+
   // The surface of a face of Faces(); null for one that has none (RoofSurface.h).
   const RoofSurface* SurfaceOf(const RoofFace& face) const;
 
@@ -58,6 +64,7 @@ class Roofs {
   std::vector<RoofSurface> surfaces_;
   std::vector<std::size_t> surfaceOf_;                               // by the number of the face; NO_SURFACE
   std::unordered_map<std::string, std::vector<std::size_t>> named_;  // numbers of faces by folded names
+  std::unordered_map<std::string, std::size_t> namedSurfaces_;       // and of surfaces
 };
 
 // The roofs of the model space.

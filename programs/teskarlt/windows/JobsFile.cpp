@@ -96,12 +96,12 @@ bool ApplyRowMember(const std::string& name, const json& value, RowOrder& row) {
 void ApplyMember(const std::string& name, const json& value, WindowOrder& order) {
   if (name == "at") {
     order.at = ParsePlanPoint("--at", ValueText(name, value));
-  } else if (name == "roof-face") {
-    order.roofFace = NameText(name, value);
+  } else if (name == "on" || name == "roof-face") {
+    order.roofName = NameText(name, value);
     order.roof.clear();
   } else if (name == "roof") {
     order.roof = PlanePoints(name, value);
-    order.roofFace.clear();
+    order.roofName.clear();
   } else if (name == "window") {
     order.window = NameText(name, value);
   } else if (name == "catalogue") {
@@ -110,10 +110,9 @@ void ApplyMember(const std::string& name, const json& value, WindowOrder& order)
     AddSettings(value, order.settings);
   } else if (!ApplyRowMember(name, value, order.row)) {
     throw Error(
-        fmt::format(
-            "a job has no member \"{}\"; it can have at, roof-face, roof, window, catalogue, set, row, "
-            "spacing, gap, column and row-from",
-            name),
+        fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set, row, "
+                    "spacing, gap, column and row-from",
+                    name),
         {.value = name});
   }
 }

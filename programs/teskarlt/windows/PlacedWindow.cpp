@@ -7,11 +7,11 @@
 
 namespace teskarlt {
 
-PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofFace* face) {
+PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofChoice& roof) {
   PlacedWindow window;
   window.record = *outcome.confirmed;
   window.outline = OutlineOf(window.record);
-  if (face != nullptr) window.face = FaceName{face->name, face->layer};
+  if (roof.face != nullptr) window.face = FaceName{roof.face->name, roof.face->layer, roof.surface->name};
   window.faces = outcome.faces;
   window.lines = outcome.lines;
   window.layers = outcome.layers;

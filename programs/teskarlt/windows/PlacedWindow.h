@@ -8,15 +8,16 @@
 #include <vector>
 
 #include "inc/WindowParams.h"
-#include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/modules/ModuleSession.h"
+#include "teskarlt/windows/RoofChoice.h"
 
 namespace teskarlt {
 
 struct FaceName {
   std::string name;  // as RoofFace has both
   std::string layer;
+  std::string roof;  // of its surface
 };
 
 struct PlacedWindow {
@@ -29,8 +30,8 @@ struct PlacedWindow {
   std::vector<std::string> misfits;  // why it does not fit, as WindowFit tells it
 };
 
-// What the module's command left behind; `face` is null where the user gave the plane.
-PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofFace* face);
+// What the module's command left behind on the roof that was chosen for it.
+PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofChoice& roof);
 
 // Throws Error for a window with misfits, of which there is at least one.
 [[noreturn]] void RefuseMisfits(const std::vector<std::string>& misfits);

@@ -46,23 +46,36 @@ std::string Hindrance(const RoofFace& face, const Roofs& roofs) {
 
 constexpr const char* PLANE_HINT = "--roof X,Y,Z X,Y,Z X,Y,Z gives a plane in its place";
 
+// The surface's face at the point, if there is one, else the largest.
+const RoofFace& FaceOf(const RoofSurface& surface, const std::optional<PlanPoint>& at, const Roofs& roofs) {
+  if (at) {
+    for (const FaceOver& over : roofs.FacesAt(at->x, at->y))
+      if (over.surface == &surface) return *over.face;
+  }
+  return roofs.Faces()[surface.faces.front()];
+}
+
 const RoofFace& FaceNamed(const std::string& name, const std::string& file, const Roofs& roofs) {
   const std::vector<const RoofFace*> named = roofs.FacesNamed(name);
   if (named.empty()) {
-    throw Error(fmt::format("--roof-face {}: {} has no roof face of that name; teskarlt roofs lists them",
-                            name, file),
-                {.value = name});
+    throw Error(
+        fmt::format("--on {}: {} has no roof or face of that name; teskarlt roofs lists them", name, file),
+        {.value = name});
   }
   if (named.size() > 1) {
-    throw Error(fmt::format("--roof-face {}: {} faces of {} have that handle; leave it out, and --at chooses",
-                            name, named.size(), file),
+    throw Error(fmt::format("--on {}: {} faces of {} have that handle; leave it out, and --at chooses", name,
+                            named.size(), file),
                 {.value = name});
   }
   const RoofFace& face = *named.front();
   if (TakesWindow(face, roofs)) return face;
-  throw Error(
-      fmt::format("--roof-face {}: that face of {} {}; {}", name, file, Hindrance(face, roofs), PLANE_HINT),
-      {.value = name});
+  throw Error(fmt::format("--on {}: that face of {} {}; {}", name, file, Hindrance(face, roofs), PLANE_HINT),
+              {.value = name});
+}
+
+const RoofFace& NamedFace(const WindowOrder& order, const std::string& file, const Roofs& roofs) {
+  const RoofSurface* surface = roofs.SurfaceNamed(order.roofName);
+  return surface != nullptr ? FaceOf(*surface, order.at, roofs) : FaceNamed(order.roofName, file, roofs);
 }
 
 // The uppermost face, or none: what lies under an uneven one is the ceiling of its room, and no roof.
@@ -71,10 +84,10 @@ const RoofFace& FaceAt(const PlanPoint& point, const std::string& file, const Ro
   if (over && over->surface->isPlanar) return *over->face;
   if (over) {
     throw Error(
-        fmt::format(
-            "--at {}: the uppermost face over that point, {} of layer {}, {}; --roof-face names another "
-            "one, and {}",
-            point.text, over->face->name, over->face->layer, Hindrance(*over->face, roofs), PLANE_HINT),
+        fmt::format("--at {}: the uppermost face over that point, {} of layer {}, {}; --on names another "
+                    "one, and {}",
+                    point.text, over->face->name, over->face->layer, Hindrance(*over->face, roofs),
+                    PLANE_HINT),
         {.value = point.text});
   }
   if (roofs.IsEmpty()) throw Error(fmt::format("{} holds no planar face that can take a roof window", file));
@@ -109,7 +122,7 @@ std::vector<geometry::Vec3> CornersIn(const Plane& plane, const RoofFace& face) 
 
 RoofChoice OnFace(const RoofFace& face, const Roofs& roofs) {
   const RoofSurface* const surface = roofs.SurfaceOf(face);
-  RoofChoice roof{.face = &face};
+  RoofChoice roof{.face = &face, .surface = surface};
   roof.corners = SpansSurface(face, *surface, roofs)
                      ? face.corners
                      : CornersIn(surface->plane, roofs.Faces()[surface->faces.front()]);
@@ -128,17 +141,17 @@ RoofChoice OnPlane(std::vector<geometry::Vec3> points) {
 
 RoofChoice ChooseRoof(const WindowOrder& order, const std::string& file, const Roofs& roofs) {
   const bool setsPlane = SetsPlane(order);
-  if (setsPlane && (!order.roof.empty() || !order.roofFace.empty()))
-    throw Error("--set roofPlanePoints gives the roof already; leave --roof and --roof-face out");
+  if (setsPlane && (!order.roof.empty() || !order.roofName.empty()))
+    throw Error("--set roofPlanePoints gives the roof already; leave --roof and --on out");
   if (!order.roof.empty()) return OnPlane(order.roof);
   if (setsPlane) return {};
-  if (!order.roofFace.empty()) return OnFace(FaceNamed(order.roofFace, file, roofs), roofs);
+  if (!order.roofName.empty()) return OnFace(NamedFace(order, file, roofs), roofs);
   if (!order.at) throw Error("say where the window goes with --at X,Y");
   return OnFace(FaceAt(*order.at, file, roofs), roofs);
 }
 
 bool NamesPlace(const WindowOrder& order) {
-  return order.at || !order.roof.empty() || !order.roofFace.empty() || SetsPlane(order);
+  return order.at || !order.roof.empty() || !order.roofName.empty() || SetsPlane(order);
 }
 
 void PutRoof(const RoofChoice& roof, WindowRequest& request) {

@@ -139,7 +139,7 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
-  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof.face);
+  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof);
   const WindowParams& after = edited.placed.record;
   edited.changes = ChangedFields(record, after);
   edited.isRewritten = !StandsAs(window, after);

@@ -66,7 +66,7 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
   request.answers = AnswersOf(order, work_.drawing, shelf_);
   if (order.at) request.point = {order.at->x, order.at->y};
   PutRoof(roof, request);
-  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof.face);
+  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof);
   window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
   return window;

@@ -32,9 +32,9 @@ struct FieldSetting {
 // Texts are UTF-8 and empty where the user said nothing.
 struct WindowOrder {
   std::optional<PlanPoint> at;
-  std::optional<SlopeMove> by;       // of a window that is changed, from where it stands
-  RowOrder row;                      // of windows that are inserted
-  std::string roofFace;              // by its name; without it the uppermost face at the point is taken
+  std::optional<SlopeMove> by;  // of a window that is changed, from where it stands
+  RowOrder row;                 // of windows that are inserted
+  std::string roofName;         // of a surface or face; without it the uppermost face at the point is taken
   std::vector<geometry::Vec3> roof;  // three points of a plane in place of a face, in drawing units; or none
   std::string window;                // of a catalogue, "MAKER/KEY"
   std::string catalogue;             // its file or folder; without it the one in the data folder

@@ -48,5 +48,13 @@ TEST(FallDirection, PointsDownTheSlope) {
   EXPECT_FALSE(FallDirection(LEVEL));
 }
 
+TEST(CompassPoint, NorthIsAlongYAndEastAlongX) {
+  EXPECT_EQ(CompassPoint(90), "N");
+  EXPECT_EQ(CompassPoint(0), "E");
+  EXPECT_EQ(CompassPoint(359), "E");
+  EXPECT_EQ(CompassPoint(225), "SW");
+  EXPECT_EQ(CompassPoint(112.5), "NNW");
+}
+
 }  // namespace
 }  // namespace teskarlt

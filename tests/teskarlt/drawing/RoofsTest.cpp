@@ -120,6 +120,24 @@ TEST(RoofSurface, RoundRoofIsSeveralSurfaces) {
   }
 }
 
+TEST(RoofSurface, NamesFollowTheOrderOfTheFacesAndPassOverUnevenOnes) {
+  std::vector<Vec3> warped = Slope(20, 0, 4, 3);
+  warped[2].z += 1;
+  const Roofs roofs = RoofsOf({Slope(10, 0, 1, 1), warped, Slope(0, 0, 4, 3), Slope(11, 0, 9, 3)});
+  const auto nameAround = [&](std::size_t face) { return roofs.SurfaceOf(roofs.Faces()[face])->name; };
+  EXPECT_EQ(nameAround(0), "R1");
+  EXPECT_EQ(nameAround(1), "");
+  EXPECT_EQ(nameAround(2), "R2");
+  EXPECT_EQ(nameAround(3), "R1");  // the first face is its neighbour
+}
+
+TEST(SurfaceNamed, NamesCompareWithoutRegardToCase) {
+  const Roofs roofs = RoofsOf({Level(1), Slope(9, 0, 2, 2)});
+  EXPECT_EQ(roofs.SurfaceNamed("r2"), roofs.SurfaceOf(roofs.Faces()[1]));
+  EXPECT_EQ(roofs.SurfaceNamed("R3"), nullptr);
+  EXPECT_EQ(roofs.SurfaceNamed(""), nullptr);
+}
+
 TEST(RoofSurface, TakesNoPartOfAnotherLayerBelow) {
   std::vector<Vec3> below = Level(1);
   for (Vec3& corner : below)

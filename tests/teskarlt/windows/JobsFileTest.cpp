@@ -71,13 +71,13 @@ TEST(ParseJob, ListsOfPointsBecomeOneText) {
 
 TEST(ParseJob, RoofOfTheJobReplacesThatOfTheDefaults) {
   WindowOrder defaults;
-  defaults.roofFace = "2F";
+  defaults.roofName = "2F";
   const WindowOrder plane = ParseJob(R"({"roof": [[0,0,0],[1,0,0],"0,1,2"]})", defaults);
   ASSERT_EQ(plane.roof.size(), 3U);
   EXPECT_EQ(plane.roof[2].z, 2);
-  EXPECT_EQ(plane.roofFace, "");
+  EXPECT_EQ(plane.roofName, "");
   const WindowOrder face = ParseJob(R"({"roof-face": "30"})", plane);
-  EXPECT_EQ(face.roofFace, "30");
+  EXPECT_EQ(face.roofName, "30");
   EXPECT_TRUE(face.roof.empty());
 }
 
@@ -110,7 +110,7 @@ TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
   EXPECT_EQ(Refusal(R"({"set": 3})"), R"(set: 3 is no object, as {"width": 0.78} is one)");
   EXPECT_EQ(Refusal(R"({"at": [1e999, 0]})"), "a number is too large");
   EXPECT_EQ(Refusal(R"({"place": 1})"),
-            R"(a job has no member "place"; it can have at, roof-face, roof, window, catalogue, set, row, )"
+            R"(a job has no member "place"; it can have at, on, roof, window, catalogue, set, row, )"
             "spacing, gap, column and row-from");
 }
 

@@ -165,7 +165,7 @@ TEST(NearlyFlatFace, WindowStaysWhereItLiesWhenItsRoofIsMadeLevel) {
       DrawingWithFaces({{{0, 0, 3000}, {10000, 0, 3000}, {10000, 8000, low}, {0, 8000, low}}, level});
   WindowOrder order = OrderAt(5000, 4000);
   order.settings = {{"heightReference", "0"}, {"length", "2"}};
-  order.roofFace = fmt::format("{:X}", drawing.Entities().front().handle);
+  order.roofName = fmt::format("{:X}", drawing.Entities().front().handle);
   WindowInserter(module, drawing, Millimetres()).Insert(order);
   drawing.RemoveEntity(drawing.Entities().front());
   drawing = Reloaded(drawing);

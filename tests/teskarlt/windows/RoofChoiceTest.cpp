@@ -35,8 +35,19 @@ TEST_F(RoofChoiceTest, UppermostFaceAtThePointIsTaken) {
 
 TEST_F(RoofChoiceTest, NameGoesBeforeThePoint) {
   WindowOrder order = OrderAt(4000, 2000);
-  order.roofFace = Face(0).name;
+  order.roofName = Face(0).name;
   EXPECT_EQ(Choose(order).face, &Face(0));
+}
+
+TEST_F(RoofChoiceTest, NameOfASurfaceChoosesItsFaceAtThePoint) {
+  TakeHouse({RoofAt(1000),
+             {{0, 0, 0}, {4000, 0, 0}, {4000, 6000, 6000}, {0, 6000, 6000}},
+             {{4000, 0, 0}, {8000, 0, 0}, {8000, 5000, 5000}, {4000, 5000, 5000}}});
+  WindowOrder order = OrderAt(6000, 2000);
+  order.roofName = "r2";
+  EXPECT_EQ(Choose(order).face, &Face(2));
+  order.at.reset();
+  EXPECT_EQ(Choose(order).face, &Face(1));  // the largest
 }
 
 TEST_F(RoofChoiceTest, PlaneHasNoFaceAndNoBounds) {
@@ -52,8 +63,8 @@ TEST_F(RoofChoiceTest, FieldOfTheRoofLeavesTheChoiceToTheDialog) {
   WindowOrder order = OrderAt(4000, 2000);
   order.settings = {{"roofPlanePoints", "0,0,0;1,0,0;0,1,1"}};
   EXPECT_TRUE(Choose(order).corners.empty());
-  order.roofFace = Face(0).name;
-  EXPECT_EQ(Refusal(order), "--set roofPlanePoints gives the roof already; leave --roof and --roof-face out");
+  order.roofName = Face(0).name;
+  EXPECT_EQ(Refusal(order), "--set roofPlanePoints gives the roof already; leave --roof and --on out");
 }
 
 TEST_F(RoofChoiceTest, PointBesideTheRoofsIsToldWithTheirExtents) {
@@ -74,9 +85,9 @@ TEST_F(RoofChoiceTest, ExtentsFarFromTheOriginAreToldToTheUnit) {
 TEST_F(RoofChoiceTest, OrderWithoutAPlaceAndUnknownNamesAreRefused) {
   EXPECT_EQ(Refusal({}), "say where the window goes with --at X,Y");
   WindowOrder order;
-  order.roofFace = "FFFF";
+  order.roofName = "FFFF";
   EXPECT_EQ(Refusal(order),
-            "--roof-face FFFF: house.dxf has no roof face of that name; teskarlt roofs lists them");
+            "--on FFFF: house.dxf has no roof or face of that name; teskarlt roofs lists them");
 }
 
 TEST_F(RoofChoiceTest, DrawingWithoutFacesIsToldSo) {
@@ -86,9 +97,9 @@ TEST_F(RoofChoiceTest, DrawingWithoutFacesIsToldSo) {
 
 TEST_F(RoofChoiceTest, NameOfNoFaceIsRefused) {
   WindowOrder order = OrderAt(4000, 2000);
-  order.roofFace = "FFFF";
+  order.roofName = "FFFF";
   EXPECT_EQ(Refusal(order),
-            "--roof-face FFFF: house.dxf has no roof face of that name; teskarlt roofs lists them");
+            "--on FFFF: house.dxf has no roof or face of that name; teskarlt roofs lists them");
 }
 
 TEST_F(RoofChoiceTest, NameOfSeveralFacesIsRefused) {
@@ -96,7 +107,7 @@ TEST_F(RoofChoiceTest, NameOfSeveralFacesIsRefused) {
   faces[0].name = faces[1].name = "2F";
   roofs = Roofs(faces, 1.0);
   WindowOrder order = OrderAt(4000, 2000);
-  order.roofFace = "2f";
+  order.roofName = "2f";
   EXPECT_THAT(Refusal(order), HasSubstr("2 faces of house.dxf have that handle"));
 }
 
@@ -106,14 +117,14 @@ TEST_F(RoofChoiceTest, UnevenRoofDoesNotLetTheWindowFallOntoItsCeiling) {
   TakeHouse({uneven, RoofAt(0)});
   EXPECT_EQ(Refusal(OrderAt(4000, 1000)),
             "--at 4000,1000: the uppermost face over that point, " + Face(0).name +
-                " of layer ROOF, is not planar: a corner lies 72 mm off its plane; --roof-face names another "
+                " of layer ROOF, is not planar: a corner lies 72 mm off its plane; --on names another "
                 "one, and --roof X,Y,Z X,Y,Z X,Y,Z gives a plane in its place");
 }
 
 TEST_F(RoofChoiceTest, FaceThatIsNoRoofIsRefusedByItsName) {
   TakeHouse({RoofAt(0), {{0, 0, 0}, {8000, 0, 0}, {8000, 100, 3000}, {0, 100, 3000}}});
   WindowOrder order = OrderAt(4000, 50);
-  order.roofFace = Face(1).name;
+  order.roofName = Face(1).name;
   EXPECT_THAT(Refusal(order), HasSubstr(" is 88.1 degrees steep, and no roof above 85; --roof X,Y,Z"));
 }
 
