@@ -36,9 +36,9 @@ def test_windows_of_a_row_stand_where_they_should(teskarlt, tmp_path, direction,
 
 
 def test_json_lists_the_windows_of_a_row(teskarlt, house):
-    answer = teskarlt.done("insert", house, "--at", "2500,1200", "--row", "3", "--spacing", "2", "--json").json
+    answer = teskarlt.done("insert", house, "--at", "2500,1200", "--row", "3", "--spacing", "1.8", "--json").json
     assert [window["number"] for window in answer["windows"]] == [1, 2, 3]
-    assert [window["place"][0] for window in answer["windows"]] == pytest.approx([2500, 4500, 6500], abs=1e-6)
+    assert [window["place"][0] for window in answer["windows"]] == pytest.approx([2500, 4300, 6100], abs=1e-6)
 
 
 def test_row_that_does_not_fit_leaves_the_drawing(teskarlt, house):
@@ -49,7 +49,7 @@ def test_row_that_does_not_fit_leaves_the_drawing(teskarlt, house):
 
 
 def test_rows_are_jobs_too(teskarlt, house):
-    jobs = '{"at": [2500, 1200], "row": 3, "spacing": 2}\n{"at": [6000, 6800], "row": 2, "column": false}\n' \
+    jobs = '{"at": [2500, 1200], "row": 3, "spacing": 1.8}\n{"at": [6000, 6800], "row": 2, "column": false}\n' \
            '{"at": [2500, 1200], "row": 99}\n{"at": [14000, 4000]}\n'
     answer = teskarlt("insert", house, "--jobs", "-", "--gap", "0.5", "--keep-going", "--json", stdin=jobs)
     assert answer.status == 3
