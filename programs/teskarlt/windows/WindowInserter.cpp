@@ -9,6 +9,7 @@
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/SlopeFrame.h"
 #include "teskarlt/windows/AllOrNone.h"
+#include "teskarlt/windows/OrderUnits.h"
 #include "teskarlt/windows/RowPoints.h"
 
 namespace teskarlt {
@@ -39,7 +40,8 @@ WindowInserter::WindowInserter(const WindowModule& module, dxf::Document& drawin
   fit_.AddAll(drawing, work_.windows);
 }
 
-PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
+PlacedWindow WindowInserter::Insert(const WindowOrder& drawnOrder) {
+  const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
   const PlacedWindow window = AllOrNone(work_.drawing, [&] {
     return Draw(order, ChooseRoof(order, work_.drawing.FileName(), work_.roofs), numbers_);
   });
@@ -47,10 +49,11 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
   return window;
 }
 
-std::vector<PlacedWindow> WindowInserter::InsertAll(const WindowOrder& order) {
-  CheckRow(order.row);
-  if (!order.row.count) return {Insert(order)};
-  CheckRoomForRow(order);
+std::vector<PlacedWindow> WindowInserter::InsertAll(const WindowOrder& drawnOrder) {
+  CheckRow(drawnOrder.row);
+  if (!drawnOrder.row.count) return {Insert(drawnOrder)};
+  CheckRoomForRow(drawnOrder);
+  const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
   const RoofChoice roof = ChooseRoof(order, work_.drawing.FileName(), work_.roofs);
   std::vector<PlacedWindow> windows = AllOrNone(work_.drawing, [&] { return DrawRow(order, roof); });
   for (const PlacedWindow& window : windows)
@@ -61,12 +64,12 @@ std::vector<PlacedWindow> WindowInserter::InsertAll(const WindowOrder& order) {
 PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& roof,
                                   const WindowNumbers& numbers) {
   WindowRequest request;
-  request.unitFactor = work_.unit.perMetre;
+  request.unit = work_.unit;
   request.numbersInUse = &numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf_);
   if (order.at) request.point = {order.at->x, order.at->y};
   PutRoof(roof, request);
-  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof);
+  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), work_.unit, roof);
   window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
   return window;

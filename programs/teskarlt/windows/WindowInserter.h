@@ -33,7 +33,7 @@ class WindowInserter {
   // Draws the window, which counts with none of the next ones yet. Throws Error, and may leave a part behind.
   PlacedWindow Draw(const WindowOrder& order, const RoofChoice& roof, const WindowNumbers& numbers);
   std::vector<PlacedWindow> DrawRow(const WindowOrder& order, const RoofChoice& roof);
-  // How far apart the points of a row lie, in drawing units along the roof.
+  // How far apart the points of a row lie, in working units along the roof.
   double StepOf(const WindowOrder& order, RoofChoice roof);
   void Count(const PlacedWindow& window);
 

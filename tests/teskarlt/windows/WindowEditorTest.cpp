@@ -180,7 +180,7 @@ TEST_F(WindowEditorTest, AllSelectedWindowsAreChanged) {
   const auto edited = WindowEditor(module, drawing, Millimetres(), {.numbers = {{2, 3}}}, false).Edit(order);
   ASSERT_EQ(edited.size(), 2U);
   EXPECT_EQ(edited[1].placed.record.markerValue, 3);
-  const auto windows = FindWindows(Reloaded(drawing), Millimetres().perMetre);
+  const auto windows = FindWindows(Reloaded(drawing), Millimetres().working);
   EXPECT_THAT(windows, ElementsAre(HasWidth(0.94), HasWidth(1.14), HasWidth(1.14)));
 }
 
@@ -228,7 +228,7 @@ TEST_F(WindowEditorTest, SeveralWindowsMoveAlike) {
   WindowOrder order;
   order.by = SlopeMove{0.5, 0};
   WindowEditor(module, drawing, Millimetres(), {.numbers = {{1, 3}}}, false).Edit(order);
-  const auto windows = FindWindows(Reloaded(drawing), Millimetres().perMetre);
+  const auto windows = FindWindows(Reloaded(drawing), Millimetres().working);
   EXPECT_NEAR(windows[0].params.storedPoint.x, 2000, 1e-6);
   EXPECT_NEAR(windows[2].params.storedPoint.x, 7000, 1e-6);
 }
