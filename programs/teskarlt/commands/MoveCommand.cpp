@@ -40,16 +40,22 @@ void AddMoveCommand(OptionParser& parser) {
               "--by", options->by,
               "how far, in metres: along the eaves, to the right as seen from below them, and up the slope")
           .Named("ALONG,UP");
-  command.Value("--to", options->to, "the place in the drawing; the uppermost roof face over it is taken")
-      .Named("X,Y")
-      .Excludes(by);
+  const Option to =
+      command.Value("--to", options->to, "the place in the drawing; the uppermost roof face over it is taken")
+          .Named("X,Y")
+          .Excludes(by);
+  command
+      .Value("--on", options->window.roofName,
+             "the roof at that place, or one of its faces, as teskarlt roofs lists them")
+      .Named("NAME")
+      .NotEmpty()
+      .Needs(to);
   AddResultOptions(command, options->window);
   AddLockedOption(command, options->isLockedToo);
   command.Footer(
       "With --by a window stays in its roof and is refused where it would leave it; with --to it may go "
       "onto\n"
-      "another one. Its number and all its values stay. Of several windows all are moved, or none when one "
-      "of\n"
+      "another one. Its number and all its values stay. Of several windows all move, or none when one of\n"
       "them is refused.\n"
       "Examples:\n"
       "  teskarlt move house-with-window.dxf 1 --by 0.2,0\n"

@@ -63,14 +63,25 @@ bool AssumesSkirt(const WindowReading& before, const brevanta::WindowParams& aft
   return isUnknown && (after.bodyAsFaces != brevanta::LINES_ONLY || DrawsSymbol(after));
 }
 
-void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+// "width: 0.94 m -> 1.14 m" for each field.
+std::vector<std::string> ChangeTexts(const EditedWindow& window, const WindowReading& before,
+                                     const dxf::Document& drawing) {
   const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
-  const brevanta::WindowParams after = WithDrawnPoints(window.placed.record, window.placed.unit);
-  if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
+  const brevanta::WindowParams to = WithDrawnPoints(window.placed.record, window.placed.unit);
+  std::vector<std::string> texts;
+  texts.reserve(window.changes.size());
   for (const brevanta::RecordField* const field : window.changes) {
-    fmt::print("{}: {} -> {}\n", field->name, OneLine(FieldText(from, *field, drawing)),
-               OneLine(FieldText(after, *field, drawing)));
+    texts.push_back(OneLine(fmt::format("{}: {} -> {}", field->name, FieldText(from, *field, drawing),
+                                        FieldText(to, *field, drawing))));
   }
+  return texts;
+}
+
+void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+  const brevanta::WindowParams& after = window.placed.record;
+  if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
+  for (const std::string& text : ChangeTexts(window, before, drawing))
+    fmt::print("{}\n", text);
   if (AssumesSkirt(before, after))
     fmt::print("skirtHeight: {:g} m by default, since nothing drawn told it\n", after.skirtHeight);
 }
@@ -87,15 +98,10 @@ Json EditedJson(const EditedWindow& window, const WindowReading& before, const d
 // "Window 3: width: 0.94 m -> 1.14 m; openingCode: "D" -> "B"".
 std::string EditedLine(const EditedWindow& window, const WindowReading& before,
                        const dxf::Document& drawing) {
-  const brevanta::WindowParams& after = window.placed.record;
-  std::vector<std::string> changes;
-  for (const brevanta::RecordField* const field : window.changes) {
-    changes.push_back(fmt::format("{}: {} -> {}", field->name, FieldText(before.params, *field, drawing),
-                                  FieldText(after, *field, drawing)));
-  }
+  std::string changes = fmt::format("{}", fmt::join(ChangeTexts(window, before, drawing), "; "));
   if (changes.empty())
-    changes.emplace_back(window.isRewritten ? "its description says again what is drawn" : "nothing changes");
-  return OneLine(fmt::format("Window {}: {}", after.markerValue, fmt::join(changes, "; ")));
+    changes = window.isRewritten ? "its description says again what is drawn" : "nothing changes";
+  return fmt::format("Window {}: {}", window.placed.record.markerValue, changes);
 }
 
 // For programs: the windows of a selection.
