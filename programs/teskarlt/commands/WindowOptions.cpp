@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/PointText.h"
@@ -51,6 +52,7 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
 void AddResultOptions(Subcommand& command, WindowOptions& options) {
   options.target.AddOutput(command);
   AddUnitOptions(command, options.units);
+  AddLengthsOption(command, options.lengths);
   command.Flag("--strict", options.isStrict,
                "refuse a window that overlaps another or does not lie on a roof face");
   options.target.AddDryRun(command);
@@ -73,6 +75,7 @@ WindowOrder OrderOf(const WindowOptions& options) {
     order.roof.push_back(ParsePoint("--roof", point));
   order.row = RowOf(options.row);
   order.isStrict = options.isStrict;
+  order.lengths = StyleSaid(options.lengths);
   return order;
 }
 

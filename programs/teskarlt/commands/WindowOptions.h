@@ -23,6 +23,7 @@ struct WindowOptions {
   std::vector<std::string> settings;
   RowOptions row;  // of a command that has them
   AskedUnit units;
+  std::string lengths;
   bool isStrict = false;
   bool asJson = false;
 };

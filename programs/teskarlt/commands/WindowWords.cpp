@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/commands/FieldWords.h"
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
@@ -38,17 +39,22 @@ Json ChangesJson(const EditedWindow& window, const WindowReading& before, const 
   return json;
 }
 
-void PrintPlace(const PlacedWindow& window) {
+LengthWords WordsOf(const WindowOptions& options) {
+  return LengthWords(StyleSaid(options.lengths));
+}
+
+void PrintPlace(const PlacedWindow& window, const LengthWords& words) {
   const brevanta::WindowParams& record = window.record;
   const std::string where = window.face ? fmt::format("roof {}, face {} of layer {}", window.face->roof,
                                                       window.face->name, window.face->layer)
                                         : "the given plane";
   const brevanta::Edges frame = brevanta::EdgesOf(window.outline, record.unitFactor);
   const brevanta::Edges recorded = brevanta::RecordedEdges(record);
-  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees.\n", record.markerValue, record.width,
-             record.length, where, record.pitch);
-  fmt::print("Its frame lies from {:.3f} m to {:.3f} m; lowerEdgeHeight {:.3f}, upperEdgeHeight {:.3f}.\n",
-             frame.lower, frame.upper, recorded.lower, recorded.upper);
+  fmt::print("Window {}: {} x {} on {}, pitch {:.2f} degrees.\n", record.markerValue,
+             words.Size(record.width), words.SpokenSize(record.length), where, record.pitch);
+  fmt::print("Its frame lies from {} to {}; lowerEdgeHeight {}, upperEdgeHeight {}.\n",
+             words.Spoken(frame.lower), words.Spoken(frame.upper), words.Cell(recorded.lower),
+             words.Cell(recorded.upper));
 }
 
 void PrintEntities(const WindowOptions& options, const PlacedWindow& window) {
@@ -65,25 +71,27 @@ bool AssumesSkirt(const WindowReading& before, const brevanta::WindowParams& aft
 
 // "width: 0.94 m -> 1.14 m" for each field.
 std::vector<std::string> ChangeTexts(const EditedWindow& window, const WindowReading& before,
-                                     const dxf::Document& drawing) {
+                                     const dxf::Document& drawing, const LengthWords& words) {
   const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
   const brevanta::WindowParams to = WithDrawnPoints(window.placed.record, window.placed.unit);
   std::vector<std::string> texts;
   texts.reserve(window.changes.size());
   for (const brevanta::RecordField* const field : window.changes) {
-    texts.push_back(OneLine(fmt::format("{}: {} -> {}", field->name, FieldText(from, *field, drawing),
-                                        FieldText(to, *field, drawing))));
+    texts.push_back(OneLine(fmt::format("{}: {} -> {}", field->name, FieldText(from, *field, drawing, words),
+                                        FieldText(to, *field, drawing, words))));
   }
   return texts;
 }
 
-void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing,
+                  const LengthWords& words) {
   const brevanta::WindowParams& after = window.placed.record;
   if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
-  for (const std::string& text : ChangeTexts(window, before, drawing))
+  for (const std::string& text : ChangeTexts(window, before, drawing, words))
     fmt::print("{}\n", text);
   if (AssumesSkirt(before, after))
-    fmt::print("skirtHeight: {:g} m by default, since nothing drawn told it\n", after.skirtHeight);
+    fmt::print("skirtHeight: {} by default, since nothing drawn told it\n",
+               words.SpokenSize(after.skirtHeight));
 }
 
 // Of a window that was changed, for programs.
@@ -96,9 +104,9 @@ Json EditedJson(const EditedWindow& window, const WindowReading& before, const d
 }
 
 // "Window 3: width: 0.94 m -> 1.14 m; openingCode: "D" -> "B"".
-std::string EditedLine(const EditedWindow& window, const WindowReading& before,
-                       const dxf::Document& drawing) {
-  std::string changes = fmt::format("{}", fmt::join(ChangeTexts(window, before, drawing), "; "));
+std::string EditedLine(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing,
+                       const LengthWords& words) {
+  std::string changes = fmt::format("{}", fmt::join(ChangeTexts(window, before, drawing, words), "; "));
   if (changes.empty())
     changes = window.isRewritten ? "its description says again what is drawn" : "nothing changes";
   return fmt::format("Window {}: {}", window.placed.record.markerValue, changes);
@@ -168,6 +176,10 @@ Json WindowJson(const PlacedWindow& window) {
   return json;
 }
 
+Json UnitJson(const DrawingUnit& unit) {
+  return IsStated(unit) ? Json(unit.name) : Json(nullptr);
+}
+
 Json UnitFactorJson(double perMetre) {
   const auto whole = static_cast<std::int64_t>(perMetre);
   return static_cast<double>(whole) == perMetre ? Json(whole) : Json(perMetre);
@@ -194,7 +206,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
   if (options.asJson) {
     PrintJson(AnswerJson(options, window));
   } else {
-    PrintPlace(window);
+    PrintPlace(window, WordsOf(options));
     PrintEntities(options, window);
   }
 }
@@ -221,7 +233,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
     return;
   }
   for (const PlacedWindow& window : windows)
-    PrintPlace(window);
+    PrintPlace(window, WordsOf(options));
   fmt::print("{} windows: ", windows.size());
   PrintEntities(options, all);
 }
@@ -236,10 +248,10 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Edi
     PrintJson(json);
     return;
   }
-  PrintPlace(window.placed);
+  PrintPlace(window.placed, WordsOf(options));
   if (window.isRewritten) {
     PrintEntities(options, window.placed);
-    PrintChanges(window, before, drawing);
+    PrintChanges(window, before, drawing, WordsOf(options));
   } else {
     fmt::print("Nothing changes: it stands there as ordered; {}.\n", options.target.UnchangedEnding());
   }
@@ -262,7 +274,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
     return;
   }
   for (std::size_t i = 0; i < windows.size(); ++i)
-    fmt::print("{}\n", EditedLine(windows[i], before[i].reading, drawing));
+    fmt::print("{}\n", EditedLine(windows[i], before[i].reading, drawing, WordsOf(options)));
   if (rewritten > 0) {
     fmt::print("{} of {} window{} {}.\n", rewritten, windows.size(), windows.size() == 1 ? "" : "s",
                options.target.Ending("changed", "be changed"));

@@ -7,6 +7,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/windows/FeetInches.h"
 
 namespace teskarlt {
 
@@ -21,7 +22,8 @@ int ParseRowCount(const std::string& text) {
 }
 
 double ParseRowLength(const char* option, const std::string& text) {
-  const std::optional<double> length = dxf::ParseReal(text);
+  std::optional<double> length = ParseFeetInches(text);
+  if (!length) length = dxf::ParseReal(text);
   if (!length || *length < 0.0) {
     throw Error(fmt::format("{} {}: a distance is a number of metres, as in {} 1.2", option, text, option),
                 {.value = text});

@@ -19,7 +19,7 @@ struct RowOrder {
 enum class RowPlace { First, Middle, Last };
 
 // As users write them; all throw Error, naming the option. A count is from 1 to 1000, a length is one in
-// metres.
+// metres, or with marks one in feet and inches (FeetInches.h).
 int ParseRowCount(const std::string& text);
 double ParseRowLength(const char* option, const std::string& text);
 

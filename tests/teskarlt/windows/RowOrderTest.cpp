@@ -20,6 +20,7 @@ TEST(RowOrder, CountIsFromOneToAThousand) {
 
 TEST(RowOrder, DistanceIsAtLeastNothing) {
   EXPECT_EQ(ParseRowLength("--gap", "0.1"), 0.1);
+  EXPECT_NEAR(ParseRowLength("--gap", "4\""), 0.1016, 1e-12);
   EXPECT_EQ(RefusalOf([] { ParseRowLength("--gap", "-0.1"); }),
             "--gap -0.1: a distance is a number of metres, as in --gap 1.2");
 }
