@@ -110,7 +110,7 @@ def audit_of(path):
     """How much ezdxf finds wrong; None where it cannot read the drawing at all."""
     try:
         _, auditor = ezdxf.recover.readfile(path)
-    except (ezdxf.DXFError, OSError, ValueError):
+    except (ezdxf.DXFError, OSError, ValueError, KeyError):
         return None
     return len(auditor.errors) + len(auditor.fixes)
 

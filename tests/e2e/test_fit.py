@@ -90,7 +90,7 @@ def test_jobs_that_overlap_are_warned_of_or_refused(teskarlt, house, tmp_path):
     teskarlt.done("erase", house, "1")
     teskarlt.done("erase", house, "2")
     assert teskarlt.done("insert", house, "--jobs", jobs).stderr == (
-        f"teskarlt: {teskarlt.spelled(jobs)}:2: warning: window 2: it overlaps window 1\n")
+        f"teskarlt: {teskarlt.spelled(jobs)}:2: warning: window 4: it overlaps window 3\n")
 
 
 def test_window_that_leaves_its_face_is_found(teskarlt, house):

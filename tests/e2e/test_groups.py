@@ -56,7 +56,7 @@ def test_erased_window_takes_its_group_along(teskarlt, house, tmp_path):
     assert groups(empty) == {}
     teskarlt.done("insert", empty, "--at", "2500,1200", "-o", output)
     before = empty.read_bytes()
-    teskarlt.done("erase", output, "1")
+    teskarlt.done("erase", output, "2")
     changed, came = readers.line_changes(before, output.read_bytes())
     assert (len(changed), came) == (2, 2)  # the handle seed, and the number that is not given again
 

@@ -208,7 +208,7 @@ def test_floor_is_no_roof_for_a_window_with_a_pitch(teskarlt, tmp_path):
     face.translate(0, 0, 2500)
     drawing.modelspace().add_3dface([(x, y, 3000) for x, y, _ in roof.corners])
     drawing.saveas(path)
-    [window] = teskarlt.done("refit", path, "--json").json["windows"]
+    [window] = teskarlt.done("refit", path, "--reach", "3", "--json").json["windows"]
     assert abs(window["pitch"]["to"] - 35) < 1e-6 and abs(window["rise"] - 2.5) < 1e-9
     drawing = ezdxf.readfile(path)
     drawing.modelspace().delete_entity(drawing.entitydb[face.dxf.handle])
@@ -242,8 +242,8 @@ def test_refitted_window_that_overlaps_another_is_warned_of_or_refused(teskarlt,
             entity.translate(ends[0][0] - ends[1][0] + 300, ends[0][1] - ends[1][1], 900)
     drawing.saveas(path)
     before = path.read_bytes()
-    refused = teskarlt("refit", path, "--strict")
+    refused = teskarlt("refit", path, "--reach", "2", "--strict")
     assert refused.status == 1 and "it overlaps window 1" in refused.stderr and path.read_bytes() == before
-    answer = teskarlt.done("refit", path, "--json")
+    answer = teskarlt.done("refit", path, "--reach", "2", "--json")
     assert answer.stderr == "teskarlt: warning: window 2: it overlaps window 1\n"
     assert answer.json["windows"][0]["warnings"] == ["it overlaps window 1"]

@@ -72,6 +72,27 @@ void AddSettings(const json& value, std::vector<FieldSetting>& settings) {
     settings.push_back({field, ValueText("set: " + field, setting)});
 }
 
+// Spacing and gap go before each other, as the last one said of the row.
+bool ApplyRowMember(const std::string& name, const json& value, RowOrder& row) {
+  if (name == "row") {
+    row.count = ParseRowCount(ScalarText(name, value));
+  } else if (name == "spacing") {
+    row.spacing = ParseRowLength("--spacing", ScalarText(name, value));
+    row.gap.reset();
+  } else if (name == "gap") {
+    row.gap = ParseRowLength("--gap", ScalarText(name, value));
+    row.spacing.reset();
+  } else if (name == "row-from") {
+    row.from = NameText(name, value);
+  } else if (name == "column") {
+    if (!value.is_boolean()) throw Error(fmt::format("column: {} is neither true nor false", Shown(value)));
+    row.isColumn = value.get<bool>();
+  } else {
+    return false;
+  }
+  return true;
+}
+
 void ApplyMember(const std::string& name, const json& value, WindowOrder& order) {
   if (name == "at") {
     order.at = ParsePlanPoint("--at", ValueText(name, value));
@@ -87,9 +108,11 @@ void ApplyMember(const std::string& name, const json& value, WindowOrder& order)
     order.catalogue = NameText(name, value);
   } else if (name == "set") {
     AddSettings(value, order.settings);
-  } else {
+  } else if (!ApplyRowMember(name, value, order.row)) {
     throw Error(
-        fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue and set", name),
+        fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set, row, "
+                    "spacing, gap, column and row-from",
+                    name),
         {.value = name});
   }
 }
