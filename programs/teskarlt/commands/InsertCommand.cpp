@@ -41,7 +41,8 @@ void AddInsertCommand(OptionParser& parser) {
       command
           .Value("--jobs", jobs->file,
                  "many windows: a JSON object a line with \"at\", \"on\", \"roof\", \"window\", "
-                 "\"catalogue\", \"set\"; - reads standard input")
+                 "\"catalogue\", \"set\" and the words for a "
+                 "place; - reads standard input")
           .Named("FILE")
           .NotEmpty()
           .Excludes(at);
@@ -62,6 +63,7 @@ void AddInsertCommand(OptionParser& parser) {
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
       "  teskarlt insert house.dxf --at 3000,2000 --window \"OL 94x140\" --catalogue examples/BREVANTA.LIB\n"
       "  teskarlt insert house.dxf --at 3000,2000 --on R1 --set lowerEdgeHeight=4.2\n"
+      "  teskarlt insert house.dxf --on R2 --from-eaves 1.2 --centre\n"
       "  teskarlt insert house.dxf --jobs windows.jsonl --set frameWidth=0.1\n"
       "A line of windows.jsonl; options beside --jobs hold where a line does not say otherwise:\n"
       "  {\"at\": [3000, 2000], \"set\": {\"width\": 0.78, \"openingCode\": \"D\"}}");

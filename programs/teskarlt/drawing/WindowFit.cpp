@@ -153,6 +153,12 @@ void WindowFit::Add(std::int32_t number, const Outline& outline) {
   widest_ = std::max(widest_, most - least);
 }
 
+std::optional<Outline> WindowFit::OutlineOf(std::int32_t number) const {
+  for (const auto& [x, place] : places_)
+    if (place.number == number) return place.outline;
+  return std::nullopt;
+}
+
 // "it overlaps windows 1, 2 and 3 more"; empty when it overlaps none.
 std::string WindowFit::Overlapped(const Outline& outline) const {
   constexpr std::size_t MOST_NAMED = 10;

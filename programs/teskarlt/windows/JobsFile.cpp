@@ -8,6 +8,7 @@
 
 #include "inc/DialogServices.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/windows/PlaceWords.h"
 #include "teskarlt/windows/PointText.h"
 
 namespace teskarlt {
@@ -49,6 +50,16 @@ std::string ValueText(const std::string& name, const json& value) {
   return text;
 }
 
+// The values of a word: those of a list, be they points or numbers, with delimiters between them.
+std::string ListText(const std::string& name, const json& value) {
+  const bool isList = value.is_array() && FindPlaceWord(name)->values > 1;
+  if (!isList) return ValueText(name, value);
+  std::string text;
+  for (const json& item : value)
+    text += (text.empty() ? "" : std::string(1, brevanta::POINT_DELIMITER)) + ValueText(name, item);
+  return text;
+}
+
 std::string NameText(const std::string& name, const json& value) {
   std::string text = ScalarText(name, value);
   if (text.empty()) throw Error(fmt::format("{}: the name is empty", name));
@@ -78,19 +89,24 @@ void ApplyMember(const std::string& name, const json& value, WindowOrder& order)
   } else if (name == "on" || name == "roof-face") {
     order.roofName = NameText(name, value);
     order.roof.clear();
+    order.planRoof = {};
   } else if (name == "roof") {
     order.roof = PlanePoints(name, value);
     order.roofName.clear();
+    order.planRoof = {};
   } else if (name == "window") {
     order.window = NameText(name, value);
   } else if (name == "catalogue") {
     order.catalogue = NameText(name, value);
   } else if (name == "set") {
     AddSettings(value, order.settings);
+  } else if (const PlaceWord* word = FindPlaceWord(name)) {
+    word->apply(*word, ListText(name, value), order);
   } else {
-    throw Error(
-        fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue and set", name),
-        {.value = name});
+    throw Error(fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set "
+                            "and the options of insert that say where a window goes, as from-eaves",
+                            name),
+                {.value = name});
   }
 }
 

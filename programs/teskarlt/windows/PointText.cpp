@@ -38,6 +38,11 @@ PlanPoint ParsePlanPoint(const char* option, const std::string& text) {
   return {(*numbers)[0], (*numbers)[1], text};
 }
 
+double ParseMetres(const char* option, const std::string& text) {
+  if (const std::optional<double> number = dxf::ParseReal(text)) return *number;
+  throw Error(fmt::format("{} {}: a length is a finite number of metres", option, text), {.value = text});
+}
+
 geometry::Vec3 ParsePoint(const char* option, const std::string& text) {
   const auto numbers = ParseNumbers(text);
   if (!numbers || numbers->size() != 3) {

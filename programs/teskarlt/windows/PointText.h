@@ -12,4 +12,7 @@ namespace teskarlt {
 PlanPoint ParsePlanPoint(const char* option, const std::string& text);
 geometry::Vec3 ParsePoint(const char* option, const std::string& text);
 
+// A length in metres. Throws Error, naming the option, for anything but a finite number.
+double ParseMetres(const char* option, const std::string& text);
+
 }  // namespace teskarlt

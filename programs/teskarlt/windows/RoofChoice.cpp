@@ -10,12 +10,14 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/windows/PlanRoof.h"
 
 namespace teskarlt {
 
 namespace {
 
 constexpr std::string_view PLANE_FIELD = "roofPlanePoints";
+constexpr double MILLIMETRES_A_METRE = 1000.0;
 
 bool SetsPlane(const WindowOrder& order) {
   return std::any_of(order.settings.begin(), order.settings.end(),
@@ -44,7 +46,7 @@ std::string Hindrance(const RoofFace& face, const Roofs& roofs) {
                      std::ceil(Warp(face) / roofs.Tolerance()));
 }
 
-constexpr const char* PLANE_HINT = "--roof X,Y,Z X,Y,Z X,Y,Z gives a plane in its place";
+constexpr const char* PLANE_HINT = "--roof X,Y,Z X,Y,Z X,Y,Z or --eaves gives a plane in its place";
 
 // The surface's face at the point, if there is one, else the largest.
 const RoofFace& FaceOf(const RoofSurface& surface, const std::optional<PlanPoint>& at, const Roofs& roofs) {
@@ -141,17 +143,21 @@ RoofChoice OnPlane(std::vector<geometry::Vec3> points) {
 
 RoofChoice ChooseRoof(const WindowOrder& order, const std::string& file, const Roofs& roofs) {
   const bool setsPlane = SetsPlane(order);
-  if (setsPlane && (!order.roof.empty() || !order.roofName.empty()))
-    throw Error("--set roofPlanePoints gives the roof already; leave --roof and --on out");
+  if (setsPlane && (!order.roof.empty() || !order.roofName.empty() || order.planRoof.IsGiven()))
+    throw Error("--set roofPlanePoints gives the roof already; leave --roof, --on, --eaves and --ridge out");
+  if (order.planRoof.IsGiven())
+    return OnPlane(PlaneOf(order.planRoof, MILLIMETRES_A_METRE * roofs.Tolerance()));
   if (!order.roof.empty()) return OnPlane(order.roof);
   if (setsPlane) return {};
   if (!order.roofName.empty()) return OnFace(NamedFace(order, file, roofs), roofs);
-  if (!order.at) throw Error("say where the window goes with --at X,Y");
+  if (!order.at)
+    throw Error("say where the window goes with --at X,Y, or on which roof with --on NAME and where on it");
   return OnFace(FaceAt(*order.at, file, roofs), roofs);
 }
 
 bool NamesPlace(const WindowOrder& order) {
-  return order.at || !order.roof.empty() || !order.roofName.empty() || SetsPlane(order);
+  return order.at || !order.roof.empty() || !order.roofName.empty() || order.planRoof.IsGiven() ||
+         SetsPlane(order);
 }
 
 void PutRoof(const RoofChoice& roof, WindowRequest& request) {

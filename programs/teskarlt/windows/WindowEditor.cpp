@@ -16,6 +16,7 @@
 #include "teskarlt/windows/AllOrNone.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/ClosedLayers.h"
+#include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/RoofChoice.h"
 #include "teskarlt/windows/WindowChanges.h"
 #include "teskarlt/windows/WindowChoice.h"
@@ -123,6 +124,7 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
   const RoofChoice roof =
       moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(window.reading, work_);
   PutRoof(roof, request);
+  if (IsGiven(order.placing)) PutPlace(order, roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
@@ -132,6 +134,21 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
   edited.isRewritten = !StandsAs(window, after);
   if (!edited.isRewritten) work_.drawing.Rollback(before);
   return edited;
+}
+
+void WindowEditor::PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request) {
+  const auto tryOut = [&](const WindowRequest& trial) {
+    const dxf::EditMark before = work_.drawing.Mark();
+    const CommandOutcome outcome = module_.Edit(work_.drawing, trial);
+    work_.drawing.Rollback(before);
+    return *outcome.confirmed;
+  };
+  const auto outlineOf = [&](int number) -> std::optional<Outline> {
+    for (const DrawnWindow& window : work_.windows)
+      if (window.number == number) return DrawnOutline(work_.drawing, window);
+    return std::nullopt;
+  };
+  request.point = PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf);
 }
 
 void WindowEditor::FindMisfits(std::vector<EditedWindow>& edited) const {

@@ -1,6 +1,7 @@
 // WindowInserter.cpp - inserts windows into one drawing, one after the other.
 #include "teskarlt/windows/WindowInserter.h"
 
+#include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/RoofChoice.h"
 
 namespace teskarlt {
@@ -18,6 +19,7 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
   if (order.at) request.point = {order.at->x, order.at->y};
   const RoofChoice roof = ChooseRoof(order, work_.drawing.FileName(), work_.roofs);
   PutRoof(roof, request);
+  if (IsGiven(order.placing)) PutPlace(order, roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
   PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof);
@@ -29,6 +31,17 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
   fit_.Add(window.record.markerValue, window.outline);
   numbers_.Take(window.record.markerValue);
   return window;
+}
+
+void WindowInserter::PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request) {
+  const auto tryOut = [&](const WindowRequest& trial) {
+    const dxf::EditMark before = work_.drawing.Mark();
+    const CommandOutcome outcome = module_.Insert(work_.drawing, trial);
+    work_.drawing.Rollback(before);
+    return *outcome.confirmed;
+  };
+  const auto outlineOf = [&](int number) { return fit_.OutlineOf(number); };
+  request.point = PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf);
 }
 
 }  // namespace teskarlt

@@ -6,6 +6,7 @@
 #include "teskarlt/modules/WindowModule.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/PlacedWindow.h"
+#include "teskarlt/windows/RoofChoice.h"
 #include "teskarlt/windows/WindowOrder.h"
 #include "teskarlt/windows/WorkedDrawing.h"
 
@@ -23,6 +24,9 @@ class WindowInserter {
   PlacedWindow Insert(const WindowOrder& order);
 
  private:
+  // Puts the point for which the order's words stand into the request.
+  void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
+
   const WindowModule& module_;
   const WorkedDrawing work_;
   WindowNumbers numbers_;  // of the windows that stand in the drawing now
