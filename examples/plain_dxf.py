@@ -9,8 +9,9 @@
 Versions are "R2000" and "R12", the oldest form, without handles' owners and subclass markers.
 """
 
-UNIT_CODES = {"unitless": 0, "mm": 4, "cm": 5, "m": 6}  # $INSUNITS
-UNITS_PER_METRE = {"mm": 1000, "cm": 100, "m": 1}
+UNIT_CODES = {"unitless": 0, "mm": 4, "cm": 5, "m": 6, "km": 7, "in": 1, "ft": 2, "us-ft": 21}  # $INSUNITS
+UNITS_PER_METRE = {"mm": 1000, "cm": 100, "m": 1, "km": 0.001, "in": 1000 / 25.4, "ft": 1000 / 304.8,
+                   "us-ft": 3937 / 1200}
 DIGITS = 6  # decimals of a coordinate, unless a drawing asks for others
 
 # Handles of what every drawing holds; the tables have 1 to A, their records those from 20 on.

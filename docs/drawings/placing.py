@@ -20,7 +20,7 @@ def window(panel, left, bottom, words):
 
 def placing():
     svg = Svg(760, 430, "Words for the place of a window on its roof")
-    panel = Panel(svg, 70, 370, SCALE)
+    panel = Panel(svg, 90, 370, SCALE)
     panel.polygon([(LEFT, EAVES), (RIGHT, EAVES), (RIGHT_AT_RIDGE, RIDGE), (LEFT, RIDGE)], ROOF, "#fbeedd", 2)
     panel.text((RIGHT / 2, EAVES), "eaves", ROOF, dy=22, anchor="middle")
     panel.text((RIGHT_AT_RIDGE / 2, RIDGE), "ridge", ROOF, dy=-10, anchor="middle")
@@ -29,8 +29,9 @@ def placing():
     window(panel, 1.6, 0.9, "1")
     panel.measure((1.6 + WIDTH / 2, EAVES), (1.6 + WIDTH / 2, 0.9), "", MARK, side=0.01)
     panel.text((1.6 + WIDTH / 2, 0.45), "--from-eaves", MARK, dx=8, dy=5, size=13)
-    panel.measure((LEFT, 1.6), (1.6, 1.6), "--from-verge", MARK, side=0.01)
-    panel.text((1.6 + WIDTH, 0.9), "--sill", SOFT, dx=8, dy=4, size=13)
+    panel.measure((LEFT, 1.6), (1.6, 1.6), "", MARK, side=0.01)
+    panel.text((0.8, 1.6), "--from-verge", MARK, dy=-6, anchor="middle", size=13)
+    panel.text((1.6 + WIDTH, 0.9), "--sill", SOFT, dx=8, dy=-6, size=13)
     panel.text((1.6 + WIDTH, 0.9 + LENGTH), "--head", SOFT, dx=8, dy=4, size=13)
 
     top = RIDGE - 0.7

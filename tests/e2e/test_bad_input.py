@@ -108,7 +108,7 @@ def test_drawing_without_a_unit(teskarlt, tmp_path, house):
     refused(teskarlt("insert", path, *INSERT), "$INSUNITS", "--units")
     teskarlt.done("insert", path, *INSERT, "--units", "mm")
     assert teskarlt.done("list", path, "--json").json["units"] == "mm"  # by the window
-    refused(teskarlt("edit", path, "1", "--set", "width=1", "--units", "m"), "holds windows drawn in mm")
+    refused(teskarlt("edit", path, "1", "--set", "width=1", "--units", "m"), "holds windows drawn in millimetres")
 
 
 @pytest.mark.parametrize("arguments", [(), ("insert",), ("fly", "house.dxf"), ("insert", "house.dxf", "--wings"),
@@ -244,7 +244,7 @@ def test_unit_that_contradicts_the_header_is_refused_unless_forced(teskarlt, hou
 
 @pytest.mark.parametrize("command", [("roofs",), ("list",), ("refit", "--dry-run"), ("preview", "-o", "plan.svg")])
 def test_no_command_takes_another_unit_than_the_drawings(teskarlt, house, tmp_path, command):
-    refused(teskarlt(command[0], house, *command[1:], "--units", "cm", cwd=tmp_path), "says that its unit is mm")
+    refused(teskarlt(command[0], house, *command[1:], "--units", "cm", cwd=tmp_path), "says that its unit is millimetres")
 
 
 def test_text_that_is_too_long_for_its_drawing_names_its_field(teskarlt, tmp_path):

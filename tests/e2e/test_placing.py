@@ -11,7 +11,8 @@ from test_placement import close
 
 WIDTH, LENGTH = 0.94, 1.4  # metres, the defaults
 ROOFS = [*(Roof(direction=direction, pitch=40) for direction in (270, 0, 33, 180, 300)),
-         Roof(direction=120, units="m", centre=FAR), Roof(direction=10, pitch=20, units="cm")]
+         Roof(direction=120, units="m", centre=FAR), Roof(direction=10, pitch=20, units="cm"),
+         Roof(direction=75, units="in"), Roof(direction=220, units="ft", centre=(30, -20, 4))]
 
 
 def slope_point(roof, right, up):
@@ -100,6 +101,18 @@ def only_lines(path):
     drawing.header["$INSUNITS"] = 5
     drawing.modelspace().add_line((500, 100), (1300, 700))
     drawing.saveas(path)
+
+
+def test_points_of_a_roof_drawn_in_plan_are_in_its_unit(teskarlt, tmp_path):
+    path = tmp_path / "feet.dxf"
+    drawing = ezdxf.new("R2000")
+    drawing.header["$INSUNITS"] = 2
+    drawing.saveas(path)
+    teskarlt.done("insert", path, "--eaves", "0,0", "30,0", "--rises-to", "0,1", "--pitch", "45", "--eaves-height", "3.048",
+                  "--sill", "3.6576", "--over", "10,-5")
+    corners = windows.outline(readers.audited(path))
+    middle = [(a + b) / 2 for a, b in zip(corners[0], corners[3])]
+    assert all(math.isclose(*pair, rel_tol=1e-9) for pair in zip(middle, (10, 2, 12)))
 
 
 # Up the slope from the eaves, 30 degrees, to the left of (0.8, 0.6): 0.866 of the way in the plan, half of it in height.

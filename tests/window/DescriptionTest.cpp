@@ -58,7 +58,7 @@ struct Reading {
 Reading Read(const TagTexts& tags) {
   const auto drawing = teskarlt::dxf::Document::FromText("test.dxf", teskarlt::dxf::NewDrawing({}));
   Reading reading;
-  teskarlt::DescriptionReader reader(drawing, UNIT_FACTOR, reading.window);
+  teskarlt::DescriptionReader reader(drawing, {UNIT_FACTOR, 1.0}, reading.window);
   for (const auto& [code, text] : tags) {
     teskarlt::dxf::Tag tag;
     tag.code = code;

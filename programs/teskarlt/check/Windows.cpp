@@ -90,7 +90,7 @@ void CheckShapes(const Scene& scene) {
 // Windows in each other's way, and those whose roof was changed.
 void CheckFits(const Scene& scene) {
   if (scene.unit == nullptr) return;
-  const Roofs roofs = FindRoofs(scene.drawing, RoofTolerance(*scene.unit));
+  const Roofs roofs = FindRoofs(scene.drawing, scene.unit->working);
   WindowFit fit(roofs);
   for (const DrawnWindow& window : scene.windows) {
     const std::optional<Outline> outline = DrawnOutline(scene.drawing, window);
@@ -160,9 +160,9 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
 }
 
 void CheckWindows(const dxf::Document& drawing, Findings& findings) {
-  constexpr std::int32_t ANY_UNIT = 1;
   const DrawingUnit* const unit = UnitOfHeader(drawing);
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, unit == nullptr ? ANY_UNIT : unit->perMetre);
+  const std::vector<DrawnWindow> windows =
+      FindWindows(drawing, unit == nullptr ? IN_DRAWING_UNITS : unit->working);
   for (const auto check : CHECKS)
     check({drawing, windows, unit, findings});
 }

@@ -1,5 +1,4 @@
 // EraseCommand.cpp - the subcommand "erase": takes roof windows out of a drawing.
-#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -28,9 +27,8 @@ struct EraseOptions {
 };
 
 // Lengths of a condition are metres, for which the drawing's unit has to be known; else any will do.
-std::int32_t UnitFactor(const dxf::Document& drawing, const EraseOptions& options) {
-  constexpr std::int32_t anyUnit = 1;
-  return options.selection.where.empty() ? anyUnit : UnitOf(drawing, options.units).perMetre;
+WorkingUnit UnitFor(const dxf::Document& drawing, const EraseOptions& options) {
+  return options.selection.where.empty() ? IN_DRAWING_UNITS : UnitOf(drawing, options.units).working;
 }
 
 // For programs: a number alone is answered as such.
@@ -70,7 +68,7 @@ void RunErase(EraseOptions& options) {
   const WindowModule module;
   dxf::Document drawing = dxf::Document::Load(options.target.File());
   const std::vector<ErasedWindow> erased =
-      EraseWindows(module, drawing, selection, UnitFactor(drawing, options), options.isLockedToo);
+      EraseWindows(module, drawing, selection, UnitFor(drawing, options), options.isLockedToo);
   SaveDrawing(drawing, options.target);
   (options.asJson ? PrintAnswer : PrintText)(options, erased, selection.IsOneNumber());
 }

@@ -81,6 +81,7 @@ std::optional<double> FallDirection(const brevanta::WindowParams& params) {
 
 Json ToJson(const Row& row, const dxf::Document& drawing) {
   const auto& [window, reading] = row;
+  const brevanta::WindowParams params = WithDrawnPoints(reading.params, window.unit);
   const std::optional<double> fall = window.isComplete ? FallDirection(reading.params) : std::nullopt;
   Json json;
   json["number"] = window.number;
@@ -91,7 +92,7 @@ Json ToJson(const Row& row, const dxf::Document& drawing) {
   json["lines"] = window.entities.size() - window.faces;
   json["fallDirection"] = fall ? Json(*fall) : Json(nullptr);
   json["frame"] = FrameJson(reading.outline, reading.params);
-  json["fields"] = window.isComplete ? FieldsJson(window, reading.params, drawing) : Json(nullptr);
+  json["fields"] = window.isComplete ? FieldsJson(window, params, drawing) : Json(nullptr);
   json["sources"] = SourcesJson(reading);
   json["notes"] = reading.notes;
   return json;
@@ -134,7 +135,7 @@ void PrintTable(const std::vector<Row>& rows) {
   Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "lower edge m", "upper edge m",
                "x", "y", "z", "code", "entities", "texts"});
   for (const auto& [window, reading] : rows) {
-    const brevanta::WindowParams& p = reading.params;
+    const brevanta::WindowParams p = WithDrawnPoints(reading.params, window.unit);
     const std::string entities = std::to_string(window.entities.size());
     if (!window.isComplete) {
       table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", "?", "?", entities,
@@ -156,7 +157,7 @@ void PrintTable(const std::vector<Row>& rows) {
 
 // By their numbers; windows that share one in the order of the file.
 std::vector<DrawnWindow> WindowsByNumber(const dxf::Document& drawing, const DrawingUnit& unit) {
-  std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+  std::vector<DrawnWindow> windows = FindWindows(drawing, unit.working);
   std::stable_sort(windows.begin(), windows.end(),
                    [](const DrawnWindow& a, const DrawnWindow& b) { return a.number < b.number; });
   return windows;

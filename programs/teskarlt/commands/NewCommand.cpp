@@ -39,12 +39,13 @@ void RunNew(const NewOptions& options) {
   }
   dxf::NewDrawingOptions drawing;
   drawing.version = VERSIONS.at(options.version);
-  drawing.units = UnitByName(options.units).insUnits;
+  const DrawingUnit& unit = UnitByName(options.units);
+  drawing.units = unit.insUnits;
   drawing.layers = {"ROOF", "ROOF_WINDOW_BODY", "ROOF_WINDOW_OPENING", "ROOF_WINDOW_OUTLINE",
                     "ROOF_WINDOW_SYMBOL"};
   drawing.applications = {brevanta::ELEMENT_APPLICATION, brevanta::DESCRIPTION_APPLICATION};
   platform::WriteWholeFile(options.file, dxf::NewDrawing(drawing));
-  fmt::print("Empty drawing in {} written to {}.\n", options.units, options.file);
+  fmt::print("Empty drawing in {} written to {}.\n", unit.name, options.file);
 }
 
 }  // namespace
@@ -53,7 +54,7 @@ void AddNewCommand(OptionParser& parser) {
   Subcommand command = parser.Add("new", "Make an empty drawing with units, layers and linetypes ready");
   const auto options = std::make_shared<NewOptions>();
   command.Argument("FILE", options->file, "the drawing to write").Required();
-  command.Value("--units", options->units, "unit of the drawing, mm, cm, dm or m")
+  command.Value("--units", options->units, fmt::format("unit of the drawing: {}", UNIT_NAMES).c_str())
       .Named("UNIT")
       .ShowDefault();
   command.Value("--dxf-version", options->version, "version of the drawing")

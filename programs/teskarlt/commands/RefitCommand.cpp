@@ -34,13 +34,15 @@ struct RefitOptions {
   bool asJson = false;
 };
 
-Json ToJson(const Refitted& window) {
+Json ToJson(const Refitted& window, const WorkingUnit& unit) {
   Json json;
   json["number"] = window.after.markerValue;
   json["face"] = window.face;
   json["pitch"] = Json::Object({{"from", window.before.pitch}, {"to", window.after.pitch}});
-  for (const auto& [name, params] : {std::pair{"from", &window.before}, std::pair{"to", &window.after}})
-    json["place"][name] = Json::List({params->storedPoint.x, params->storedPoint.y, params->storedPoint.z});
+  for (const auto& [name, params] : {std::pair{"from", &window.before}, std::pair{"to", &window.after}}) {
+    const brevanta::RecordPoint place = ToDrawn(params->storedPoint, unit);
+    json["place"][name] = Json::List({place.x, place.y, place.z});
+  }
   json["shift"] = Shift(window);
   json["rise"] = Rise(window);
   json["warnings"] = window.misfits;
@@ -58,7 +60,7 @@ void PrintAnswer(const RefitOptions& options, const RefitReport& report) {
   Json json = Json::Object({{"version", JSON_VERSION}});
   json["windows"] = Json::List();
   for (const Refitted& window : report.refitted)
-    json["windows"].Add(ToJson(window));
+    json["windows"].Add(ToJson(window, report.unit));
   json["fitting"] = report.fitting;
   json["staying"] = ToJson(report.staying);
   json["problems"] = ToJson(report.problems);

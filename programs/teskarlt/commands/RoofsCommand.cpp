@@ -169,7 +169,7 @@ void PrintRoofs(const RoofList& list, const Roofs& roofs, const RoofsOptions& op
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = unit.name;
-  json["unitFactor"] = unit.perMetre;
+  json["unitFactor"] = UnitFactorJson(unit.perMetre);
   json["roofs"] = ToJson(list.sloped, roofs, unit);
   json["flat"] = ToJson(list.flat, roofs, unit);
   json["warped"] = Json::List();

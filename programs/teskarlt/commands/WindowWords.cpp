@@ -28,10 +28,12 @@ Json AnswerJson(const WindowOptions& options, const PlacedWindow& window) {
 
 Json ChangesJson(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
   Json json = Json::List();
+  const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
+  const brevanta::WindowParams to = WithDrawnPoints(window.placed.record, window.placed.unit);
   for (const brevanta::RecordField* const field : window.changes) {
     json.Add(Json::Object({{"field", field->name},
-                           {"from", FieldJson(before.params, *field, drawing)},
-                           {"to", FieldJson(window.placed.record, *field, drawing)}}));
+                           {"from", FieldJson(from, *field, drawing)},
+                           {"to", FieldJson(to, *field, drawing)}}));
   }
   return json;
 }
@@ -62,10 +64,11 @@ bool AssumesSkirt(const WindowReading& before, const brevanta::WindowParams& aft
 }
 
 void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
-  const brevanta::WindowParams& after = window.placed.record;
+  const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
+  const brevanta::WindowParams after = WithDrawnPoints(window.placed.record, window.placed.unit);
   if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
   for (const brevanta::RecordField* const field : window.changes) {
-    fmt::print("{}: {} -> {}\n", field->name, OneLine(FieldText(before.params, *field, drawing)),
+    fmt::print("{}: {} -> {}\n", field->name, OneLine(FieldText(from, *field, drawing)),
                OneLine(FieldText(after, *field, drawing)));
   }
   if (AssumesSkirt(before, after))
@@ -146,16 +149,22 @@ Json WindowJson(const PlacedWindow& window) {
   json["roof"] = window.face ? Json(window.face->roof) : Json(nullptr);
   json["face"] = window.face ? Json(window.face->name) : Json(nullptr);
   json["pitch"] = record.pitch;
-  json["place"] = Json::List({record.storedPoint.x, record.storedPoint.y, record.storedPoint.z});
+  const brevanta::RecordPoint place = ToDrawn(record.storedPoint, window.unit);
+  json["place"] = Json::List({place.x, place.y, place.z});
   const brevanta::Edges recorded = brevanta::RecordedEdges(record);
   json["lowerEdgeHeight"] = recorded.lower;
   json["upperEdgeHeight"] = recorded.upper;
   json["frame"] = FrameJson(window.outline, record);
-  json["unitFactor"] = record.unitFactor;
+  json["unitFactor"] = UnitFactorJson(DrawingUnitsPerMetre(window.unit));
   json["faces"] = window.faces;
   json["lines"] = window.lines;
   json["warnings"] = window.misfits;
   return json;
+}
+
+Json UnitFactorJson(double perMetre) {
+  const auto whole = static_cast<std::int64_t>(perMetre);
+  return static_cast<double>(whole) == perMetre ? Json(whole) : Json(perMetre);
 }
 
 Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowParams& record) {

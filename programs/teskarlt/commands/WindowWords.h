@@ -34,6 +34,9 @@ void WarnOfTexts(const dxf::Document& drawing);
 // For programs: the window that came into the drawing.
 Json WindowJson(const PlacedWindow& window);
 
+// For programs: drawing units a metre, which is no whole number for feet and inches.
+Json UnitFactorJson(double perMetre);
+
 // For programs: the heights of the frame's edges as it is drawn, in metres; null without an outline.
 Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowParams& record);
 

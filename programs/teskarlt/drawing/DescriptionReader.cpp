@@ -29,8 +29,8 @@ std::optional<std::int32_t> IntegerOf(const dxf::Tag& tag) {
 }
 
 void DescriptionReader::Read(const dxf::Tag& tag) {
-  if (point_ != nullptr && tag.code == ITEM_POINT_Y) point_->y = Real(tag);
-  if (point_ != nullptr && tag.code == ITEM_POINT_Z) point_->z = Real(tag);
+  if (point_ != nullptr && tag.code == ITEM_POINT_Y) point_->y = Coordinate(tag);
+  if (point_ != nullptr && tag.code == ITEM_POINT_Z) point_->z = Coordinate(tag);
   if (tag.code == brevanta::ITEM_POINT) point_ = nullptr;
   for (std::size_t i = 0; i < DESCRIPTION.size(); ++i) {
     if (isRead_[i] || DESCRIPTION[i].code != tag.code) continue;
@@ -54,7 +54,7 @@ void DescriptionReader::Store(const DescriptionItem& item, const dxf::Tag& tag) 
   switch (field->kind) {
     case FieldKind::Length:
     case FieldKind::Real:
-      RealIn(params, *field) = Real(tag) / ItemFactor(*field, unitFactor_);
+      RealIn(params, *field) = Real(tag) / ItemFactor(*field, DrawingUnitsPerMetre(unit_));
       break;
     case FieldKind::Integer:
       IntegerIn(params, *field) = Integer(tag);
@@ -64,7 +64,7 @@ void DescriptionReader::Store(const DescriptionItem& item, const dxf::Tag& tag) 
       break;
     case FieldKind::Points:
       point_ = &PointsIn(params, *field)[item.point];
-      point_->x = Real(tag);
+      point_->x = Coordinate(tag);
       break;
   }
 }
@@ -73,6 +73,10 @@ double DescriptionReader::Real(const dxf::Tag& tag) {
   const std::optional<double> value = dxf::ParseReal(tag.value);
   isDamaged_ = isDamaged_ || !value;
   return value.value_or(0.0);
+}
+
+double DescriptionReader::Coordinate(const dxf::Tag& tag) {
+  return ToWorking(Real(tag), unit_);
 }
 
 std::int32_t DescriptionReader::Integer(const dxf::Tag& tag) {

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/WorkingUnit.h"
 #include "teskarlt/dxf/Document.h"
 #include "window/Description.h"
 
@@ -18,9 +19,9 @@ std::optional<std::int32_t> IntegerOf(const dxf::Tag& tag);
 // next item of its code; what comes on top of them has no part in it.
 class DescriptionReader {
  public:
-  // Both must outlive the object. `unitFactor` is in drawing units per metre.
-  DescriptionReader(const dxf::Document& drawing, double unitFactor, DrawnWindow& window)
-      : drawing_(drawing), unitFactor_(unitFactor), window_(window) {}
+  // Drawing and window must outlive the object. Lengths become metres, points those of the working unit.
+  DescriptionReader(const dxf::Document& drawing, const WorkingUnit& unit, DrawnWindow& window)
+      : drawing_(drawing), unit_(unit), window_(window) {}
 
   void Read(const dxf::Tag& tag);
 
@@ -30,10 +31,11 @@ class DescriptionReader {
  private:
   void Store(const brevanta::DescriptionItem& item, const dxf::Tag& tag);
   double Real(const dxf::Tag& tag);
+  double Coordinate(const dxf::Tag& tag);
   std::int32_t Integer(const dxf::Tag& tag);
 
   const dxf::Document& drawing_;
-  double unitFactor_;
+  WorkingUnit unit_;
   DrawnWindow& window_;
   std::array<bool, brevanta::DESCRIPTION.size()> isRead_{};
   brevanta::RecordPoint* point_ = nullptr;  // whose y and z come next

@@ -25,7 +25,6 @@ namespace teskarlt {
 namespace {
 
 constexpr std::int32_t NO_NUMBER = 0;
-constexpr std::int32_t ANY_UNIT = 1;
 
 enum class Section { Foreign, Element, WindowElement, Description };
 
@@ -71,10 +70,10 @@ std::string OwnData(const dxf::Document& drawing, std::string_view extendedData)
 }
 
 // Reads all but the entities; what no complete description tells stays as it is by default.
-Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, std::int32_t unitFactor) {
+Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, const WorkingUnit& unit) {
   Marks marks;
   DrawnWindow described;
-  DescriptionReader description(drawing, unitFactor, described);
+  DescriptionReader description(drawing, unit, described);
   Section section = Section::Foreign;
   dxf::TagReader reader(drawing.Source(), extendedData);
   for (dxf::Tag tag; reader.Next(tag);) {
@@ -97,7 +96,8 @@ Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, std
   }
   window.number = number.value_or(NO_NUMBER);
   window.params.markerValue = window.number;
-  window.params.unitFactor = unitFactor;
+  window.params.unitFactor = unit.perMetre;
+  window.unit = unit;
   return marks;
 }
 
@@ -136,7 +136,7 @@ std::vector<Entities> SplitInOrder(const Entities& entities, std::size_t count) 
 bool AreWhole(const dxf::Document& drawing, const DrawnWindow& window, const std::vector<Entities>& copies) {
   const double tolerance = SAME_PLACE * window.params.unitFactor;
   return std::all_of(copies.begin(), copies.end(), [&](const Entities& copy) {
-    WindowParts parts = ReadParts(drawing, copy);
+    WindowParts parts = ReadParts(drawing, copy, window.unit);
     return PutInOrder(DrawsSymbol(window.params), tolerance, parts);
   });
 }
@@ -144,7 +144,7 @@ bool AreWhole(const dxf::Document& drawing, const DrawnWindow& window, const std
 // By where the entities lie; empty when that does not give as many windows, each with all of its own.
 std::vector<Entities> SplitByPlace(const dxf::Document& drawing, const DrawnWindow& window,
                                    std::size_t count) {
-  const double factor = window.params.unitFactor;
+  const double factor = DrawingUnitsPerMetre(window.unit);
   const double reach = std::min(window.params.width, window.params.length) * factor / 2;
   std::vector<Entities> copies = GroupByPlace(drawing, window.entities, SAME_PLACE * factor, reach);
   const auto isOne = [&](const Entities& copy) {
@@ -182,7 +182,7 @@ bool CanBePart(std::string_view type) {
 
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
   const std::string_view extendedData = ExtendedData(drawing, entity);
-  return !extendedData.empty() && ReadMarks(drawing, extendedData, ANY_UNIT).isWindow;
+  return !extendedData.empty() && ReadMarks(drawing, extendedData, IN_DRAWING_UNITS).isWindow;
 }
 
 std::string DrawnWindow::*TextMember(const brevanta::RecordField& field) {
@@ -209,10 +209,10 @@ std::string EntityMismatch(const DrawnWindow& window) {
 }
 
 std::optional<dxf::Tag> NumberTagOf(const dxf::Document& drawing, const dxf::Entity& entity) {
-  return ReadMarks(drawing, ExtendedData(drawing, entity), ANY_UNIT).numberTag;
+  return ReadMarks(drawing, ExtendedData(drawing, entity), IN_DRAWING_UNITS).numberTag;
 }
 
-std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor) {
+std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, const WorkingUnit& unit) {
   constexpr std::size_t notOurs = std::numeric_limits<std::size_t>::max();
   std::vector<DrawnWindow> windows;
   std::unordered_map<std::string_view, std::size_t> windowOf;  // by the bytes of all extended data
@@ -222,7 +222,7 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t 
     if (extendedData.empty() || !CanBePart(entity.type)) continue;
     auto [found, isNew] = windowOf.try_emplace(extendedData, notOurs);
     if (isNew) {
-      Marks marks = ReadMarks(drawing, extendedData, unitFactor);
+      Marks marks = ReadMarks(drawing, extendedData, unit);
       if (!marks.isWindow) continue;
       found->second = windowOfOwn.try_emplace(OwnData(drawing, extendedData), windows.size()).first->second;
       if (found->second == windows.size()) windows.push_back(std::move(marks.window));

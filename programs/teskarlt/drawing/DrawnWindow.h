@@ -9,6 +9,7 @@
 
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/WindowNumbers.h"
+#include "teskarlt/drawing/WorkingUnit.h"
 #include "teskarlt/dxf/Document.h"
 #include "window/RecordFields.h"
 
@@ -17,8 +18,10 @@ namespace teskarlt {
 // One window of a drawing.
 struct DrawnWindow {
   std::int32_t number = 0;  // of the record's `markerValue`; 0 when the entities carry none
-  // What the extended data holds, lengths in metres; the other fields are 0 and its texts are empty.
+  // What the extended data holds, lengths in metres and points in working units; the other fields are 0 and
+  // its texts are empty.
   brevanta::WindowParams params{};
+  WorkingUnit unit;   // of the record
   std::string text1;  // UTF-8
   std::string text2;
   std::string text3;
@@ -61,9 +64,9 @@ std::string EntityMismatch(const DrawnWindow& window);
 
 // The windows in the order of their first entities. Entities with the same number and the same description
 // are one window, or several where they are a multiple of what one has: another program's copies. These are
-// told apart by their order, where each has the one of its model, or else by where they lie. `unitFactor` is
-// in drawing units per metre. The drawing must outlive the result.
-std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, std::int32_t unitFactor);
+// told apart by their order, where each has the one of its model, or else by where they lie. The drawing must
+// outlive the result.
+std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, const WorkingUnit& unit);
 
 // The numbers of the windows.
 WindowNumbers NumbersOf(const std::vector<DrawnWindow>& windows);

@@ -88,7 +88,7 @@ std::vector<std::vector<const dxf::Entity*>> GroupByPlace(const dxf::Document& d
   std::vector<OwnedPoint> points;
   points.reserve(entities.size() * 4);
   for (std::size_t i = 0; i < entities.size(); ++i) {
-    const WindowParts part = ReadParts(drawing, {&entities[i], 1});
+    const WindowParts part = ReadParts(drawing, {&entities[i], 1}, IN_DRAWING_UNITS);
     for (const PartCorners& corners : part.faces) {
       for (const Vec3& corner : corners)
         points.push_back({corner, i});

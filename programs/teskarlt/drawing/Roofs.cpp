@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "teskarlt/drawing/RoofSearch.h"
+#include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
 
 namespace teskarlt {
@@ -22,11 +23,18 @@ std::vector<PlanBox> BoxesOf(const std::vector<RoofFace>& faces) {
   return boxes;
 }
 
+void TakeToWorking(const WorkingUnit& unit, RoofFace& face) {
+  for (geometry::Vec3& corner : face.corners)
+    corner = ToWorking(corner, unit);
+  face.plane.point = ToWorking(face.plane.point, unit);
+}
+
 }  // namespace
 
-Roofs::Roofs(std::vector<RoofFace> faces, double tolerance)
+Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit)
     : faces_(std::move(faces)),
       tolerance_(tolerance),
+      unit_(unit),
       index_(BoxesOf(faces_)),
       surfaces_(SurfacesOf(faces_, index_, tolerance)),
       surfaceOf_(faces_.size(), NO_SURFACE) {
@@ -89,6 +97,14 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
 
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
   return {FindFaces(drawing, tolerance), tolerance};
+}
+
+Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
+  const double tolerance = RoofTolerance(unit);
+  std::vector<RoofFace> faces = FindFaces(drawing, ToDrawn(tolerance, unit));
+  for (RoofFace& face : faces)
+    TakeToWorking(unit, face);
+  return {std::move(faces), tolerance, unit};
 }
 
 }  // namespace teskarlt

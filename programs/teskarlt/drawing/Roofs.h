@@ -11,6 +11,7 @@
 #include "teskarlt/drawing/PlanIndex.h"
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/RoofSurface.h"
+#include "teskarlt/drawing/WorkingUnit.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
@@ -24,10 +25,13 @@ struct FaceOver {
 
 class Roofs {
  public:
-  // `tolerance` is a millimetre in drawing units.
-  Roofs(std::vector<RoofFace> faces, double tolerance);
+  // `tolerance` is a millimetre in the unit of the faces, which are drawing units where nothing else is said.
+  Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit = IN_DRAWING_UNITS);
 
   double Tolerance() const { return tolerance_; }
+
+  // Of the faces.
+  const WorkingUnit& Unit() const { return unit_; }
 
   // Whether no face can take a window.
   bool IsEmpty() const;
@@ -60,6 +64,7 @@ class Roofs {
  private:
   std::vector<RoofFace> faces_;
   double tolerance_;
+  WorkingUnit unit_;
   PlanIndex index_;
   std::vector<RoofSurface> surfaces_;
   std::vector<std::size_t> surfaceOf_;                               // by the number of the face; NO_SURFACE
@@ -67,7 +72,8 @@ class Roofs {
   std::unordered_map<std::string, std::size_t> namedSurfaces_;       // and of surfaces
 };
 
-// The roofs of the model space.
+// The roofs of the model space, in drawing units; and in those in which windows are computed.
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance);
+Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit);
 
 }  // namespace teskarlt

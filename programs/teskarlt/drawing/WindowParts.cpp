@@ -11,10 +11,11 @@ namespace teskarlt {
 
 namespace {
 
-PartCorners CornersOf(const dxf::Document& drawing, const dxf::Entity& entity) {
+PartCorners CornersOf(const dxf::Document& drawing, const dxf::Entity& entity, const WorkingUnit& unit) {
   const dxf::TagList tags = drawing.TagLists(entity.text).front();
-  return {tags.Point(dxf::CODE_FIRST_CORNER), tags.Point(dxf::CODE_SECOND_CORNER),
-          tags.Point(dxf::CODE_THIRD_CORNER), tags.Point(dxf::CODE_FOURTH_CORNER)};
+  const auto corner = [&](int code) { return ToWorking(tags.Point(code), unit); };
+  return {corner(dxf::CODE_FIRST_CORNER), corner(dxf::CODE_SECOND_CORNER), corner(dxf::CODE_THIRD_CORNER),
+          corner(dxf::CODE_FOURTH_CORNER)};
 }
 
 void Reorder(const PartOrder& order, std::vector<PartCorners>& corners,
@@ -71,7 +72,7 @@ std::vector<PartRole> LineRoles(bool hasSymbol, std::string_view openingCode) {
 std::map<PartRole, const dxf::Entity*> PartsByRole(const dxf::Document& drawing, const DrawnWindow& window) {
   std::map<PartRole, const dxf::Entity*> byRole;
   const bool hasSymbol = DrawsSymbol(window.params);
-  WindowParts parts = ReadParts(drawing, window.entities);
+  WindowParts parts = ReadParts(drawing, window.entities, window.unit);
   if (!EntityMismatch(window).empty() || !PutInOrder(hasSymbol, SAME_PLACE * window.params.unitFactor, parts))
     return byRole;
   const auto add = [&](const std::vector<PartRole>& roles, const std::vector<const dxf::Entity*>& entities) {
@@ -83,11 +84,12 @@ std::map<PartRole, const dxf::Entity*> PartsByRole(const dxf::Document& drawing,
   return byRole;
 }
 
-WindowParts ReadParts(const dxf::Document& drawing, std::span<const dxf::Entity* const> entities) {
+WindowParts ReadParts(const dxf::Document& drawing, std::span<const dxf::Entity* const> entities,
+                      const WorkingUnit& unit) {
   WindowParts parts;
   for (const dxf::Entity* const entity : entities) {
     const bool isLine = dxf::SameName(entity->type, dxf::TYPE_LINE);
-    (isLine ? parts.lines : parts.faces).push_back(CornersOf(drawing, *entity));
+    (isLine ? parts.lines : parts.faces).push_back(CornersOf(drawing, *entity, unit));
     (isLine ? parts.lineEntities : parts.faceEntities).push_back(entity);
   }
   return parts;

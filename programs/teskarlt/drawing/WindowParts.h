@@ -25,8 +25,10 @@ struct WindowParts {
   std::vector<const dxf::Entity*> lineEntities;
 };
 
-// The parts in the order of `entities`, which CanBePart. Corners that are missing lie at the origin.
-WindowParts ReadParts(const dxf::Document& drawing, std::span<const dxf::Entity* const> entities);
+// The parts in the order of `entities`, which CanBePart, in working units. Corners that are missing lie at
+// the origin.
+WindowParts ReadParts(const dxf::Document& drawing, std::span<const dxf::Entity* const> entities,
+                      const WorkingUnit& unit);
 
 // What a part is in its window: the same number means the same part of windows with and without a skirt, and
 // with other opening marks.
@@ -47,7 +49,7 @@ std::vector<PartRole> LineRoles(bool hasSymbol, std::string_view openingCode);
 std::map<PartRole, const dxf::Entity*> PartsByRole(const dxf::Document& drawing, const DrawnWindow& window);
 
 // Puts the parts of one whole window into the order in which the module draws them, and says whether they
-// have it now. Those that show no window stay as they are. `tolerance` is in drawing units.
+// have it now. Those that show no window stay as they are. `tolerance` is in the unit of the parts.
 bool PutInOrder(bool hasSymbol, double tolerance, WindowParts& parts);
 
 }  // namespace teskarlt

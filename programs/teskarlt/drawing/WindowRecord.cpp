@@ -110,7 +110,7 @@ class Reconciliation {
     reading_.recovered.emplace_back("openingCode");
   }
 
-  // `drawn` in drawing units.
+  // `drawn` in working units.
   void TakeLength(const char* field, const char* word, double drawn, double& described) {
     const double metres = std::round(drawn / factor_ * ROUNDING) / ROUNDING;
     if (std::abs(metres - described) <= SAME_LENGTH) return;
@@ -271,7 +271,7 @@ class Reconciliation {
   const WindowShape& shape_;
   WindowReading& reading_;
   WindowParams& params_;
-  double factor_;  // drawing units per metre
+  double factor_;  // working units per metre
 };
 
 }  // namespace

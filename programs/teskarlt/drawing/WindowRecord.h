@@ -17,7 +17,7 @@ namespace teskarlt {
 // leave the description as it was or change parts of it: where the two disagree, the geometry holds.
 struct WindowReading {
   brevanta::WindowParams params{};  // texts as in the drawing's file
-  // Of the frame as it is drawn, drawing coordinates; none where the entities show no window.
+  // Of the frame as it is drawn, in the unit of the record; none where the entities show no window.
   std::optional<brevanta::Outline> outline;
   bool isMirrored = false;  // since it was inserted; its hinges and its anchor have changed sides then
   // Names of the fields that are not as the description says, or not in it.

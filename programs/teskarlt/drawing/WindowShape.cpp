@@ -33,7 +33,7 @@ class ShapeReader {
  public:
   ShapeReader(const dxf::Document& drawing, const DrawnWindow& window)
       : window_(window), tolerance_(SAME_PLACE * window.params.unitFactor) {
-    WindowParts parts = ReadParts(drawing, window.entities);
+    WindowParts parts = ReadParts(drawing, window.entities, window.unit);
     PutInOrder(HasSymbol(), tolerance_, parts);
     lines_ = std::move(parts.lines);
     faces_ = std::move(parts.faces);
@@ -217,7 +217,7 @@ class ShapeReader {
   }
 
   const DrawnWindow& window_;
-  double tolerance_;  // drawing units
+  double tolerance_;  // working units
   std::vector<Corners> lines_;
   std::vector<Corners> faces_;
   std::size_t skirtFaces_ = 0;

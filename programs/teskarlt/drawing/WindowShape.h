@@ -10,7 +10,7 @@
 
 namespace teskarlt {
 
-// Lengths and points in drawing units.
+// Lengths and points in working units.
 struct WindowShape {
   // The frame's outline on the roof: from the start of the lower edge up, across and down to its end. From
   // below the eaves the start is on the left, and on the right when the window is mirrored.

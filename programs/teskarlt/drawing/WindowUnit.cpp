@@ -1,7 +1,7 @@
 // WindowUnit.cpp - reads the unit of windows off their glass.
 #include "teskarlt/drawing/WindowUnit.h"
 
-#include <cmath>
+#include <optional>
 
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/DrawnWindow.h"
@@ -12,10 +12,6 @@ namespace teskarlt {
 
 namespace {
 
-constexpr std::int32_t ANY_UNIT = 1;  // the glass is measured in drawing units
-constexpr std::int32_t FACTORS[] = {1, 10, 100, 1000};
-constexpr double SAME = 0.01;  // part of the depth
-
 std::optional<WindowShape> ShapeIn(const dxf::Document& drawing, const DrawnWindow& window) {
   if (!window.isComplete || !EntityMismatch(window).empty()) return std::nullopt;
   try {
@@ -25,24 +21,17 @@ std::optional<WindowShape> ShapeIn(const dxf::Document& drawing, const DrawnWind
   }
 }
 
-std::optional<std::int32_t> FactorByGlass(double glassDepth) {
-  for (const std::int32_t factor : FACTORS) {
-    const double inset = brevanta::GLASS_INSET * factor;
-    if (std::abs(glassDepth - inset) <= SAME * inset) return factor;
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
-std::optional<std::int32_t> UnitFactorOfWindows(const dxf::Document& drawing) {
-  std::optional<std::int32_t> common;
-  for (const DrawnWindow& window : FindWindows(drawing, ANY_UNIT)) {
+const DrawingUnit* UnitOfWindows(const dxf::Document& drawing) {
+  const DrawingUnit* common = nullptr;
+  for (const DrawnWindow& window : FindWindows(drawing, IN_DRAWING_UNITS)) {
     const std::optional<WindowShape> shape = ShapeIn(drawing, window);
-    const auto factor = shape && shape->glassDepth ? FactorByGlass(*shape->glassDepth) : std::nullopt;
-    if (!factor) continue;
-    if (common && common != factor) return std::nullopt;
-    common = factor;
+    if (!shape || !shape->glassDepth) continue;
+    const DrawingUnit* const unit = UnitNear(*shape->glassDepth / brevanta::GLASS_INSET);
+    if (unit == nullptr) continue;
+    if (common != nullptr && common != unit) return nullptr;
+    common = unit;
   }
   return common;
 }

@@ -252,7 +252,7 @@ std::string Skeleton::Header() const {
   begin(VARIABLE_UNITS);
   writer.Integer(CODE_HEADER_INTEGER, options_.units);
   begin(VARIABLE_MEASUREMENT);
-  writer.Integer(CODE_HEADER_INTEGER, options_.units == UNITS_INCHES || options_.units == UNITS_FEET ? 0 : 1);
+  writer.Integer(CODE_HEADER_INTEGER, IsImperial(options_.units) ? 0 : 1);
   writer.Text(CODE_TYPE, TYPE_SECTION_END);
   return text;
 }

@@ -11,6 +11,7 @@
 #include "teskarlt/drawing/EntityLayers.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
+#include "teskarlt/modules/DrawnTags.h"
 #include "teskarlt/modules/KeptException.h"
 #include "teskarlt/modules/ValueListTags.h"
 #include "window/Choices.h"
@@ -177,7 +178,8 @@ std::int32_t ModuleSession::MakeEntity(const brevanta::ValueNode* list) {
 }
 
 void ModuleSession::AddEntity(const brevanta::ValueNode* list) {
-  const std::vector<dxf::TypedTag> tags = TagsOf(list);
+  std::vector<dxf::TypedTag> tags = TagsOf(list);
+  TakeToDrawn(request_.unit, tags);
   const bool isFace = !tags.empty() && tags[0].value == decltype(dxf::TypedTag::value)(dxf::TYPE_FACE);
   if (Redraw(tags, isFace)) return;
   drawing_.AddEntity(tags);

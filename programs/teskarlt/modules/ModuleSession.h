@@ -19,6 +19,7 @@
 #include "teskarlt/drawing/PlanIndex.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/drawing/WindowParts.h"
+#include "teskarlt/drawing/WorkingUnit.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
@@ -31,10 +32,10 @@ using FaceCorners = std::vector<geometry::Vec3>;  // in order around the face
 // Gives the faces of a roof, within which a window must stay, that touch the area.
 using FacesNear = std::function<std::vector<FaceCorners>(const PlanBox& area)>;
 
-// What the user wants, as the dialog asks for it. Coordinates are those of the drawing; texts are as they
-// stand in its file.
+// What the user wants, as the dialog asks for it. Coordinates are those of the drawing in working units;
+// texts are as they stand in its file.
 struct WindowRequest {
-  std::int32_t unitFactor = 1;  // drawing units per metre
+  WorkingUnit unit;  // of all lengths and points here; what is drawn is taken out of it
   DialogAnswers answers;
   std::optional<std::array<double, 2>> point;    // x and y in the plan
   FaceCorners roof;                              // a face, or three points, that span its plane

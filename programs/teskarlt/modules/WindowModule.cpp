@@ -156,7 +156,7 @@ WindowModule::WindowModule() {
 CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest& request) const {
   const auto insert = [&](brevanta::DialogServices* services) {
     drawing.BeginGroup({});
-    return insert_(services, request.unitFactor, nullptr, 0);
+    return insert_(services, request.unit.perMetre, nullptr, 0);
   };
   return Run(drawing, request, insert,
              [&](const CommandOutcome& outcome) { FinishWindow(drawing, outcome); });
@@ -165,14 +165,14 @@ CommandOutcome WindowModule::Insert(dxf::Document& drawing, const WindowRequest&
 CommandOutcome WindowModule::Edit(dxf::Document& drawing, const WindowRequest& request) const {
   const auto edit = [&](brevanta::DialogServices* services) {
     drawing.BeginGroup(request.replaced);
-    return edit_(services, request.unitFactor, EDIT_MODE_DIALOG);
+    return edit_(services, request.unit.perMetre, EDIT_MODE_DIALOG);
   };
   return Run(drawing, request, edit, [&](const CommandOutcome& outcome) { FinishWindow(drawing, outcome); });
 }
 
 CommandOutcome WindowModule::Erase(dxf::Document& drawing, const WindowRequest& request) const {
   const auto erase = [&](brevanta::DialogServices* services) {
-    return edit_(services, request.unitFactor, brevanta::EDIT_MODE_ERASE);
+    return edit_(services, request.unit.perMetre, brevanta::EDIT_MODE_ERASE);
   };
   return Run(drawing, request, erase, [](const CommandOutcome& outcome) {
     if (outcome.erased == 0) throw Error("the dialog module erased nothing and gave no reason");

@@ -107,10 +107,10 @@ class Reader {
     const DrawingUnit* const unit = KnownUnit(drawing, options.units);
     scene_.file = drawing.FileName();
     scene_.name = FileStem(scene_.file);
-    if (unit != nullptr) {
-      scene_.unit = unit->name;
-      scene_.perMetre = unit->perMetre;
-    }
+    if (unit == nullptr) return;
+    scene_.unit = unit->name;
+    scene_.perMetre = unit->perMetre;
+    working_ = unit->working;
   }
 
   Scene Run(const SceneOptions& options);
@@ -133,6 +133,7 @@ class Reader {
   Styles styles_;
   Blocks blocks_;
   std::set<std::string> wanted_;
+  WorkingUnit working_ = IN_DRAWING_UNITS;
   std::unordered_map<const dxf::Entity*, int> windowOf_;
   std::unordered_map<std::string, std::size_t> layerIndices_;
   std::map<DashPattern, std::size_t> patternIndices_;
@@ -141,8 +142,7 @@ class Reader {
 };
 
 void Reader::ReadWindows() {
-  const double perMetre = scene_.perMetre > 0 ? scene_.perMetre : 1;
-  for (const DrawnWindow& window : FindWindows(drawing_, static_cast<std::int32_t>(perMetre))) {
+  for (const DrawnWindow& window : FindWindows(drawing_, working_)) {
     for (const dxf::Entity* entity : window.entities)
       windowOf_[entity] = static_cast<int>(scene_.windows.size());
     SceneWindow shown;

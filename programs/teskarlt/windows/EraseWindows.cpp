@@ -23,9 +23,9 @@ void RefuseUnclear(const DrawnWindow& window) {
 }  // namespace
 
 std::vector<ErasedWindow> EraseWindows(const WindowModule& module, dxf::Document& drawing,
-                                       const WindowSelection& selection, std::int32_t unitFactor,
+                                       const WindowSelection& selection, const WorkingUnit& unit,
                                        bool isLockedToo) {
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, unitFactor);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, unit);
   const std::vector<const DrawnWindow*> chosen = ChooseWindows(drawing, windows, selection);
   for (const DrawnWindow* const window : chosen) {
     RefuseUnclear(*window);

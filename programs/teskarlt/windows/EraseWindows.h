@@ -2,9 +2,9 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
+#include "teskarlt/drawing/WorkingUnit.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/modules/WindowModule.h"
 #include "teskarlt/windows/WindowChoice.h"
@@ -16,11 +16,11 @@ struct ErasedWindow {
   std::size_t entities;  // that went with it
 };
 
-// Erases the selected windows, all or none. `unitFactor`, in drawing units per metre, counts for conditions
-// on lengths only. Throws Error, with the drawing as it was, when ChooseWindows does, when a window cannot be
-// told from a part of its copy, or when its layer is locked or frozen and `isLockedToo` is false.
+// Erases the selected windows, all or none. The unit counts for conditions on lengths only. Throws Error,
+// with the drawing as it was, when ChooseWindows does, when a window cannot be told from a part of its copy,
+// or when its layer is locked or frozen and `isLockedToo` is false.
 std::vector<ErasedWindow> EraseWindows(const WindowModule& module, dxf::Document& drawing,
-                                       const WindowSelection& selection, std::int32_t unitFactor,
+                                       const WindowSelection& selection, const WorkingUnit& unit,
                                        bool isLockedToo);
 
 }  // namespace teskarlt

@@ -22,7 +22,8 @@ struct FaceName {
 
 struct PlacedWindow {
   brevanta::WindowParams record{};  // as the dialog confirmed it
-  Outline outline{};                // of the frame
+  WorkingUnit unit;                 // of its points
+  Outline outline{};                // of the frame, in this unit
   std::optional<FaceName> face;     // none where the user gave the plane
   std::size_t faces = 0;            // entities that came into the drawing
   std::size_t lines = 0;
@@ -30,8 +31,8 @@ struct PlacedWindow {
   std::vector<std::string> misfits;  // why it does not fit, as WindowFit tells it
 };
 
-// What the module's command left behind on the roof that was chosen for it.
-PlacedWindow PlacedBy(const CommandOutcome& outcome, const RoofChoice& roof);
+// What the module's command left behind, in its unit, on the roof that was chosen for it.
+PlacedWindow PlacedBy(const CommandOutcome& outcome, const WorkingUnit& unit, const RoofChoice& roof);
 
 // Throws Error for a window with misfits, of which there is at least one.
 [[noreturn]] void RefuseMisfits(const std::vector<std::string>& misfits);

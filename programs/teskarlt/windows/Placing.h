@@ -16,10 +16,10 @@
 
 namespace teskarlt {
 
-// A roof as distances are measured on it, in its own frame and drawing units.
+// A roof as distances are measured on it, in its own frame and the unit of the faces.
 struct MeasuredRoof {
   SlopeFrame frame;
-  double perMetre = 1.0;         // drawing units
+  double perMetre = 1.0;         // units a metre
   std::vector<SlopeRing> rings;  // of its outline; none for a plane without bounds
   std::optional<double> eaves;   // how far up its lowest and its highest edge lie; none where it has none
   std::optional<double> ridge;

@@ -8,8 +8,8 @@
 
 namespace teskarlt {
 
-// Three points of the plane, the ends of the edge first, in drawing coordinates; `perMetre` drawing units are
-// a metre. Throws Error, naming the option, when too little or too much is said of the roof, or when its edge
+// Three points of the plane, the ends of the edge first, in the unit of the edge's points, of which `perMetre`
+// are a metre. Throws Error, naming the option, when too little or too much is said of the roof, or when its edge
 // has no length.
 std::vector<geometry::Vec3> PlaneOf(const PlanRoof& roof, double perMetre);
 

@@ -60,7 +60,7 @@ class Refitter {
  public:
   Refitter(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
            const RefitOrder& order)
-      : order_(order), module_(module), work_(drawing, unit) {}
+      : order_(order), module_(module), work_(drawing, unit), report_{work_.unit, {}, {}, {}, 0} {}
 
   RefitReport Run() {
     for (const DrawnWindow* const window : Chosen()) {
@@ -133,7 +133,7 @@ class Refitter {
   WindowRequest RequestFor(const DrawnWindow& window, const WindowReading& reading,
                            const RoofFace& face) const {
     WindowRequest request;
-    request.unitFactor = work_.unit.perMetre;
+    request.unit = work_.unit;
     request.edited = reading.params;
     request.replaced = window.entities;
     request.parts = PartsByRole(work_.drawing, window);

@@ -44,6 +44,7 @@ struct NotRefitted {
 };
 
 struct RefitReport {
+  WorkingUnit unit;  // of the records
   std::vector<Refitted> refitted;
   std::vector<NotRefitted> staying;   // on planes of their own: no roof face is within reach
   std::vector<NotRefitted> problems;  // that should be put back and cannot be

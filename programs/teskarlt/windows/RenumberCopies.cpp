@@ -21,8 +21,7 @@ void StoreNumber(const DrawnWindow& window, std::int32_t number, dxf::Document& 
 }  // namespace
 
 std::vector<Renumbered> RenumberCopies(dxf::Document& drawing) {
-  constexpr int anyUnit = 1;  // lengths are compared with lengths of the drawing only
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, anyUnit);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, IN_DRAWING_UNITS);
   WindowNumbers taken = NumbersOf(windows);
   std::set<std::int32_t> known;
   std::vector<Renumbered> changes;

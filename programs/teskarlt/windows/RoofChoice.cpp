@@ -36,7 +36,9 @@ std::string PlanExtents(const Roofs& roofs) {
     if (TakesWindow(face, roofs)) corners.insert(corners.end(), face.corners.begin(), face.corners.end());
   }
   const PlanBox box = PlanBoxOf(corners);
-  return fmt::format("x {:.12g} to {:.12g}, y {:.12g} to {:.12g}", box.lowX, box.highX, box.lowY, box.highY);
+  const auto drawn = [&](double coordinate) { return ToDrawn(coordinate, roofs.Unit()); };
+  return fmt::format("x {:.12g} to {:.12g}, y {:.12g} to {:.12g}", drawn(box.lowX), drawn(box.highX),
+                     drawn(box.lowY), drawn(box.highY));
 }
 
 // Why a window cannot go onto a face, for people.

@@ -9,7 +9,7 @@ UnitChoice ChooseUnit(dxf::Document& drawing, const AskedUnit& asked) {
   const DrawingUnit& unit = UnitOf(drawing, asked);
   UnitChoice choice{unit, {}};
   const StatedUnit stated = asked.isForced ? StatedBy(drawing) : StatedUnit{};
-  if (!stated.words.empty() && stated.unit != &unit)
+  if (!stated.Agrees(unit))
     choice.warning = fmt::format("{} {}; --units {} is taken", drawing.FileName(), stated.words, unit.name);
   drawing.AssumeUnits(unit.insUnits);
   return choice;

@@ -16,6 +16,7 @@
 #include "teskarlt/windows/AllOrNone.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/ClosedLayers.h"
+#include "teskarlt/windows/OrderUnits.h"
 #include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/RoofChoice.h"
 #include "teskarlt/windows/WindowChanges.h"
@@ -93,12 +94,13 @@ std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
                             order.at->text, windows_.size()),
                 {.value = order.at->text});
   }
+  const WindowOrder working = InWorkingUnits(order, work_.unit);
   return AllOrNone(work_.drawing, [&] {
     std::vector<EditedWindow> edited;
     edited.reserve(windows_.size());
     for (const EditableWindow& window : windows_) {
       try {
-        edited.push_back(EditOne(window, order));
+        edited.push_back(EditOne(window, working));
       } catch (const Error& error) {
         throw Naming(window, error);
       }
@@ -112,7 +114,7 @@ std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
 EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrder& order) {
   const WindowParams& record = window.reading.params;
   WindowRequest request;
-  request.unitFactor = work_.unit.perMetre;
+  request.unit = work_.unit;
   request.edited = record;
   request.replaced = window.drawn->entities;
   request.parts = PartsByRole(work_.drawing, *window.drawn);
@@ -128,7 +130,7 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
-  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), roof);
+  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), work_.unit, roof);
   const WindowParams& after = edited.placed.record;
   edited.changes = ChangedFields(record, after);
   edited.isRewritten = !StandsAs(window, after);

@@ -1,6 +1,7 @@
 // WindowInserter.cpp - inserts windows into one drawing, one after the other.
 #include "teskarlt/windows/WindowInserter.h"
 
+#include "teskarlt/windows/OrderUnits.h"
 #include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/RoofChoice.h"
 
@@ -11,9 +12,10 @@ WindowInserter::WindowInserter(const WindowModule& module, dxf::Document& drawin
   fit_.AddAll(drawing, work_.windows);
 }
 
-PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
+PlacedWindow WindowInserter::Insert(const WindowOrder& drawnOrder) {
+  const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
   WindowRequest request;
-  request.unitFactor = work_.unit.perMetre;
+  request.unit = work_.unit;
   request.numbersInUse = &numbers_;
   request.answers = AnswersOf(order, work_.drawing, shelf_);
   if (order.at) request.point = {order.at->x, order.at->y};
@@ -22,7 +24,7 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& order) {
   if (IsGiven(order.placing)) PutPlace(order, roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
-  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), roof);
+  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), work_.unit, roof);
   window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) {
     work_.drawing.Rollback(before);

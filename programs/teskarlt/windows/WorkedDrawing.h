@@ -15,15 +15,15 @@ namespace teskarlt {
 struct WorkedDrawing {
   WorkedDrawing(dxf::Document& worked, const DrawingUnit& drawingUnit)
       : drawing(worked),
-        unit(drawingUnit),
+        unit(drawingUnit.working),
         tolerance(RoofTolerance(unit)),
-        roofs(FindRoofs(drawing, tolerance)),
-        windows(FindWindows(drawing, unit.perMetre)),
+        roofs(FindRoofs(drawing, unit)),
+        windows(FindWindows(drawing, unit)),
         numbers(NumbersOf(windows)) {}
 
   dxf::Document& drawing;
-  const DrawingUnit& unit;
-  const double tolerance;  // in drawing units
+  const WorkingUnit unit;  // of the roofs, the windows and their points
+  const double tolerance;  // in it
   const Roofs roofs;
   const std::vector<DrawnWindow> windows;
   const WindowNumbers numbers;

@@ -39,7 +39,7 @@ std::string Face(const std::string& data) {
 
 TEST(FindWindows, EveryItemOfTheDescriptionComesBack) {
   const dxf::Document drawing = Drawing("", Line(Element(7) + Description()));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   const DrawnWindow& window = windows[0];
   EXPECT_EQ(window.number, 7);
@@ -57,7 +57,7 @@ TEST(FindWindows, EveryItemOfTheDescriptionComesBack) {
 
 TEST(FindWindows, TextsAndChoicesComeBackInTheirPlaces) {
   const dxf::Document drawing = Drawing("", Line(Element(7) + Description()));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_EQ(windows[0].text1, "Maker");
   EXPECT_EQ(windows[0].text2, "Second");
@@ -71,7 +71,7 @@ TEST(FindWindows, TextsAndChoicesComeBackInTheirPlaces) {
 
 TEST(FindWindows, PlanePointsComeBackInPairs) {
   const dxf::Document drawing = Drawing("", Line(Element(7) + Description()));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_EQ(windows[0].params.storedPoint.y, 2000);
   EXPECT_EQ(windows[0].params.insertionPoint.z, 3);
@@ -83,7 +83,7 @@ TEST(FindWindows, EntitiesWithTheSameDataAreOneWindow) {
   const dxf::Document drawing =
       Drawing("", Face(Element(1) + Description()) + Line(Element(2) + Description()) +
                       Line(Element(1) + Description()) + Line(""));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 2U);
   EXPECT_EQ(windows[0].number, 1);
   EXPECT_EQ(windows[0].entities.size(), 2U);
@@ -95,12 +95,12 @@ TEST(FindWindows, EntitiesWithTheSameDataAreOneWindow) {
 TEST(FindWindows, SameNumberWithAnotherDescriptionIsAnotherWindow) {
   const dxf::Document drawing =
       Drawing("", Line(Element(1) + Description()) + Line(Element(1) + Description("1140.0")));
-  EXPECT_EQ(FindWindows(drawing, 1000).size(), 2U);
+  EXPECT_EQ(FindWindows(drawing, MILLIMETRES).size(), 2U);
 }
 
 TEST(FindWindows, DescriptionThatIsCutShortIsNotComplete) {
   const dxf::Document drawing = Drawing("", Line(Element(3) + "1001\nTK_LT_DESC\n1070\n1\n1040\n1400.0\n"));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_EQ(windows[0].number, 3);
   EXPECT_FALSE(windows[0].isComplete);
@@ -108,7 +108,7 @@ TEST(FindWindows, DescriptionThatIsCutShortIsNotComplete) {
 
 TEST(FindWindows, ItemThatIsNoNumberMakesTheDescriptionIncomplete) {
   const dxf::Document drawing = Drawing("", Line(Element(3) + Description("nan")));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_EQ(windows[0].number, 3);
   EXPECT_FALSE(windows[0].isComplete);
@@ -117,7 +117,7 @@ TEST(FindWindows, ItemThatIsNoNumberMakesTheDescriptionIncomplete) {
 TEST(FindWindows, NumberOutOfRangeIsNone) {
   const std::string element = "1001\nTK_LT_ELEM\n1000\nTKBRVA\n1071\n99999999999\n";
   const dxf::Document drawing = Drawing("", Line(element + Description()));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_EQ(windows[0].number, 0);
   EXPECT_FALSE(windows[0].isComplete);
@@ -125,13 +125,13 @@ TEST(FindWindows, NumberOutOfRangeIsNone) {
 
 TEST(FindWindows, ForeignDataUnderOtherNamesIsNoWindow) {
   const dxf::Document drawing = Drawing("", Line("1001\nOTHER\n1000\nTKBRVA\n1071\n5\n"));
-  EXPECT_TRUE(FindWindows(drawing, 1000).empty());
+  EXPECT_TRUE(FindWindows(drawing, MILLIMETRES).empty());
 }
 
 TEST(FindWindows, ForeignDataBesideOursDoesNotMatter) {
   const dxf::Document drawing =
       Drawing("", Line("1001\nOTHER\n1040\n9.0\n" + Element(1) + Description() + "1001\nLAST\n1000\nx\n"));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_TRUE(windows[0].isComplete);
   EXPECT_EQ(windows[0].params.length, 1.4);
@@ -148,7 +148,7 @@ TEST(FindWindows, ForeignDataOfOneEntityLeavesItWithItsWindow) {
   const std::string ours = Element(7) + Description();
   const dxf::Document drawing =
       Drawing("", Line(ours) + Line(ours + "1001\nOTHER\n1070\n5\n") + Line("1001\nOTHER\n1070\n5\n" + ours));
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_EQ(windows[0].entities.size(), 3U);
 }
@@ -157,7 +157,7 @@ TEST(FindWindows, CopiesBehindTheirModelAreWindowsOfTheirOwn) {
   const Entities model = Insert().entities;  // 17 faces, 16 lines
   const dxf::Document drawing =
       DrawingOf(Joined(Joined(model, Changed(model, Move(2000, 0, 0))), Changed(model, Move(4000, 0, 0))));
-  const auto windows = FindWindows(drawing, UNITS_PER_METRE);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 3U);
   for (std::size_t i = 0; i < windows.size(); ++i) {
     EXPECT_EQ(windows[i].faces, 17U);
@@ -169,7 +169,7 @@ TEST(FindWindows, CopiesBehindTheirModelAreWindowsOfTheirOwn) {
 TEST(FindWindows, CopiesOfWindowsWithoutFacesAreTold) {
   const Entities model = Insert({{"bodyAsFaces", "0"}, {"drawOpeningSymbol", "0"}}).entities;
   const dxf::Document drawing = DrawingOf(Joined(model, Changed(model, Move(2000, 0, 0))));
-  EXPECT_EQ(FindWindows(drawing, UNITS_PER_METRE).size(), 2U);
+  EXPECT_EQ(FindWindows(drawing, MILLIMETRES).size(), 2U);
 }
 
 TEST(FindWindows, CopyInAnotherOrderIsAWindowOfItsOwn) {
@@ -177,7 +177,7 @@ TEST(FindWindows, CopyInAnotherOrderIsAWindowOfItsOwn) {
   Entities copy = Changed(model, Move(2000, 0, 0));
   std::reverse(copy.begin(), copy.end());
   const dxf::Document drawing = DrawingOf(Joined(model, copy));
-  const auto windows = FindWindows(drawing, UNITS_PER_METRE);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 2U);
   EXPECT_EQ(windows[1].faces, 17U);
   EXPECT_NEAR(ShapeOf(drawing, windows[1]).outline[0].x, 6500, 1e-6);
@@ -188,7 +188,7 @@ TEST(FindWindows, CopyInAnotherOrderInTheSamePlaceStaysWithItsModel) {
   Entities copy = model;
   std::reverse(copy.begin(), copy.end());
   const dxf::Document drawing = DrawingOf(Joined(model, copy));
-  const auto windows = FindWindows(drawing, UNITS_PER_METRE);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_TRUE(HasMoreThanOneWindow(windows[0]));
   EXPECT_EQ(EntityMismatch(windows[0]),
@@ -198,19 +198,19 @@ TEST(FindWindows, CopyInAnotherOrderInTheSamePlaceStaysWithItsModel) {
 TEST(FindWindows, CopyWithALineMoreThanItsModelStaysWithIt) {
   const Entities model = Insert().entities;
   const dxf::Document drawing = DrawingOf(Joined(Joined(model, model), {model.back()}));
-  EXPECT_EQ(FindWindows(drawing, UNITS_PER_METRE).size(), 1U);
+  EXPECT_EQ(FindWindows(drawing, MILLIMETRES).size(), 1U);
 }
 
 TEST(FindWindows, CopiesThatLackFacesAsTheirModelDoesStayWithIt) {
   const Entities damaged = Without(Insert().entities, 0, 5);
   const dxf::Document drawing = DrawingOf(Joined(damaged, damaged));
-  EXPECT_EQ(FindWindows(drawing, UNITS_PER_METRE).size(), 1U);
+  EXPECT_EQ(FindWindows(drawing, MILLIMETRES).size(), 1U);
 }
 
 TEST(FindWindows, PartOfACopyStaysWithItsModel) {
   const Entities model = Insert().entities;
   const dxf::Document drawing = DrawingOf(Joined(model, Without(model, 32)));
-  const auto windows = FindWindows(drawing, UNITS_PER_METRE);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_TRUE(HasMoreThanOneWindow(windows[0]));
 }
@@ -221,7 +221,7 @@ TEST(FindWindows, WindowsComeInTheOrderOfTheirFirstEntities) {
   // The first window's copy lies behind the second window.
   const dxf::Document drawing = DrawingOf(Joined(Joined(first, second), Changed(first, Move(2000, 0, 0))));
   std::vector<std::int32_t> numbers;
-  for (const DrawnWindow& window : FindWindows(drawing, UNITS_PER_METRE))
+  for (const DrawnWindow& window : FindWindows(drawing, MILLIMETRES))
     numbers.push_back(window.number);
   EXPECT_EQ(numbers, (std::vector<std::int32_t>{2, 1, 2}));
 }
@@ -233,7 +233,7 @@ TEST(EntityMismatch, EveryWindowOfTheModuleIsWhole) {
     for (const char* symbol : {"0", "1"}) {
       const dxf::Document drawing =
           DrawingOf(Insert({{"openingCode", code}, {"drawOpeningSymbol", symbol}}).entities);
-      EXPECT_EQ(EntityMismatch(FindWindows(drawing, UNITS_PER_METRE).at(0)), "") << code << symbol;
+      EXPECT_EQ(EntityMismatch(FindWindows(drawing, MILLIMETRES).at(0)), "") << code << symbol;
     }
   }
 }
@@ -241,13 +241,13 @@ TEST(EntityMismatch, EveryWindowOfTheModuleIsWhole) {
 TEST(EntityMismatch, SkirtAndMissingFacesAreWhole) {
   for (const Answers& answers : {Answers{{"skirtHeight", "0.1"}}, Answers{{"bodyAsFaces", "0"}}}) {
     const dxf::Document drawing = DrawingOf(Insert(answers).entities);
-    EXPECT_EQ(EntityMismatch(FindWindows(drawing, UNITS_PER_METRE).at(0)), "");
+    EXPECT_EQ(EntityMismatch(FindWindows(drawing, MILLIMETRES).at(0)), "");
   }
 }
 
 TEST(HasMoreThanOneWindow, OneWindowHasNot) {
   const dxf::Document whole = DrawingOf(Insert({{"skirtHeight", "0.1"}}).entities);
-  EXPECT_FALSE(HasMoreThanOneWindow(FindWindows(whole, UNITS_PER_METRE).at(0)));
+  EXPECT_FALSE(HasMoreThanOneWindow(FindWindows(whole, MILLIMETRES).at(0)));
 }
 
 // --- Single entities ---
@@ -275,7 +275,7 @@ TEST(IsWindowEntity, OnlyTheMarkOfTheElementCounts) {
 TEST(FindWindows, OtherEntitiesWithAWindowsDataAreNoParts) {
   const std::string text = "0\nTEXT\n8\n0\n10\n0.0\n20\n0.0\n40\n1.0\n1\nnote\n" + Element(1) + Description();
   const dxf::Document drawing = Drawing("", Line(Element(1) + Description()) + text);
-  const auto windows = FindWindows(drawing, 1000);
+  const auto windows = FindWindows(drawing, MILLIMETRES);
   ASSERT_EQ(windows.size(), 1U);
   EXPECT_EQ(windows[0].entities.size(), 1U);
 }

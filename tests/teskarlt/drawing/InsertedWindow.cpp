@@ -133,7 +133,7 @@ dxf::TypedTag ToTag(const node_list::Node& node) {
 }
 
 DrawnWindow OnlyWindow(const dxf::Document& drawing) {
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, UNITS_PER_METRE);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, MILLIMETRES);
   EXPECT_EQ(windows.size(), 1U);
   return windows.empty() ? DrawnWindow{} : windows[0];
 }
@@ -207,7 +207,7 @@ Place OnSlopeOf(double pitch) {
 
 InsertedWindow Insert(const Answers& answers, const Place& place) {
   WindowRequest request;
-  request.unitFactor = UNITS_PER_METRE;
+  request.unit = MILLIMETRES;
   request.answers = answers;
   request.answers.insert({{"width", "1"}, {"length", "2"}});
   request.point = {place.point.x, place.point.y};
@@ -217,7 +217,7 @@ InsertedWindow Insert(const Answers& answers, const Place& place) {
 
 InsertedWindow InsertAgain(const brevanta::WindowParams& record, const Answers& answers) {
   WindowRequest request;
-  request.unitFactor = UNITS_PER_METRE;
+  request.unit = MILLIMETRES;
   request.answers = answers;
   request.edited = record;
   request.point = {record.storedPoint.x, record.storedPoint.y};

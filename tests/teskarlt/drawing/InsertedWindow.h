@@ -23,6 +23,7 @@ namespace teskarlt {
 
 // The drawings are in millimetres.
 constexpr std::int32_t UNITS_PER_METRE = 1000;
+constexpr WorkingUnit MILLIMETRES{UNITS_PER_METRE, 1.0};
 
 // A map of space, as CAD programs apply it: where the unit vectors go, then the shift. Drawing units.
 struct Motion {

@@ -42,7 +42,7 @@ WindowParts PartsOf(const dxf::Document& drawing) {
   std::vector<const dxf::Entity*> entities;
   for (const dxf::Entity& entity : drawing.Entities())
     entities.push_back(&entity);
-  return ReadParts(drawing, entities);
+  return ReadParts(drawing, entities, IN_DRAWING_UNITS);
 }
 
 bool SameCorners(const std::vector<PartCorners>& a, const std::vector<PartCorners>& b) {
@@ -130,7 +130,7 @@ TEST(PartOrder, CopiesInAnyOrderAreWindowsOfTheirOwn) {
   for (const Answers& kind : KINDS) {
     SCOPED_TRACE(testing::PrintToString(kind));
     const dxf::Document drawing = DrawingOf(Shuffled(WithCopies(kind, 5), 1));
-    const std::vector<DrawnWindow> windows = FindWindows(drawing, UNITS_PER_METRE);
+    const std::vector<DrawnWindow> windows = FindWindows(drawing, MILLIMETRES);
     EXPECT_EQ(windows.size(), 5U);
     EXPECT_TRUE(AreAllEditable(drawing, windows));
   }
@@ -138,7 +138,7 @@ TEST(PartOrder, CopiesInAnyOrderAreWindowsOfTheirOwn) {
 
 TEST(PartOrder, ReversedCopiesAreWindowsOfTheirOwn) {
   const dxf::Document drawing = DrawingOf(Reversed(WithCopies({}, 3)));
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, UNITS_PER_METRE);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, MILLIMETRES);
   EXPECT_EQ(windows.size(), 3U);
   EXPECT_TRUE(AreAllEditable(drawing, windows));
 }

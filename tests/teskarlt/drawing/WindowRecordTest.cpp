@@ -350,7 +350,7 @@ TEST(ReadWindow, WithAnObstacleTheRecordIsWhatTheDescriptionSays) {
 TEST(ReadEditableWindow, RefusesAnObstacleInWords) {
   const dxf::Document drawing = DrawingOf(Without(Insert().entities, 0));
   try {
-    ReadEditableWindow(drawing, FindWindows(drawing, UNITS_PER_METRE).at(0));
+    ReadEditableWindow(drawing, FindWindows(drawing, MILLIMETRES).at(0));
     FAIL();
   } catch (const Error& error) {
     EXPECT_THAT(error.what(), HasSubstr("window 1 cannot be changed: it has 16 faces and 16 lines"));
@@ -359,7 +359,7 @@ TEST(ReadEditableWindow, RefusesAnObstacleInWords) {
 
 TEST(ReadEditableWindow, GivesTheReadingWithoutAnObstacle) {
   const dxf::Document drawing = DrawingOf(Insert().entities);
-  EXPECT_EQ(ReadEditableWindow(drawing, FindWindows(drawing, UNITS_PER_METRE).at(0)).params.width, 1);
+  EXPECT_EQ(ReadEditableWindow(drawing, FindWindows(drawing, MILLIMETRES).at(0)).params.width, 1);
 }
 
 // --- The reading is the window again ---

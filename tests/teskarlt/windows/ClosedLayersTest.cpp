@@ -27,7 +27,7 @@ dxf::Document HouseWithLayerFlags(int flags) {
 }
 
 std::string Refusal(const dxf::Document& drawing) {
-  const std::vector<DrawnWindow> windows = FindWindows(drawing, Millimetres().perMetre);
+  const std::vector<DrawnWindow> windows = FindWindows(drawing, Millimetres().working);
   return RefusalOf([&] { RefuseClosedLayers(drawing, windows.at(0)); });
 }
 

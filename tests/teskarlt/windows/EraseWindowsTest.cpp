@@ -10,11 +10,11 @@
 namespace teskarlt {
 namespace {
 
-constexpr std::int32_t PER_METRE = 1000;
+constexpr WorkingUnit MILLIMETRES{1000, 1.0};
 
 // Erases window 1 and gives how many entities went.
 std::size_t EraseOne(const WindowModule& module, dxf::Document& drawing) {
-  return EraseWindows(module, drawing, {.numbers = {{1, 1}}}, PER_METRE, false).front().entities;
+  return EraseWindows(module, drawing, {.numbers = {{1, 1}}}, MILLIMETRES, false).front().entities;
 }
 
 // Windows 1 and 2, of which the second is 1.14 m wide.
@@ -56,7 +56,7 @@ TEST(EraseWindows, WindowWithPartOfACopyIsRefused) {
 TEST(EraseWindows, AllWindowsOfARangeGo) {
   const WindowModule module;
   dxf::Document drawing = HouseWithTwo(module);
-  const auto erased = EraseWindows(module, drawing, {.numbers = {{1, 9}}}, PER_METRE, false);
+  const auto erased = EraseWindows(module, drawing, {.numbers = {{1, 9}}}, MILLIMETRES, false);
   EXPECT_EQ(erased.size(), 2U);
   EXPECT_EQ(Reloaded(drawing).Entities().size(), 1U);  // the roof
 }
@@ -64,7 +64,7 @@ TEST(EraseWindows, AllWindowsOfARangeGo) {
 TEST(EraseWindows, WindowsThatMeetTheConditionGo) {
   const WindowModule module;
   dxf::Document drawing = HouseWithTwo(module);
-  EraseWindows(module, drawing, {.where = WindowCondition("width>1")}, PER_METRE, false);
+  EraseWindows(module, drawing, {.where = WindowCondition("width>1")}, MILLIMETRES, false);
   EXPECT_THAT(NumbersIn(Reloaded(drawing)), testing::ElementsAre(1));
 }
 

@@ -88,7 +88,7 @@ const DrawingUnit& Millimetres() {
 
 std::vector<int> NumbersIn(const dxf::Document& drawing) {
   std::vector<int> numbers;
-  for (const DrawnWindow& window : FindWindows(drawing, Millimetres().perMetre))
+  for (const DrawnWindow& window : FindWindows(drawing, Millimetres().working))
     numbers.push_back(window.number);
   return numbers;
 }

@@ -109,7 +109,7 @@ class RoofAroundTolerances : public testing::TestWithParam<const char*> {
 
   // The outline of the only window, as it is drawn.
   Outline DrawnOnRoof(const Roof& roof, const dxf::Document& drawing) {
-    const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.perMetre);
+    const std::vector<DrawnWindow> windows = FindWindows(drawing, unit.working);
     const WindowReading reading = ReadWindow(drawing, windows.at(0));
     EXPECT_THAT(reading.obstacle, IsEmpty());
     EXPECT_THAT(reading.notes, IsEmpty());

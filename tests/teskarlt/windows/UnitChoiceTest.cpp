@@ -18,7 +18,7 @@ TEST(ChooseUnit, ForcedUnitGoesBeforeTheHeaderWithAWarning) {
   dxf::Document drawing = House();
   const UnitChoice choice = ChooseUnit(drawing, {"m", true});
   EXPECT_EQ(choice.unit.perMetre, 1);
-  EXPECT_EQ(choice.warning, "house.dxf says that its unit is mm ($INSUNITS 4); --units m is taken");
+  EXPECT_EQ(choice.warning, "house.dxf says that its unit is millimetres ($INSUNITS 4); --units m is taken");
 }
 
 TEST(ChooseUnit, ForcedUnitThatTheDrawingSaysTooIsNoWarning) {

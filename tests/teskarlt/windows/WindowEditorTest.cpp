@@ -178,7 +178,7 @@ TEST_F(WindowEditorTest, AllSelectedWindowsAreChanged) {
   const auto edited = WindowEditor(module, drawing, Millimetres(), {.numbers = {{2, 3}}}, false).Edit(order);
   ASSERT_EQ(edited.size(), 2U);
   EXPECT_EQ(edited[1].placed.record.markerValue, 3);
-  const auto windows = FindWindows(Reloaded(drawing), Millimetres().perMetre);
+  const auto windows = FindWindows(Reloaded(drawing), Millimetres().working);
   EXPECT_THAT(windows, ElementsAre(HasWidth(0.94), HasWidth(1.14), HasWidth(1.14)));
 }
 

@@ -24,25 +24,6 @@ constexpr double DASH_TENTHS = 127;
 constexpr double GAP_TENTHS = 63.5;
 constexpr double TENTHS_PER_MILLIMETRE = 10;
 
-constexpr double MILLIMETRES_PER_INCH = 25.4;
-
-struct Unit {
-  int number;  // of $INSUNITS
-  double millimetres;
-};
-
-constexpr Unit UNITS[] = {{UNITS_INCHES, MILLIMETRES_PER_INCH},
-                          {UNITS_FEET, 304.8},
-                          {UNITS_MILLIMETRES, 1},
-                          {UNITS_CENTIMETRES, 10},
-                          {UNITS_METRES, 1000},
-                          {UNITS_KILOMETRES, 1e6},
-                          {UNITS_YARDS, 914.4},
-                          {UNITS_MICROMETRES, 1e-3},
-                          {UNITS_DECIMETRES, 100},
-                          {UNITS_DECAMETRES, 1e4},
-                          {UNITS_HECTOMETRES, 1e5}};
-
 void WriteHead(TagWriter& writer, const EntryHead& head) {
   if (head.handle != 0 && NeedsHandles(head.version)) writer.Handle(CODE_HANDLE, head.handle);
   if (head.owner != 0) writer.Handle(CODE_OWNER, head.owner);
@@ -137,8 +118,7 @@ void WriteDashedLinetype(TagWriter& writer, const EntryHead& head, double millim
 }
 
 double MillimetresPerUnit(int units, bool isMetric) {
-  for (const Unit& unit : UNITS)
-    if (unit.number == units) return unit.millimetres;
+  if (const double millimetres = MillimetresPer(units); millimetres > 0) return millimetres;
   return isMetric ? 1 : MILLIMETRES_PER_INCH;
 }
 

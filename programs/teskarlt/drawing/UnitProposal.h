@@ -1,0 +1,22 @@
+// UnitProposal.h - which unit a drawing that states none is likely to be drawn in.
+#pragma once
+
+#include <string>
+
+#include "teskarlt/drawing/Units.h"
+#include "teskarlt/dxf/Document.h"
+
+namespace teskarlt {
+
+// The unit in which the longer side in the plan, in drawing units, of a drawing's largest roof face is likely
+// to be one of a house. In feet and inches only where people of the drawing count in them.
+const DrawingUnit& LikelyUnit(double longSide, bool isImperial);
+
+// The unit that the drawing is likely to be drawn in; null where it holds no roof face.
+const DrawingUnit* ProposedUnit(const dxf::Document& drawing);
+
+// What to do about a drawing that states no unit, for people: "a roof of 12000 by 9000: millimetres? say
+// --units mm".
+std::string UnitRemedy(const dxf::Document& drawing);
+
+}  // namespace teskarlt
