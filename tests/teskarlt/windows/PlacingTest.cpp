@@ -165,8 +165,8 @@ TEST(Placing, PlaceAboveTheRoofHasNoVerge) {
 
 TEST(Placing, PlaneWithoutBoundsHasHeightsAndNoEdges) {
   const PlainRoof roof(0);
-  const MeasuredRoof plane =
-      MeasuredOn(WindowOrder{}, OnPlane({roof.At(0, 0), roof.At(900, 0), roof.At(0, 900)}), Roofs({}, TOLERANCE));
+  const MeasuredRoof plane = MeasuredOn(
+      WindowOrder{}, OnPlane({roof.At(0, 0), roof.At(900, 0), roof.At(0, 900)}), Roofs({}, TOLERANCE));
   const auto none = [](int) { return std::nullopt; };
   const Outline frame = roof.Frame(1000, 2000);
   EXPECT_NEAR(WayToPlace({.sill = 3.1}, plane, frame, AT_POINT, none).up, -1000, 1e-6);
