@@ -9,7 +9,7 @@ import windows
 
 # $INSUNITS, and the name of the unit for --units, with its length in metres by definition.
 UNITS = {"in": (1, 0.0254), "ft": (2, 0.3048), "us-ft": (21, 1200 / 3937), "yd": (10, 0.9144), "km": (7, 1000.0),
-         "um": (13, 1e-6), "mil": (9, 0.0000254)}
+         "um": (13, 1e-6), "mil": (9, 0.0000254), "m": (6, 1.0)}
 PITCH = math.radians(30)
 WIDTH, LENGTH, FRAME, DEPTH, GLASS = 0.94, 1.4, 0.1, 0.08, 0.02  # metres: the defaults, and how deep the glass lies
 PLACE = (4.0, 1.5)  # metres in plan; the eaves are the x axis
@@ -120,3 +120,54 @@ def test_strict_and_misfits_speak_metres_in_inches_too(teskarlt, tmp_path):
     assert answer["warnings"] == ["it overlaps window 1"]
     assert math.isclose(answer["unitFactor"], 1 / 0.0254)
     assert near(answer["place"], in_roof(0, 0), "in")
+
+
+def test_commands_that_look_need_no_unit(teskarlt, tmp_path):
+    path = tmp_path / "roof.dxf"
+    roof(path, "in", "R12")
+    answer = teskarlt.done("roofs", path, "--json")
+    assert answer.json["units"] is None and answer.json["unitFactor"] is None
+    area = 8 * 4 / math.cos(PITCH) / 0.0254 ** 2
+    [listed] = answer.json["roofs"]
+    assert math.isclose(listed["area"], area, rel_tol=1e-9)
+    assert math.isclose(listed["ridgeHeight"], 4 * math.tan(PITCH) / 0.0254, rel_tol=1e-9)
+    assert answer.stderr.count("lengths are in drawing units") == 1 and "say --units" in answer.stderr
+    heading = teskarlt.done("roofs", path).stdout.splitlines()[0]
+    assert "area" in heading and "m2" not in heading and "eaves m" not in heading
+    for command in (["list", path, "--json"], ["check", path], ["preview", path, "-o", tmp_path / "plan.svg"]):
+        teskarlt.done(*command)
+    assert teskarlt.done("list", path, "--json").json["units"] is None
+
+
+@pytest.mark.parametrize("unit", ["in", "m"])
+def test_lengths_are_said_and_read_in_feet_and_inches(teskarlt, tmp_path, unit):
+    path = tmp_path / "roof.dxf"
+    roof(path, unit)
+    answer = teskarlt.done("insert", path, "--at", at(unit), "--set", "width=3'-1 1/2\"", "--set", "length=46.5\"",
+                           "--lengths", "ft")
+    assert answer.stdout.startswith("Window 1: 3'-1 1/2\" x 3'-10 1/2\" on ")
+    [window] = teskarlt.done("list", path, "--json").json["windows"]
+    assert math.isclose(window["fields"]["width"], 37.5 * 0.0254)
+    lines = teskarlt.done("list", path, "--lengths", "ft").stdout.splitlines()
+    assert "width ft-in" in lines[0] and "3'-1 1/2\"" in lines[1]
+    answer = teskarlt.done("edit", path, "1", "--set", "width=3.25", "--lengths", "ft")
+    assert "width: 3'-1 1/2\" -> 3'-3\"" in answer.stdout
+    assert "sq ft" in teskarlt.done("roofs", path, "--lengths", "ft").stdout
+
+
+def test_jobs_take_feet_and_inches(teskarlt, tmp_path):
+    path, jobs = tmp_path / "roof.dxf", tmp_path / "jobs.jsonl"
+    roof(path, "ft")
+    x, y = (value / 0.3048 for value in PLACE)
+    jobs.write_text(f'{{"at": [{x}, {y}], "set": {{"width": "2\'-6\\"", "length": 4}}}}\n', encoding="ascii")
+    teskarlt.done("insert", path, "--jobs", jobs, "--lengths", "ft")
+    [window] = teskarlt.done("list", path, "--json").json["windows"]
+    assert math.isclose(window["fields"]["width"], 2.5 * 0.3048)
+    assert math.isclose(window["fields"]["length"], 4 * 0.3048)
+
+
+def test_malformed_feet_are_explained(teskarlt, tmp_path):
+    path = tmp_path / "roof.dxf"
+    roof(path, "ft")
+    refused = teskarlt("insert", path, "--at", at("ft"), "--set", "width=3'x\"")
+    assert refused.status == 1 and "5'-4 1/2\"" in refused.stderr

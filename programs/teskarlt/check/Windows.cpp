@@ -10,7 +10,6 @@
 
 #include <fmt/format.h>
 
-#include "teskarlt/Error.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/drawing/Units.h"
@@ -107,14 +106,6 @@ void CheckFits(const Scene& scene) {
 constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, CheckEntities, CheckShapes,
                                             CheckFits};
 
-const DrawingUnit* UnitOfHeader(const dxf::Document& drawing) {
-  try {
-    return &UnitOf(drawing);
-  } catch (const Error&) {
-    return nullptr;
-  }
-}
-
 bool IsWindowElement(std::span<const dxf::Tag> section) {
   for (const dxf::Tag& tag : section)
     if (tag.code == dxf::CODE_XDATA_TEXT) return dxf::Trimmed(tag.value) == brevanta::WINDOW_ELEMENT;
@@ -160,7 +151,7 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
 }
 
 void CheckWindows(const dxf::Document& drawing, Findings& findings) {
-  const DrawingUnit* const unit = UnitOfHeader(drawing);
+  const DrawingUnit* const unit = KnownUnit(drawing);
   const std::vector<DrawnWindow> windows =
       FindWindows(drawing, unit == nullptr ? IN_DRAWING_UNITS : unit->working);
   for (const auto check : CHECKS)

@@ -51,10 +51,11 @@ Json FieldJson(const WindowParams& record, const RecordField& field, const dxf::
   return nullptr;
 }
 
-std::string FieldText(const WindowParams& record, const RecordField& field, const dxf::Document& drawing) {
+std::string FieldText(const WindowParams& record, const RecordField& field, const dxf::Document& drawing,
+                      const LengthWords& words) {
   switch (field.kind) {
     case FieldKind::Length:
-      return fmt::format("{:.9g} m", RealIn(record, field));
+      return words.Exact(RealIn(record, field));
     case FieldKind::Real:
       return fmt::format("{:.9g}", RealIn(record, field));
     case FieldKind::Integer:

@@ -9,6 +9,7 @@
 
 #include "geometry/Matrix4.h"
 #include "teskarlt/commands/FieldWords.h"
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
@@ -27,6 +28,7 @@ namespace {
 struct ListOptions {
   std::string file;
   AskedUnit units;
+  std::string lengths;
   bool asJson = false;
 };
 
@@ -101,7 +103,7 @@ Json ToJson(const Row& row, const dxf::Document& drawing) {
 void PrintRows(const std::vector<Row>& rows, const dxf::Document& drawing, const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
-  json["units"] = unit.name;
+  json["units"] = UnitJson(unit);
   json["windows"] = Json::List();
   for (const Row& row : rows)
     json["windows"].Add(ToJson(row, drawing));
@@ -123,17 +125,17 @@ std::string FallText(const brevanta::WindowParams& params) {
 
 // The height of an edge of the frame as it is drawn, and in brackets what the record says where it is
 // another.
-std::string EdgeText(const WindowReading& reading, double brevanta::Edges::*edge) {
-  const std::string recorded = fmt::format("{:.3f}", brevanta::RecordedEdges(reading.params).*edge);
+std::string EdgeText(const WindowReading& reading, double brevanta::Edges::*edge, const LengthWords& words) {
+  const std::string recorded = words.Cell(brevanta::RecordedEdges(reading.params).*edge);
   if (!reading.outline) return fmt::format("({})", recorded);
-  const std::string drawn =
-      fmt::format("{:.3f}", brevanta::EdgesOf(*reading.outline, reading.params.unitFactor).*edge);
+  const std::string drawn = words.Cell(brevanta::EdgesOf(*reading.outline, reading.params.unitFactor).*edge);
   return drawn == recorded ? drawn : fmt::format("{} ({})", drawn, recorded);
 }
 
-void PrintTable(const std::vector<Row>& rows) {
-  Table table({"number", "width m", "length m", "pitch deg", "falls to deg", "lower edge m", "upper edge m",
-               "x", "y", "z", "code", "entities", "texts"});
+void PrintTable(const std::vector<Row>& rows, const LengthWords& words) {
+  Table table({"number", words.Column("width"), words.Column("length"), "pitch deg", "falls to deg",
+               words.Column("lower edge"), words.Column("upper edge"), "x", "y", "z", "code", "entities",
+               "texts"});
   for (const auto& [window, reading] : rows) {
     const brevanta::WindowParams p = WithDrawnPoints(reading.params, window.unit);
     const std::string entities = std::to_string(window.entities.size());
@@ -142,9 +144,9 @@ void PrintTable(const std::vector<Row>& rows) {
                  "(description damaged)"});
       continue;
     }
-    table.Add({std::to_string(window.number), fmt::format("{:g}", p.width), fmt::format("{:g}", p.length),
-               fmt::format("{:.2f}", p.pitch), FallText(p), EdgeText(reading, &brevanta::Edges::lower),
-               EdgeText(reading, &brevanta::Edges::upper), fmt::format("{:.3f}", p.storedPoint.x),
+    table.Add({std::to_string(window.number), words.Size(p.width), words.Size(p.length),
+               fmt::format("{:.2f}", p.pitch), FallText(p), EdgeText(reading, &brevanta::Edges::lower, words),
+               EdgeText(reading, &brevanta::Edges::upper, words), fmt::format("{:.3f}", p.storedPoint.x),
                fmt::format("{:.3f}", p.storedPoint.y), fmt::format("{:.3f}", p.storedPoint.z), p.openingCode,
                entities, Texts(window)});
   }
@@ -165,7 +167,7 @@ std::vector<DrawnWindow> WindowsByNumber(const dxf::Document& drawing, const Dra
 
 void RunList(const ListOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
-  const DrawingUnit& unit = UnitOf(drawing, options.units);
+  const DrawingUnit& unit = UnitToLookIn(drawing, options.units);
   const std::vector<DrawnWindow> windows = WindowsByNumber(drawing, unit);
   const std::vector<Row> rows = ReadRows(drawing, windows);
   WarnOfTexts(drawing);
@@ -174,7 +176,7 @@ void RunList(const ListOptions& options) {
   } else if (windows.empty()) {
     fmt::print("{} holds no roof window.\n", options.file);
   } else {
-    PrintTable(rows);
+    PrintTable(rows, LengthWords(StyleSaid(options.lengths), IsStated(unit)));
   }
 }
 
@@ -185,9 +187,11 @@ void AddListCommand(OptionParser& parser) {
   const auto options = std::make_shared<ListOptions>();
   command.Argument("FILE", options->file, "the drawing").Required();
   AddUnitOptions(command, options->units);
+  AddLengthsOption(command, options->lengths);
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
-      "Sizes are in metres, the place in drawing units; the direction in which the roof falls is in degrees\n"
+      "Sizes are in metres, or as --lengths says, the place in drawing units; the direction in which the "
+      "roof falls is in degrees\n"
       "counter-clockwise from the drawing's x axis. The edges are those of the frame as it is drawn; in "
       "brackets\n"
       "stands what the record says where it is another height. Windows that another program moved, turned, "

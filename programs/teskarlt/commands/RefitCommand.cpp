@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
@@ -28,6 +29,7 @@ struct RefitOptions {
   std::string keep = KEEP_PLAN;
   double reach = REFIT_REACH;
   AskedUnit units;
+  std::string lengths;
   bool isLockedToo = false;
   bool keepGoing = false;
   bool isStrict = false;
@@ -68,12 +70,12 @@ void PrintAnswer(const RefitOptions& options, const RefitReport& report) {
   PrintJson(json);
 }
 
-void PrintTable(const std::vector<Refitted>& windows) {
-  Table table({"number", "face", "pitch was", "pitch is", "shift m", "rise m"});
+void PrintTable(const std::vector<Refitted>& windows, const LengthWords& words) {
+  Table table({"number", "face", "pitch was", "pitch is", words.Column("shift"), words.Column("rise")});
   for (const Refitted& window : windows) {
     table.Add({std::to_string(window.after.markerValue), window.face,
                fmt::format("{:.2f}", window.before.pitch), fmt::format("{:.2f}", window.after.pitch),
-               fmt::format("{:.3f}", Shift(window)), fmt::format("{:.3f}", Rise(window))});
+               words.Cell(Shift(window)), words.Cell(Rise(window))});
   }
   table.Print();
 }
@@ -81,7 +83,7 @@ void PrintTable(const std::vector<Refitted>& windows) {
 void PrintText(const RefitOptions& options, const RefitReport& report) {
   const std::size_t count = report.refitted.size();
   if (count > 0) {
-    PrintTable(report.refitted);
+    PrintTable(report.refitted, LengthWords(StyleSaid(options.lengths)));
     fmt::print("{} window{} {}.\n", count, count == 1 ? "" : "s",
                options.target.Ending("refitted", "be refitted"));
   }
@@ -153,6 +155,7 @@ void AddRefitCommand(OptionParser& parser) {
   AddLockedOption(command, options->isLockedToo);
   options->target.AddOutput(command);
   AddUnitOptions(command, options->units);
+  AddLengthsOption(command, options->lengths);
   command.Flag("--strict", options->isStrict, "refuse when a window would overlap another");
   options->target.AddDryRun(command);
   command.Flag("--json", options->asJson, JSON_HELP);

@@ -8,12 +8,14 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/RingsAround.h"
 #include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/drawing/SurfaceOutline.h"
+#include "teskarlt/drawing/UnitProposal.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Messages.h"
@@ -26,6 +28,7 @@ namespace {
 struct RoofsOptions {
   std::string file;
   AskedUnit units;
+  std::string lengths;
   bool isAll = false;
   bool asJson = false;
 };
@@ -93,7 +96,7 @@ RoofList ListOf(const Roofs& roofs) {
 }
 
 // Whoever misses a roof in the list learns why.
-void TellOfLeftOut(const RoofList& list, const DrawingUnit& unit) {
+void TellOfLeftOut(const RoofList& list, const DrawingUnit& unit, const LengthWords& words) {
   const auto isOrAre = [](std::size_t count) { return count == 1 ? "is" : "are"; };
   const auto itOrThem = [](std::size_t count) { return count == 1 ? "it" : "them"; };
   if (const std::size_t count = list.flat.size(); count > 0) {
@@ -106,8 +109,8 @@ void TellOfLeftOut(const RoofList& list, const DrawingUnit& unit) {
                          [](const auto* a, const auto* b) { return Warp(*a) < Warp(*b); });
   const std::size_t count = list.warped.size();
   TellNote(fmt::format(
-      "{} face{} {} left out, not being planar: a corner of {} lies {:.3f} m off its plane; --all lists {}",
-      count, count == 1 ? "" : "s", isOrAre(count), worst.name, Warp(worst) / unit.perMetre,
+      "{} face{} {} left out, not being planar: a corner of {} lies {} off its plane; --all lists {}", count,
+      count == 1 ? "" : "s", isOrAre(count), worst.name, words.Spoken(Warp(worst) / unit.perMetre),
       itOrThem(count)));
 }
 
@@ -168,8 +171,8 @@ void PrintRoofs(const RoofList& list, const Roofs& roofs, const RoofsOptions& op
                 const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
-  json["units"] = unit.name;
-  json["unitFactor"] = UnitFactorJson(unit.perMetre);
+  json["units"] = UnitJson(unit);
+  json["unitFactor"] = IsStated(unit) ? UnitFactorJson(unit.perMetre) : Json(nullptr);
   json["roofs"] = ToJson(list.sloped, roofs, unit);
   json["flat"] = ToJson(list.flat, roofs, unit);
   json["warped"] = Json::List();
@@ -201,14 +204,15 @@ std::string EntitiesText(const ListedSurface& listed) {
   return text;
 }
 
-void PrintTable(const RoofList& list, bool withFlat, const DrawingUnit& unit) {
-  Table table({"roof", "layer", "pitch deg", "falls to deg", "area m2", "eaves m", "ridge m", "made of"});
+void PrintTable(const RoofList& list, bool withFlat, const DrawingUnit& unit, const LengthWords& words) {
+  Table table({"roof", "layer", "pitch deg", "falls to deg", words.AreaColumn(), words.Column("eaves"),
+               words.Column("ridge"), "made of"});
   const auto add = [&](const ListedSurface& listed) {
     const Plane& plane = listed.surface->plane;
     table.Add({listed.surface->name, listed.largest->layer, fmt::format("{:.2f}", Pitch(plane)),
-               FallText(plane), fmt::format("{:.2f}", listed.area / (unit.perMetre * unit.perMetre)),
-               fmt::format("{:.3f}", listed.eaves / unit.perMetre),
-               fmt::format("{:.3f}", listed.ridge / unit.perMetre), EntitiesText(listed)});
+               FallText(plane), words.AreaCell(listed.area / (unit.perMetre * unit.perMetre)),
+               words.Cell(listed.eaves / unit.perMetre), words.Cell(listed.ridge / unit.perMetre),
+               EntitiesText(listed)});
   };
   std::for_each(list.sloped.begin(), list.sloped.end(), add);
   if (withFlat) std::for_each(list.flat.begin(), list.flat.end(), add);
@@ -216,32 +220,35 @@ void PrintTable(const RoofList& list, bool withFlat, const DrawingUnit& unit) {
 }
 
 // The name of the face's roof, or why it takes no window.
-std::string Verdict(const RoofFace& face, const Roofs& roofs, const DrawingUnit& unit) {
+std::string Verdict(const RoofFace& face, const Roofs& roofs, const DrawingUnit& unit,
+                    const LengthWords& words) {
   const RoofSurface* surface = roofs.SurfaceOf(face);
   if (surface != nullptr && surface->isPlanar) return surface->name;
   if (IsSteep(face)) return "none: steeper than 85 degrees";
-  return fmt::format("none: {:.3f} m off its plane", Warp(face) / unit.perMetre);
+  return fmt::format("none: {} off its plane", words.Spoken(Warp(face) / unit.perMetre));
 }
 
-void PrintFaces(const Roofs& roofs, const DrawingUnit& unit) {
-  Table table({"face", "type", "layer", "pitch deg", "falls to deg", "area m2", "from m", "to m", "roof"});
+void PrintFaces(const Roofs& roofs, const DrawingUnit& unit, const LengthWords& words) {
+  Table table({"face", "type", "layer", "pitch deg", "falls to deg", words.AreaColumn(), words.Column("from"),
+               words.Column("to"), "roof"});
   for (const RoofFace& face : roofs.Faces()) {
     const auto [low, high] = std::minmax_element(face.corners.begin(), face.corners.end(),
                                                  [](const auto& a, const auto& b) { return a.z < b.z; });
     table.Add({face.name, face.type, face.layer, fmt::format("{:.2f}", Pitch(face.plane)),
-               FallText(face.plane), fmt::format("{:.2f}", Area(face) / (unit.perMetre * unit.perMetre)),
-               fmt::format("{:.3f}", low->z / unit.perMetre), fmt::format("{:.3f}", high->z / unit.perMetre),
-               Verdict(face, roofs, unit)});
+               FallText(face.plane), words.AreaCell(Area(face) / (unit.perMetre * unit.perMetre)),
+               words.Cell(low->z / unit.perMetre), words.Cell(high->z / unit.perMetre),
+               Verdict(face, roofs, unit, words)});
   }
   table.Print();
 }
 
 void RunRoofs(const RoofsOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
-  const DrawingUnit& unit = UnitOf(drawing, options.units);
-  const Roofs roofs = FindRoofs(drawing, RoofTolerance(unit));
+  const DrawingUnit& unit = UnitToLookIn(drawing, options.units);
+  const LengthWords words(StyleSaid(options.lengths), IsStated(unit));
+  const Roofs roofs = FindRoofs(drawing, ToleranceToLookWith(drawing, unit));
   const RoofList list = ListOf(roofs);
-  if (!options.isAll) TellOfLeftOut(list, unit);
+  if (!options.isAll) TellOfLeftOut(list, unit, words);
   WarnOfTexts(drawing);
   if (options.asJson) {
     PrintRoofs(list, roofs, options, unit);
@@ -249,11 +256,11 @@ void RunRoofs(const RoofsOptions& options) {
     fmt::print("{} holds no {} that can take a roof window.\n", options.file,
                list.flat.empty() ? "planar face" : "sloped roof");
   } else {
-    PrintTable(list, options.isAll, unit);
+    PrintTable(list, options.isAll, unit, words);
   }
   if (!options.isAll || options.asJson || roofs.Faces().empty()) return;
   fmt::print("\n");
-  PrintFaces(roofs, unit);
+  PrintFaces(roofs, unit, words);
 }
 
 }  // namespace
@@ -263,6 +270,7 @@ void AddRoofsCommand(OptionParser& parser) {
   const auto options = std::make_shared<RoofsOptions>();
   command.Argument("FILE", options->file, "the drawing").Required();
   AddUnitOptions(command, options->units);
+  AddLengthsOption(command, options->lengths);
   command.Flag("--all", options->isAll,
                "list flat roofs too, and the faces behind all of them with those that take no window: uneven "
                "ones and walls");

@@ -7,6 +7,7 @@
 
 #include "inc/DialogServices.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/PlaceWords.h"
@@ -84,6 +85,7 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
       .Named("FIELD=VALUE");
   options.target.AddOutput(command);
   AddUnitOptions(command, options.units);
+  AddLengthsOption(command, options.lengths);
   command.Flag("--strict", options.isStrict,
                "refuse a window that overlaps another or does not lie on a roof face");
   options.target.AddDryRun(command);
@@ -110,6 +112,7 @@ WindowOrder OrderOf(const WindowOptions& options) {
   if (namesRoof && order.planRoof.IsGiven())
     throw Error("--eaves and --ridge give the roof already; leave --on and --roof out");
   order.isStrict = options.isStrict;
+  order.lengths = StyleSaid(options.lengths);
   return order;
 }
 

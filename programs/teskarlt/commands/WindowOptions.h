@@ -24,6 +24,7 @@ struct WindowOptions {
   std::string catalogue;
   std::vector<std::string> settings;
   AskedUnit units;
+  std::string lengths;
   bool isStrict = false;
   bool asJson = false;
 };

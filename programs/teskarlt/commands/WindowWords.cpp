@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/commands/FieldWords.h"
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
@@ -38,17 +39,22 @@ Json ChangesJson(const EditedWindow& window, const WindowReading& before, const 
   return json;
 }
 
-void PrintPlace(const PlacedWindow& window) {
+LengthWords WordsOf(const WindowOptions& options) {
+  return LengthWords(StyleSaid(options.lengths));
+}
+
+void PrintPlace(const PlacedWindow& window, const LengthWords& words) {
   const brevanta::WindowParams& record = window.record;
   const std::string where = window.face ? fmt::format("roof {}, face {} of layer {}", window.face->roof,
                                                       window.face->name, window.face->layer)
                                         : "the given plane";
   const brevanta::Edges frame = brevanta::EdgesOf(window.outline, record.unitFactor);
   const brevanta::Edges recorded = brevanta::RecordedEdges(record);
-  fmt::print("Window {}: {:g} x {:g} m on {}, pitch {:.2f} degrees.\n", record.markerValue, record.width,
-             record.length, where, record.pitch);
-  fmt::print("Its frame lies from {:.3f} m to {:.3f} m; lowerEdgeHeight {:.3f}, upperEdgeHeight {:.3f}.\n",
-             frame.lower, frame.upper, recorded.lower, recorded.upper);
+  fmt::print("Window {}: {} x {} on {}, pitch {:.2f} degrees.\n", record.markerValue,
+             words.Size(record.width), words.SpokenSize(record.length), where, record.pitch);
+  fmt::print("Its frame lies from {} to {}; lowerEdgeHeight {}, upperEdgeHeight {}.\n",
+             words.Spoken(frame.lower), words.Spoken(frame.upper), words.Cell(recorded.lower),
+             words.Cell(recorded.upper));
 }
 
 void PrintEntities(const WindowOptions& options, const PlacedWindow& window) {
@@ -63,16 +69,18 @@ bool AssumesSkirt(const WindowReading& before, const brevanta::WindowParams& aft
   return isUnknown && (after.bodyAsFaces != brevanta::LINES_ONLY || DrawsSymbol(after));
 }
 
-void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing,
+                  const LengthWords& words) {
   const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
   const brevanta::WindowParams after = WithDrawnPoints(window.placed.record, window.placed.unit);
   if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
   for (const brevanta::RecordField* const field : window.changes) {
-    fmt::print("{}: {} -> {}\n", field->name, OneLine(FieldText(from, *field, drawing)),
-               OneLine(FieldText(after, *field, drawing)));
+    fmt::print("{}: {} -> {}\n", field->name, OneLine(FieldText(from, *field, drawing, words)),
+               OneLine(FieldText(after, *field, drawing, words)));
   }
   if (AssumesSkirt(before, after))
-    fmt::print("skirtHeight: {:g} m by default, since nothing drawn told it\n", after.skirtHeight);
+    fmt::print("skirtHeight: {} by default, since nothing drawn told it\n",
+               words.SpokenSize(after.skirtHeight));
 }
 
 // Of a window that was changed, for programs.
@@ -85,13 +93,14 @@ Json EditedJson(const EditedWindow& window, const WindowReading& before, const d
 }
 
 // "Window 3: width: 0.94 m -> 1.14 m; openingCode: "D" -> "B"".
-std::string EditedLine(const EditedWindow& window, const WindowReading& before,
-                       const dxf::Document& drawing) {
-  const brevanta::WindowParams& after = window.placed.record;
+std::string EditedLine(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing,
+                       const LengthWords& words) {
+  const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
+  const brevanta::WindowParams after = WithDrawnPoints(window.placed.record, window.placed.unit);
   std::vector<std::string> changes;
   for (const brevanta::RecordField* const field : window.changes) {
-    changes.push_back(fmt::format("{}: {} -> {}", field->name, FieldText(before.params, *field, drawing),
-                                  FieldText(after, *field, drawing)));
+    changes.push_back(fmt::format("{}: {} -> {}", field->name, FieldText(from, *field, drawing, words),
+                                  FieldText(after, *field, drawing, words)));
   }
   if (changes.empty())
     changes.emplace_back(window.isRewritten ? "its description says again what is drawn" : "nothing changes");
@@ -162,6 +171,10 @@ Json WindowJson(const PlacedWindow& window) {
   return json;
 }
 
+Json UnitJson(const DrawingUnit& unit) {
+  return IsStated(unit) ? Json(unit.name) : Json(nullptr);
+}
+
 Json UnitFactorJson(double perMetre) {
   const auto whole = static_cast<std::int64_t>(perMetre);
   return static_cast<double>(whole) == perMetre ? Json(whole) : Json(perMetre);
@@ -188,7 +201,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
   if (options.asJson) {
     PrintJson(AnswerJson(options, window));
   } else {
-    PrintPlace(window);
+    PrintPlace(window, WordsOf(options));
     PrintEntities(options, window);
   }
 }
@@ -203,10 +216,10 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Edi
     PrintJson(json);
     return;
   }
-  PrintPlace(window.placed);
+  PrintPlace(window.placed, WordsOf(options));
   if (window.isRewritten) {
     PrintEntities(options, window.placed);
-    PrintChanges(window, before, drawing);
+    PrintChanges(window, before, drawing, WordsOf(options));
   } else {
     fmt::print("Nothing changes: it stands there as ordered; {}.\n", options.target.UnchangedEnding());
   }
@@ -229,7 +242,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
     return;
   }
   for (std::size_t i = 0; i < windows.size(); ++i)
-    fmt::print("{}\n", EditedLine(windows[i], before[i].reading, drawing));
+    fmt::print("{}\n", EditedLine(windows[i], before[i].reading, drawing, WordsOf(options)));
   if (rewritten > 0) {
     fmt::print("{} of {} window{} {}.\n", rewritten, windows.size(), windows.size() == 1 ? "" : "s",
                options.target.Ending("changed", "be changed"));

@@ -34,6 +34,9 @@ void WarnOfTexts(const dxf::Document& drawing);
 // For programs: the window that came into the drawing.
 Json WindowJson(const PlacedWindow& window);
 
+// For programs: the unit's name; null where none is stated.
+Json UnitJson(const DrawingUnit& unit);
+
 // For programs: drawing units a metre, which is no whole number for feet and inches.
 Json UnitFactorJson(double perMetre);
 

@@ -74,6 +74,12 @@ const DrawingUnit* ProposedUnit(const dxf::Document& drawing) {
   return roof ? &LikelyUnit(roof->longer, CountsInFeet(drawing)) : nullptr;
 }
 
+double ToleranceToLookWith(const dxf::Document& drawing, const DrawingUnit& unit) {
+  if (IsStated(unit)) return RoofTolerance(unit);
+  const DrawingUnit* const proposed = ProposedUnit(drawing);
+  return RoofTolerance(proposed == nullptr ? unit : *proposed);
+}
+
 std::string UnitRemedy(const dxf::Document& drawing) {
   const std::optional<PlanSize> roof = LargestRoof(drawing);
   if (!roof) return "say it with --units, as in --units mm, m, in or ft";

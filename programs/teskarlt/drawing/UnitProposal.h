@@ -15,6 +15,10 @@ const DrawingUnit& LikelyUnit(double longSide, bool isImperial);
 // The unit that the drawing is likely to be drawn in; null where it holds no roof face.
 const DrawingUnit* ProposedUnit(const dxf::Document& drawing);
 
+// A millimetre in drawing units, for roofs that are only looked at: where no unit is stated, in the one that
+// the drawing is likely to be drawn in.
+double ToleranceToLookWith(const dxf::Document& drawing, const DrawingUnit& unit);
+
 // What to do about a drawing that states no unit, for people: "a roof of 12000 by 9000: millimetres? say
 // --units mm".
 std::string UnitRemedy(const dxf::Document& drawing);

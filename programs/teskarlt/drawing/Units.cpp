@@ -149,4 +149,8 @@ const DrawingUnit& UnitOf(const dxf::Document& drawing, const AskedUnit& asked) 
       {.file = file, .value = std::to_string(drawing.Units())});
 }
 
+const DrawingUnit* KnownUnit(const dxf::Document& drawing, const AskedUnit& asked) {
+  return asked.name.empty() ? StatedBy(drawing).unit : &UnitOf(drawing, asked);
+}
+
 }  // namespace teskarlt

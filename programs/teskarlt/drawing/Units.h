@@ -17,6 +17,13 @@ struct DrawingUnit {
   WorkingUnit working;     // in which its windows are computed
 };
 
+// Of a drawing that states none, where it is only looked at: its lengths stay drawing units.
+inline constexpr DrawingUnit UNSTATED{0, "", "drawing units", 1.0, IN_DRAWING_UNITS};
+
+constexpr bool IsStated(const DrawingUnit& unit) {
+  return !unit.name.empty();
+}
+
 // The names of all units, for help texts.
 inline constexpr const char* UNIT_NAMES =
     "mm, cm, dm, m, dam, hm, km, um, nm, angstrom, in, ft, yd, mi, mil, uin, us-in, us-ft, us-yd, us-mi";
@@ -56,5 +63,8 @@ StatedUnit StatedBy(const dxf::Document& drawing);
 // neither says it, with a proposal by the size of the roof, when the drawing says another one than the user,
 // unless that is forced, and when it is one of astronomers.
 const DrawingUnit& UnitOf(const dxf::Document& drawing, const AskedUnit& asked = {});
+
+// The same for what needs no unit: null where neither says it, or the drawing says one of astronomers.
+const DrawingUnit* KnownUnit(const dxf::Document& drawing, const AskedUnit& asked = {});
 
 }  // namespace teskarlt

@@ -6,7 +6,6 @@
 
 #include <fmt/format.h>
 
-#include "teskarlt/Error.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/EntityFaces.h"
 #include "teskarlt/drawing/Units.h"
@@ -49,16 +48,6 @@ std::string FileStem(const std::string& path) {
   const std::string name = path.substr(path.find_last_of("/\\") + 1);
   const auto dot = name.find_last_of('.');
   return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
-}
-
-// The unit where it is known: a picture needs none, and it may be one that windows cannot have.
-const DrawingUnit* KnownUnit(const dxf::Document& drawing, const AskedUnit& asked) {
-  if (!asked.name.empty()) return &UnitOf(drawing, asked);
-  try {
-    return &UnitOf(drawing);
-  } catch (const Error&) {
-    return nullptr;
-  }
 }
 
 // Faces of a mesh (its coarsest level): group 92 counts the vertices that follow, 93 the numbers of the face

@@ -4,23 +4,42 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/modules/DataFolder.h"
+#include "teskarlt/windows/FeetInches.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
 
 namespace {
 
-void AddSetting(const FieldSetting& setting, const dxf::Document& drawing, DialogAnswers& answers) {
+// A length in metres, as the dialog reads it.
+std::string LengthText(const FieldSetting& setting, LengthStyle style) {
+  const std::string& value = setting.value;
+  if (const auto metres = ParseFeetInches(value)) return fmt::format("{}", *metres);
+  if (value.find_first_of("'\"") != std::string::npos) {
+    throw Error(fmt::format("--set {}={}: this is no length in feet and inches; they are written 5'-4 1/2\", "
+                            "64.5\" or 5.375'",
+                            setting.field, value),
+                {.value = value});
+  }
+  const auto feet = style == LengthStyle::FeetAndInches ? dxf::ParseReal(value) : std::nullopt;
+  return feet ? fmt::format("{}", *feet * METRES_PER_FOOT) : value;
+}
+
+void AddSetting(const FieldSetting& setting, LengthStyle style, const dxf::Document& drawing,
+                DialogAnswers& answers) {
   const brevanta::RecordField* field = brevanta::FindRecordField(setting.field);
   if (field == nullptr) {
     throw Error(fmt::format("--set {}={}: there is no such field; teskarlt insert --fields lists them",
                             setting.field, setting.value),
                 {.value = setting.field});
   }
+  std::string& answer = answers[setting.field] = setting.value;
+  if (field->kind == brevanta::FieldKind::Length) answer = LengthText(setting, style);
+  if (field->kind != brevanta::FieldKind::Text) return;
   try {
-    const bool isText = field->kind == brevanta::FieldKind::Text;
-    answers[setting.field] = isText ? drawing.Encode(setting.value) : setting.value;
+    answer = drawing.Encode(setting.value);
   } catch (const Error& error) {
     throw Error(fmt::format("--set {}: {}", setting.field, error.what()), {.value = setting.value});
   }
@@ -51,7 +70,7 @@ DialogAnswers AnswersOf(const WindowOrder& order, const dxf::Document& drawing, 
   DialogAnswers answers;
   if (!order.window.empty()) AddCatalogueWindow(order, drawing, shelf, answers);
   for (const FieldSetting& setting : order.settings)
-    AddSetting(setting, drawing, answers);
+    AddSetting(setting, order.lengths, drawing, answers);
   return answers;
 }
 

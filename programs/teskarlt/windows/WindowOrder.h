@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "geometry/Vec3.h"
+#include "teskarlt/windows/FeetInches.h"
 
 namespace teskarlt {
 
@@ -69,7 +70,9 @@ struct WindowOrder {
   std::string window;                  // of a catalogue, "MAKER/KEY"
   std::string catalogue;               // its file or folder; without it the one in the data folder
   std::vector<FieldSetting> settings;  // of the same field the last one holds
-  bool isStrict = false;               // a window that does not fit is refused
+  // What plain numbers of settings that are lengths count; marked ones are feet and inches in either case.
+  LengthStyle lengths = LengthStyle::Metres;
+  bool isStrict = false;  // a window that does not fit is refused
 };
 
 }  // namespace teskarlt

@@ -120,6 +120,21 @@ TEST(LikelyUnit, IsInFeetAndInchesWhereTheDrawingCountsInThem) {
   EXPECT_EQ(LikelyUnit(12000, true).name, "mm") << "12000 inches would be a roof of 305 m";
 }
 
+TEST(KnownUnit, IsNoneWhereNothingTellsIt) {
+  EXPECT_EQ(KnownUnit(InUnits(0)), nullptr);
+  EXPECT_EQ(KnownUnit(InUnits(19)), nullptr) << "light years";
+  EXPECT_EQ(KnownUnit(InUnits(1)), &UnitByName("in"));
+  EXPECT_THROW(KnownUnit(InUnits(1), {"mm"}), Error);
+}
+
+TEST(ToleranceToLookWith, IsAMillimetreOfTheUnitOrOfTheProposedOne) {
+  const std::string slope =
+      "0\n3DFACE\n8\nROOF\n10\n0\n20\n0\n30\n0\n11\n12\n21\n0\n31\n0\n12\n12\n22\n9\n"
+      "32\n5\n13\n0\n23\n9\n33\n5\n";
+  EXPECT_EQ(ToleranceToLookWith(Drawing("", slope), UNSTATED), 0.001);  // 12 by 9 metres
+  EXPECT_EQ(ToleranceToLookWith(Drawing("", slope), UnitByName("mm")), 1.0);
+}
+
 TEST(UnitByName, TakesWords) {
   EXPECT_EQ(UnitByName("inches").name, "in");
   EXPECT_EQ(UnitByName("Foot").name, "ft");

@@ -36,6 +36,30 @@ TEST_F(AnswersTest, TextThatIsNoUtf8IsRefused) {
               HasSubstr("--set text1: the text is not UTF-8"));
 }
 
+TEST_F(AnswersTest, LengthInFeetAndInchesIsAnsweredInMetres) {
+  EXPECT_EQ(Answers({"width", "10\""})["width"], "0.254");
+  EXPECT_EQ(Answers({"width", "10"})["width"], "10");
+  EXPECT_EQ(Answers({"text1", "10\""})["text1"], "10\"");
+}
+
+TEST_F(AnswersTest, PlainNumberOfALengthCountsFeetWhereTheOrderSaysSo) {
+  WindowOrder order;
+  order.lengths = LengthStyle::FeetAndInches;
+  order.settings = {{"width", "2.5"}, {"length", "1'-6\""}, {"rotation", "1.5"}};
+  DialogAnswers answers = AnswersOf(order, drawing, shelf);
+  EXPECT_EQ(answers["width"], "0.762");
+  EXPECT_EQ(answers["length"], "0.4572");
+  EXPECT_EQ(answers["rotation"], "1.5");
+}
+
+TEST_F(AnswersTest, MalformedFeetAreRefusedWithTheFormsThatThereAre) {
+  EXPECT_EQ(RefusalOf([&] {
+              Answers({"width", "3'x"});
+            }),
+            "--set width=3'x: this is no length in feet and inches; they are written 5'-4 1/2\", 64.5\" or "
+            "5.375'");
+}
+
 TEST_F(AnswersTest, UnknownFieldIsRefused) {
   EXPECT_EQ(RefusalOf([&] {
               Answers({"depth", "1"});

@@ -1,0 +1,24 @@
+// FeetInches.h - lengths as people who count in feet and inches write them.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace teskarlt {
+
+// What lengths are said in.
+enum class LengthStyle { Metres, FeetAndInches };
+
+constexpr double METRES_PER_INCH = 0.0254;
+constexpr double METRES_PER_FOOT = 0.3048;
+
+// The length in metres of 5'-4 1/2", 5' 4.5", 64.5", 64 1/2", 5.375', 1/2" and the like, with a minus sign in
+// front or none; none where the text has neither of the marks ' and ", or is no such length.
+std::optional<double> ParseFeetInches(std::string_view text);
+
+// Such a text of a length in metres, to the nearest 1/64 of an inch: 5'-4 1/2". With a ~ in front where that
+// differs from the length by more than a micrometre.
+std::string FeetInchesText(double metres);
+
+}  // namespace teskarlt
