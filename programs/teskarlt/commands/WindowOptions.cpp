@@ -99,6 +99,7 @@ void AddLockedOption(Subcommand& command, bool& isLockedToo) {
 
 WindowOrder OrderOf(const WindowOptions& options) {
   WindowOrder order;
+  order.lengths = StyleSaid(options.lengths);
   order.window = options.window;
   order.catalogue = options.catalogue;
   for (const std::string& setting : options.settings)
@@ -112,7 +113,6 @@ WindowOrder OrderOf(const WindowOptions& options) {
   if (namesRoof && order.planRoof.IsGiven())
     throw Error("--eaves and --ridge give the roof already; leave --on and --roof out");
   order.isStrict = options.isStrict;
-  order.lengths = StyleSaid(options.lengths);
   return order;
 }
 

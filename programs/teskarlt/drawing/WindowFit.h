@@ -70,6 +70,7 @@ class WindowFit {
   };
 
   std::string Overlapped(const Outline& outline) const;
+  std::string Outside(const brevanta::WindowParams& record, const Outline& outline, double covered) const;
 
   const Roofs& roofs_;
   std::multimap<double, Place> places_;  // by the least x

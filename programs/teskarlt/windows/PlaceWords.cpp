@@ -20,8 +20,8 @@ namespace {
   throw Error(fmt::format("--{} {}: {}", word.name, text, what), {.value = text});
 }
 
-double Length(const PlaceWord& word, const std::string& text) {
-  return ParseMetres(fmt::format("--{}", word.name).c_str(), text);
+double Length(const PlaceWord& word, const std::string& text, const WindowOrder& order) {
+  return ParseLength(fmt::format("--{}", word.name).c_str(), text, order.lengths);
 }
 
 PlanPoint Point(const PlaceWord& word, const std::string& text) {
@@ -77,18 +77,18 @@ void ApplyRisesTo(const PlaceWord& word, const std::string& text, WindowOrder& o
 
 template <auto Member>
 void ApplyHeight(const PlaceWord& word, const std::string& text, WindowOrder& order) {
-  order.planRoof.*Member = Length(word, text);
+  order.planRoof.*Member = Length(word, text, order);
 }
 
 template <auto Member>
 void ApplyLength(const PlaceWord& word, const std::string& text, WindowOrder& order) {
-  order.placing.*Member = Length(word, text);
+  order.placing.*Member = Length(word, text, order);
 }
 
 // How far from an edge, which a window cannot be behind.
 template <auto Member>
 void ApplyDistance(const PlaceWord& word, const std::string& text, WindowOrder& order) {
-  const double distance = Length(word, text);
+  const double distance = Length(word, text, order);
   if (distance < 0) Refuse(word, text, "a distance is not negative");
   order.placing.*Member = distance;
 }
@@ -121,7 +121,7 @@ void ApplyEdge(const PlaceWord& word, const std::string& text, WindowOrder& orde
 }
 
 void ApplySnap(const PlaceWord& word, const std::string& text, WindowOrder& order) {
-  const double step = Length(word, text);
+  const double step = Length(word, text, order);
   if (!(step > 0)) Refuse(word, text, "a step is more than 0");
   order.placing.snap = step;
 }

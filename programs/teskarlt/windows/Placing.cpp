@@ -14,6 +14,7 @@
 
 #include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/SlopeReach.h"
 #include "teskarlt/drawing/SurfaceOutline.h"
 
 namespace teskarlt {
@@ -21,78 +22,6 @@ namespace teskarlt {
 namespace {
 
 constexpr double MILLIMETRES_A_METRE = 1000.0;
-constexpr double FLATTEST = 1e-4;  // rise of a slope that heights can be measured on
-
-// A rectangle along the eaves and the slope.
-struct SlopeBox {
-  double left;
-  double right;
-  double bottom;
-  double top;
-
-  double Middle() const { return (left + right) / 2; }
-};
-
-bool IsFlat(const SlopeFrame& frame) {
-  return frame.up.z < FLATTEST;
-}
-
-// The point of the slope that is as high as p; on a flat roof, its foot.
-SlopePoint AsHighAs(const geometry::Vec3& p, const SlopeFrame& frame) {
-  const SlopePoint foot = frame.Of(p);
-  return IsFlat(frame) ? foot : SlopePoint{foot.across, (p.z - frame.origin.z) / frame.up.z};
-}
-
-SlopeBox BoxOf(const Outline& outline, const SlopeFrame& frame) {
-  const SlopePoint first = AsHighAs(outline[0], frame);
-  SlopeBox box{first.across, first.across, first.up, first.up};
-  for (const geometry::Vec3& corner : outline) {
-    const SlopePoint at = AsHighAs(corner, frame);
-    box.left = std::min(box.left, at.across);
-    box.right = std::max(box.right, at.across);
-    box.bottom = std::min(box.bottom, at.up);
-    box.top = std::max(box.top, at.up);
-  }
-  return box;
-}
-
-// From the leftmost to the rightmost edge at a level; none where the roof does not reach it.
-std::optional<std::pair<double, double>> ReachAt(const std::vector<SlopeRing>& rings, double up) {
-  std::optional<std::pair<double, double>> reach;
-  for (const SlopeRing& ring : rings) {
-    for (std::size_t i = 0; i < ring.size(); ++i) {
-      const SlopePoint& a = ring[i];
-      const SlopePoint& b = ring[(i + 1) % ring.size()];
-      if ((a.up > up) == (b.up > up)) continue;
-      const double across = a.across + (up - a.up) / (b.up - a.up) * (b.across - a.across);
-      if (!reach) reach = {across, across};
-      reach = {std::min(reach->first, across), std::max(reach->second, across)};
-    }
-  }
-  return reach;
-}
-
-// What lies between the edges everywhere from the bottom to the top: of a hip, the narrowest.
-std::optional<std::pair<double, double>> ReachBetween(const std::vector<SlopeRing>& rings, double bottom,
-                                                      double top) {
-  const double step = 1e-6 * (top - bottom);  // an edge along the eaves begins and ends at one level
-  std::vector<double> levels = {bottom + step, top - step};
-  for (const SlopeRing& ring : rings) {
-    for (const SlopePoint& corner : ring) {
-      if (corner.up <= bottom || corner.up >= top) continue;
-      levels.push_back(corner.up - step);
-      levels.push_back(corner.up + step);
-    }
-  }
-  std::pair<double, double> narrowest{std::numeric_limits<double>::lowest(),
-                                      std::numeric_limits<double>::max()};
-  for (const double level : levels) {
-    const auto reach = ReachAt(rings, level);
-    if (!reach) return std::nullopt;
-    narrowest = {std::max(narrowest.first, reach->first), std::min(narrowest.second, reach->second)};
-  }
-  return narrowest;
-}
 
 // The one word of a list that is given; none when none is.
 using GivenWord = std::pair<const char*, bool>;
@@ -159,9 +88,9 @@ class Placer {
                               {"--over", placing_.over.has_value()},
                               {"--align with --edge axis", AlignsAxis()}},
                              "how far along the eaves the window goes");
-    if (placing_.fromVerge) return Reach(word).first + Units(*placing_.fromVerge) - frame_.left;
-    if (placing_.fromRightVerge) return Reach(word).second - Units(*placing_.fromRightVerge) - frame_.right;
-    if (placing_.isCentred) return (Reach(word).first + Reach(word).second) / 2 - frame_.Middle();
+    if (placing_.fromVerge) return Verges(word).first + Units(*placing_.fromVerge) - frame_.left;
+    if (placing_.fromRightVerge) return Verges(word).second - Units(*placing_.fromRightVerge) - frame_.right;
+    if (placing_.isCentred) return (Verges(word).first + Verges(word).second) / 2 - frame_.Middle();
     if (placing_.between) return MiddleBetween() - frame_.Middle();
     if (placing_.over)
       return roof_.frame.Of({placing_.over->x, placing_.over->y, 0}).across - frame_.Middle();
@@ -171,7 +100,7 @@ class Placer {
           "say how far along the eaves the window goes: with --from-verge, --from-right-verge, --centre, "
           "--between N M, --over X,Y or a point, --at X,Y");
     }
-    return placing_.snap ? Snapped(frame_.left, Reach("--snap").first) : 0.0;
+    return placing_.snap ? Snapped(frame_.left, Verges("--snap").first) : 0.0;
   }
 
   static double Edge(const std::optional<double>& edge, const char* word) {
@@ -187,9 +116,9 @@ class Placer {
     return AsHighAs({0, 0, height}, roof_.frame).up;
   }
 
-  std::pair<double, double> Reach(const char* word) const {
+  std::pair<double, double> Verges(const char* word) const {
     if (roof_.rings.empty()) Edge(std::nullopt, word);
-    if (const auto reach = ReachBetween(roof_.rings, frame_.bottom, frame_.top)) return *reach;
+    if (const auto reach = ReachAcross(roof_.rings, frame_.bottom, frame_.top)) return *reach;
     throw Error(
         fmt::format("{}: the window would lie above or below its roof, whose slope is {:.3f} m long from "
                     "eaves to ridge",

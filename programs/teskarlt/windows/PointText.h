@@ -12,7 +12,8 @@ namespace teskarlt {
 PlanPoint ParsePlanPoint(const char* option, const std::string& text);
 geometry::Vec3 ParsePoint(const char* option, const std::string& text);
 
-// A length in metres. Throws Error, naming the option, for anything but a finite number.
-double ParseMetres(const char* option, const std::string& text);
+// A length, which becomes metres: a number of what the style counts, or feet and inches with their marks.
+// Throws Error, naming the option, for anything else.
+double ParseLength(const char* option, const std::string& text, LengthStyle style);
 
 }  // namespace teskarlt

@@ -43,7 +43,8 @@ std::string PlanExtents(const Roofs& roofs) {
 
 // Why a window cannot go onto a face, for people.
 std::string Hindrance(const RoofFace& face, const Roofs& roofs) {
-  if (IsSteep(face)) return fmt::format("is {:.1f} degrees steep, and no roof above 85", Pitch(face.plane));
+  if (IsSteep(face))
+    return fmt::format("is a wall, {:.1f} degrees steep, and no roof above 85", Pitch(face.plane));
   return fmt::format("is not planar: a corner lies {:.0f} mm off its plane",
                      std::ceil(Warp(face) / roofs.Tolerance()));
 }

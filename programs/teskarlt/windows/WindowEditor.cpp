@@ -16,6 +16,7 @@
 #include "teskarlt/windows/AllOrNone.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/ClosedLayers.h"
+#include "teskarlt/windows/OntoRoof.h"
 #include "teskarlt/windows/OrderUnits.h"
 #include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/RoofChoice.h"
@@ -130,12 +131,17 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
-  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), work_.unit, roof);
+  edited.placed = PlacedBy(EditOnto(roof, request), work_.unit, roof);
   const WindowParams& after = edited.placed.record;
   edited.changes = ChangedFields(record, after);
   edited.isRewritten = !StandsAs(window, after);
   if (!edited.isRewritten) work_.drawing.Rollback(before);
   return edited;
+}
+
+CommandOutcome WindowEditor::EditOnto(const RoofChoice& roof, const WindowRequest& request) {
+  return RunOntoRoof(request, roof, work_.roofs, work_.drawing,
+                     [&](const WindowRequest& run) { return module_.Edit(work_.drawing, run); });
 }
 
 void WindowEditor::PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request) {

@@ -49,6 +49,7 @@ class WindowEditor {
 
  private:
   EditedWindow EditOne(const EditableWindow& window, const WindowOrder& order);
+  CommandOutcome EditOnto(const RoofChoice& roof, const WindowRequest& request);
   // Puts the point for which the order's words stand into the request.
   void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
   void FindMisfits(std::vector<EditedWindow>& edited) const;

@@ -1,6 +1,7 @@
 // WindowInserter.cpp - inserts windows into one drawing, one after the other.
 #include "teskarlt/windows/WindowInserter.h"
 
+#include "teskarlt/windows/OntoRoof.h"
 #include "teskarlt/windows/OrderUnits.h"
 #include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/RoofChoice.h"
@@ -24,7 +25,7 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& drawnOrder) {
   if (IsGiven(order.placing)) PutPlace(order, roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
-  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), work_.unit, roof);
+  PlacedWindow window = PlacedBy(InsertOnto(roof, request), work_.unit, roof);
   window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) {
     work_.drawing.Rollback(before);
@@ -33,6 +34,11 @@ PlacedWindow WindowInserter::Insert(const WindowOrder& drawnOrder) {
   fit_.Add(window.record.markerValue, window.outline);
   numbers_.Take(window.record.markerValue);
   return window;
+}
+
+CommandOutcome WindowInserter::InsertOnto(const RoofChoice& roof, const WindowRequest& request) {
+  return RunOntoRoof(request, roof, work_.roofs, work_.drawing,
+                     [&](const WindowRequest& run) { return module_.Insert(work_.drawing, run); });
 }
 
 void WindowInserter::PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request) {

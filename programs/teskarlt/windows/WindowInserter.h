@@ -24,6 +24,7 @@ class WindowInserter {
   PlacedWindow Insert(const WindowOrder& order);
 
  private:
+  CommandOutcome InsertOnto(const RoofChoice& roof, const WindowRequest& request);
   // Puts the point for which the order's words stand into the request.
   void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
 

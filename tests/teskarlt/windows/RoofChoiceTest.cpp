@@ -128,7 +128,8 @@ TEST_F(RoofChoiceTest, FaceThatIsNoRoofIsRefusedByItsName) {
   TakeHouse({RoofAt(0), {{0, 0, 0}, {8000, 0, 0}, {8000, 100, 3000}, {0, 100, 3000}}});
   WindowOrder order = OrderAt(4000, 50);
   order.roofName = Face(1).name;
-  EXPECT_THAT(Refusal(order), HasSubstr(" is 88.1 degrees steep, and no roof above 85; --roof X,Y,Z"));
+  EXPECT_THAT(Refusal(order),
+              HasSubstr(" is a wall, 88.1 degrees steep, and no roof above 85; --roof X,Y,Z"));
 }
 
 TEST_F(RoofChoiceTest, PlanarRoofIsSpannedByTheFaceAtThePoint) {
