@@ -35,6 +35,7 @@ void AddCommands(OptionParser& parser) {
   AddRoofsCommand(parser);
   AddInsertCommand(parser);
   AddEditCommand(parser);
+  AddMoveCommand(parser);
   AddEraseCommand(parser);
   AddListCommand(parser);
   AddRefitCommand(parser);

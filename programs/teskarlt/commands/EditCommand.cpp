@@ -1,15 +1,10 @@
 // EditCommand.cpp - the subcommand "edit": changes roof windows.
 #include <memory>
-#include <vector>
 
-#include <fmt/format.h>
-
+#include "teskarlt/commands/ChangeWindows.h"
 #include "teskarlt/commands/SelectionOptions.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowOptions.h"
-#include "teskarlt/commands/WindowWords.h"
-#include "teskarlt/terminal/Messages.h"
-#include "teskarlt/windows/WindowEditor.h"
 
 namespace teskarlt {
 
@@ -22,21 +17,7 @@ struct EditOptions {
 };
 
 void RunEdit(EditOptions& options) {
-  const WindowSelection selection = SelectionOf(options.selection);
-  const WindowModule module;
-  dxf::Document drawing = dxf::Document::Load(options.window.target.File());
-  const DrawingUnit& unit = ChooseUnitAndWarn(drawing, options.window.units);
-  WindowEditor editor(module, drawing, unit, selection, options.isLockedToo);
-  for (const EditableWindow& window : editor.Windows()) {
-    for (const std::string& note : window.reading.notes)
-      TellNote(fmt::format("window {}: {}", window.drawn->number, note));
-  }
-  const std::vector<EditedWindow> edited = editor.Edit(OrderOf(options.window));
-  if (selection.IsOneNumber()) {
-    SaveAndTell(options.window, drawing, edited.front(), editor.Windows().front().reading);
-  } else {
-    SaveAndTell(options.window, drawing, edited, editor.Windows());
-  }
+  ChangeWindows(options.window, SelectionOf(options.selection), OrderOf(options.window), options.isLockedToo);
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 // InsertCommand.cpp - the subcommand "insert": inserts a roof window.
 #include <memory>
+#include <vector>
 
 #include "teskarlt/commands/JobsRun.h"
+#include "teskarlt/commands/RowOptions.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/WindowOptions.h"
 #include "teskarlt/commands/WindowWords.h"
@@ -18,7 +20,13 @@ void RunInsert(WindowOptions& options) {
   dxf::Document drawing = dxf::Document::Load(options.target.File());
   const DrawingUnit& unit = ChooseUnitAndWarn(drawing, options.units);
   WindowInserter inserter(module, drawing, unit);
-  SaveAndTell(options, drawing, inserter.Insert(OrderOf(options)));
+  const WindowOrder order = OrderOf(options);
+  const std::vector<PlacedWindow> windows = inserter.InsertAll(order);
+  if (order.row.count) {
+    SaveAndTell(options, drawing, windows);
+  } else {
+    SaveAndTell(options, drawing, windows.front());
+  }
 }
 
 void PrintFields() {
@@ -37,12 +45,14 @@ void AddInsertCommand(OptionParser& parser) {
   const auto jobs = std::make_shared<JobsOptions>();
   options->target.AddFile(command);
   const Option at = AddWindowOptions(command, *options);
+  AddRowOptions(command, options->row);
   const Option jobsFile =
       command
-          .Value("--jobs", jobs->file,
-                 "many windows: a JSON object a line with \"at\", \"on\", \"roof\", \"window\", "
-                 "\"catalogue\", \"set\" and the words for a "
-                 "place; - reads standard input")
+          .Value(
+              "--jobs", jobs->file,
+              "many windows: a JSON object a line with \"at\", \"on\", \"roof\", \"window\", "
+              "\"catalogue\", \"set\", \"row\", \"spacing\", \"gap\", \"column\", \"row-from\" and the words "
+              "for a place; - reads standard input")
           .Named("FILE")
           .NotEmpty()
           .Excludes(at);
@@ -63,6 +73,7 @@ void AddInsertCommand(OptionParser& parser) {
       "  teskarlt insert house.dxf --at 3000,2000 --set width=1.14 --set length=1.18 --set openingCode=BI\n"
       "  teskarlt insert house.dxf --at 3000,2000 --window \"OL 94x140\" --catalogue examples/BREVANTA.LIB\n"
       "  teskarlt insert house.dxf --at 3000,2000 --on R1 --set lowerEdgeHeight=4.2\n"
+      "  teskarlt insert house.dxf --at 2500,1200 --row 3 --spacing 1.8\n"
       "  teskarlt insert house.dxf --on R2 --from-eaves 1.2 --centre\n"
       "  teskarlt insert house.dxf --jobs windows.jsonl --set frameWidth=0.1\n"
       "A line of windows.jsonl; options beside --jobs hold where a line does not say otherwise:\n"

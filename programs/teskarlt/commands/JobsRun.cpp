@@ -44,8 +44,9 @@ class JobsTeller {
       : file_(std::move(file)), asJson_(asJson), progress_("windows", jobs) {}
 
   void Add(const Job& job, const JobResult& result) {
-    if (const auto* window = std::get_if<PlacedWindow>(&result)) {
-      AddWindow(job, *window);
+    if (const auto* windows = std::get_if<std::vector<PlacedWindow>>(&result)) {
+      for (const PlacedWindow& window : *windows)
+        AddWindow(job, window);
     } else {
       AddRefusal(job, std::get<Error>(result));
     }

@@ -13,6 +13,7 @@ void AddEraseCommand(OptionParser& parser);
 void AddInsertCommand(OptionParser& parser);
 void AddListCommand(OptionParser& parser);
 void AddMergeCommand(OptionParser& parser);
+void AddMoveCommand(OptionParser& parser);
 void AddNewCommand(OptionParser& parser);
 void AddPreviewCommand(OptionParser& parser);
 void AddRefitCommand(OptionParser& parser);

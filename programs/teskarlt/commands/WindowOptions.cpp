@@ -83,6 +83,11 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
       .Needs(window);
   command.Repeated("--set", options.settings, "a value of the window, as often as needed")
       .Named("FIELD=VALUE");
+  AddResultOptions(command, options);
+  return at;
+}
+
+void AddResultOptions(Subcommand& command, WindowOptions& options) {
   options.target.AddOutput(command);
   AddUnitOptions(command, options.units);
   AddLengthsOption(command, options.lengths);
@@ -90,7 +95,6 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
                "refuse a window that overlaps another or does not lie on a roof face");
   options.target.AddDryRun(command);
   command.Flag("--json", options.asJson, JSON_HELP);
-  return at;
 }
 
 void AddLockedOption(Subcommand& command, bool& isLockedToo) {
@@ -108,6 +112,7 @@ WindowOrder OrderOf(const WindowOptions& options) {
   order.roofName = options.roofName;
   for (const std::string& point : options.roof)
     order.roof.push_back(ParsePoint("--roof", point));
+  order.row = RowOf(options.row);
   const bool namesRoof = !order.roofName.empty() || !order.roof.empty();
   ApplyPlaceWords(options, order);
   if (namesRoof && order.planRoof.IsGiven())

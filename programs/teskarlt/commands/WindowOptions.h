@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "teskarlt/commands/RowOptions.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Options.h"
 #include "teskarlt/terminal/ResultTarget.h"
@@ -23,6 +24,7 @@ struct WindowOptions {
   std::string window;
   std::string catalogue;
   std::vector<std::string> settings;
+  RowOptions row;  // of a command that has them
   AskedUnit units;
   std::string lengths;
   bool isStrict = false;
@@ -31,6 +33,10 @@ struct WindowOptions {
 
 // Adds --at, which it gives, and all options behind it to the command. The options must outlive the parsing.
 Option AddWindowOptions(Subcommand& command, WindowOptions& options);
+
+// Adds -o with --backup, --units, --strict, --dry-run and --json to a command that changes windows. The
+// options must outlive the parsing.
+void AddResultOptions(Subcommand& command, WindowOptions& options);
 
 // Adds --locked to a command that changes a window. The flag must outlive the parsing.
 void AddLockedOption(Subcommand& command, bool& isLockedToo);

@@ -69,15 +69,26 @@ bool AssumesSkirt(const WindowReading& before, const brevanta::WindowParams& aft
   return isUnknown && (after.bodyAsFaces != brevanta::LINES_ONLY || DrawsSymbol(after));
 }
 
+// "width: 0.94 m -> 1.14 m" for each field.
+std::vector<std::string> ChangeTexts(const EditedWindow& window, const WindowReading& before,
+                                     const dxf::Document& drawing, const LengthWords& words) {
+  const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
+  const brevanta::WindowParams to = WithDrawnPoints(window.placed.record, window.placed.unit);
+  std::vector<std::string> texts;
+  texts.reserve(window.changes.size());
+  for (const brevanta::RecordField* const field : window.changes) {
+    texts.push_back(OneLine(fmt::format("{}: {} -> {}", field->name, FieldText(from, *field, drawing, words),
+                                        FieldText(to, *field, drawing, words))));
+  }
+  return texts;
+}
+
 void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing,
                   const LengthWords& words) {
-  const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
-  const brevanta::WindowParams after = WithDrawnPoints(window.placed.record, window.placed.unit);
+  const brevanta::WindowParams& after = window.placed.record;
   if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
-  for (const brevanta::RecordField* const field : window.changes) {
-    fmt::print("{}: {} -> {}\n", field->name, OneLine(FieldText(from, *field, drawing, words)),
-               OneLine(FieldText(after, *field, drawing, words)));
-  }
+  for (const std::string& text : ChangeTexts(window, before, drawing, words))
+    fmt::print("{}\n", text);
   if (AssumesSkirt(before, after))
     fmt::print("skirtHeight: {} by default, since nothing drawn told it\n",
                words.SpokenSize(after.skirtHeight));
@@ -95,16 +106,10 @@ Json EditedJson(const EditedWindow& window, const WindowReading& before, const d
 // "Window 3: width: 0.94 m -> 1.14 m; openingCode: "D" -> "B"".
 std::string EditedLine(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing,
                        const LengthWords& words) {
-  const brevanta::WindowParams from = WithDrawnPoints(before.params, window.placed.unit);
-  const brevanta::WindowParams after = WithDrawnPoints(window.placed.record, window.placed.unit);
-  std::vector<std::string> changes;
-  for (const brevanta::RecordField* const field : window.changes) {
-    changes.push_back(fmt::format("{}: {} -> {}", field->name, FieldText(from, *field, drawing, words),
-                                  FieldText(after, *field, drawing, words)));
-  }
+  std::string changes = fmt::format("{}", fmt::join(ChangeTexts(window, before, drawing, words), "; "));
   if (changes.empty())
-    changes.emplace_back(window.isRewritten ? "its description says again what is drawn" : "nothing changes");
-  return OneLine(fmt::format("Window {}: {}", after.markerValue, fmt::join(changes, "; ")));
+    changes = window.isRewritten ? "its description says again what is drawn" : "nothing changes";
+  return fmt::format("Window {}: {}", window.placed.record.markerValue, changes);
 }
 
 // For programs: the windows of a selection.
@@ -204,6 +209,33 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
     PrintPlace(window, WordsOf(options));
     PrintEntities(options, window);
   }
+}
+
+void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
+                 const std::vector<PlacedWindow>& windows) {
+  PlacedWindow all;  // their sums
+  for (const PlacedWindow& window : windows) {
+    WarnOfMisfits(window);
+    all.faces += window.faces;
+    all.lines += window.lines;
+    all.layers.insert(window.layers.begin(), window.layers.end());
+  }
+  WarnOfClosedLayers(drawing, all.layers);
+  WarnOfTexts(drawing);
+  SaveDrawing(drawing, options.target);
+  if (options.asJson) {
+    Json json = Json::Object({{"version", JSON_VERSION}});
+    json["windows"] = Json::List();
+    for (const PlacedWindow& window : windows)
+      json["windows"].Add(WindowJson(window));
+    options.target.AddTo(json);
+    PrintJson(json);
+    return;
+  }
+  for (const PlacedWindow& window : windows)
+    PrintPlace(window, WordsOf(options));
+  fmt::print("{} windows: ", windows.size());
+  PrintEntities(options, all);
 }
 
 void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,

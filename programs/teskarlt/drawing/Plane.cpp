@@ -7,8 +7,14 @@
 
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"
+#include "geometry/Vectors.h"
 
 namespace teskarlt {
+
+Plane PlaneOf(const std::vector<geometry::Vec3>& corners) {
+  const geometry::Vec3 area = geometry::AreaVector(corners);
+  return {corners.front(), geometry::Scaled(area, (area.z < 0 ? -1.0 : 1.0) / geometry::VecLength(area))};
+}
 
 double Pitch(const Plane& plane) {
   const geometry::Vec3& normal = plane.normal;

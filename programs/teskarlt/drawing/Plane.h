@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "geometry/Vec3.h"
 #include "geometry/Vectors.h"
@@ -13,6 +14,10 @@ struct Plane {
   geometry::Vec3 point;   // one of the plane
   geometry::Vec3 normal;  // unit length, z positive
 };
+
+// The plane through corners in order around a face, of its mean normal (Newell); they span an area that is
+// not upright.
+Plane PlaneOf(const std::vector<geometry::Vec3>& corners);
 
 // How far the point lies above the plane, square to it; negative below.
 inline double DistanceFrom(const Plane& plane, const geometry::Vec3& p) {

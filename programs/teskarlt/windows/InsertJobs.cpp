@@ -7,22 +7,24 @@ namespace {
 
 JobResult InsertJob(WindowInserter& inserter, const Job& job, const WindowOrder& defaults) {
   try {
-    return inserter.Insert(ParseJob(job.text, defaults));
+    return inserter.InsertAll(ParseJob(job.text, defaults));
   } catch (const Error& error) {
     return error;
   }
 }
 
 void Count(const JobResult& result, JobTotals& totals) {
-  const auto* window = std::get_if<PlacedWindow>(&result);
-  if (window == nullptr) {
+  const auto* windows = std::get_if<std::vector<PlacedWindow>>(&result);
+  if (windows == nullptr) {
     ++totals.refused;
     return;
   }
-  ++totals.inserted;
-  totals.faces += window->faces;
-  totals.lines += window->lines;
-  totals.layers.insert(window->layers.begin(), window->layers.end());
+  totals.inserted += windows->size();
+  for (const PlacedWindow& window : *windows) {
+    totals.faces += window.faces;
+    totals.lines += window.lines;
+    totals.layers.insert(window.layers.begin(), window.layers.end());
+  }
 }
 
 }  // namespace

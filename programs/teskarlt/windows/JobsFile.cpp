@@ -83,6 +83,27 @@ void AddSettings(const json& value, std::vector<FieldSetting>& settings) {
     settings.push_back({field, ValueText("set: " + field, setting)});
 }
 
+// Spacing and gap go before each other, as the last one said of the row.
+bool ApplyRowMember(const std::string& name, const json& value, RowOrder& row) {
+  if (name == "row") {
+    row.count = ParseRowCount(ScalarText(name, value));
+  } else if (name == "spacing") {
+    row.spacing = ParseRowLength("--spacing", ScalarText(name, value));
+    row.gap.reset();
+  } else if (name == "gap") {
+    row.gap = ParseRowLength("--gap", ScalarText(name, value));
+    row.spacing.reset();
+  } else if (name == "row-from") {
+    row.from = NameText(name, value);
+  } else if (name == "column") {
+    if (!value.is_boolean()) throw Error(fmt::format("column: {} is neither true nor false", Shown(value)));
+    row.isColumn = value.get<bool>();
+  } else {
+    return false;
+  }
+  return true;
+}
+
 void ApplyMember(const std::string& name, const json& value, WindowOrder& order) {
   if (name == "at") {
     order.at = ParsePlanPoint("--at", ValueText(name, value));
@@ -102,11 +123,13 @@ void ApplyMember(const std::string& name, const json& value, WindowOrder& order)
     AddSettings(value, order.settings);
   } else if (const PlaceWord* word = FindPlaceWord(name)) {
     word->apply(*word, ListText(name, value), order);
-  } else {
-    throw Error(fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set "
-                            "and the options of insert that say where a window goes, as from-eaves",
-                            name),
-                {.value = name});
+  } else if (!ApplyRowMember(name, value, order.row)) {
+    throw Error(
+        fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set, row, "
+                    "spacing, gap, column, row-from and the options of insert that say where a window "
+                    "goes, as from-eaves",
+                    name),
+        {.value = name});
   }
 }
 

@@ -1,4 +1,4 @@
-// PointText.cpp - points as users write them.
+// PointText.cpp - points and moves as users write them.
 #include "teskarlt/windows/PointText.h"
 
 #include <optional>
@@ -65,6 +65,18 @@ geometry::Vec3 ParsePoint(const char* option, const std::string& text) {
                 {.value = text});
   }
   return {(*numbers)[0], (*numbers)[1], (*numbers)[2]};
+}
+
+SlopeMove ParseSlopeMove(const char* option, const std::string& text) {
+  const auto numbers = ParseNumbers(text);
+  if (!numbers || numbers->size() != 2) {
+    throw Error(
+        fmt::format("{} {}: a move is two finite numbers, ALONG,UP, in metres along the eaves and up the "
+                    "slope",
+                    option, text),
+        {.value = text});
+  }
+  return {(*numbers)[0], (*numbers)[1]};
 }
 
 }  // namespace teskarlt

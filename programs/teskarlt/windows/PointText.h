@@ -1,4 +1,4 @@
-// PointText.h - points as users write them.
+// PointText.h - points and moves as users write them.
 #pragma once
 
 #include <string>
@@ -11,6 +11,9 @@ namespace teskarlt {
 // "X,Y" and "X,Y,Z" in drawing units. Throw Error, naming the option, for anything but finite numbers.
 PlanPoint ParsePlanPoint(const char* option, const std::string& text);
 geometry::Vec3 ParsePoint(const char* option, const std::string& text);
+
+// "ACROSS,UP" in metres. Throws Error, naming the option, for anything but finite numbers.
+SlopeMove ParseSlopeMove(const char* option, const std::string& text);
 
 // A length, which becomes metres: a number of what the style counts, or feet and inches with their marks.
 // Throws Error, naming the option, for anything else.

@@ -12,6 +12,7 @@
 
 #include "inc/DialogServices.h"
 #include "inc/RecordPoints.h"
+#include "teskarlt/drawing/SlopeFrame.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/windows/AllOrNone.h"
 #include "teskarlt/windows/Answers.h"
@@ -62,6 +63,17 @@ void KeepSecondPlane(const WindowParams& window, double tolerance, DialogAnswers
   answers.emplace("secondPlanePoints", points);
 }
 
+// The window's place, moved in its roof; in the plan.
+std::array<double, 2> MovedPlace(const WindowParams& window, const SlopeMove& move) {
+  const std::vector<geometry::Vec3> roof = {brevanta::ToVec3(window.roofPlanePoints[0]),
+                                            brevanta::ToVec3(window.roofPlanePoints[1]),
+                                            brevanta::ToVec3(window.roofPlanePoints[2])};
+  SlopeFrame frame = FrameOf(PlaneOf(roof));
+  frame.origin = brevanta::ToVec3(window.storedPoint);
+  const geometry::Vec3 place = frame.At({move.across * window.unitFactor, move.up * window.unitFactor});
+  return {place.x, place.y};
+}
+
 // The picked point: where the window is to stand, or where it stands; none where the order says it in the
 // roof's own frame.
 std::optional<std::array<double, 2>> PointOf(const WindowOrder& order, const WindowParams& window) {
@@ -69,6 +81,7 @@ std::optional<std::array<double, 2>> PointOf(const WindowOrder& order, const Win
   const bool setsPoint = std::any_of(order.settings.begin(), order.settings.end(),
                                      [](const auto& setting) { return setting.field == "insertionPoint"; });
   if (setsPoint) return std::nullopt;
+  if (order.by) return MovedPlace(window, *order.by);
   return std::array{window.storedPoint.x, window.storedPoint.y};
 }
 
@@ -91,8 +104,8 @@ WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, c
 
 std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
   if (order.at && windows_.size() > 1) {
-    throw Error(fmt::format("--at {}: {} windows cannot all stand at one point; name one window",
-                            order.at->text, windows_.size()),
+    throw Error(fmt::format("{} windows cannot all stand at the point {}; name one window", windows_.size(),
+                            order.at->text),
                 {.value = order.at->text});
   }
   const WindowOrder working = InWorkingUnits(order, work_.unit);

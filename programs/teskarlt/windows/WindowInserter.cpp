@@ -1,12 +1,43 @@
 // WindowInserter.cpp - inserts windows into one drawing, one after the other.
 #include "teskarlt/windows/WindowInserter.h"
 
+#include <algorithm>
+#include <string_view>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/drawing/SlopeFrame.h"
+#include "teskarlt/windows/AllOrNone.h"
 #include "teskarlt/windows/OntoRoof.h"
 #include "teskarlt/windows/OrderUnits.h"
 #include "teskarlt/windows/Placing.h"
-#include "teskarlt/windows/RoofChoice.h"
+#include "teskarlt/windows/RowPoints.h"
 
 namespace teskarlt {
+
+namespace {
+
+bool Sets(const WindowOrder& order, std::string_view field) {
+  return std::any_of(order.settings.begin(), order.settings.end(),
+                     [&](const FieldSetting& setting) { return setting.field == field; });
+}
+
+// Refuses what would put all windows of a row at one place.
+void CheckRoomForRow(const WindowOrder& order) {
+  if (!order.at) throw Error("--row: say the point of the row with --at X,Y");
+  if (IsGiven(order.placing))
+    throw Error("--row starts at its point; leave the words for the place of one window out");
+  if (Sets(order, "roofPlanePoints"))
+    throw Error("--row: roofPlanePoints cannot be set for a row; --roof gives its plane");
+  if (!order.row.isColumn.value_or(false)) return;
+  for (const std::string_view field : {"lowerEdgeHeight", "upperEdgeHeight"}) {
+    if (Sets(order, field))
+      throw Error(fmt::format("--column: {} would put all windows at one height; leave it out", field));
+  }
+}
+
+}  // namespace
 
 WindowInserter::WindowInserter(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit)
     : module_(module), work_(drawing, unit), numbers_(work_.numbers), fit_(work_.roofs) {
@@ -15,25 +46,80 @@ WindowInserter::WindowInserter(const WindowModule& module, dxf::Document& drawin
 
 PlacedWindow WindowInserter::Insert(const WindowOrder& drawnOrder) {
   const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
+  const PlacedWindow window = AllOrNone(work_.drawing, [&] {
+    return Draw(order, ChooseRoof(order, work_.drawing.FileName(), work_.roofs), numbers_);
+  });
+  Count(window);
+  return window;
+}
+
+std::vector<PlacedWindow> WindowInserter::InsertAll(const WindowOrder& drawnOrder) {
+  CheckRow(drawnOrder.row);
+  if (!drawnOrder.row.count) return {Insert(drawnOrder)};
+  CheckRoomForRow(drawnOrder);
+  const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
+  const RoofChoice roof = ChooseRoof(order, work_.drawing.FileName(), work_.roofs);
+  std::vector<PlacedWindow> windows = AllOrNone(work_.drawing, [&] { return DrawRow(order, roof); });
+  for (const PlacedWindow& window : windows)
+    Count(window);
+  return windows;
+}
+
+PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& roof,
+                                  const WindowNumbers& numbers) {
   WindowRequest request;
   request.unit = work_.unit;
-  request.numbersInUse = &numbers_;
+  request.numbersInUse = &numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf_);
   if (order.at) request.point = {order.at->x, order.at->y};
-  const RoofChoice roof = ChooseRoof(order, work_.drawing.FileName(), work_.roofs);
   PutRoof(roof, request);
   if (IsGiven(order.placing)) PutPlace(order, roof, request);
-
-  const dxf::EditMark before = work_.drawing.Mark();
   PlacedWindow window = PlacedBy(InsertOnto(roof, request), work_.unit, roof);
   window.misfits = fit_.Misfits(window.record, window.outline);
-  if (order.isStrict && !window.misfits.empty()) {
-    work_.drawing.Rollback(before);
-    RefuseMisfits(window.misfits);
+  if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
+  return window;
+}
+
+std::vector<PlacedWindow> WindowInserter::DrawRow(const WindowOrder& order, const RoofChoice& roof) {
+  const double step = StepOf(order, roof);
+  WindowNumbers numbers = numbers_;
+  std::vector<PlacedWindow> windows;
+  for (const PlanPoint& point : RowPoints(order.row, *order.at, FrameOf(PlaneOf(roof.corners)), step)) {
+    WindowOrder one = order;
+    one.at = point;
+    try {
+      windows.push_back(Draw(one, roof, numbers));
+    } catch (const Error& error) {
+      throw Error(fmt::format("window {} of the row: {}", windows.size() + 1, error.Message()),
+                  error.Place());
+    }
+    numbers.Take(windows.back().record.markerValue);
   }
+  return windows;
+}
+
+// A window at the row's point, on a roof without bounds, tells the size of all.
+double WindowInserter::StepOf(const WindowOrder& order, RoofChoice roof) {
+  WindowOrder sampleOrder = order;
+  sampleOrder.isStrict = false;
+  roof.facesNear = nullptr;
+  const dxf::EditMark before = work_.drawing.Mark();
+  const brevanta::WindowParams sample = Draw(sampleOrder, roof, numbers_).record;
+  work_.drawing.Rollback(before);
+  const double size = order.row.isColumn.value_or(false) ? sample.length : sample.width;
+  const double step = order.row.gap ? size + *order.row.gap : *order.row.spacing;
+  if (step < size) {
+    throw Error(
+        fmt::format("--spacing {:g}: the windows of the row, {:g} m each, would overlap; say --spacing {:g} "
+                    "or more",
+                    step, size, size));
+  }
+  return step * sample.unitFactor;
+}
+
+void WindowInserter::Count(const PlacedWindow& window) {
   fit_.Add(window.record.markerValue, window.outline);
   numbers_.Take(window.record.markerValue);
-  return window;
 }
 
 CommandOutcome WindowInserter::InsertOnto(const RoofChoice& roof, const WindowRequest& request) {

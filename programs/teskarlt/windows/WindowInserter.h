@@ -1,6 +1,8 @@
 // WindowInserter.h - inserts windows into one drawing, one after the other.
 #pragma once
 
+#include <vector>
+
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/modules/WindowModule.h"
@@ -23,7 +25,17 @@ class WindowInserter {
   // then.
   PlacedWindow Insert(const WindowOrder& order);
 
+  // The same for an order that may be of a row: its windows from left to right or from the bottom to the top,
+  // on one roof; all or none.
+  std::vector<PlacedWindow> InsertAll(const WindowOrder& order);
+
  private:
+  // Draws the window, which counts with none of the next ones yet. Throws Error, and may leave a part behind.
+  PlacedWindow Draw(const WindowOrder& order, const RoofChoice& roof, const WindowNumbers& numbers);
+  std::vector<PlacedWindow> DrawRow(const WindowOrder& order, const RoofChoice& roof);
+  // How far apart the points of a row lie, in working units along the roof.
+  double StepOf(const WindowOrder& order, RoofChoice roof);
+  void Count(const PlacedWindow& window);
   CommandOutcome InsertOnto(const RoofChoice& roof, const WindowRequest& request);
   // Puts the point for which the order's words stand into the request.
   void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);

@@ -8,6 +8,7 @@
 
 #include "geometry/Vec3.h"
 #include "teskarlt/windows/FeetInches.h"
+#include "teskarlt/windows/RowOrder.h"
 
 namespace teskarlt {
 
@@ -18,6 +19,12 @@ struct PlanPoint {
   std::string text;  // as the user wrote it, for messages
 
   bool operator==(const PlanPoint&) const = default;
+};
+
+// How far a window moves in its roof, metres.
+struct SlopeMove {
+  double across;  // along the eaves, to the right as seen from below them
+  double up;      // up the slope
 };
 
 // A value for a field of the record; UTF-8.
@@ -63,7 +70,9 @@ struct Placing {
 // Texts are UTF-8 and empty where the user said nothing.
 struct WindowOrder {
   std::optional<PlanPoint> at;
-  std::string roofName;  // of a surface or face; without it the uppermost face at the point is taken
+  std::optional<SlopeMove> by;  // of a window that is changed, from where it stands
+  RowOrder row;                 // of windows that are inserted
+  std::string roofName;         // of a surface or face; without it the uppermost face at the point is taken
   std::vector<geometry::Vec3> roof;  // three points of a plane in place of a face, in drawing units; or none
   PlanRoof planRoof;                 // the same
   Placing placing;

@@ -1,5 +1,6 @@
 // PlaneTest.cpp - pitch, direction and heights of planes.
 #include <cmath>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -24,6 +25,16 @@ TEST(Plumb, KeepsThePlaceInThePlan) {
   EXPECT_EQ(plumb.x, 7);
   EXPECT_EQ(plumb.y, 4);
   EXPECT_NEAR(plumb.z, 5, 1e-15);
+}
+
+TEST(PlaneOf, NormalIsUpwardsWhateverTheOrderOfTheCorners) {
+  const std::vector<geometry::Vec3> corners = {{0, 0, 1}, {4, 0, 1}, {4, 4, 4}};
+  for (const auto& ring : {corners, {corners.rbegin(), corners.rend()}}) {
+    const Plane plane = PlaneOf(ring);
+    EXPECT_NEAR(plane.normal.y, -0.6, 1e-15);
+    EXPECT_NEAR(plane.normal.z, 0.8, 1e-15);
+    EXPECT_NEAR(HeightAt(plane, 0, 8), 7, 1e-12);
+  }
 }
 
 TEST(Pitch, IsMeasuredFromTheHorizontal) {

@@ -107,7 +107,26 @@ TEST(ParseJob, WordsThatCannotBeMeantAreRefusedByName) {
   EXPECT_EQ(Refusal(R"({"snap": 0})"), "--snap 0: a step is more than 0");
 }
 
+TEST(ParseJob, RowHasTheNamesOfTheOptions) {
+  const WindowOrder order = ParseJob(R"({"row": 5, "gap": 0.1, "column": true, "row-from": "top"})", {});
+  EXPECT_EQ(order.row.count, 5);
+  EXPECT_EQ(order.row.gap, 0.1);
+  EXPECT_EQ(order.row.isColumn, true);
+  EXPECT_EQ(order.row.from, "top");
+}
+
+TEST(ParseJob, DistanceOfTheJobReplacesThatOfTheDefaults) {
+  WindowOrder defaults;
+  defaults.row = {.count = 3, .gap = 0.1};
+  const WindowOrder order = ParseJob(R"({"spacing": "1.2"})", defaults);
+  EXPECT_EQ(order.row.count, 3);
+  EXPECT_EQ(order.row.spacing, 1.2);
+  EXPECT_FALSE(order.row.gap.has_value());
+}
+
 TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
+  EXPECT_EQ(Refusal(R"({"column": 1})"), "column: 1 is neither true nor false");
+  EXPECT_EQ(Refusal(R"({"row": 0})"), "--row 0: the number of windows in a row is from 1 to 1000");
   EXPECT_EQ(Refusal(R"({"at": [1,)"), "this is no JSON: an error at column 11");
   EXPECT_EQ(Refusal("[1,2]"), "[1,2] is no JSON object");
   EXPECT_EQ(Refusal(R"({"at": null})"), "at: null is neither a text nor a number");
@@ -117,8 +136,8 @@ TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
   EXPECT_EQ(Refusal(R"({"set": 3})"), R"(set: 3 is no object, as {"width": 0.78} is one)");
   EXPECT_EQ(Refusal(R"({"at": [1e999, 0]})"), "a number is too large");
   EXPECT_EQ(Refusal(R"({"place": 1})"),
-            R"(a job has no member "place"; it can have at, on, roof, window, catalogue, set and the )"
-            "options of insert that say where a window goes, as from-eaves");
+            R"(a job has no member "place"; it can have at, on, roof, window, catalogue, set, row, spacing, )"
+            "gap, column, row-from and the options of insert that say where a window goes, as from-eaves");
 }
 
 TEST(ParseJob, LongValueIsShownByItsBeginning) {

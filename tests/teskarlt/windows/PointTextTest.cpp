@@ -5,6 +5,7 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/windows/PointText.h"
+#include "tests/teskarlt/windows/Houses.h"
 
 namespace teskarlt {
 namespace {
@@ -55,6 +56,13 @@ TEST(ParsePoint, TakesThreeNumbers) {
   EXPECT_EQ(point.y, 2);
   EXPECT_EQ(point.z, -3);
   EXPECT_THROW(ParsePoint("--roof", "1,2"), Error);
+}
+
+TEST(ParseSlopeMove, TakesTwoNumbers) {
+  EXPECT_EQ(ParseSlopeMove("--by", "0.2,-1").across, 0.2);
+  EXPECT_EQ(ParseSlopeMove("--by", "0.2,-1").up, -1);
+  EXPECT_EQ(RefusalOf([] { ParseSlopeMove("--by", "0.2"); }),
+            "--by 0.2: a move is two finite numbers, ALONG,UP, in metres along the eaves and up the slope");
 }
 
 }  // namespace

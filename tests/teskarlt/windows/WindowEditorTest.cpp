@@ -1,4 +1,6 @@
 // WindowEditorTest.cpp - windows of a drawing that are changed.
+#include <cmath>
+
 #include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -208,7 +210,40 @@ TEST_F(WindowEditorTest, SeveralWindowsDoNotGoToOnePoint) {
   drawing = HouseWithThree(module);
   WindowEditor editor(module, drawing, Millimetres(), {.numbers = {{1, 2}}}, false);
   EXPECT_EQ(RefusalOf([&] { editor.Edit(OrderAt(4000, 3000)); }),
-            "--at 4000,3000: 2 windows cannot all stand at one point; name one window");
+            "2 windows cannot all stand at the point 4000,3000; name one window");
+}
+
+// At 45 degrees 0.5 m up the slope are 0.5 m over the root of 2 in the plan.
+TEST_F(WindowEditorTest, WindowMovesAlongTheEavesAndUpTheSlope) {
+  WindowOrder order;
+  order.by = SlopeMove{-1.2, 0.5};
+  const EditedWindow window = EditedBy(order);
+  EXPECT_NEAR(window.placed.record.storedPoint.x, 4000 - 1200, 1e-6);
+  EXPECT_NEAR(window.placed.record.storedPoint.y, 2000 + 500 / std::sqrt(2), 1e-6);
+  EXPECT_EQ(window.changes.back()->name, "storedPoint");
+}
+
+TEST_F(WindowEditorTest, SeveralWindowsMoveAlike) {
+  drawing = HouseWithThree(module);
+  WindowOrder order;
+  order.by = SlopeMove{0.5, 0};
+  WindowEditor(module, drawing, Millimetres(), {.numbers = {{1, 3}}}, false).Edit(order);
+  const auto windows = FindWindows(Reloaded(drawing), Millimetres().working);
+  EXPECT_NEAR(windows[0].params.storedPoint.x, 2000, 1e-6);
+  EXPECT_NEAR(windows[2].params.storedPoint.x, 7000, 1e-6);
+}
+
+TEST_F(WindowEditorTest, MoveOutOfTheRoofIsRefused) {
+  WindowOrder order;
+  order.by = SlopeMove{4, 0};
+  EXPECT_THAT(RefusalOf([&] { Edit(order); }), HasSubstr("the window would leave the roof face"));
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
+TEST_F(WindowEditorTest, MoveByNothingLeavesTheDrawing) {
+  WindowOrder order;
+  order.by = SlopeMove{0, 0};
+  EXPECT_FALSE(EditedBy(order).isRewritten);
 }
 
 }  // namespace

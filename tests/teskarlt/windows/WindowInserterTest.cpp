@@ -1,4 +1,7 @@
 // WindowInserterTest.cpp - windows that come into a drawing, and those that do not.
+#include <cmath>
+#include <string>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -76,6 +79,69 @@ TEST_F(WindowInserterTest, RefusalOfTheDialogLeavesTheDrawingAsItWas) {
   order.settings = {{"width", "-1"}};
   EXPECT_THAT(RefusalOf([&] { inserter.Insert(order); }), HasSubstr("width"));
   EXPECT_EQ(drawing.Serialize(), before);
+}
+
+// A row of windows 0.94 m wide, whose first one stands at (1000, 2000).
+WindowOrder RowOf(int count) {
+  WindowOrder order = OrderAt(1000, 2000);
+  order.row = {.count = count, .spacing = 1.5};
+  return order;
+}
+
+TEST_F(WindowInserterTest, WindowsOfARowStandTheirSpacingApart) {
+  const auto windows = inserter.InsertAll(RowOf(3));
+  ASSERT_EQ(windows.size(), 3U);
+  EXPECT_NEAR(windows[2].record.storedPoint.x, 4000, 1e-6);
+  EXPECT_NEAR(windows[2].record.storedPoint.y, 2000, 1e-6);
+  EXPECT_THAT(NumbersIn(Reloaded(drawing)), ElementsAre(1, 2, 3));
+}
+
+TEST_F(WindowInserterTest, GapIsThatBetweenFrames) {
+  WindowOrder order = RowOf(2);
+  order.row = {.count = 2, .gap = 0.06};
+  const auto windows = inserter.InsertAll(order);
+  EXPECT_NEAR(windows[1].record.storedPoint.x, 2000, 1e-6);  // 0.94 and 0.06 m to the right
+  EXPECT_TRUE(windows[1].misfits.empty());
+}
+
+// At 45 degrees 2 m up the slope are the root of 2 in the plan.
+TEST_F(WindowInserterTest, ColumnRunsUpTheSlope) {
+  WindowOrder order = RowOf(2);
+  order.row = {.count = 2, .spacing = 2, .isColumn = true};
+  const auto windows = inserter.InsertAll(order);
+  EXPECT_NEAR(windows[1].record.storedPoint.x, 1000, 1e-6);
+  EXPECT_NEAR(windows[1].record.storedPoint.y, 2000 + 1000 * std::sqrt(2), 1e-6);
+}
+
+// The fifth stands at 7000, up to 7470; the sixth would leave the roof at 8000.
+TEST_F(WindowInserterTest, RowIsRefusedWholeWithTheWindowThatIsRefused) {
+  const std::string before = drawing.Serialize();
+  EXPECT_THAT(RefusalOf([&] { inserter.InsertAll(RowOf(6)); }),
+              HasSubstr("window 6 of the row: the window would leave the roof face"));
+  EXPECT_EQ(drawing.Serialize(), before);
+  const auto windows = inserter.InsertAll(RowOf(5));  // nothing of the refused one counts
+  EXPECT_EQ(windows[0].record.markerValue, 1);
+  EXPECT_TRUE(windows[0].misfits.empty());
+}
+
+TEST_F(WindowInserterTest, WindowsThatWouldOverlapEachOtherMakeNoRow) {
+  WindowOrder order = RowOf(2);
+  order.row.spacing = 0.9;
+  EXPECT_EQ(RefusalOf([&] { inserter.InsertAll(order); }),
+            "--spacing 0.9: the windows of the row, 0.94 m each, would overlap; say --spacing 0.94 or more");
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
+TEST_F(WindowInserterTest, OneHeightForAllWindowsOfAColumnIsRefused) {
+  WindowOrder order = RowOf(2);
+  order.row.isColumn = true;
+  order.settings = {{"lowerEdgeHeight", "2"}};
+  EXPECT_THAT(RefusalOf([&] { inserter.InsertAll(order); }),
+              HasSubstr("would put all windows at one height"));
+}
+
+TEST_F(WindowInserterTest, OrderWithoutARowIsOneWindow) {
+  EXPECT_EQ(inserter.InsertAll(OrderAt(4000, 2000)).size(), 1U);
 }
 
 }  // namespace

@@ -1,0 +1,41 @@
+// RowPoints.cpp - where the windows of a row stand.
+#include "teskarlt/windows/RowPoints.h"
+
+#include <fmt/format.h>
+
+namespace teskarlt {
+
+namespace {
+
+// How many steps lie between the first window and the point.
+double StepsToPoint(const RowOrder& row, int count) {
+  switch (PlaceOfPoint(row)) {
+    case RowPlace::First:
+      return 0.0;
+    case RowPlace::Middle:
+      return (count - 1) / 2.0;
+    case RowPlace::Last:
+      return count - 1;
+  }
+  return 0.0;
+}
+
+}  // namespace
+
+std::vector<PlanPoint> RowPoints(const RowOrder& row, const PlanPoint& point, const SlopeFrame& roof,
+                                 double step) {
+  const bool isColumn = row.isColumn.value_or(false);
+  const int count = row.count.value_or(1);
+  const double before = StepsToPoint(row, count);
+  std::vector<PlanPoint> points;
+  points.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) {
+    const double along = step * (i - before);
+    const SlopePoint way = isColumn ? SlopePoint{0.0, along} : SlopePoint{along, 0.0};
+    const geometry::Vec3 place = SlopeFrame{{point.x, point.y, 0.0}, roof.across, roof.up}.At(way);
+    points.push_back({place.x, place.y, fmt::format("{:.9g},{:.9g}", place.x, place.y)});
+  }
+  return points;
+}
+
+}  // namespace teskarlt
