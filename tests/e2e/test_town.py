@@ -71,7 +71,7 @@ def is_right(entities, roof):
             and tilt(glass_of(entities), roof) <= MOST_TILTED)
 
 
-@pytest.mark.parametrize("name", ["town_polylines_r12", "town_3dface_r2000"])
+@pytest.mark.parametrize("name", ["town_polylines_r12", "town_3dface_r2000", "town_mesh_r2010", "town_blocks_r2000"])
 def test_roofs_with_room_take_windows_that_lie_on_them(teskarlt, tmp_path, name):
     path = town.drawing(name, tmp_path / "town.dxf")
     answer = inserted(teskarlt, path, tmp_path / "jobs.jsonl", "--strict").json

@@ -63,7 +63,7 @@ std::map<std::string, std::size_t> EntitiesOf(const RoofSurface& surface, const 
   std::map<std::string, std::set<std::string>> handles;
   for (const std::size_t number : surface.faces) {
     const RoofFace& face = roofs.Faces()[number];
-    handles[face.type].insert(face.name.substr(0, face.name.find('/')));
+    handles[face.type].insert(face.entity);
   }
   std::map<std::string, std::size_t> counts;
   for (const auto& [type, ofType] : handles)
@@ -174,6 +174,8 @@ void PrintRoofs(const RoofList& list, const Roofs& roofs, const RoofsOptions& op
   json["units"] = UnitJson(unit);
   json["unitFactor"] = IsStated(unit) ? UnitFactorJson(unit.perMetre) : Json(nullptr);
   json["roofs"] = ToJson(list.sloped, roofs, unit);
+  for (const auto& [kind, count] : roofs.Unread())
+    json["unread"][kind] = count;
   json["flat"] = ToJson(list.flat, roofs, unit);
   json["warped"] = Json::List();
   for (const RoofFace* face : list.warped) {
@@ -249,6 +251,7 @@ void RunRoofs(const RoofsOptions& options) {
   const Roofs roofs = FindRoofs(drawing, ToleranceToLookWith(drawing, unit));
   const RoofList list = ListOf(roofs);
   if (!options.isAll) TellOfLeftOut(list, unit, words);
+  if (const std::string unread = TextOf(roofs.Unread()); !unread.empty()) TellNote(unread);
   WarnOfTexts(drawing);
   if (options.asJson) {
     PrintRoofs(list, roofs, options, unit);

@@ -1,8 +1,14 @@
-// EntityFaces.cpp - reads the faces of 3D faces, meshes and closed 3D polylines.
+// EntityFaces.cpp - reads the faces of 3D faces, solids and polylines, and finds the readers of the others.
 #include "teskarlt/drawing/EntityFaces.h"
 
-#include <cstdlib>
+#include <algorithm>
+#include <optional>
+#include <utility>
 
+#include "geometry/Matrix4.h"
+#include "teskarlt/drawing/Curves.h"
+#include "teskarlt/drawing/HatchFaces.h"
+#include "teskarlt/drawing/MeshFaces.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -18,26 +24,9 @@ using TagLists = std::vector<dxf::TagList>;  // of an entity, and behind its own
 constexpr int MOST_CORNERS = 4;
 constexpr std::uint32_t ALL_EDGES = 15;  // of a 3D face, whose flags hide edge k by bit k
 
-std::int64_t FlagsOf(const dxf::TagList& tags) {
-  return tags.Integer(dxf::CODE_FLAGS);
-}
-
-bool IsVertex(const dxf::TagList& tags) {
-  return dxf::SameName(tags.Type(), dxf::TYPE_VERTEX);
-}
-
-// The vertices of a polyline or polygon mesh, without those of the frame that shapes a smoothed one.
-std::vector<Vec3> VerticesOf(const TagLists& lists) {
-  std::vector<Vec3> vertices;
-  for (const dxf::TagList& tags : lists) {
-    if (IsVertex(tags) && (FlagsOf(tags) & dxf::VERTEX_SPLINE_FRAME) == 0)
-      vertices.push_back(tags.Point(dxf::CODE_VERTEX_POINT));
-  }
-  return vertices;
-}
-
-std::vector<FaceCorners> FacesOf3dFace(const dxf::TagList& face) {
-  FaceCorners made;
+std::vector<EntityFace> FacesOf3dFace(const TagLists& lists) {
+  const dxf::TagList& face = lists.front();
+  EntityFace made;
   made.corners.reserve(MOST_CORNERS);
   for (int i = 0; i < MOST_CORNERS; ++i) {
     const int code = dxf::CODE_FIRST_CORNER + i;
@@ -47,76 +36,90 @@ std::vector<FaceCorners> FacesOf3dFace(const dxf::TagList& face) {
       return {};
     }
   }
-  made.hiddenEdges = static_cast<std::uint32_t>(FlagsOf(face)) & ALL_EDGES;
-  return {made};
+  made.hiddenEdges = static_cast<std::uint32_t>(face.Integer(dxf::CODE_FLAGS)) & ALL_EDGES;
+  return {std::move(made)};
 }
 
-// The corners that a face of a polyface mesh names by their numbers, from 1; a negative number hides the edge
-// behind it, 0 is none. Empty when a number is not that of a vertex: what the face would be cannot be known.
-FaceCorners CornersOfMeshFace(const dxf::TagList& tags, const std::vector<Vec3>& vertices) {
-  const auto count = static_cast<std::int64_t>(vertices.size());
-  FaceCorners face;
-  for (int code = dxf::CODE_FIRST_FACE_VERTEX; code <= dxf::CODE_LAST_FACE_VERTEX; ++code) {
-    const std::int64_t number = tags.Integer(code);
-    if (number == 0) continue;
-    if (number < -count || number > count) return {};
-    if (number < 0) face.hiddenEdges |= 1U << face.corners.size();
-    face.corners.push_back(vertices[static_cast<std::size_t>(std::abs(number)) - 1]);
-  }
-  return face;
+// A SOLID or TRACE: its third and fourth corner stand crosswise.
+std::vector<EntityFace> FacesOfSolid(const TagLists& lists) {
+  const dxf::TagList& solid = lists.front();
+  EntityFace face;
+  face.corners = {solid.Point(dxf::CODE_FIRST_CORNER), solid.Point(dxf::CODE_SECOND_CORNER)};
+  if (solid.HasPoint(dxf::CODE_FOURTH_CORNER)) face.corners.push_back(solid.Point(dxf::CODE_FOURTH_CORNER));
+  face.corners.push_back(solid.Point(dxf::CODE_THIRD_CORNER));
+  const geometry::Matrix4 matrix = ObjectToDrawing(solid.Point(dxf::CODE_EXTRUSION, UPWARDS));
+  for (Vec3& corner : face.corners)
+    geometry::MatTransformPoint(matrix, corner, corner);
+  return {std::move(face)};
 }
 
-std::vector<FaceCorners> FacesOfPolyface(const TagLists& lists) {
-  std::vector<Vec3> vertices;
-  std::vector<FaceCorners> faces;
-  for (const dxf::TagList& tags : lists) {
-    if (!IsVertex(tags) || (FlagsOf(tags) & dxf::VERTEX_OF_POLYFACE) == 0) continue;
-    if ((FlagsOf(tags) & dxf::VERTEX_OF_MESH) != 0) {
-      vertices.push_back(tags.Point(dxf::CODE_VERTEX_POINT));
-    } else {
-      faces.push_back(CornersOfMeshFace(tags, vertices));
-    }
-  }
-  return faces;
+bool Coincide(const Vec3& a, const Vec3& b) {
+  return a.x == b.x && a.y == b.y && a.z == b.z;
 }
 
-std::vector<FaceCorners> FacesOfPolygonMesh(const TagLists& lists) {
-  const dxf::TagList& own = lists.front();
-  const std::int64_t rows = own.Integer(dxf::CODE_MESH_ROWS);
-  const std::int64_t columns = own.Integer(dxf::CODE_MESH_COLUMNS);
-  const std::vector<Vec3> vertices = VerticesOf(lists);
-  const auto count = static_cast<std::int64_t>(vertices.size());
-  if (rows < 2 || columns < 2 || rows > count || columns > count || rows * columns != count) return {};
-  const auto vertex = [&](std::int64_t row, std::int64_t column) {
-    return vertices[static_cast<std::size_t>((row % rows) * columns + column % columns)];
-  };
-  std::vector<FaceCorners> faces;
-  const std::int64_t rowSteps = (FlagsOf(own) & dxf::POLYLINE_CLOSED) != 0 ? rows : rows - 1;
-  const std::int64_t columnSteps = (FlagsOf(own) & dxf::POLYLINE_CLOSED_ACROSS) != 0 ? columns : columns - 1;
-  for (std::int64_t row = 0; row < rowSteps; ++row) {
-    for (std::int64_t column = 0; column < columnSteps; ++column) {
-      faces.push_back({{vertex(row, column), vertex(row, column + 1), vertex(row + 1, column + 1),
-                        vertex(row + 1, column)}});
-    }
-  }
-  return faces;
+// The face within a polyline that is closed.
+std::vector<EntityFace> FacesOfPolyline(const TagLists& lists) {
+  constexpr std::size_t fewest = 4;  // points of a triangle that ends where it begins
+  EntityFace face;
+  face.corners = PointsOf(lists).value_or(CurvePoints());
+  if (face.corners.size() < fewest || !Coincide(face.corners.front(), face.corners.back())) return {};
+  face.corners.pop_back();
+  return {std::move(face)};
+}
+
+// How the faces of a kind of entities are read.
+struct Kind {
+  const char* name;
+  std::vector<EntityFace> (*read)(const TagLists& lists);
+  bool isFlatKind = false;
+};
+
+constexpr Kind HATCH{"HATCH", FacesOfHatch, true};
+constexpr Kind MESH{"MESH", FacesOfMesh};
+constexpr Kind POLYFACE_MESH{"POLYFACE MESH", FacesOfPolyface};
+constexpr Kind POLYGON_MESH{"POLYGON MESH", FacesOfPolygonMesh};
+constexpr Kind POLYLINE_2D{"2D POLYLINE", FacesOfPolyline, true};
+constexpr Kind POLYLINE_3D{"3D POLYLINE", FacesOfPolyline};
+
+// By the type of the entity; of a POLYLINE, of which there are several kinds, the one in a plane.
+constexpr std::pair<std::string_view, Kind> KINDS[] = {
+    {dxf::TYPE_FACE, {"3DFACE", FacesOf3dFace}},
+    {dxf::TYPE_POLYLINE, POLYLINE_2D},
+    {dxf::TYPE_LWPOLYLINE, {"LWPOLYLINE", FacesOfPolyline, true}},
+    {dxf::TYPE_MESH, MESH},
+    {dxf::TYPE_HATCH, HATCH},
+    {dxf::TYPE_SOLID, {"SOLID", FacesOfSolid, true}},
+    {dxf::TYPE_TRACE, {"TRACE", FacesOfSolid, true}}};
+
+const Kind& KindOfPolyline(const dxf::TagList& own) {
+  const std::int64_t flags = own.Integer(dxf::CODE_POLYLINE_FLAGS);
+  if ((flags & dxf::POLYLINE_POLYFACE_MESH) != 0) return POLYFACE_MESH;
+  if ((flags & dxf::POLYLINE_POLYGON_MESH) != 0) return POLYGON_MESH;
+  return (flags & dxf::POLYLINE_3D) != 0 ? POLYLINE_3D : POLYLINE_2D;
+}
+
+const Kind* KindOf(std::string_view type) {
+  const auto* const found = std::find_if(std::begin(KINDS), std::end(KINDS),
+                                         [&](const auto& kind) { return dxf::SameName(type, kind.first); });
+  return found == std::end(KINDS) ? nullptr : &found->second;
 }
 
 }  // namespace
 
-EntityFaces FacesOf(const dxf::Document& drawing, const dxf::Entity& entity) {
-  const bool isFace = dxf::SameName(entity.type, dxf::TYPE_FACE);
-  if (!isFace && !dxf::SameName(entity.type, dxf::TYPE_POLYLINE)) return {};
-  const TagLists lists = drawing.TagLists(entity.text);
+bool CanHaveFaces(std::string_view type) {
+  return KindOf(type) != nullptr;
+}
+
+EntityFaces FacesOf(const TagLists& lists) {
   const dxf::TagList& own = lists.front();
-  const std::string layer = own.Text(dxf::CODE_LAYER);
-  if (isFace) return {"3DFACE", layer, FacesOf3dFace(own)};
-  const std::int64_t flags = FlagsOf(own);
-  if ((flags & dxf::POLYLINE_POLYFACE_MESH) != 0) return {"POLYFACE MESH", layer, FacesOfPolyface(lists)};
-  if ((flags & dxf::POLYLINE_POLYGON_MESH) != 0) return {"POLYGON MESH", layer, FacesOfPolygonMesh(lists)};
-  const bool isClosed3d = (flags & dxf::POLYLINE_3D) != 0 && (flags & dxf::POLYLINE_CLOSED) != 0;
-  if (isClosed3d) return {"3D POLYLINE", layer, {{VerticesOf(lists)}}};
-  return {};
+  const Kind* kind = KindOf(own.Type());
+  if (kind == nullptr) return {};
+  if (dxf::SameName(own.Type(), dxf::TYPE_POLYLINE)) kind = &KindOfPolyline(own);
+  return {kind->name, own.Text(dxf::CODE_LAYER, dxf::DEFAULT_LAYER), kind->isFlatKind, kind->read(lists)};
+}
+
+EntityFaces FacesOf(const dxf::Document& drawing, const dxf::Entity& entity) {
+  return CanHaveFaces(entity.type) ? FacesOf(drawing.TagLists(entity.text)) : EntityFaces();
 }
 
 }  // namespace teskarlt

@@ -31,6 +31,16 @@ PlanBox PlanBoxOf(const Points& points, double margin = 0.0) {
   return {box.lowX - margin, box.lowY - margin, box.highX + margin, box.highY + margin};
 }
 
+// The boxes around things with corners.
+template <typename Things>
+std::vector<PlanBox> BoxesOf(const Things& things) {
+  std::vector<PlanBox> boxes;
+  boxes.reserve(things.size());
+  for (const auto& thing : things)
+    boxes.push_back(PlanBoxOf(thing.corners));
+  return boxes;
+}
+
 constexpr bool Touch(const PlanBox& a, const PlanBox& b) {
   return a.lowX <= b.highX && b.lowX <= a.highX && a.lowY <= b.highY && b.lowY <= a.highY;
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "geometry/Vectors.h"
 
@@ -48,25 +49,37 @@ double Extent(const RoofFace& face) {
   return Distance(low, high);
 }
 
-bool OnPlanEdge(const Vec3& a, const Vec3& b, double x, double y) {
-  const double dx = b.x - a.x;
-  const double dy = b.y - a.y;
-  if (dx == 0.0 && dy == 0.0) return x == a.x && y == a.y;  // an upright edge is a point of the plan
-  const double across = dx * (y - a.y) - dy * (x - a.x);
-  const double length = std::hypot(dx, dy);
-  constexpr double relative = 1e-9;
-  if (std::abs(across) > relative * length * length) return false;
-  const double along = dx * (x - a.x) + dy * (y - a.y);
-  return along >= -relative * length * length && along <= (1 + relative) * length * length;
+// Twice its area times its unit normal.
+Vec3 AreaVectorOf(const RoofFace& face) {
+  Vec3 area = AreaVector(face.corners);
+  for (const Ring& hole : face.holes)
+    area = Sum(area, AreaVector(hole));
+  return area;
+}
+
+// The holes that have an area, all of them the other way round than the corners.
+std::vector<Ring> HolesIn(const Ring& corners, const std::vector<Ring>& holes, double tolerance) {
+  std::vector<Ring> made;
+  for (const Ring& hole : holes) {
+    Ring ring = TurnedAgainst(corners, WithoutRepeats(hole));
+    if (geometry::VecLength(AreaVector(ring)) > tolerance * tolerance) made.push_back(std::move(ring));
+  }
+  return made;
 }
 
 }  // namespace
 
 std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, double tolerance) {
+  return MakeRoofFace(corners, {}, tolerance);
+}
+
+std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, const std::vector<Ring>& holes,
+                                     double tolerance) {
   RoofFace face;
   face.corners = WithoutRepeats(corners);
   if (face.corners.size() < 3) return std::nullopt;
-  const Vec3 area = AreaVector(face.corners);
+  face.holes = HolesIn(face.corners, holes, tolerance);
+  const Vec3 area = AreaVectorOf(face);
   const double twiceArea = geometry::VecLength(area);
   if (!(twiceArea > tolerance * tolerance)) return std::nullopt;
   face.plane = {Middle(face.corners), Scaled(area, (area.z < 0 ? -1.0 : 1.0) / twiceArea)};
@@ -76,8 +89,12 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, double to
 
 double Warp(const RoofFace& face, const Plane& plane) {
   double warp = 0.0;
-  for (const Vec3& corner : face.corners)
-    warp = std::max(warp, std::abs(DistanceFrom(plane, corner)));
+  const auto measure = [&](const Ring& ring) {
+    for (const Vec3& corner : ring)
+      warp = std::max(warp, std::abs(DistanceFrom(plane, corner)));
+  };
+  measure(face.corners);
+  std::for_each(face.holes.begin(), face.holes.end(), measure);
   return warp;
 }
 
@@ -108,20 +125,17 @@ bool IsNarrow(const RoofFace& face, double tolerance) {
 }
 
 double Area(const RoofFace& face) {
-  return geometry::VecLength(AreaVector(face.corners)) / 2;
+  return geometry::VecLength(AreaVectorOf(face)) / 2;
 }
 
-// Even-odd rule.
-bool LiesOver(const std::vector<Vec3>& corners, double x, double y) {
-  bool inside = false;
-  for (std::size_t i = 0; i < corners.size(); ++i) {
-    const Vec3& a = corners[i];
-    const Vec3& b = corners[(i + 1) % corners.size()];
-    if (OnPlanEdge(a, b, x, y)) return true;
-    if ((a.y > y) == (b.y > y)) continue;
-    if (x < a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x)) inside = !inside;
-  }
-  return inside;
+bool LiesOver(const RoofFace& face, double x, double y) {
+  return LiesOver(face.corners, x, y) &&
+         std::none_of(face.holes.begin(), face.holes.end(),
+                      [&](const Ring& hole) { return SideOf(hole, x, y) == RingSide::Inside; });
+}
+
+bool LiesOver(const Ring& corners, double x, double y) {
+  return SideOf(corners, x, y) != RingSide::Outside;
 }
 
 }  // namespace teskarlt

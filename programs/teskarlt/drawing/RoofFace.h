@@ -7,23 +7,28 @@
 
 #include "geometry/Vec3.h"
 #include "teskarlt/drawing/Plane.h"
+#include "teskarlt/drawing/Rings.h"
 
 namespace teskarlt {
 
-// Corners in order around the face, in drawing coordinates and units.
+// Drawing coordinates and units.
 struct RoofFace {
-  std::string name;   // handle of its entity; "HANDLE/N" for face N, from 1, of an entity of several
-  std::string layer;  // UTF-8
-  std::string type;   // "3DFACE", "POLYFACE MESH", "POLYGON MESH" or "3D POLYLINE"
-  std::vector<geometry::Vec3> corners;
-  Plane plane;  // of the face's mean normal (Newell), through the middle of the corners
+  std::string name;         // RoofSearch.h; stable, and safe in a shell
+  std::string entity;       // the name without the number of the face
+  std::string layer;        // UTF-8
+  std::string type;         // of its entity, as EntityFaces has it
+  Ring corners;             // in order around the face
+  std::vector<Ring> holes;  // in order around them, the other way round
+  Plane plane;              // of the face's mean normal (Newell), through the middle of the corners
 };
 
 // `tolerance` is a millimetre in drawing units (RoofTolerance in Units.h) in all of these.
 
-// The face with these corners when it has an area, for which the tolerance is a length, and is not vertical;
-// consecutive corners that coincide become one. Names and layer stay empty.
+// The face with these corners and holes, either way round, when it has an area, for which the tolerance is a
+// length, and is not vertical; consecutive corners that coincide become one. Names and layer stay empty.
 std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners, double tolerance);
+std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners,
+                                     const std::vector<Ring>& holes, double tolerance);
 
 // How far the farthest corner lies off the plane; for the face's own plane 0 but for rounding when it is
 // planar.
@@ -44,10 +49,13 @@ bool IsSteep(const RoofFace& face);
 // True below 50 mm: the direction of such a sliver between two triangles says little.
 bool IsNarrow(const RoofFace& face, double tolerance);
 
-// The face's own area, in square drawing units.
+// The face's own area without its holes, in square drawing units.
 double Area(const RoofFace& face);
 
-// Whether the point lies within the face of these corners in the plan; the edges belong to it.
-bool LiesOver(const std::vector<geometry::Vec3>& corners, double x, double y);
+// Whether the point lies within the face in the plan, and in none of its holes; the edges belong to it.
+bool LiesOver(const RoofFace& face, double x, double y);
+
+// Whether it lies within the ring; the edges belong to it.
+bool LiesOver(const Ring& corners, double x, double y);
 
 }  // namespace teskarlt

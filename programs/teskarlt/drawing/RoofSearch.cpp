@@ -1,42 +1,50 @@
 // RoofSearch.cpp - finds the faces of a drawing of which roofs can be made.
 #include "teskarlt/drawing/RoofSearch.h"
 
-#include <fmt/format.h>
+#include <algorithm>
+#include <optional>
+#include <utility>
 
-#include "teskarlt/drawing/DrawnWindow.h"
-#include "teskarlt/drawing/EntityFaces.h"
+#include "teskarlt/drawing/OutlineHoles.h"
+#include "teskarlt/drawing/PlacedFaces.h"
 
 namespace teskarlt {
 
 namespace {
 
-// "HANDLE", or "HANDLE/N" where the entity has several faces; entities without a handle are numbered.
-std::string FaceName(const dxf::Entity& entity, std::size_t entityNumber, std::size_t faceNumber,
-                     std::size_t faceCount) {
-  const std::string name =
-      entity.handle != 0 ? fmt::format("{:X}", entity.handle) : fmt::format("#{}", entityNumber);
-  return faceCount == 1 ? name : fmt::format("{}/{}", name, faceNumber);
+// Whether it is drawn in a plan: a line, or the filling of one.
+bool IsInPlan(const PlacedFace& placed) {
+  return placed.isFlatKind && std::all_of(placed.face.corners.begin(), placed.face.corners.end(),
+                                          [](const geometry::Vec3& corner) { return corner.z == 0; });
 }
 
 }  // namespace
 
-std::vector<RoofFace> FindFaces(const dxf::Document& drawing, double tolerance) {
-  std::vector<RoofFace> found;
-  std::size_t entityNumber = 0;
-  for (const dxf::Entity& entity : drawing.Entities()) {
-    ++entityNumber;
-    if (IsWindowEntity(drawing, entity)) continue;
-    const EntityFaces entityFaces = FacesOf(drawing, entity);
-    for (std::size_t i = 0; i < entityFaces.faces.size(); ++i) {
-      std::optional<RoofFace> face = MakeRoofFace(entityFaces.faces[i].corners, tolerance);
-      if (!face) continue;
-      face->name = FaceName(entity, entityNumber, i + 1, entityFaces.faces.size());
-      face->layer = entityFaces.layer;
-      face->type = entityFaces.type;
-      found.push_back(*std::move(face));
-    }
-  }
+FoundFaces SearchFaces(const dxf::Document& drawing, double tolerance) {
+  FoundFaces found;
+  found.unread = ReadPlacedFaces(drawing, [&](PlacedFace placed) {
+    if (IsInPlan(placed)) return;
+    std::optional<RoofFace> face = MakeRoofFace(placed.face.corners, placed.face.holes, tolerance);
+    if (!face) return;
+    face->name = std::move(placed.name);
+    face->entity = std::move(placed.entity);
+    face->layer = std::move(placed.layer);
+    face->type = placed.type;
+    found.faces.push_back(*std::move(face));
+  });
+  CutHoles(found.faces, tolerance);
   return found;
+}
+
+std::vector<RoofFace> FindFaces(const dxf::Document& drawing, double tolerance) {
+  return SearchFaces(drawing, tolerance).faces;
+}
+
+std::string PresentName(std::string_view name) {
+  std::string present(name);
+  std::replace(present.begin(), present.end(), '/', '.');
+  if (present.starts_with('#')) present.front() = 'N';
+  return present;
 }
 
 }  // namespace teskarlt

@@ -1,16 +1,36 @@
 // RoofSearch.h - finds the faces of a drawing of which roofs can be made.
 #pragma once
 
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "teskarlt/drawing/RoofFace.h"
+#include "teskarlt/drawing/UnreadEntities.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt {
 
-// The faces of the model space in the order of the file: 3D faces, the faces of polyface and polygon meshes,
-// and closed 3D polylines. Left out are vertical faces and those of roof windows. `tolerance` is a millimetre
-// in drawing units.
+struct FoundFaces {
+  std::vector<RoofFace> faces;
+  UnreadEntities unread;
+};
+
+// The faces of the model space in the order of the file (EntityFaces.h), those of blocks where they are
+// inserted; closed polylines within others are holes (OutlineHoles.h). Left out are vertical faces, those of
+// roof windows, and flat outlines and fillings at height 0, with which plans are drawn. `tolerance` is a
+// millimetre in drawing units.
+//
+// A face is named by the handle of its entity, "2F"; where that has several, with their numbers from 1,
+// "2F.3". Before it stand the handles of the INSERTs around it, "1A.2F.3", one with rows and columns with the
+// number of the copy, "1A-7.2F.3". An entity without a handle has "N" and its number in the file or in its
+// block.
+FoundFaces SearchFaces(const dxf::Document& drawing, double tolerance);
+
+// The faces alone.
 std::vector<RoofFace> FindFaces(const dxf::Document& drawing, double tolerance);
+
+// The name that a face has now by one that it had before: "2F/3" was "2F.3", and "#7" was "N7".
+std::string PresentName(std::string_view name);
 
 }  // namespace teskarlt

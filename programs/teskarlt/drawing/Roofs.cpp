@@ -15,24 +15,23 @@ namespace {
 
 constexpr std::size_t NO_SURFACE = std::numeric_limits<std::size_t>::max();
 
-std::vector<PlanBox> BoxesOf(const std::vector<RoofFace>& faces) {
-  std::vector<PlanBox> boxes;
-  boxes.reserve(faces.size());
-  for (const RoofFace& face : faces)
-    boxes.push_back(PlanBoxOf(face.corners));
-  return boxes;
+void TakeToWorking(const WorkingUnit& unit, Ring& ring) {
+  for (geometry::Vec3& corner : ring)
+    corner = ToWorking(corner, unit);
 }
 
 void TakeToWorking(const WorkingUnit& unit, RoofFace& face) {
-  for (geometry::Vec3& corner : face.corners)
-    corner = ToWorking(corner, unit);
+  TakeToWorking(unit, face.corners);
+  for (Ring& hole : face.holes)
+    TakeToWorking(unit, hole);
   face.plane.point = ToWorking(face.plane.point, unit);
 }
 
 }  // namespace
 
-Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit)
+Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit, UnreadEntities unread)
     : faces_(std::move(faces)),
+      unread_(std::move(unread)),
       tolerance_(tolerance),
       unit_(unit),
       index_(BoxesOf(faces_)),
@@ -73,7 +72,7 @@ std::vector<FaceOver> Roofs::FacesAt(double x, double y) const {
   std::vector<FaceOver> found;
   for (const RoofFace* face : FacesNear({x, y, x, y})) {
     const RoofSurface* surface = SurfaceOf(*face);
-    if (surface != nullptr && LiesOver(face->corners, x, y))
+    if (surface != nullptr && LiesOver(*face, x, y))
       found.push_back({face, surface, HeightAt(surface->plane, x, y)});
   }
   return found;
@@ -88,7 +87,7 @@ std::optional<FaceOver> Roofs::UppermostAt(double x, double y) const {
 
 std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
   std::vector<const RoofFace*> named;
-  const auto found = named_.find(dxf::FoldedName(name));
+  const auto found = named_.find(dxf::FoldedName(PresentName(name)));
   if (found == named_.end()) return named;
   for (const std::size_t number : found->second)
     named.push_back(&faces_[number]);
@@ -96,15 +95,16 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
 }
 
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
-  return {FindFaces(drawing, tolerance), tolerance};
+  FoundFaces found = SearchFaces(drawing, tolerance);
+  return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread)};
 }
 
 Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
   const double tolerance = RoofTolerance(unit);
-  std::vector<RoofFace> faces = FindFaces(drawing, ToDrawn(tolerance, unit));
-  for (RoofFace& face : faces)
+  FoundFaces found = SearchFaces(drawing, ToDrawn(tolerance, unit));
+  for (RoofFace& face : found.faces)
     TakeToWorking(unit, face);
-  return {std::move(faces), tolerance, unit};
+  return {std::move(found.faces), tolerance, unit, std::move(found.unread)};
 }
 
 }  // namespace teskarlt

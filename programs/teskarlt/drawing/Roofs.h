@@ -11,6 +11,7 @@
 #include "teskarlt/drawing/PlanIndex.h"
 #include "teskarlt/drawing/RoofFace.h"
 #include "teskarlt/drawing/RoofSurface.h"
+#include "teskarlt/drawing/UnreadEntities.h"
 #include "teskarlt/drawing/WorkingUnit.h"
 #include "teskarlt/dxf/Document.h"
 
@@ -25,8 +26,10 @@ struct FaceOver {
 
 class Roofs {
  public:
-  // `tolerance` is a millimetre in the unit of the faces, which are drawing units where nothing else is said.
-  Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit = IN_DRAWING_UNITS);
+  // `tolerance` is a millimetre in the unit of the faces, which are drawing units where nothing else is said;
+  // `unread` is what of the drawing may be a roof besides.
+  Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit = IN_DRAWING_UNITS,
+        UnreadEntities unread = {});
 
   double Tolerance() const { return tolerance_; }
 
@@ -35,6 +38,9 @@ class Roofs {
 
   // Whether no face can take a window.
   bool IsEmpty() const;
+
+  // What may hold roofs that were not found.
+  const UnreadEntities& Unread() const { return unread_; }
 
   // In the order given. Steep ones are among them.
   const std::vector<RoofFace>& Faces() const { return faces_; }
@@ -57,12 +63,13 @@ class Roofs {
   // The faces whose boxes in the plan touch the area, in the order of Faces().
   std::vector<const RoofFace*> FacesNear(const PlanBox& area) const;
 
-  // The faces of that name (RoofFace.h), without regard to case; several where the drawing uses a handle
-  // twice.
+  // The faces of that name (RoofSearch.h), also of one that it had before, without regard to case; several
+  // where the drawing uses a handle twice.
   std::vector<const RoofFace*> FacesNamed(std::string_view name) const;
 
  private:
   std::vector<RoofFace> faces_;
+  UnreadEntities unread_;
   double tolerance_;
   WorkingUnit unit_;
   PlanIndex index_;

@@ -15,7 +15,7 @@ SurfaceOutline OutlineOf(const RoofSurface& surface, const std::vector<RoofFace>
   polygons.reserve(surface.faces.size());
   for (const std::size_t face : surface.faces) {
     SlopeRing& polygon = polygons.emplace_back();
-    for (const geometry::Vec3& corner : faces[face].corners)
+    for (const geometry::Vec3& corner : LineAround(faces[face].corners, faces[face].holes))
       polygon.push_back(outline.frame.Of(corner));
   }
   outline.rings = RingsAround(polygons, HEALED * tolerance);

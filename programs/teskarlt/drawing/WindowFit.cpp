@@ -120,7 +120,7 @@ const RoofFace* FaceUnder(const WindowParams& window, const Roofs& roofs) {
 double CoveredPart(const Outline& outline, const Roofs& roofs) {
   std::vector<geometry::PlanPolygon> polygons;
   for (const RoofFace* face : FacesInPlaneOf(outline, roofs))
-    polygons.push_back(PlanOf(face->corners, outline[0]));
+    polygons.push_back(PlanOf(LineAround(face->corners, face->holes), outline[0]));
   const geometry::PlanPolygon plan = PlanOf(outline, outline[0]);
   return polygons.empty() ? 0.0 : geometry::CoveredArea(plan, polygons) / geometry::PlanArea(plan);
 }
@@ -134,7 +134,7 @@ double UnevennessIn(const Outline& outline, const Roofs& roofs) {
     for (const Vec3& corner : face->corners)
       if (LiesOver(corners, corner.x, corner.y)) measure(corner);
     for (const Vec3& corner : corners)
-      if (LiesOver(face->corners, corner.x, corner.y)) measure(Plumb(face->plane, corner));
+      if (LiesOver(*face, corner.x, corner.y)) measure(Plumb(face->plane, corner));
   }
   return most;
 }

@@ -1,20 +1,22 @@
 // SceneReader.cpp - turns entities into surfaces and curves.
 #include "teskarlt/preview/SceneReader.h"
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 
 #include <fmt/format.h>
 
+#include "teskarlt/drawing/Blocks.h"
+#include "teskarlt/drawing/Curves.h"
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/EntityFaces.h"
+#include "teskarlt/drawing/Rings.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
-#include "teskarlt/preview/Blocks.h"
-#include "teskarlt/preview/Curves.h"
 #include "teskarlt/preview/Styles.h"
 #include "window/Parts.h"
 
@@ -50,41 +52,17 @@ std::string FileStem(const std::string& path) {
   return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
 }
 
-// Faces of a mesh (its coarsest level): group 92 counts the vertices that follow, 93 the numbers of the face
-// list, where each face's count comes before its vertices.
-std::vector<FaceCorners> MeshFaces(const dxf::TagList& entity) {
-  const std::vector<Vec3> vertices = entity.Points(dxf::CODE_MESH_VERTEX);
-  std::vector<std::size_t> numbers;
-  bool isInList = false;
-  for (const dxf::Tag& tag : entity.Tags()) {
-    if (tag.code == dxf::CODE_MESH_FACE_COUNT) isInList = true;
-    if (tag.code == dxf::CODE_MESH_EDGE_COUNT) isInList = false;
-    if (isInList && tag.code == dxf::CODE_MESH_ITEM)
-      numbers.push_back(static_cast<std::size_t>(entity.IntegerOf(tag)));
-  }
-  std::vector<FaceCorners> faces;
-  for (std::size_t i = 0; i < numbers.size();) {
-    const std::size_t count = numbers[i++];
-    if (count > numbers.size() - i) break;
-    FaceCorners face;
-    for (std::size_t k = 0; k < count; ++k, ++i) {
-      if (numbers[i] < vertices.size()) face.corners.push_back(vertices[numbers[i]]);
-    }
-    faces.push_back(std::move(face));
-  }
-  return faces;
+bool IsLevel(const EntityFace& face) {
+  return std::all_of(face.corners.begin(), face.corners.end(),
+                     [&](const Vec3& corner) { return corner.z == face.corners.front().z; });
 }
 
-// A SOLID or TRACE: its third and fourth corner stand crosswise.
-std::vector<FaceCorners> SolidFaces(const dxf::TagList& entity) {
-  FaceCorners face;
-  face.corners = {entity.Point(dxf::CODE_FIRST_CORNER), entity.Point(dxf::CODE_SECOND_CORNER)};
-  if (entity.Has(dxf::CODE_FOURTH_CORNER)) face.corners.push_back(entity.Point(dxf::CODE_FOURTH_CORNER));
-  face.corners.push_back(entity.Point(dxf::CODE_THIRD_CORNER));
-  const Matrix4 matrix = ObjectToDrawing(entity.Point(dxf::CODE_EXTRUSION, UPWARDS));
-  for (Vec3& corner : face.corners)
-    geometry::MatTransformPoint(matrix, corner, corner);
-  return {face};
+// Of outlines, keeps the faces that are surfaces: what lies level is a line of a plan, or its filling, and
+// would hide the rest. Their edges are drawn otherwise: by the polyline itself.
+void KeepSolid(EntityFaces& outlines) {
+  if (outlines.isFlatKind) std::erase_if(outlines.faces, IsLevel);
+  for (EntityFace& face : outlines.faces)
+    face.hiddenEdges = ~0U;
 }
 
 class Reader {
@@ -112,7 +90,7 @@ class Reader {
   bool IsVisible(const Look& look) const;
   std::size_t LayerIndex(const std::string& name);
   std::size_t PatternIndex(const std::string& linetype, double scale);
-  void AddSurfaces(const std::vector<FaceCorners>& faces, const dxf::TagList& entity, const Look& look,
+  void AddSurfaces(const std::vector<EntityFace>& faces, const dxf::TagList& entity, const Look& look,
                    const Placement& placement);
   void AddCurve(CurvePoints points, const dxf::TagList& entity, const Look& look, const Placement& placement,
                 std::size_t outlined);
@@ -192,12 +170,16 @@ void Reader::Show(std::vector<Vec3>& points, const Placement& placement) {
   }
 }
 
-void Reader::AddSurfaces(const std::vector<FaceCorners>& faces, const dxf::TagList& entity, const Look& look,
+void Reader::AddSurfaces(const std::vector<EntityFace>& faces, const dxf::TagList& entity, const Look& look,
                          const Placement& placement) {
-  for (const FaceCorners& face : faces) {
+  for (const EntityFace& face : faces) {
     if (face.corners.size() < 3) continue;
-    Surface surface{face.corners, face.hiddenEdges, LayerIndex(look.layer), look.colour,
-                    false,        placement.window};
+    Surface surface{LineAround(face.corners, face.holes),
+                    face.hiddenEdges,
+                    LayerIndex(look.layer),
+                    look.colour,
+                    false,
+                    placement.window};
     Show(surface.corners, placement);
     if (placement.window != NO_WINDOW &&
         entity.Integer(dxf::CODE_COLOUR, dxf::COLOUR_BY_LAYER) == brevanta::GLASS_COLOUR) {
@@ -257,24 +239,14 @@ void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
     return;
   }
   if (!IsVisible(look)) return;
-  if (is(dxf::TYPE_SOLID) || is(dxf::TYPE_TRACE)) {
-    AddSurfaces(SolidFaces(own), own, look, placement);
-  } else if (is(dxf::TYPE_MESH)) {
-    AddSurfaces(MeshFaces(own), own, look, placement);
-  } else {
-    EntityFaces faces = FacesOf(drawing_, entity);
-    std::optional<CurvePoints> points = PointsOf(lists);
-    if (faces.faces.empty() && !points) ++scene_.leftOut[std::string(entity.type)];
-    if (!points) {
-      AddSurfaces(faces.faces, own, look, placement);
-      return;
-    }
-    for (FaceCorners& face : faces.faces)  // a closed polyline draws its edges itself
-      face.hiddenEdges = ~0U;
-    const std::size_t next = scene_.surfaces.size();
-    AddSurfaces(faces.faces, own, look, placement);
+  EntityFaces faces = FacesOf(lists);
+  std::optional<CurvePoints> points = PointsOf(lists);
+  if (points || is(dxf::TYPE_HATCH)) KeepSolid(faces);
+  if (faces.faces.empty() && !points) ++scene_.leftOut[std::string(entity.type)];
+  const std::size_t next = scene_.surfaces.size();
+  AddSurfaces(faces.faces, own, look, placement);
+  if (points)
     AddCurve(*std::move(points), own, look, placement, next < scene_.surfaces.size() ? next : NO_SURFACE);
-  }
 }
 
 Scene Reader::Run(const SceneOptions& options) {

@@ -83,6 +83,12 @@ const RoofFace& NamedFace(const WindowOrder& order, const std::string& file, con
   return surface != nullptr ? FaceOf(*surface, order.at, roofs) : FaceNamed(order.roofName, file, roofs);
 }
 
+// What may be roofs besides, behind a semicolon; empty when nothing is.
+std::string UnreadClause(const Roofs& roofs) {
+  const std::string text = TextOf(roofs.Unread());
+  return text.empty() ? text : "; " + text;
+}
+
 // The uppermost face, or none: what lies under an uneven one is the ceiling of its room, and no roof.
 const RoofFace& FaceAt(const PlanPoint& point, const std::string& file, const Roofs& roofs) {
   const std::optional<FaceOver> over = roofs.UppermostAt(point.x, point.y);
@@ -95,9 +101,12 @@ const RoofFace& FaceAt(const PlanPoint& point, const std::string& file, const Ro
                     PLANE_HINT),
         {.value = point.text});
   }
-  if (roofs.IsEmpty()) throw Error(fmt::format("{} holds no planar face that can take a roof window", file));
-  throw Error(fmt::format("--at {}: no roof face lies over that point; the roofs lie within {}", point.text,
-                          PlanExtents(roofs)),
+  if (roofs.IsEmpty()) {
+    throw Error(
+        fmt::format("{} holds no planar face that can take a roof window{}", file, UnreadClause(roofs)));
+  }
+  throw Error(fmt::format("--at {}: no roof face lies over that point; the roofs lie within {}{}", point.text,
+                          PlanExtents(roofs), UnreadClause(roofs)),
               {.value = point.text});
 }
 
@@ -134,7 +143,7 @@ RoofChoice OnFace(const RoofFace& face, const Roofs& roofs) {
   roof.facesNear = [&roofs, surface](const PlanBox& area) {
     std::vector<FaceCorners> near;
     for (const RoofFace* other : roofs.FacesNear(area))
-      if (roofs.SurfaceOf(*other) == surface) near.push_back(other->corners);
+      if (roofs.SurfaceOf(*other) == surface) near.push_back(LineAround(other->corners, other->holes));
     return near;
   };
   return roof;

@@ -1,9 +1,11 @@
-// EntityFacesTest.cpp - the faces of 3D faces, meshes and closed 3D polylines.
+// EntityFacesTest.cpp - the faces of entities of each kind.
 #include <cmath>
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "geometry/PlanCover.h"
 #include "teskarlt/drawing/EntityFaces.h"
 #include "tests/teskarlt/drawing/Drawings.h"
 
@@ -35,7 +37,7 @@ EntityFaces Faces(const std::string& entity) {
 }
 
 // The corners' x, in order, as "0 4 4".
-std::string XOf(const FaceCorners& face) {
+std::string XOf(const EntityFace& face) {
   std::string text;
   for (const geometry::Vec3& corner : face.corners)
     text += (text.empty() ? "" : " ") + std::to_string(std::lround(corner.x));
@@ -157,7 +159,7 @@ TEST(FacesOf, ControlPointsOfASmoothedMeshAreNoVertices) {
   EXPECT_EQ(XOf(faces.faces.at(0)), "1 2 4 3");
 }
 
-// --- Polylines and other entities ---
+// --- Polylines ---
 
 TEST(FacesOf, ClosedThreeDimensionalPolylineBoundsAFace) {
   const std::string vertices = Vertex(16, 9, 0) + Vertex(32, 1, 0) + Vertex(32, 2, 0) + Vertex(32, 3, 4);
@@ -167,11 +169,143 @@ TEST(FacesOf, ClosedThreeDimensionalPolylineBoundsAFace) {
   EXPECT_EQ(faces.faces[0].corners[2].z, 7);
 }
 
-TEST(FacesOf, OpenAndPlanarPolylinesHaveNoFaces) {
+TEST(FacesOf, OpenPolylinesHaveNoFaces) {
   const std::string vertices = Vertex(32, 1, 0) + Vertex(32, 2, 0) + Vertex(32, 3, 4);
   EXPECT_THAT(Faces(Polyline("70\n8\n", vertices)).faces, IsEmpty());
-  EXPECT_THAT(Faces(Polyline("70\n1\n", vertices)).faces, IsEmpty());
+  EXPECT_THAT(Faces(Polyline("70\n0\n", vertices)).faces, IsEmpty());
+  EXPECT_THAT(Faces(Groups("0 LWPOLYLINE|8 A|10 0|20 0|10 4|20 0|10 4|20 3|10 0|20 1|")).faces, IsEmpty());
 }
+
+TEST(FacesOf, PolylineThatEndsWhereItBeganIsClosed) {
+  const std::string ring = Vertex(32, 1, 0) + Vertex(32, 2, 0) + Vertex(32, 3, 4) + Vertex(32, 1, 0);
+  EXPECT_EQ(XOf(Faces(Polyline("70\n8\n", ring)).faces.at(0)), "1 2 3");
+  EXPECT_EQ(XOf(Faces(Polyline("70\n0\n", ring)).faces.at(0)), "1 2 3");
+  EXPECT_EQ(XOf(Faces(Groups("0 LWPOLYLINE|8 A|10 1|20 0|10 2|20 0|10 3|20 4|10 1|20 0|")).faces.at(0)),
+            "1 2 3");
+}
+
+TEST(FacesOf, LightPolylineLiesAtItsElevationInItsTiltedPlane) {
+  // The extrusion direction (0, -0.6, 0.8) has its x axis along x and its y axis along (0, 0.8, 0.6).
+  const EntityFaces faces = Faces(Groups(
+      "0 LWPOLYLINE|8 ROOF|70 1|38 10|210 0|220 -0.6|230 0.8|10 0|20 0|10 4|20 0|10 4|20 5|10 0|20 5|"));
+  EXPECT_STREQ(faces.type, "LWPOLYLINE");
+  EXPECT_TRUE(faces.isFlatKind);
+  const geometry::Vec3 corner = faces.faces.at(0).corners.at(2);
+  EXPECT_NEAR(corner.x, 4, 1e-12);
+  EXPECT_NEAR(corner.y, 5 * 0.8 - 10 * 0.6, 1e-12);
+  EXPECT_NEAR(corner.z, 5 * 0.6 + 10 * 0.8, 1e-12);
+}
+
+TEST(FacesOf, PolylineInAPlaneLiesAtItsElevation) {
+  const EntityFaces faces =
+      Faces(Polyline("70\n1\n30\n12\n", Vertex(0, 1, 0) + Vertex(0, 2, 0) + Vertex(0, 3, 4)));
+  EXPECT_STREQ(faces.type, "2D POLYLINE");
+  EXPECT_EQ(XOf(faces.faces.at(0)), "1 2 3");
+  EXPECT_EQ(faces.faces[0].corners[2].z, 12);
+}
+
+TEST(FacesOf, ArcOfAPolylineIsDividedIntoSteps) {
+  // A half circle (bulge 1) in steps of 5 degrees closes the rectangle.
+  const EntityFaces faces =
+      Faces(Groups("0 LWPOLYLINE|8 A|70 1|38 3|10 0|20 0|10 4|20 0|42 1|10 4|20 2|10 0|20 2|"));
+  ASSERT_THAT(faces.faces.at(0).corners, SizeIs(4 + 35));
+  EXPECT_NEAR(faces.faces[0].corners[2 + 17].x, 5, 1e-12);
+}
+
+// --- Solids ---
+
+TEST(FacesOf, SolidHasItsLastCornersCrosswise) {
+  const EntityFaces faces =
+      Faces(Groups("0 SOLID|8 A|10 1|20 0|30 5|11 2|21 0|31 5|12 3|22 1|32 5|13 4|23 1|33 5|"));
+  EXPECT_STREQ(faces.type, "SOLID");
+  EXPECT_EQ(XOf(faces.faces.at(0)), "1 2 4 3");
+  EXPECT_EQ(faces.faces[0].corners[3].z, 5);
+}
+
+TEST(FacesOf, TraceStandsInItsTiltedPlane) {
+  const EntityFaces faces =
+      Faces(Groups("0 TRACE|8 A|210 0|220 -0.6|230 0.8|10 0|20 0|11 4|21 0|12 0|22 5|13 4|23 5|"));
+  EXPECT_STREQ(faces.type, "TRACE");
+  EXPECT_NEAR(faces.faces.at(0).corners.at(2).y, 4, 1e-12);
+  EXPECT_NEAR(faces.faces[0].corners[2].z, 3, 1e-12);
+}
+
+// --- MESH ---
+
+const std::string MESH =
+    "0 MESH|8 A|91 2|92 5|10 1|20 0|30 0|10 2|20 0|30 0|10 3|20 1|30 0|10 4|20 1|30 0|10 5|20 2|30 0|";
+
+TEST(FacesOf, MeshHasItsFacesAsDrawn) {
+  const EntityFaces faces =
+      Faces(Groups(MESH + "93 9|90 4|90 0|90 1|90 2|90 3|90 3|90 2|90 3|90 4|94 1|90 0|90 1|95 0|"));
+  EXPECT_STREQ(faces.type, "MESH");
+  ASSERT_THAT(faces.faces, SizeIs(2));
+  EXPECT_EQ(XOf(faces.faces[0]), "1 2 3 4");
+  EXPECT_EQ(XOf(faces.faces[1]), "3 4 5");
+}
+
+TEST(FacesOf, FaceOfAMeshThatNamesAMissingVertexHasNoCorners) {
+  const EntityFaces faces = Faces(Groups(MESH + "93 8|90 3|90 0|90 1|90 5|90 3|90 0|90 1|90 -1|94 0|"));
+  ASSERT_THAT(faces.faces, SizeIs(2));
+  EXPECT_THAT(faces.faces[0].corners, IsEmpty());
+  EXPECT_THAT(faces.faces[1].corners, IsEmpty());
+}
+
+// --- Hatches ---
+
+std::string Square(double low, double high) {
+  return fmt::format("92 2|72 0|73 1|93 4|10 {0}|20 {0}|10 {1}|20 {0}|10 {1}|20 {1}|10 {0}|20 {1}|97 0|", low,
+                     high);
+}
+
+std::string Hatch(const std::string& paths, const std::string& style = "0") {
+  return Groups("0 HATCH|8 A|10 0|20 0|30 7|210 0|220 0|230 1|2 SOLID|70 1|71 0|91 1|" + paths + "75 " +
+                style + "|76 1|98 1|10 99|20 99|");
+}
+
+TEST(FacesOf, HatchKeepsEverySecondBoundaryAsAHole) {
+  const EntityFaces faces = Faces(Hatch(Square(1, 8) + Square(2, 7) + Square(3, 6)));
+  EXPECT_STREQ(faces.type, "HATCH");
+  ASSERT_THAT(faces.faces, SizeIs(2));
+  EXPECT_EQ(XOf(faces.faces[0]), "1 8 8 1");
+  EXPECT_EQ(faces.faces[0].corners[0].z, 7);
+  ASSERT_THAT(faces.faces[0].holes, SizeIs(1));
+  EXPECT_EQ(faces.faces[0].holes[0].size(), 4U);
+  EXPECT_EQ(XOf(faces.faces[1]), "3 6 6 3");
+}
+
+TEST(FacesOf, StyleOfAHatchSaysHowDeepItFills) {
+  const EntityFaces outer = Faces(Hatch(Square(1, 8) + Square(2, 7) + Square(3, 6), "1"));
+  ASSERT_THAT(outer.faces, SizeIs(1));
+  EXPECT_THAT(outer.faces[0].holes, SizeIs(1));
+  const EntityFaces whole = Faces(Hatch(Square(1, 8) + Square(2, 7), "2"));
+  EXPECT_THAT(whole.faces.at(0).holes, IsEmpty());
+}
+
+TEST(FacesOf, HatchHasLinesAndArcsForEdges) {
+  // Three sides of a rectangle, and a half circle from (4, 0) to (4, 2) clockwise around (4, 1) beyond it:
+  // angles of such an arc are counted clockwise.
+  const EntityFaces faces = Faces(Hatch(
+      "92 1|93 4|72 1|10 0|20 2|11 0|21 0|72 1|10 0|20 0|11 4|21 0|72 2|10 4|20 1|40 1|50 270|51 450|73 1|72 "
+      "1|10 4|20 2|11 0|21 2|97 0|"));
+  ASSERT_THAT(faces.faces, SizeIs(1));
+  EXPECT_NEAR(geometry::PlanArea(faces.faces[0].corners), 8 + 3.14159 / 2, 0.01);
+}
+
+TEST(FacesOf, ClockwiseArcOfAHatchCountsItsAnglesClockwise) {
+  // A square of 2 whose right side is hollowed out by a half circle of radius 1.
+  const EntityFaces faces = Faces(Hatch(
+      "92 1|93 4|72 1|10 0|20 2|11 0|21 0|72 1|10 0|20 0|11 2|21 0|72 2|10 2|20 1|40 1|50 90|51 270|73 0|72 "
+      "1|10 2|20 2|11 0|21 2|97 0|"));
+  EXPECT_NEAR(geometry::PlanArea(faces.faces.at(0).corners), 4 - 3.14159 / 2, 0.01);
+}
+
+TEST(FacesOf, HatchWithACurvedEdgeHasNoFaces) {
+  EXPECT_THAT(Faces(Hatch("92 1|93 1|72 3|10 0|20 0|11 4|21 0|40 0.5|50 0|51 360|73 1|97 0|")).faces,
+              IsEmpty());
+}
+
+// --- Other entities ---
 
 TEST(FacesOf, OtherEntitiesHaveNoFaces) {
   const EntityFaces faces = Faces("0\nLINE\n8\nROOF\n" + Point(10, 1, 0, 0) + Point(11, 2, 0, 0));

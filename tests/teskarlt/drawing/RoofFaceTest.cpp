@@ -1,4 +1,5 @@
 // RoofFaceTest.cpp - faces: making and measuring them, and what lies under them.
+#include <algorithm>
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -40,6 +41,33 @@ TEST(MakeRoofFace, FaceWithoutAreaIsNone) {
   EXPECT_FALSE(MakeRoofFace({{0, 0, 0}, {4, 0, 0}, {8, 0, 0}}, TOLERANCE));
   EXPECT_FALSE(MakeRoofFace({{1, 1, 1}, {1, 1, 1}, {1, 1, 1}, {1, 1, 1}}, TOLERANCE));
   EXPECT_FALSE(MakeRoofFace({}, TOLERANCE));
+}
+
+// 10 x 10 in the plan with a hole of 2 x 2 in the middle, both ways round.
+RoofFace WithHole(bool isTurned) {
+  Ring hole = {{4, 4, 0}, {6, 4, 0}, {6, 6, 0}, {4, 6, 0}};
+  if (isTurned) std::reverse(hole.begin(), hole.end());
+  return MakeRoofFace({{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {0, 10, 0}}, {hole}, TOLERANCE).value();
+}
+
+TEST(MakeRoofFace, HoleIsNoPartOfTheFace) {
+  for (const bool isTurned : {false, true}) {
+    const RoofFace face = WithHole(isTurned);
+    EXPECT_NEAR(Area(face), 100 - 4, 1e-12);
+    EXPECT_FALSE(LiesOver(face, 5, 5));
+    EXPECT_TRUE(LiesOver(face, 4, 5));  // its edge
+    EXPECT_TRUE(LiesOver(face, 3, 5));
+  }
+}
+
+TEST(MakeRoofFace, HoleWithoutAreaIsNone) {
+  EXPECT_TRUE(MakeRoofFace(SLOPE, {{{1, 1, 2}, {2, 1, 2}, {3, 1, 2}}}, TOLERANCE)->holes.empty());
+}
+
+TEST(Warp, CornersOfHolesCount) {
+  RoofFace face = WithHole(false);
+  face.holes[0][0].z = 0.5;
+  EXPECT_NEAR(Warp(face), 0.5, 1e-12);
 }
 
 TEST(Warp, IsMeasuredFromTheBestFit) {

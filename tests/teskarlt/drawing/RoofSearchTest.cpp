@@ -80,11 +80,11 @@ TEST(FindFaces, PolyfaceMeshGivesItsFacesWithNumbers) {
                            Vertex(128, Point(10, 0, 0, 0) + "71\n4\n72\n3\n73\n5\n") + "0\nSEQEND\n8\nMESH\n";
   const auto faces = FindFaces(Drawing("", mesh), TOLERANCE);
   ASSERT_EQ(faces.size(), 2U);
-  EXPECT_EQ(faces[0].name, "30/1");
+  EXPECT_EQ(faces[0].name, "30.1");
   EXPECT_EQ(faces[0].layer, "MESH");
   EXPECT_EQ(faces[0].type, "POLYFACE MESH");
   EXPECT_EQ(faces[0].corners.size(), 4U);
-  EXPECT_EQ(faces[1].name, "30/2");
+  EXPECT_EQ(faces[1].name, "30.2");
   EXPECT_EQ(faces[1].corners.size(), 3U);
 }
 
@@ -107,7 +107,7 @@ TEST(FindFaces, PolygonMeshGivesItsQuadrilaterals) {
                            "0\nSEQEND\n";
   const auto faces = FindFaces(Drawing("", mesh), TOLERANCE);
   ASSERT_EQ(faces.size(), 2U);
-  EXPECT_EQ(faces[1].name, "30/2");
+  EXPECT_EQ(faces[1].name, "30.2");
   EXPECT_EQ(faces[1].corners[0].y, 1000);
 }
 
@@ -127,7 +127,30 @@ TEST(FindFaces, ClosedThreeDimensionalPolylineIsAFaceAndAnOpenOneIsNot) {
 TEST(FindFaces, FaceWithoutAHandleIsNumbered) {
   const auto faces = FindFaces(Drawing("", "0\nLINE\n8\n0\n0\n3DFACE\n8\nROOF\n" + SLOPE), TOLERANCE);
   ASSERT_EQ(faces.size(), 1U);
-  EXPECT_EQ(faces[0].name, "#2");
+  EXPECT_EQ(faces[0].name, "N2");
+}
+
+TEST(SearchFaces, FlatOutlinesAtHeightZeroAreLinesOfAPlan) {
+  const std::string outline = "|70 1|10 0|20 0|10 4000|20 0|10 4000|20 3000|";
+  EXPECT_TRUE(FindFaces(Drawing("", Groups("0 LWPOLYLINE|8 A" + outline)), TOLERANCE).empty());
+  EXPECT_EQ(FindFaces(Drawing("", Groups("0 LWPOLYLINE|8 A|38 2500" + outline)), TOLERANCE).size(), 1U);
+}
+
+TEST(SearchFaces, PolylineWithinAnotherOneIsItsHole) {
+  const auto outline = [](int low, int high) {
+    return Groups("0 LWPOLYLINE|8 A|70 1|38 2500|10 " + std::to_string(low) + "|20 0|10 " +
+                  std::to_string(high) + "|20 0|10 " + std::to_string(high) + "|20 3000|10 " +
+                  std::to_string(low) + "|20 3000|");
+  };
+  const auto faces = FindFaces(Drawing("", outline(0, 4000) + outline(1000, 2000)), TOLERANCE);
+  ASSERT_EQ(faces.size(), 1U);
+  EXPECT_DOUBLE_EQ(Area(faces[0]), 3000 * 3000);
+}
+
+TEST(PresentName, OldNamesAreUnderstood) {
+  EXPECT_EQ(PresentName("2F/3"), "2F.3");
+  EXPECT_EQ(PresentName("#7"), "N7");
+  EXPECT_EQ(PresentName("1A-2.2F.3"), "1A-2.2F.3");
 }
 
 }  // namespace

@@ -8,20 +8,9 @@
 
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/preview/SceneReader.h"
+#include "tests/teskarlt/drawing/Drawings.h"
 
 namespace teskarlt::preview {
-
-// "CODE VALUE|CODE VALUE" as the lines of a file.
-inline std::string Groups(const std::string& text) {
-  std::string lines;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = std::min(text.find('|', at), text.size());
-    const std::size_t blank = text.find(' ', at);
-    lines += text.substr(at, blank - at) + "\n" + text.substr(blank + 1, end - blank - 1) + "\n";
-    at = end + 1;
-  }
-  return lines;
-}
 
 inline std::string Section(const std::string& name, const std::string& content) {
   return "0\nSECTION\n2\n" + name + "\n" + content + "0\nENDSEC\n";

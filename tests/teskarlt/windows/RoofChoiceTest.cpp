@@ -98,6 +98,13 @@ TEST_F(RoofChoiceTest, DrawingWithoutFacesIsToldSo) {
   EXPECT_EQ(Refusal(OrderAt(1, 1)), "house.dxf holds no planar face that can take a roof window");
 }
 
+TEST_F(RoofChoiceTest, RefusalsNameWhatWasNotRead) {
+  roofs = Roofs(roofs.Faces(), 1.0, IN_DRAWING_UNITS, {{"3DSOLID", 2}});
+  EXPECT_THAT(Refusal(OrderAt(9000, 2000)), HasSubstr("y 0 to 6000; 2 3DSOLID are not read: explode them"));
+  roofs = Roofs({}, 1.0, IN_DRAWING_UNITS, {{"3DSOLID", 2}});
+  EXPECT_THAT(Refusal(OrderAt(1, 1)), HasSubstr("can take a roof window; 2 3DSOLID are not read"));
+}
+
 TEST_F(RoofChoiceTest, NameOfNoFaceIsRefused) {
   WindowOrder order = OrderAt(4000, 2000);
   order.roofName = "FFFF";

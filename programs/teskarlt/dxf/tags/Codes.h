@@ -97,6 +97,8 @@ constexpr int CODE_VPORT_SNAP_PAIR = 78;
 constexpr int CODE_BLOCK_PATH = 1;
 constexpr int CODE_BLOCK_SECOND_NAME = 3;
 constexpr int CODE_BLOCK_BASE = 10;
+constexpr int CODE_BLOCK_FLAGS = 70;
+constexpr std::int64_t BLOCK_ATTACHED = 4 + 8;  // it is another drawing, whole or laid over
 
 // --- All entities ---
 
@@ -170,6 +172,19 @@ constexpr int CODE_MESH_VERTEX = 10;
 constexpr int CODE_MESH_ITEM = 90;        // of the list that was announced last
 constexpr int CODE_MESH_FACE_COUNT = 93;  // of items in the list of faces
 constexpr int CODE_MESH_EDGE_COUNT = 94;
+
+// Of a HATCH: behind the head of each boundary follow the vertices of a polyline, or edges with the codes
+// that LINE and ARC have; the style ends the boundaries.
+constexpr int CODE_HATCH_ELEVATION = 30;
+constexpr int CODE_HATCH_EDGE = 72;  // its type
+constexpr std::int64_t HATCH_EDGE_LINE = 1;
+constexpr std::int64_t HATCH_EDGE_ARC = 2;
+constexpr int CODE_HATCH_COUNTER_CLOCKWISE = 73;
+constexpr int CODE_HATCH_STYLE = 75;  // 0: every second boundary is filled
+constexpr std::int64_t HATCH_STYLE_OUTER = 1;
+constexpr std::int64_t HATCH_STYLE_IGNORE = 2;  // of what lies within an outer one
+constexpr int CODE_HATCH_PATH = 92;
+constexpr std::int64_t HATCH_PATH_POLYLINE = 2;
 
 // Of an INSERT; angles in degrees.
 constexpr int CODE_INSERT_POINT = 10;

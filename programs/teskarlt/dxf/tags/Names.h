@@ -64,6 +64,7 @@ constexpr std::string_view TYPE_CIRCLE = "CIRCLE";
 constexpr std::string_view TYPE_DIMENSION = "DIMENSION";
 constexpr std::string_view TYPE_ELLIPSE = "ELLIPSE";
 constexpr std::string_view TYPE_FACE = "3DFACE";
+constexpr std::string_view TYPE_HATCH = "HATCH";
 constexpr std::string_view TYPE_INSERT = "INSERT";
 constexpr std::string_view TYPE_LEADER = "LEADER";
 constexpr std::string_view TYPE_LINE = "LINE";

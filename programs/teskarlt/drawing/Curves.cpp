@@ -1,5 +1,5 @@
 // Curves.cpp - divides curves into straight pieces.
-#include "teskarlt/preview/Curves.h"
+#include "teskarlt/drawing/Curves.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +10,7 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 
 namespace {
 
@@ -54,7 +54,7 @@ CurvePoints Circle(const dxf::TagList& entity, bool isArc) {
   double angle = isArc ? geometry::DegToRad(entity.Real(dxf::CODE_ARC_END)) - start : geometry::TWO_PI;
   if (isArc) angle = std::fmod(angle, geometry::TWO_PI);
   if (angle <= 0) angle += geometry::TWO_PI;
-  return Placed(entity, Sweep(centre, {radius, 0, 0}, {0, radius, 0}, start, angle));
+  return Placed(entity, ArcPoints(centre, radius, start, angle));
 }
 
 CurvePoints Ellipse(const dxf::TagList& entity) {
@@ -65,32 +65,6 @@ CurvePoints Ellipse(const dxf::TagList& entity) {
   double angle = entity.Real(dxf::CODE_ELLIPSE_END, geometry::TWO_PI) - start;
   if (angle <= 0) angle += geometry::TWO_PI;
   return Sweep(entity.Point(dxf::CODE_ELLIPSE_CENTRE), major, minor, start, angle);
-}
-
-// A vertex of a polyline in a plane; `bulge` is the tangent
-// of a quarter of the angle of the arc to the next one.
-struct BulgeVertex {
-  Vec3 point;
-  double bulge = 0;
-};
-
-CurvePoints WithBulges(const std::vector<BulgeVertex>& vertices, bool isClosed) {
-  CurvePoints points;
-  const std::size_t pieces = isClosed ? vertices.size() : vertices.size() - 1;
-  for (std::size_t i = 0; i < pieces; ++i) {
-    const Vec3& a = vertices[i].point;
-    const Vec3& b = vertices[(i + 1) % vertices.size()].point;
-    const double bulge = vertices[i].bulge;
-    points.push_back(a);
-    if (bulge == 0) continue;
-    const double lift = (1 - bulge * bulge) / (4 * bulge);
-    const Vec3 centre = {(a.x + b.x) / 2 - lift * (b.y - a.y), (a.y + b.y) / 2 + lift * (b.x - a.x), a.z};
-    const Vec3 radius = {a.x - centre.x, a.y - centre.y, 0};
-    CurvePoints arc = Sweep(centre, radius, {-radius.y, radius.x, 0}, 0, 4 * geometry::ArcTangent(bulge));
-    points.insert(points.end(), arc.begin() + 1, arc.end() - 1);
-  }
-  points.push_back(isClosed ? vertices.front().point : vertices.back().point);
-  return points;
 }
 
 CurvePoints LightPolyline(const dxf::TagList& entity) {
@@ -182,6 +156,29 @@ CurvePoints Spline(const dxf::TagList& entity) {
 
 }  // namespace
 
+CurvePoints WithBulges(const std::vector<BulgeVertex>& vertices, bool isClosed) {
+  CurvePoints points;
+  const std::size_t pieces = isClosed ? vertices.size() : vertices.size() - 1;
+  for (std::size_t i = 0; i < pieces; ++i) {
+    const Vec3& a = vertices[i].point;
+    const Vec3& b = vertices[(i + 1) % vertices.size()].point;
+    const double bulge = vertices[i].bulge;
+    points.push_back(a);
+    if (bulge == 0) continue;
+    const double lift = (1 - bulge * bulge) / (4 * bulge);
+    const Vec3 centre = {(a.x + b.x) / 2 - lift * (b.y - a.y), (a.y + b.y) / 2 + lift * (b.x - a.x), a.z};
+    const Vec3 radius = {a.x - centre.x, a.y - centre.y, 0};
+    CurvePoints arc = Sweep(centre, radius, {-radius.y, radius.x, 0}, 0, 4 * geometry::ArcTangent(bulge));
+    points.insert(points.end(), arc.begin() + 1, arc.end() - 1);
+  }
+  points.push_back(isClosed ? vertices.front().point : vertices.back().point);
+  return points;
+}
+
+CurvePoints ArcPoints(const Vec3& centre, double radius, double start, double angle) {
+  return Sweep(centre, {radius, 0, 0}, {0, radius, 0}, start, angle);
+}
+
 Matrix4 ObjectToDrawing(const Vec3& extrusion) {
   Matrix4 matrix{};
   geometry::MatIdentity(matrix);
@@ -216,4 +213,4 @@ std::optional<CurvePoints> PointsOf(const std::vector<dxf::TagList>& lists) {
   return std::nullopt;
 }
 
-}  // namespace teskarlt::preview
+}  // namespace teskarlt

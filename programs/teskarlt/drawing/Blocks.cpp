@@ -1,15 +1,15 @@
 // Blocks.cpp - reads blocks and places their insertions.
-#include "teskarlt/preview/Blocks.h"
+#include "teskarlt/drawing/Blocks.h"
 
 #include <algorithm>
 
+#include "teskarlt/drawing/Curves.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
-#include "teskarlt/preview/Curves.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 
 namespace {
 
@@ -49,14 +49,19 @@ Blocks ReadBlocks(const dxf::Document& drawing) {
     }
     entity = {};
   };
+  bool isInPart = false;
   for (dxf::Tag tag; reader.Next(tag);) {
+    if (tag.code == dxf::CODE_HANDLE && !isInPart && entity.handle == 0)
+      entity.handle = dxf::ParseHandle(tag.value).value_or(0);
     if (tag.code != dxf::CODE_TYPE) continue;
     const std::string_view type = dxf::Trimmed(tag.value);
-    if (dxf::IsPartType(type)) continue;
+    isInPart = dxf::IsPartType(type);
+    if (isInPart) continue;
     if (entity.type == dxf::TYPE_BLOCK) {
       const dxf::TagList head = drawing.TagLists(Between(begin, reader.TagBegin())).front();
       block = &blocks[dxf::FoldedName(head.Text(dxf::CODE_NAME))];
       block->base = head.Point(dxf::CODE_BLOCK_BASE);
+      block->isAttached = (head.Integer(dxf::CODE_BLOCK_FLAGS) & dxf::BLOCK_ATTACHED) != 0;
       entity = {};
     } else {
       close();
@@ -92,4 +97,4 @@ std::vector<Matrix4> InsertMatrices(const dxf::TagList& insert, const Vec3& base
   return matrices;
 }
 
-}  // namespace teskarlt::preview
+}  // namespace teskarlt

@@ -9,10 +9,11 @@
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/dxf/read/TagList.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 
 struct Block {
-  geometry::Vec3 base{};  // the point that comes to lie at the insertion point
+  geometry::Vec3 base{};    // the point that comes to lie at the insertion point
+  bool isAttached = false;  // it stands for another drawing, whose entities are not here
   std::vector<dxf::Entity> entities;
 };
 
@@ -23,4 +24,4 @@ Blocks ReadBlocks(const dxf::Document& drawing);
 // From the block's coordinates to those around the INSERT: one matrix for each row and column of its array.
 std::vector<geometry::Matrix4> InsertMatrices(const dxf::TagList& insert, const geometry::Vec3& base);
 
-}  // namespace teskarlt::preview
+}  // namespace teskarlt

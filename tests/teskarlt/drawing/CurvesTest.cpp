@@ -2,16 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include "teskarlt/preview/Curves.h"
-#include "tests/teskarlt/preview/Drawings.h"
+#include "teskarlt/drawing/Curves.h"
+#include "tests/teskarlt/drawing/Drawings.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 namespace {
 
 CurvePoints Points(const std::string& entity) {
-  const dxf::Document drawing = Drawing({.entities = entity});
+  const dxf::Document drawing = Drawing("", Groups(entity));
   return PointsOf(drawing.TagLists(drawing.Entities()[0].text)).value();
 }
+
+using geometry::Vec3;
 
 void ExpectPoint(const Vec3& p, double x, double y, double z) {
   EXPECT_NEAR(p.x, x, 1e-12);
@@ -73,7 +75,7 @@ TEST(PointsOf, WeightedSplineIsAQuarterOfACircle) {
 }
 
 TEST(PointsOf, OtherEntitiesAreNoCurves) {
-  const dxf::Document drawing = Drawing({.entities = "0 TEXT|1 Hello|"});
+  const dxf::Document drawing = Drawing("", Groups("0 TEXT|1 Hello|"));
   EXPECT_FALSE(PointsOf(drawing.TagLists(drawing.Entities()[0].text)));
 }
 
@@ -82,4 +84,4 @@ TEST(PointsOf, HugeAnglesDoNotHang) {
 }
 
 }  // namespace
-}  // namespace teskarlt::preview
+}  // namespace teskarlt

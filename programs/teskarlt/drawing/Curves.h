@@ -8,7 +8,7 @@
 #include "geometry/Vec3.h"
 #include "teskarlt/dxf/read/TagList.h"
 
-namespace teskarlt::preview {
+namespace teskarlt {
 
 using CurvePoints = std::vector<geometry::Vec3>;
 
@@ -17,6 +17,21 @@ using CurvePoints = std::vector<geometry::Vec3>;
 // entities that are no curves, an empty list for one without extent.
 std::optional<CurvePoints> PointsOf(const std::vector<dxf::TagList>& lists);
 
+// A vertex of a polyline in a plane; `bulge` is the tangent
+// of a quarter of the angle of the arc to the next one.
+struct BulgeVertex {
+  geometry::Vec3 point;
+  double bulge = 0;
+};
+
+// The points of a polyline in the plane z = constant, of which there is at least one vertex; a closed one
+// ends where it begins.
+CurvePoints WithBulges(const std::vector<BulgeVertex>& vertices, bool isClosed);
+
+// The points of an arc around the z axis of its centre from the angle `start` on, over `angle`, both radians
+// and counter-clockwise.
+CurvePoints ArcPoints(const geometry::Vec3& centre, double radius, double start, double angle);
+
 // The extrusion direction of an entity that names none.
 constexpr geometry::Vec3 UPWARDS = {0, 0, 1};
 
@@ -24,4 +39,4 @@ constexpr geometry::Vec3 UPWARDS = {0, 0, 1};
 // the arbitrary axis rule of the format.
 geometry::Matrix4 ObjectToDrawing(const geometry::Vec3& extrusion);
 
-}  // namespace teskarlt::preview
+}  // namespace teskarlt
