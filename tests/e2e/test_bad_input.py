@@ -82,7 +82,7 @@ def test_damaged_drawing(teskarlt, tmp_path, damage):
     ([*INSERT, "--set", "markerValue=0"], ["markerValue"]),
     ([*INSERT, "--set", "pitch=20"], ["pitch 20"]),
     ([*INSERT, "--units", "parsec"], ["parsec"]),
-    ([*INSERT, "--set", "lowerEdgeHeight=99"], ["leave the roof face", "3.05 to 6.201 m"]),
+    ([*INSERT, "--set", "lowerEdgeHeight=99"], ["leave the roof face", "passes the ridge by", "the highest lower edge is 5.398 m"]),
     ([*INSERT, "--set", "skirtHeight=1e305"], ["skirtHeight", "10000"]),
     (["--at", "2500,3900"], ["leave the roof face"]),
 ], ids=str)

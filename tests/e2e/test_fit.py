@@ -105,7 +105,7 @@ def test_window_that_leaves_its_face_is_found(teskarlt, house):
     drawing.saveas(house)
     findings = teskarlt.done("check", house, "--json").json["findings"]
     assert [finding["message"] for finding in findings if finding["kind"] == "window-misfit"] == [
-        "window 1: 50.0 % of it lie outside its roof face"]
+        "window 1: it passes the left verge by 0.470 m"]
 
 
 def test_window_with_a_second_plane_of_its_own_is_not_measured_by_its_roof(teskarlt, tmp_path):

@@ -48,11 +48,11 @@ void AddInsertCommand(OptionParser& parser) {
   AddRowOptions(command, options->row);
   const Option jobsFile =
       command
-          .Value("--jobs", jobs->file,
-                 "many windows: a JSON object a line with \"at\", \"on\", \"roof\", \"window\", "
-                 "\"catalogue\", \"set\", \"row\", \"spacing\", \"gap\", \"column\", \"row-from\"; - reads "
-                 "standard "
-                 "input")
+          .Value(
+              "--jobs", jobs->file,
+              "many windows: a JSON object a line with \"at\", \"on\", \"roof\", \"window\", "
+              "\"catalogue\", \"set\", \"row\", \"spacing\", \"gap\", \"column\", \"row-from\" and the words "
+              "for a place; - reads standard input")
           .Named("FILE")
           .NotEmpty()
           .Excludes(at);
@@ -74,6 +74,7 @@ void AddInsertCommand(OptionParser& parser) {
       "  teskarlt insert house.dxf --at 3000,2000 --window \"OL 94x140\" --catalogue examples/BREVANTA.LIB\n"
       "  teskarlt insert house.dxf --at 3000,2000 --on R1 --set lowerEdgeHeight=4.2\n"
       "  teskarlt insert house.dxf --at 2500,1200 --row 3 --spacing 1.8\n"
+      "  teskarlt insert house.dxf --on R2 --from-eaves 1.2 --centre\n"
       "  teskarlt insert house.dxf --jobs windows.jsonl --set frameWidth=0.1\n"
       "A line of windows.jsonl; options beside --jobs hold where a line does not say otherwise:\n"
       "  {\"at\": [3000, 2000], \"set\": {\"width\": 0.78, \"openingCode\": \"D\"}}");

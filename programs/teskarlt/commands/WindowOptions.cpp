@@ -1,12 +1,16 @@
 // WindowOptions.cpp - what the command lines that insert and change a window have in common.
 #include "teskarlt/commands/WindowOptions.h"
 
+#include <span>
+
 #include <fmt/format.h>
 
+#include "inc/DialogServices.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/terminal/Report.h"
+#include "teskarlt/windows/PlaceWords.h"
 #include "teskarlt/windows/PointText.h"
 
 namespace teskarlt {
@@ -22,6 +26,38 @@ FieldSetting ParseSetting(const std::string& text) {
   return {text.substr(0, equals), text.substr(equals + 1)};
 }
 
+std::string Joined(const std::vector<std::string>& values) {
+  std::string text;
+  for (const std::string& value : values)
+    text += (text.empty() ? "" : std::string(1, brevanta::POINT_DELIMITER)) + value;
+  return text;
+}
+
+void AddPlaceWords(Subcommand& command, std::span<const PlaceWord> words, const char* heading,
+                   WindowOptions& options) {
+  for (const PlaceWord& word : words) {
+    const std::string name = fmt::format("--{}", word.name);
+    if (word.values == 0) {
+      command.Flag(name.c_str(), options.placeFlags[word.name], word.help).Under(heading);
+    } else {
+      command.Values(name.c_str(), word.values, options.placeWords[word.name], word.help)
+          .Named(word.valueName)
+          .Under(heading);
+    }
+  }
+}
+
+void ApplyPlaceWords(const WindowOptions& options, WindowOrder& order) {
+  for (const auto& [name, values] : options.placeWords) {
+    const PlaceWord& word = *FindPlaceWord(name);
+    if (!values.empty()) word.apply(word, Joined(values), order);
+  }
+  for (const auto& [name, isGiven] : options.placeFlags) {
+    const PlaceWord& word = *FindPlaceWord(name);
+    if (isGiven) word.apply(word, "1", order);
+  }
+}
+
 }  // namespace
 
 Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
@@ -33,6 +69,8 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
                                "the roof or one of its faces, as teskarlt roofs lists them")
                         .Named("NAME");
   command.Values("--roof", 3, options.roof, "three points of the roof's plane").Named("X,Y,Z").Excludes(on);
+  AddPlaceWords(command, PlanRoofWords(), "A roof that is only drawn in plan", options);
+  AddPlaceWords(command, PlacingWords(), "The place on the roof", options);
   const Option window =
       command.Value("--window", options.window, "a catalogue's window, whose sizes and texts are taken")
           .Named("MAKER/KEY")
@@ -65,6 +103,7 @@ void AddLockedOption(Subcommand& command, bool& isLockedToo) {
 
 WindowOrder OrderOf(const WindowOptions& options) {
   WindowOrder order;
+  order.lengths = StyleSaid(options.lengths);
   order.window = options.window;
   order.catalogue = options.catalogue;
   for (const std::string& setting : options.settings)
@@ -74,8 +113,11 @@ WindowOrder OrderOf(const WindowOptions& options) {
   for (const std::string& point : options.roof)
     order.roof.push_back(ParsePoint("--roof", point));
   order.row = RowOf(options.row);
+  const bool namesRoof = !order.roofName.empty() || !order.roof.empty();
+  ApplyPlaceWords(options, order);
+  if (namesRoof && order.planRoof.IsGiven())
+    throw Error("--eaves and --ridge give the roof already; leave --on and --roof out");
   order.isStrict = options.isStrict;
-  order.lengths = StyleSaid(options.lengths);
   return order;
 }
 

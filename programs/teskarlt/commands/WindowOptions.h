@@ -1,6 +1,7 @@
 // WindowOptions.h - what the command lines that insert and change a window have in common.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -17,7 +18,9 @@ struct WindowOptions {
   ResultTarget target;
   std::string at;
   std::string roofName;
-  std::vector<std::string> roof;  // no or three points
+  std::vector<std::string> roof;                               // no or three points
+  std::map<std::string, std::vector<std::string>> placeWords;  // values by the names of PlaceWords.h
+  std::map<std::string, bool> placeFlags;
   std::string window;
   std::string catalogue;
   std::vector<std::string> settings;

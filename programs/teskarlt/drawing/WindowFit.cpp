@@ -13,6 +13,7 @@
 #include "geometry/Vectors.h"
 #include "inc/RecordPoints.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/SlopeReach.h"
 #include "teskarlt/drawing/WindowShape.h"
 #include "window/SecondPlane.h"
 
@@ -153,6 +154,12 @@ void WindowFit::Add(std::int32_t number, const Outline& outline) {
   widest_ = std::max(widest_, most - least);
 }
 
+std::optional<Outline> WindowFit::OutlineOf(std::int32_t number) const {
+  for (const auto& [x, place] : places_)
+    if (place.number == number) return place.outline;
+  return std::nullopt;
+}
+
 // "it overlaps windows 1, 2 and 3 more"; empty when it overlaps none.
 std::string WindowFit::Overlapped(const Outline& outline) const {
   constexpr std::size_t MOST_NAMED = 10;
@@ -175,6 +182,16 @@ std::string WindowFit::Overlapped(const Outline& outline) const {
   return text;
 }
 
+// "it passes the ridge by 0.12 m"; over a hole, how much of it.
+std::string WindowFit::Outside(const WindowParams& record, const Outline& outline, double covered) const {
+  const RoofFace& face = *FacesInPlaneOf(outline, roofs_).front();
+  const std::string passed =
+      PassedEdges(outline, teskarlt::OutlineOf(*roofs_.SurfaceOf(face), roofs_.Faces(), roofs_.Tolerance()),
+                  record.unitFactor);
+  if (!passed.empty()) return "it " + passed;
+  return fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT);
+}
+
 std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Outline& outline) const {
   std::vector<std::string> misfits;
   if (std::string overlapped = Overlapped(outline); !overlapped.empty())
@@ -184,7 +201,7 @@ std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Ou
   if (covered <= 0.0) {
     misfits.emplace_back("it lies on no roof face");
   } else if (!IsWhole(covered)) {
-    misfits.push_back(fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT));
+    misfits.push_back(Outside(record, outline, covered));
   }
   const double unevenness = UnevennessIn(outline, roofs_) / roofs_.Tolerance();
   if (unevenness > ROOF_UNEVENNESS)

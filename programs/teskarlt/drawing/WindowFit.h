@@ -54,6 +54,9 @@ class WindowFit {
               const DrawnWindow* except = nullptr);
   void Add(std::int32_t number, const Outline& outline);
 
+  // The outline of a window that was added; none when there is no such number.
+  std::optional<Outline> OutlineOf(std::int32_t number) const;
+
   // What is wrong with a window that is to come or stands there, for people: "it overlaps window 3". The
   // roofs have no part in it where the drawing has none and where the window has a second plane of its own.
   std::vector<std::string> Misfits(const brevanta::WindowParams& record, const Outline& outline) const;
@@ -67,6 +70,7 @@ class WindowFit {
   };
 
   std::string Overlapped(const Outline& outline) const;
+  std::string Outside(const brevanta::WindowParams& record, const Outline& outline, double covered) const;
 
   const Roofs& roofs_;
   std::multimap<double, Place> places_;  // by the least x

@@ -59,6 +59,11 @@ Option& Option::NotNegative() {
   return *this;
 }
 
+Option& Option::Under(const char* heading) {
+  option_->group(heading);
+  return *this;
+}
+
 Option& Option::ShowDefault() {
   option_->capture_default_str();
   return *this;

@@ -41,6 +41,8 @@ class Option {
   Option& OneOfAnyCase(const std::vector<std::string>& words);
   Option& Within(int least, int most);
   Option& NotNegative();  // nor infinite nor no number
+  // Under this heading in the help, not among the other options.
+  Option& Under(const char* heading);
   // The value that it has before the parsing stands in the help.
   Option& ShowDefault();
   // A command line that has both options, or this one without the other, is refused.

@@ -7,6 +7,7 @@
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/modules/DataFolder.h"
 #include "teskarlt/windows/FeetInches.h"
+#include "teskarlt/windows/SizeWords.h"
 #include "window/Choices.h"
 #include "window/RecordFields.h"
 
@@ -71,8 +72,10 @@ const Catalogue& CatalogueShelf::Get(const std::string& path) {
 DialogAnswers AnswersOf(const WindowOrder& order, const dxf::Document& drawing, CatalogueShelf& shelf) {
   DialogAnswers answers;
   if (!order.window.empty()) AddCatalogueWindow(order, drawing, shelf, answers);
-  for (const FieldSetting& setting : order.settings)
+  for (const FieldSetting& setting : order.settings) {
+    if (order.lengths == LengthStyle::Metres) RefuseOtherUnits(setting);
     AddSetting(setting, order.lengths, drawing, answers);
+  }
   return answers;
 }
 

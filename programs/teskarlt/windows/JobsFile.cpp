@@ -8,6 +8,7 @@
 
 #include "inc/DialogServices.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/windows/PlaceWords.h"
 #include "teskarlt/windows/PointText.h"
 
 namespace teskarlt {
@@ -46,6 +47,16 @@ std::string ValueText(const std::string& name, const json& value) {
     if (!text.empty()) text += isListOfLists ? brevanta::POINT_DELIMITER : ',';
     text += isListOfLists ? ValueText(name, item) : ScalarText(name, item);
   }
+  return text;
+}
+
+// The values of a word: those of a list, be they points or numbers, with delimiters between them.
+std::string ListText(const std::string& name, const json& value) {
+  const bool isList = value.is_array() && FindPlaceWord(name)->values > 1;
+  if (!isList) return ValueText(name, value);
+  std::string text;
+  for (const json& item : value)
+    text += (text.empty() ? "" : std::string(1, brevanta::POINT_DELIMITER)) + ValueText(name, item);
   return text;
 }
 
@@ -99,19 +110,24 @@ void ApplyMember(const std::string& name, const json& value, WindowOrder& order)
   } else if (name == "on" || name == "roof-face") {
     order.roofName = NameText(name, value);
     order.roof.clear();
+    order.planRoof = {};
   } else if (name == "roof") {
     order.roof = PlanePoints(name, value);
     order.roofName.clear();
+    order.planRoof = {};
   } else if (name == "window") {
     order.window = NameText(name, value);
   } else if (name == "catalogue") {
     order.catalogue = NameText(name, value);
   } else if (name == "set") {
     AddSettings(value, order.settings);
+  } else if (const PlaceWord* word = FindPlaceWord(name)) {
+    word->apply(*word, ListText(name, value), order);
   } else if (!ApplyRowMember(name, value, order.row)) {
     throw Error(
         fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set, row, "
-                    "spacing, gap, column and row-from",
+                    "spacing, gap, column, row-from and the options of insert that say where a window "
+                    "goes, as from-eaves",
                     name),
         {.value = name});
   }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -35,13 +36,21 @@ std::string PointsInWorkingUnits(std::string_view text, const WorkingUnit& unit)
   }
 }
 
+PlanPoint InWorkingUnits(const PlanPoint& point, const WorkingUnit& unit) {
+  return {ToWorking(point.x, unit), ToWorking(point.y, unit), point.text};
+}
+
 }  // namespace
 
 WindowOrder InWorkingUnits(const WindowOrder& order, const WorkingUnit& unit) {
   if (unit.perDrawingUnit == 1.0) return order;  // numbers stay as the user wrote them
   WindowOrder working = order;
-  if (working.at)
-    working.at = PlanPoint{ToWorking(order.at->x, unit), ToWorking(order.at->y, unit), order.at->text};
+  for (std::optional<PlanPoint>* point : {&working.at, &working.planRoof.risesTo, &working.placing.over})
+    if (*point) *point = InWorkingUnits(**point, unit);
+  for (std::vector<PlanPoint>* edge : {&working.planRoof.eaves, &working.planRoof.ridge}) {
+    for (PlanPoint& end : *edge)
+      end = InWorkingUnits(end, unit);
+  }
   for (geometry::Vec3& point : working.roof)
     point = ToWorking(point, unit);
   for (FieldSetting& setting : working.settings)

@@ -27,21 +27,41 @@ std::optional<std::vector<double>> ParseNumbers(std::string_view text) {
   }
 }
 
+// Who writes decimal commas learns how it is meant.
+std::string HintAt(std::string_view text, const char* example) {
+  const bool hasComma = text.find(',') != std::string_view::npos;
+  const bool isOfNumbers =
+      !text.empty() && text.find_first_not_of("0123456789+-., ;") == std::string_view::npos;
+  if (!hasComma || !isOfNumbers) return {};
+  return fmt::format("; decimals stand behind a point, as in {}", example);
+}
+
 }  // namespace
 
 PlanPoint ParsePlanPoint(const char* option, const std::string& text) {
   const auto numbers = ParseNumbers(text);
   if (!numbers || numbers->size() != 2) {
-    throw Error(fmt::format("{} {}: a point is two finite numbers, X,Y, in drawing units", option, text),
+    throw Error(fmt::format("{} {}: a point is two finite numbers, X,Y, in drawing units{}", option, text,
+                            HintAt(text, "3000.5,2000")),
                 {.value = text});
   }
   return {(*numbers)[0], (*numbers)[1], text};
 }
 
+double ParseLength(const char* option, const std::string& text, LengthStyle style) {
+  if (const std::optional<double> metres = ParseFeetInches(text)) return *metres;
+  const double metresEach = style == LengthStyle::Metres ? 1.0 : METRES_PER_FOOT;
+  if (const std::optional<double> number = dxf::ParseReal(text)) return *number * metresEach;
+  throw Error(
+      fmt::format("{} {}: a length is a finite number of metres{}", option, text, HintAt(text, "0.5")),
+      {.value = text});
+}
+
 geometry::Vec3 ParsePoint(const char* option, const std::string& text) {
   const auto numbers = ParseNumbers(text);
   if (!numbers || numbers->size() != 3) {
-    throw Error(fmt::format("{} {}: a point is three finite numbers, X,Y,Z, in drawing units", option, text),
+    throw Error(fmt::format("{} {}: a point is three finite numbers, X,Y,Z, in drawing units{}", option, text,
+                            HintAt(text, "3000.5,2000,2750")),
                 {.value = text});
   }
   return {(*numbers)[0], (*numbers)[1], (*numbers)[2]};

@@ -15,4 +15,8 @@ geometry::Vec3 ParsePoint(const char* option, const std::string& text);
 // "ACROSS,UP" in metres. Throws Error, naming the option, for anything but finite numbers.
 SlopeMove ParseSlopeMove(const char* option, const std::string& text);
 
+// A length, which becomes metres: a number of what the style counts, or feet and inches with their marks.
+// Throws Error, naming the option, for anything else.
+double ParseLength(const char* option, const std::string& text, LengthStyle style);
+
 }  // namespace teskarlt

@@ -10,12 +10,14 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/windows/PlanRoof.h"
 
 namespace teskarlt {
 
 namespace {
 
 constexpr std::string_view PLANE_FIELD = "roofPlanePoints";
+constexpr double MILLIMETRES_A_METRE = 1000.0;
 
 bool SetsPlane(const WindowOrder& order) {
   return std::any_of(order.settings.begin(), order.settings.end(),
@@ -41,12 +43,13 @@ std::string PlanExtents(const Roofs& roofs) {
 
 // Why a window cannot go onto a face, for people.
 std::string Hindrance(const RoofFace& face, const Roofs& roofs) {
-  if (IsSteep(face)) return fmt::format("is {:.1f} degrees steep, and no roof above 85", Pitch(face.plane));
+  if (IsSteep(face))
+    return fmt::format("is a wall, {:.1f} degrees steep, and no roof above 85", Pitch(face.plane));
   return fmt::format("is not planar: a corner lies {:.0f} mm off its plane",
                      std::ceil(Warp(face) / roofs.Tolerance()));
 }
 
-constexpr const char* PLANE_HINT = "--roof X,Y,Z X,Y,Z X,Y,Z gives a plane in its place";
+constexpr const char* PLANE_HINT = "--roof X,Y,Z X,Y,Z X,Y,Z or --eaves gives a plane in its place";
 
 // The surface's face at the point, if there is one, else the largest.
 const RoofFace& FaceOf(const RoofSurface& surface, const std::optional<PlanPoint>& at, const Roofs& roofs) {
@@ -152,17 +155,21 @@ RoofChoice OnPlane(std::vector<geometry::Vec3> points) {
 
 RoofChoice ChooseRoof(const WindowOrder& order, const std::string& file, const Roofs& roofs) {
   const bool setsPlane = SetsPlane(order);
-  if (setsPlane && (!order.roof.empty() || !order.roofName.empty()))
-    throw Error("--set roofPlanePoints gives the roof already; leave --roof and --on out");
+  if (setsPlane && (!order.roof.empty() || !order.roofName.empty() || order.planRoof.IsGiven()))
+    throw Error("--set roofPlanePoints gives the roof already; leave --roof, --on, --eaves and --ridge out");
+  if (order.planRoof.IsGiven())
+    return OnPlane(PlaneOf(order.planRoof, MILLIMETRES_A_METRE * roofs.Tolerance()));
   if (!order.roof.empty()) return OnPlane(order.roof);
   if (setsPlane) return {};
   if (!order.roofName.empty()) return OnFace(NamedFace(order, file, roofs), roofs);
-  if (!order.at) throw Error("say where the window goes with --at X,Y");
+  if (!order.at)
+    throw Error("say where the window goes with --at X,Y, or on which roof with --on NAME and where on it");
   return OnFace(FaceAt(*order.at, file, roofs), roofs);
 }
 
 bool NamesPlace(const WindowOrder& order) {
-  return order.at || !order.roof.empty() || !order.roofName.empty() || SetsPlane(order);
+  return order.at || !order.roof.empty() || !order.roofName.empty() || order.planRoof.IsGiven() ||
+         SetsPlane(order);
 }
 
 void PutRoof(const RoofChoice& roof, WindowRequest& request) {

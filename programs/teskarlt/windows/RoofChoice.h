@@ -26,10 +26,10 @@ RoofChoice OnFace(const RoofFace& face, const Roofs& roofs);
 // The plane without bounds through three points.
 RoofChoice OnPlane(std::vector<geometry::Vec3> points);
 
-// What the order says of the roof: its plane, the surface or face that it names, or the uppermost at its
-// point. Empty where the order sets the field of the roof's points, which the dialog reads itself. Throws
-// Error, naming the option, when there is no such face in the file, several, one that takes no window, or too
-// much is said.
+// What the order says of the roof: its plane, the edge of one that is only drawn in plan, the surface or face
+// that it names, or the uppermost at its point. Empty where the order sets the field of the roof's points,
+// which the dialog reads itself. Throws Error, naming the option, when there is no such face in the file,
+// several, one that takes no window, or too much is said.
 RoofChoice ChooseRoof(const WindowOrder& order, const std::string& file, const Roofs& roofs);
 
 // Whether the order says on which roof the window goes, or where on it.

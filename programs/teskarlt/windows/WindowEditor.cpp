@@ -17,7 +17,9 @@
 #include "teskarlt/windows/AllOrNone.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/ClosedLayers.h"
+#include "teskarlt/windows/OntoRoof.h"
 #include "teskarlt/windows/OrderUnits.h"
+#include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/RoofChoice.h"
 #include "teskarlt/windows/WindowChanges.h"
 #include "teskarlt/windows/WindowChoice.h"
@@ -138,15 +140,36 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
   const RoofChoice roof =
       moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(window.reading, work_);
   PutRoof(roof, request);
+  if (IsGiven(order.placing)) PutPlace(order, roof, request);
 
   const dxf::EditMark before = work_.drawing.Mark();
   EditedWindow edited;
-  edited.placed = PlacedBy(module_.Edit(work_.drawing, request), work_.unit, roof);
+  edited.placed = PlacedBy(EditOnto(roof, request), work_.unit, roof);
   const WindowParams& after = edited.placed.record;
   edited.changes = ChangedFields(record, after);
   edited.isRewritten = !StandsAs(window, after);
   if (!edited.isRewritten) work_.drawing.Rollback(before);
   return edited;
+}
+
+CommandOutcome WindowEditor::EditOnto(const RoofChoice& roof, const WindowRequest& request) {
+  return RunOntoRoof(request, roof, work_.roofs, work_.drawing,
+                     [&](const WindowRequest& run) { return module_.Edit(work_.drawing, run); });
+}
+
+void WindowEditor::PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request) {
+  const auto tryOut = [&](const WindowRequest& trial) {
+    const dxf::EditMark before = work_.drawing.Mark();
+    const CommandOutcome outcome = module_.Edit(work_.drawing, trial);
+    work_.drawing.Rollback(before);
+    return *outcome.confirmed;
+  };
+  const auto outlineOf = [&](int number) -> std::optional<Outline> {
+    for (const DrawnWindow& window : work_.windows)
+      if (window.number == number) return DrawnOutline(work_.drawing, window);
+    return std::nullopt;
+  };
+  request.point = PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf);
 }
 
 void WindowEditor::FindMisfits(std::vector<EditedWindow>& edited) const {

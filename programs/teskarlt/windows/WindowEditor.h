@@ -8,6 +8,7 @@
 #include "teskarlt/modules/WindowModule.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/PlacedWindow.h"
+#include "teskarlt/windows/RoofChoice.h"
 #include "teskarlt/windows/WindowChoice.h"
 #include "teskarlt/windows/WindowOrder.h"
 #include "teskarlt/windows/WorkedDrawing.h"
@@ -48,6 +49,9 @@ class WindowEditor {
 
  private:
   EditedWindow EditOne(const EditableWindow& window, const WindowOrder& order);
+  CommandOutcome EditOnto(const RoofChoice& roof, const WindowRequest& request);
+  // Puts the point for which the order's words stand into the request.
+  void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
   void FindMisfits(std::vector<EditedWindow>& edited) const;
   // Throws Error for windows with misfits.
   void RefuseMisfitting(const std::vector<EditedWindow>& edited) const;

@@ -9,7 +9,9 @@
 #include "teskarlt/Error.h"
 #include "teskarlt/drawing/SlopeFrame.h"
 #include "teskarlt/windows/AllOrNone.h"
+#include "teskarlt/windows/OntoRoof.h"
 #include "teskarlt/windows/OrderUnits.h"
+#include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/RowPoints.h"
 
 namespace teskarlt {
@@ -24,6 +26,8 @@ bool Sets(const WindowOrder& order, std::string_view field) {
 // Refuses what would put all windows of a row at one place.
 void CheckRoomForRow(const WindowOrder& order) {
   if (!order.at) throw Error("--row: say the point of the row with --at X,Y");
+  if (IsGiven(order.placing))
+    throw Error("--row starts at its point; leave the words for the place of one window out");
   if (Sets(order, "roofPlanePoints"))
     throw Error("--row: roofPlanePoints cannot be set for a row; --roof gives its plane");
   if (!order.row.isColumn.value_or(false)) return;
@@ -69,7 +73,8 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
   request.answers = AnswersOf(order, work_.drawing, shelf_);
   if (order.at) request.point = {order.at->x, order.at->y};
   PutRoof(roof, request);
-  PlacedWindow window = PlacedBy(module_.Insert(work_.drawing, request), work_.unit, roof);
+  if (IsGiven(order.placing)) PutPlace(order, roof, request);
+  PlacedWindow window = PlacedBy(InsertOnto(roof, request), work_.unit, roof);
   window.misfits = fit_.Misfits(window.record, window.outline);
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
   return window;
@@ -115,6 +120,22 @@ double WindowInserter::StepOf(const WindowOrder& order, RoofChoice roof) {
 void WindowInserter::Count(const PlacedWindow& window) {
   fit_.Add(window.record.markerValue, window.outline);
   numbers_.Take(window.record.markerValue);
+}
+
+CommandOutcome WindowInserter::InsertOnto(const RoofChoice& roof, const WindowRequest& request) {
+  return RunOntoRoof(request, roof, work_.roofs, work_.drawing,
+                     [&](const WindowRequest& run) { return module_.Insert(work_.drawing, run); });
+}
+
+void WindowInserter::PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request) {
+  const auto tryOut = [&](const WindowRequest& trial) {
+    const dxf::EditMark before = work_.drawing.Mark();
+    const CommandOutcome outcome = module_.Insert(work_.drawing, trial);
+    work_.drawing.Rollback(before);
+    return *outcome.confirmed;
+  };
+  const auto outlineOf = [&](int number) { return fit_.OutlineOf(number); };
+  request.point = PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf);
 }
 
 }  // namespace teskarlt

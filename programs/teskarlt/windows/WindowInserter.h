@@ -36,6 +36,9 @@ class WindowInserter {
   // How far apart the points of a row lie, in working units along the roof.
   double StepOf(const WindowOrder& order, RoofChoice roof);
   void Count(const PlacedWindow& window);
+  CommandOutcome InsertOnto(const RoofChoice& roof, const WindowRequest& request);
+  // Puts the point for which the order's words stand into the request.
+  void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
 
   const WindowModule& module_;
   const WorkedDrawing work_;

@@ -1,6 +1,7 @@
 // WindowOrder.h - what the user wants of a window that is inserted or edited.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +17,8 @@ struct PlanPoint {
   double x;
   double y;
   std::string text;  // as the user wrote it, for messages
+
+  bool operator==(const PlanPoint&) const = default;
 };
 
 // How far a window moves in its roof, metres.
@@ -30,6 +33,40 @@ struct FieldSetting {
   std::string value;
 };
 
+// A roof that is only drawn in plan: one of its edges, the edge's height and the pitch.
+struct PlanRoof {
+  std::vector<PlanPoint> eaves;       // no or two ends; the roof lies to the left of the way between them
+  std::vector<PlanPoint> ridge;       // likewise
+  std::optional<double> pitch;        // degrees
+  std::optional<double> eavesHeight;  // metres
+  std::optional<double> ridgeHeight;
+  std::optional<PlanPoint> risesTo;  // lies on the side to which the roof rises
+
+  bool IsGiven() const {
+    return !eaves.empty() || !ridge.empty() || pitch || eavesHeight || ridgeHeight || risesTo;
+  }
+};
+
+enum class AlignedEdge { Top, Bottom, Axis };
+
+// Where on its roof a window goes, by words besides or in place of a point. Lengths in metres.
+struct Placing {
+  std::optional<double> fromEaves = {};  // along the slope, to the frame
+  std::optional<double> fromRidge = {};
+  std::optional<double> sill = {};  // height of the frame's lower edge, and of its upper one
+  std::optional<double> head = {};
+  std::optional<double> fromVerge = {};  // the left one as seen from below the eaves
+  std::optional<double> fromRightVerge = {};
+  bool isCentred = false;
+  std::optional<std::array<int, 2>> between = {};  // the numbers of two windows
+  std::optional<PlanPoint> over = {};
+  std::optional<int> align = {};  // the number of a window
+  std::optional<AlignedEdge> edge = {};
+  std::optional<double> snap = {};
+
+  bool operator==(const Placing&) const = default;
+};
+
 // Texts are UTF-8 and empty where the user said nothing.
 struct WindowOrder {
   std::optional<PlanPoint> at;
@@ -37,8 +74,10 @@ struct WindowOrder {
   RowOrder row;                 // of windows that are inserted
   std::string roofName;         // of a surface or face; without it the uppermost face at the point is taken
   std::vector<geometry::Vec3> roof;  // three points of a plane in place of a face, in drawing units; or none
-  std::string window;                // of a catalogue, "MAKER/KEY"
-  std::string catalogue;             // its file or folder; without it the one in the data folder
+  PlanRoof planRoof;                 // the same
+  Placing placing;
+  std::string window;                  // of a catalogue, "MAKER/KEY"
+  std::string catalogue;               // its file or folder; without it the one in the data folder
   std::vector<FieldSetting> settings;  // of the same field the last one holds
   // What plain numbers of settings that are lengths count; marked ones are feet and inches in either case.
   LengthStyle lengths = LengthStyle::Metres;

@@ -81,6 +81,32 @@ TEST(ParseJob, RoofOfTheJobReplacesThatOfTheDefaults) {
   EXPECT_TRUE(face.roof.empty());
 }
 
+TEST(ParseJob, WordsForAPlaceAreThoseOfTheCommandLine) {
+  const WindowOrder order = ParseJob(
+      R"({"eaves": [[0, 0], [8, 0]], "pitch": 35, "eaves-height": 2.5, "from-eaves": 1, "centre": true})",
+      {});
+  ASSERT_EQ(order.planRoof.eaves.size(), 2U);
+  EXPECT_EQ(order.planRoof.eaves[1].x, 8);
+  EXPECT_EQ(order.planRoof.pitch, 35);
+  EXPECT_EQ(order.planRoof.eavesHeight, 2.5);
+  EXPECT_EQ(order.placing.fromEaves, 1);
+  EXPECT_TRUE(order.placing.isCentred);
+  EXPECT_EQ(ParseJob(R"({"between": [3, 7]})", {}).placing.between, (std::array{3, 7}));
+}
+
+TEST(ParseJob, RoofOfAJobReplacesTheEdgesOfTheDefaults) {
+  const WindowOrder defaults = ParseJob(R"({"eaves": ["0,0", "8,0"], "pitch": 35, "eaves-height": 2.5})", {});
+  EXPECT_FALSE(ParseJob(R"({"on": "R1"})", defaults).planRoof.IsGiven());
+}
+
+TEST(ParseJob, WordsThatCannotBeMeantAreRefusedByName) {
+  EXPECT_EQ(Refusal(R"({"pitch": 90})"), "--pitch 90: a pitch is a number of degrees from 0 to 85");
+  EXPECT_EQ(Refusal(R"({"sill": "high"})"), "--sill high: a length is a finite number of metres");
+  EXPECT_EQ(Refusal(R"({"between": [3]})"), "--between 3: it takes the numbers of two windows");
+  EXPECT_EQ(Refusal(R"({"align": 1.5})"), "--align 1.5: a window is named by its number");
+  EXPECT_EQ(Refusal(R"({"snap": 0})"), "--snap 0: a step is more than 0");
+}
+
 TEST(ParseJob, RowHasTheNamesOfTheOptions) {
   const WindowOrder order = ParseJob(R"({"row": 5, "gap": 0.1, "column": true, "row-from": "top"})", {});
   EXPECT_EQ(order.row.count, 5);
@@ -110,8 +136,8 @@ TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
   EXPECT_EQ(Refusal(R"({"set": 3})"), R"(set: 3 is no object, as {"width": 0.78} is one)");
   EXPECT_EQ(Refusal(R"({"at": [1e999, 0]})"), "a number is too large");
   EXPECT_EQ(Refusal(R"({"place": 1})"),
-            R"(a job has no member "place"; it can have at, on, roof, window, catalogue, set, row, )"
-            "spacing, gap, column and row-from");
+            R"(a job has no member "place"; it can have at, on, roof, window, catalogue, set, row, spacing, )"
+            "gap, column, row-from and the options of insert that say where a window goes, as from-eaves");
 }
 
 TEST(ParseJob, LongValueIsShownByItsBeginning) {

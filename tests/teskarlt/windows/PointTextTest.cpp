@@ -1,4 +1,6 @@
 // PointTextTest.cpp - points as users write them.
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include "teskarlt/Error.h"
@@ -25,6 +27,27 @@ TEST(ParsePlanPoint, AnythingElseIsAnErrorThatNamesTheOption) {
   } catch (const Error& error) {
     EXPECT_STREQ(error.what(), "--at 1: a point is two finite numbers, X,Y, in drawing units");
   }
+}
+
+TEST(ParsePlanPoint, ExplainsADecimalComma) {
+  for (const char* text : {"3000,5 2000", "3000,5,2000,5", "3000,5;2000"}) {
+    try {
+      ParsePlanPoint("--at", text);
+      FAIL();
+    } catch (const Error& error) {
+      EXPECT_STREQ(error.what(), (std::string("--at ") + text +
+                                  ": a point is two finite numbers, X,Y, in drawing units; decimals stand "
+                                  "behind a point, as in 3000.5,2000")
+                                     .c_str());
+    }
+  }
+}
+
+TEST(ParseLength, TakesMetresFeetAndMarks) {
+  EXPECT_EQ(ParseLength("--sill", "2.5", LengthStyle::Metres), 2.5);
+  EXPECT_EQ(ParseLength("--sill", "10", LengthStyle::FeetAndInches), 3.048);
+  EXPECT_EQ(ParseLength("--sill", "10'", LengthStyle::Metres), 3.048);
+  EXPECT_THROW(ParseLength("--sill", "0,5", LengthStyle::Metres), Error);
 }
 
 TEST(ParsePoint, TakesThreeNumbers) {

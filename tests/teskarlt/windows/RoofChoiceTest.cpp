@@ -64,7 +64,9 @@ TEST_F(RoofChoiceTest, FieldOfTheRoofLeavesTheChoiceToTheDialog) {
   order.settings = {{"roofPlanePoints", "0,0,0;1,0,0;0,1,1"}};
   EXPECT_TRUE(Choose(order).corners.empty());
   order.roofName = Face(0).name;
-  EXPECT_EQ(Refusal(order), "--set roofPlanePoints gives the roof already; leave --roof and --on out");
+  EXPECT_EQ(Refusal(order),
+            "--set roofPlanePoints gives the roof already; leave --roof, --on, --eaves and "
+            "--ridge out");
 }
 
 TEST_F(RoofChoiceTest, PointBesideTheRoofsIsToldWithTheirExtents) {
@@ -83,7 +85,8 @@ TEST_F(RoofChoiceTest, ExtentsFarFromTheOriginAreToldToTheUnit) {
 }
 
 TEST_F(RoofChoiceTest, OrderWithoutAPlaceAndUnknownNamesAreRefused) {
-  EXPECT_EQ(Refusal({}), "say where the window goes with --at X,Y");
+  EXPECT_EQ(Refusal({}),
+            "say where the window goes with --at X,Y, or on which roof with --on NAME and where on it");
   WindowOrder order;
   order.roofName = "FFFF";
   EXPECT_EQ(Refusal(order),
@@ -125,14 +128,15 @@ TEST_F(RoofChoiceTest, UnevenRoofDoesNotLetTheWindowFallOntoItsCeiling) {
   EXPECT_EQ(Refusal(OrderAt(4000, 1000)),
             "--at 4000,1000: the uppermost face over that point, " + Face(0).name +
                 " of layer ROOF, is not planar: a corner lies 72 mm off its plane; --on names another "
-                "one, and --roof X,Y,Z X,Y,Z X,Y,Z gives a plane in its place");
+                "one, and --roof X,Y,Z X,Y,Z X,Y,Z or --eaves gives a plane in its place");
 }
 
 TEST_F(RoofChoiceTest, FaceThatIsNoRoofIsRefusedByItsName) {
   TakeHouse({RoofAt(0), {{0, 0, 0}, {8000, 0, 0}, {8000, 100, 3000}, {0, 100, 3000}}});
   WindowOrder order = OrderAt(4000, 50);
   order.roofName = Face(1).name;
-  EXPECT_THAT(Refusal(order), HasSubstr(" is 88.1 degrees steep, and no roof above 85; --roof X,Y,Z"));
+  EXPECT_THAT(Refusal(order),
+              HasSubstr(" is a wall, 88.1 degrees steep, and no roof above 85; --roof X,Y,Z"));
 }
 
 TEST_F(RoofChoiceTest, PlanarRoofIsSpannedByTheFaceAtThePoint) {

@@ -1,0 +1,48 @@
+// OntoRoof.cpp - runs a command of the module on a roof.
+#include "teskarlt/windows/OntoRoof.h"
+
+#include <optional>
+#include <string>
+
+#include <fmt/format.h>
+
+#include "teskarlt/Error.h"
+#include "teskarlt/drawing/SlopeReach.h"
+#include "teskarlt/drawing/WindowFit.h"
+
+namespace teskarlt {
+
+namespace {
+
+// The frame that would be drawn on the roof's plane without bounds; none where the dialog refuses that, too.
+std::optional<Outline> FrameWithoutBounds(WindowRequest request, dxf::Document& drawing,
+                                          const RunCommand& run) {
+  request.facesNear = nullptr;
+  const dxf::EditMark before = drawing.Mark();
+  try {
+    const CommandOutcome outcome = run(request);
+    drawing.Rollback(before);
+    return OutlineOf(*outcome.confirmed);
+  } catch (const Error&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
+CommandOutcome RunOntoRoof(const WindowRequest& request, const RoofChoice& roof, const Roofs& roofs,
+                           dxf::Document& drawing, const RunCommand& run) {
+  try {
+    return run(request);
+  } catch (const Error&) {
+    if (roof.surface == nullptr || !request.facesNear) throw;
+    const std::optional<Outline> frame = FrameWithoutBounds(request, drawing, run);
+    if (!frame) throw;
+    const SurfaceOutline outline = OutlineOf(*roof.surface, roofs.Faces(), roofs.Tolerance());
+    const std::string passed = PassedEdges(*frame, outline, request.unit.perMetre);
+    if (passed.empty()) throw;
+    throw Error(fmt::format("the window would leave the roof face: it {}", passed));
+  }
+}
+
+}  // namespace teskarlt

@@ -1,0 +1,70 @@
+// SlopeReachTest.cpp - how far a roof reaches, and which of its edges a frame passes.
+#include <gtest/gtest.h>
+
+#include "teskarlt/drawing/SlopeReach.h"
+
+namespace teskarlt {
+namespace {
+
+// The slope of a roof that rises from 2.5 m by 0.6 m a metre, in metres.
+SurfaceOutline RoofOf(const SlopeRing& ring) {
+  return {FrameOf({{0, 0, 2.5}, {0, -0.6, 0.8}}), {ring}};
+}
+
+const SurfaceOutline RECTANGLE = RoofOf({{0, 0}, {8, 0}, {8, 5}, {0, 5}});
+const SurfaceOutline HIP = RoofOf({{0, 0}, {8, 0}, {4, 5}, {0, 5}});
+
+std::string Passed(const SurfaceOutline& roof, double left, double bottom, double width = 1.0,
+                   double length = 1.5) {
+  const auto at = [&](double across, double up) { return roof.frame.At({across, up}); };
+  return PassedEdges({at(left, bottom), at(left, bottom + length), at(left + width, bottom + length),
+                      at(left + width, bottom)},
+                     roof, 1.0);
+}
+
+TEST(ReachAcross, OfAHipIsTheNarrowest) {
+  const SlopeReach reach = ReachAcross(HIP.rings, 1, 2.5);
+  ASSERT_TRUE(reach);
+  EXPECT_NEAR(reach->first, 0, 1e-9);
+  EXPECT_NEAR(reach->second, 8 - 0.8 * 2.5, 1e-5);
+  EXPECT_FALSE(ReachAcross(HIP.rings, 4, 6));
+}
+
+TEST(ReachUp, IsMeasuredBetweenTwoPlacesOfTheEaves) {
+  const SlopeReach reach = ReachUp(HIP.rings, 5, 6);
+  ASSERT_TRUE(reach);
+  EXPECT_NEAR(reach->first, 0, 1e-9);
+  EXPECT_NEAR(reach->second, 2.5, 1e-5);
+}
+
+TEST(PassedEdges, RidgeIsToldWithTheHighestLowerEdge) {
+  // The upper edge lies at 5.12 m up the slope; the lower one may lie at 3.5, which is 2.5 + 0.6 x 3.5 high.
+  EXPECT_EQ(Passed(RECTANGLE, 3, 3.62), "passes the ridge by 0.120 m; the highest lower edge is 4.600 m");
+}
+
+TEST(PassedEdges, EavesAreToldWithTheLowestLowerEdge) {
+  EXPECT_EQ(Passed(RECTANGLE, 3, -0.2), "passes the eaves by 0.200 m; the lowest lower edge is 2.500 m");
+}
+
+TEST(PassedEdges, VergesAreThoseSeenFromBelow) {
+  EXPECT_EQ(Passed(RECTANGLE, -0.25, 1), "passes the left verge by 0.250 m");
+  EXPECT_EQ(Passed(RECTANGLE, 7.5, 1), "passes the right verge by 0.500 m");
+}
+
+TEST(PassedEdges, CornerOfTheRoofIsTwoEdges) {
+  EXPECT_EQ(Passed(RECTANGLE, 7.5, 4),
+            "passes the right verge by 0.500 m and the ridge by 0.500 m; the highest lower edge is 4.600 m");
+}
+
+TEST(PassedEdges, OfAHipTheShorterWayIsTold) {
+  // At the frame's top, 2.5 m up, the hip lies at 6 m; the frame ends at 6.2 m.
+  EXPECT_EQ(Passed(HIP, 5.2, 1), "passes the right verge by 0.200 m");
+}
+
+TEST(PassedEdges, InsideAndTooLongForTheRoofNothingIsPassed) {
+  EXPECT_EQ(Passed(RECTANGLE, 3, 1), "");
+  EXPECT_EQ(Passed(RECTANGLE, 3, 1, 1, 6), "");
+}
+
+}  // namespace
+}  // namespace teskarlt
