@@ -72,11 +72,6 @@ def with_handle_twice(version):
     return replaced(version, f"  5\n{text.dxf.handle}\n".encode(), f"  5\n{face.dxf.handle}\n".encode())
 
 
-def without_tables(version):
-    before, rest = written(new_document(version)).replace(b"\r\n", b"\n").split(b"  0\nSECTION\n  2\nTABLES\n")
-    return before + rest.split(b"  0\nENDSEC\n", 1)[1]
-
-
 # By name: the bytes of a drawing.
 DRAWINGS = {
     **{f"{version}-{'binary' if binary else 'text'}-{'metres' if units else 'unitless'}":
@@ -90,7 +85,6 @@ DRAWINGS = {
     **{f"{version}-dictionary-data": lambda version=version: with_dictionary_data(version) for version in ("R2000", "R2018")},
     "damaged-layer-without-entry": lambda: replaced("R2000", b"  8\nROOF\n", b"  8\nMISSING\n"),
     "damaged-handle-twice": lambda: with_handle_twice("R2000"),
-    "damaged-without-tables": lambda: without_tables("R2000"),
     "comment-in-the-roof": lambda: replaced("R2000", b"AcDbFace\n", b"AcDbFace\n999\na comment\n"),
     "damaged-dangling-entry": lambda: replaced("R2000", b"  3\nACAD_GROUP\n", b"  3\nFOREIGN\n350\nFFFF\n  3\nACAD_GROUP\n"),
     "crlf": lambda: replaced("R2000", b"", b"").replace(b"\n", b"\r\n"),
