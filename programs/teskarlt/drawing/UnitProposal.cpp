@@ -24,8 +24,9 @@ struct PlanSize {
 
 PlanSize SizeOf(const RoofFace& face) {
   const PlanBox box = PlanBoxOf(face.corners);
-  const auto [shorter, longer] = std::minmax(box.highX - box.lowX, box.highY - box.lowY);
-  return {longer, shorter};
+  const double alongX = box.highX - box.lowX;
+  const double alongY = box.highY - box.lowY;
+  return {std::max(alongX, alongY), std::min(alongX, alongY)};
 }
 
 // Of the face with the largest box; none without a face.
