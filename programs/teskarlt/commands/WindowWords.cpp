@@ -89,9 +89,10 @@ void PrintChanges(const EditedWindow& window, const WindowReading& before, const
   if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
   for (const std::string& text : ChangeTexts(window, before, drawing, words))
     fmt::print("{}\n", text);
-  if (AssumesSkirt(before, after))
+  if (AssumesSkirt(before, after)) {
     fmt::print("skirtHeight: {} by default, since nothing drawn told it\n",
                words.SpokenSize(after.skirtHeight));
+  }
 }
 
 // Of a window that was changed, for programs.

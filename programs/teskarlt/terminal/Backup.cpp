@@ -49,16 +49,18 @@ bool IsThere(const std::string& path) {
 // The backup of a file that may go back to it.
 platform::FileBytes CheckedBackup(const std::string& path) {
   const std::string backup = BackupPath(path);
-  if (!IsThere(backup) || !IsThere(UndoPath(path)))
+  if (!IsThere(backup) || !IsThere(UndoPath(path))) {
     throw Error("there is nothing to undo: no backup is kept of it; commands keep one with --backup",
                 {.file = path});
+  }
   const platform::FileBytes noted = platform::ReadWholeFile(UndoPath(path));
-  if (noted.View().find(DrawingLine(platform::ReadWholeFile(path).View())) == std::string_view::npos)
+  if (noted.View().find(DrawingLine(platform::ReadWholeFile(path).View())) == std::string_view::npos) {
     throw Error(
         fmt::format("it was changed since {} was kept, and undo would lose that; copy the backup over "
                     "it if that is meant",
                     backup),
         {.file = path});
+  }
   platform::FileBytes kept = platform::ReadWholeFile(backup);
   if (noted.View().find(BackupLine(kept.View())) == std::string_view::npos)
     throw Error(fmt::format("it is not what was kept of {} any more", path), {.file = backup});

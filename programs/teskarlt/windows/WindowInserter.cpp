@@ -46,7 +46,7 @@ WindowInserter::WindowInserter(const WindowModule& module, dxf::Document& drawin
 
 PlacedWindow WindowInserter::Insert(const WindowOrder& drawnOrder) {
   const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
-  const PlacedWindow window = AllOrNone(work_.drawing, [&] {
+  PlacedWindow window = AllOrNone(work_.drawing, [&] {
     return Draw(order, ChooseRoof(order, work_.drawing.FileName(), work_.roofs), numbers_);
   });
   Count(window);

@@ -143,9 +143,10 @@ TEST(PlacedFaces, BlocksThatWouldGrowWithoutEndAreLeftOut) {
   // Each block inserts the next one twice: 2 to the power of 40 faces, or nothing at all.
   const auto nest = [](const std::string& innermost) {
     std::string blocks = Block("B40", innermost);
-    for (int i = 0; i < 40; ++i)
-      blocks += Block(fmt::format("B{}", i),
-                      Insert("1", fmt::format("B{}", i + 1)) + Insert("2", fmt::format("B{}", i + 1)));
+    for (int i = 0; i < 40; ++i) {
+      const std::string next = fmt::format("B{}", i + 1);
+      blocks += Block(fmt::format("B{}", i), Insert("1", next) + Insert("2", next));
+    }
     return blocks;
   };
   const Found found = Read(nest(Triangle("2F")), Insert("1A", "B0") + Triangle("2F"));
