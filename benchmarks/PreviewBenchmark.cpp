@@ -37,10 +37,11 @@ preview::Scene SceneOf(Shape shape, std::int64_t count) {
   preview::Scene scene;
   scene.layers = {{"ROOF", {200, 90, 60}}};
   for (std::int64_t i = 0; i < count; ++i) {
-    const auto row = static_cast<double>(i / IN_A_ROW);
-    const auto column = static_cast<double>(i % IN_A_ROW);
-    const preview::Surface face = shape == STACKED ? FaceAt({0, 0, static_cast<double>(i)}, 1000)
-                                                   : FaceAt({12 * column, 12 * row, 0}, 10);
+    const std::int64_t row = i / IN_A_ROW;
+    const std::int64_t column = i % IN_A_ROW;
+    const preview::Surface face =
+        shape == STACKED ? FaceAt({0, 0, static_cast<double>(i)}, 1000)
+                         : FaceAt({static_cast<double>(12 * column), static_cast<double>(12 * row), 0}, 10);
     for (const Vec3& corner : face.corners)
       scene.box.Add(corner);
     scene.surfaces.push_back(face);

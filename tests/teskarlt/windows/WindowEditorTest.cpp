@@ -1,4 +1,5 @@
 // WindowEditorTest.cpp - windows of a drawing that are changed.
+#include <array>
 #include <cmath>
 
 #include <fmt/format.h>
@@ -61,6 +62,26 @@ TEST_F(WindowEditorTest, WindowMovesToThePointOfTheOrder) {
   const PlacedWindow window = Edit(OrderAt(6000, 3000));
   EXPECT_NEAR(window.record.storedPoint.x, 6000, 1e-6);
   EXPECT_NEAR(window.record.storedPoint.z, 3000, 1e-6);
+}
+
+TEST_F(WindowEditorTest, WindowMovesToThePlaceThatWordsSay) {
+  drawing = HouseWithThree(module);
+  WindowOrder order;
+  order.roofName = "R1";
+  order.placing = {.fromRidge = 1.0, .over = PlanPoint{2000, 0, ""}};
+  const Outline frame = Edit(order).outline;
+  EXPECT_NEAR(frame[1].y, 6000 - 1000 / std::sqrt(2.0), 1e-6);  // of a roof at 45 degrees
+  EXPECT_NEAR((frame[0].x + frame[3].x) / 2, 2000, 1e-6);
+}
+
+TEST_F(WindowEditorTest, WindowGoesBetweenTwoOthersInLineWithOne) {
+  drawing = HouseWithThree(module);
+  WindowOrder order;
+  order.placing = {.between = std::array{2, 3}, .align = 3, .edge = AlignedEdge::Bottom};
+  order.roofName = "R1";
+  order.settings = {{"width", "0.55"}};
+  const Outline frame = Edit(order).outline;
+  EXPECT_NEAR((frame[0].x + frame[3].x) / 2, 5250, 1e-6);  // windows 2 and 3 stand at 4000 and 6500
 }
 
 TEST_F(WindowEditorTest, ReadingShowsTheWindowAsItStands) {

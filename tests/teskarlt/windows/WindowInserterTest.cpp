@@ -1,4 +1,6 @@
 // WindowInserterTest.cpp - windows that come into a drawing, and those that do not.
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
 
@@ -29,6 +31,41 @@ TEST_F(WindowInserterTest, WindowGoesOntoTheFaceAtItsPoint) {
   EXPECT_NEAR(window.record.pitch, 45, 1e-9);
   EXPECT_NEAR(window.record.storedPoint.z, 2000, 1e-6);  // at 45 degrees as high as far from the eaves
   EXPECT_TRUE(window.misfits.empty());
+}
+
+// On the roof at 45 degrees the frame's lower edge lies as high as far from the eaves.
+constexpr double ONE_METRE_UP = 1000 / 1.4142135623730951;
+
+TEST_F(WindowInserterTest, WordsSayThePlaceOnANamedRoof) {
+  WindowOrder order;
+  order.roofName = "R1";
+  order.placing = {.fromEaves = 1.0, .isCentred = true};
+  const Outline frame = inserter.Insert(order).outline;
+  EXPECT_NEAR(frame[0].y, ONE_METRE_UP, 1e-6);
+  EXPECT_NEAR((frame[0].x + frame[3].x) / 2, 4000, 1e-6);
+}
+
+TEST_F(WindowInserterTest, WordsNameWindowsThatStandThere) {
+  inserter.Insert(OrderAt(1500, 2000));
+  const Outline other = inserter.Insert(OrderAt(6500, 2000)).outline;
+  WindowOrder order;
+  order.roofName = "R1";
+  order.placing = {.between = std::array{1, 2}, .align = 2, .edge = AlignedEdge::Top};
+  const Outline frame = inserter.Insert(order).outline;
+  EXPECT_NEAR((frame[0].x + frame[3].x) / 2, 4000, 1e-6);
+  EXPECT_NEAR(frame[1].y, other[1].y, 1e-6);
+}
+
+TEST_F(WindowInserterTest, WordsSayThePlaceOnARoofThatIsDrawnInPlan) {
+  WindowOrder order;
+  order.planRoof.eaves = {{0, 20000, ""}, {8000, 20000, ""}};
+  order.planRoof.pitch = 45;
+  order.planRoof.eavesHeight = 2.5;
+  order.placing = {.fromEaves = 1.0, .fromVerge = 0.5};
+  const PlacedWindow window = inserter.Insert(order);
+  EXPECT_NEAR(window.outline[0].y, 20000 + ONE_METRE_UP, 1e-6);
+  EXPECT_NEAR(window.outline[0].z, 2500 + ONE_METRE_UP, 1e-6);
+  EXPECT_NEAR(std::min(window.outline[0].x, window.outline[3].x), 500, 1e-6);
 }
 
 TEST_F(WindowInserterTest, EntitiesThatAreToldStandInTheDrawing) {
