@@ -49,9 +49,9 @@ class ConditionReader {
 
   std::vector<FieldComparison> Read() {
     std::vector<FieldComparison> comparisons;
-    do
+    do {
       comparisons.push_back(ReadComparison());
-    while (TakeConjunction());
+    } while (TakeConjunction());
     return comparisons;
   }
 

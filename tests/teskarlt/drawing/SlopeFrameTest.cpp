@@ -8,8 +8,6 @@
 namespace teskarlt {
 namespace {
 
-using geometry::Vec3;
-
 // Falls to the south by 3 m on 4 m: 5 m along the slope.
 const Plane SOUTH{{10, 20, 30}, {0, -0.6, 0.8}};
 

@@ -16,6 +16,7 @@ constexpr double TOLERANCE = 1.0;  // millimetres
 Roofs RoofOfTriangles() {
   const Vec3 corners[] = {{0, 0, 2500}, {8000, 0, 2500}, {8000, 4000, 5500}, {0, 4000, 5500}};
   std::vector<RoofFace> faces;
+  faces.reserve(4);
   for (int i = 0; i < 4; ++i)
     faces.push_back(MakeRoofFace({corners[i], corners[(i + 1) % 4], {4000, 2000, 4000}}, TOLERANCE).value());
   return {faces, TOLERANCE};

@@ -28,8 +28,8 @@ struct BadWord {
 class BadPlaceWord : public testing::TestWithParam<BadWord> {};
 
 TEST_P(BadPlaceWord, IsRefusedByItsName) {
-  const auto& [name, text, refusal] = GetParam();
-  EXPECT_EQ(RefusalOf([&] { OrderWith(name, text); }), refusal);
+  const BadWord& word = GetParam();
+  EXPECT_EQ(RefusalOf([&] { OrderWith(word.name, word.text); }), word.refusal);
 }
 
 INSTANTIATE_TEST_SUITE_P(
