@@ -155,7 +155,8 @@ constexpr std::array PLACING_WORDS = {
     PlaceWord{"align", 1, "N", "in line with window N, by the edge of --edge", ApplyAlign},
     PlaceWord{"edge", 1, "EDGE", "what --align lines up: top, bottom (without it) or axis", ApplyEdge},
     PlaceWord{"snap", 1, "LENGTH",
-              "moves what --at says to multiples of this, from the left edge and from the eaves", ApplySnap},
+              "moves what a point says to multiples of this, from the left edge and from the eaves",
+              ApplySnap},
 };
 
 }  // namespace
