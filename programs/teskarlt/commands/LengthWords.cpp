@@ -10,19 +10,12 @@
 
 namespace teskarlt {
 
-namespace {
-
-constexpr const char* METRES = "m";
-constexpr const char* FEET = "ft";
-
-}  // namespace
-
 void AddLengthsOption(Subcommand& command, std::string& style) {
   command
-      .Value(
-          "--lengths", style,
-          "what lengths are said in: metres, or feet and inches to 1/64, with ~ where that is rounded; JSON "
-          "has metres")
+      .Value("--lengths", style,
+             "what lengths are read and said in: metres, or feet, and feet and inches to 1/64, with ~ where "
+             "that "
+             "is rounded; JSON has metres")
       .Named("m|ft")
       .OneOfListed({METRES, FEET});
 }
