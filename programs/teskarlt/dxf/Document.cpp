@@ -268,6 +268,7 @@ void Document::RequireApplication(std::string_view name) {
 void Document::Settle() {
   auto settled = std::make_unique<State>(SourceOf(FileName(), Serialize()), state_->file);
   settled->rules.units = state_->rules.units;
+  settled->codec = state_->codec;  // what texts are in does not change, and what was doubtful stays so
   settled->isSettled = state_->isSettled || IsChanged();
   settled->notes = Notes();
   state_ = std::move(settled);
