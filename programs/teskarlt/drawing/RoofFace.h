@@ -30,6 +30,17 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners,
 std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners,
                                      const std::vector<Ring>& holes, double tolerance);
 
+// The same for a face that may be vertical, too.
+std::optional<RoofFace> MakeAnyFace(const std::vector<geometry::Vec3>& corners,
+                                    const std::vector<Ring>& holes, double tolerance);
+
+// True within 0.006 degrees of the vertical: the module takes no plane for such a wall.
+bool IsVertical(const RoofFace& face);
+
+// Whether the corners have no area since they cross themselves or run back on themselves, though each part
+// for itself has one that is not vertical.
+bool CancelsItself(const std::vector<geometry::Vec3>& corners, double tolerance);
+
 // How far the farthest corner lies off the plane; for the face's own plane 0 but for rounding when it is
 // planar.
 double Warp(const RoofFace& face, const Plane& plane);

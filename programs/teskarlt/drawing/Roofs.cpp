@@ -29,7 +29,8 @@ void TakeToWorking(const WorkingUnit& unit, RoofFace& face) {
 
 }  // namespace
 
-Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit, UnreadEntities unread)
+Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit, UnreadEntities unread,
+             const std::vector<std::string>& walls)
     : faces_(std::move(faces)),
       unread_(std::move(unread)),
       tolerance_(tolerance),
@@ -45,6 +46,8 @@ Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& u
   }
   for (std::size_t face = 0; face < faces_.size(); ++face)
     named_[dxf::FoldedName(faces_[face].name)].push_back(face);
+  for (const std::string& wall : walls)
+    walls_.insert(dxf::FoldedName(wall));
 }
 
 bool Roofs::IsEmpty() const {
@@ -94,9 +97,13 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
   return named;
 }
 
+bool Roofs::IsWall(std::string_view name) const {
+  return walls_.contains(dxf::FoldedName(PresentName(name)));
+}
+
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
   FoundFaces found = SearchFaces(drawing, tolerance);
-  return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread)};
+  return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread), found.walls};
 }
 
 Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
@@ -104,7 +111,7 @@ Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
   FoundFaces found = SearchFaces(drawing, ToDrawn(tolerance, unit));
   for (RoofFace& face : found.faces)
     TakeToWorking(unit, face);
-  return {std::move(found.faces), tolerance, unit, std::move(found.unread)};
+  return {std::move(found.faces), tolerance, unit, std::move(found.unread), found.walls};
 }
 
 }  // namespace teskarlt

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "teskarlt/drawing/PlanIndex.h"
@@ -27,9 +28,9 @@ struct FaceOver {
 class Roofs {
  public:
   // `tolerance` is a millimetre in the unit of the faces, which are drawing units where nothing else is said;
-  // `unread` is what of the drawing may be a roof besides.
+  // `unread` is what of the drawing may be a roof besides, `walls` are the names of its vertical faces.
   Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit = IN_DRAWING_UNITS,
-        UnreadEntities unread = {});
+        UnreadEntities unread = {}, const std::vector<std::string>& walls = {});
 
   double Tolerance() const { return tolerance_; }
 
@@ -63,6 +64,9 @@ class Roofs {
   // The faces whose boxes in the plan touch the area, in the order of Faces().
   std::vector<const RoofFace*> FacesNear(const PlanBox& area) const;
 
+  // Whether a vertical face has that name, without regard to case.
+  bool IsWall(std::string_view name) const;
+
   // The faces of that name (RoofSearch.h), also of one that it had before, without regard to case; several
   // where the drawing uses a handle twice.
   std::vector<const RoofFace*> FacesNamed(std::string_view name) const;
@@ -77,6 +81,7 @@ class Roofs {
   std::vector<std::size_t> surfaceOf_;                               // by the number of the face; NO_SURFACE
   std::unordered_map<std::string, std::vector<std::size_t>> named_;  // numbers of faces by folded names
   std::unordered_map<std::string, std::size_t> namedSurfaces_;       // and of surfaces
+  std::unordered_set<std::string> walls_;                            // folded names
 };
 
 // The roofs of the model space, in drawing units; and in those in which windows are computed.

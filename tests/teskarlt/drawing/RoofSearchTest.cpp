@@ -1,4 +1,5 @@
 // RoofSearchTest.cpp - the faces of a drawing of which roofs can be made.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "teskarlt/drawing/RoofSearch.h"
@@ -59,6 +60,19 @@ TEST(FindFaces, WallsAreLeftOut) {
   const std::string wall =
       Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 0, 2500) + Point(13, 0, 0, 2500);
   EXPECT_TRUE(FindFaces(Drawing("", Face("1", wall)), TOLERANCE).empty());
+  EXPECT_THAT(SearchFaces(Drawing("", Face("1", wall)), TOLERANCE).walls, testing::ElementsAre("1"));
+  EXPECT_EQ(FindWalls(Drawing("", Face("1", wall)), TOLERANCE).size(), 1U);
+}
+
+TEST(SearchFaces, OutlineThatCancelsItselfIsTold) {
+  const std::string crossed = Point(10, 0, 0, 2000) + Point(11, 8000, 0, 2000) + Point(12, 0, 5000, 5000) +
+                              Point(13, 8000, 5000, 5000);
+  const FoundFaces found = SearchFaces(Drawing("", Face("1", crossed)), TOLERANCE);
+  EXPECT_TRUE(found.faces.empty());
+  EXPECT_EQ(
+      TextOf(found.unread),
+      "1 3DFACE that crosses or retraces itself is not read: draw its corners in their order around the "
+      "roof, or give the plane by --roof");
 }
 
 TEST(FindFaces, FacesOfAWindowAreLeftOut) {
