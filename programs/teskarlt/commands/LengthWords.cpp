@@ -7,6 +7,7 @@
 
 #include "teskarlt/drawing/UnitProposal.h"
 #include "teskarlt/terminal/Messages.h"
+#include "teskarlt/windows/PointText.h"
 
 namespace teskarlt {
 
@@ -25,6 +26,17 @@ void AddLengthsOption(Subcommand& command, std::string& style) {
           "has metres")
       .Named("m|ft")
       .OneOfListed({METRES, FEET});
+}
+
+void AddClearanceOption(Subcommand& command, std::string& clearance) {
+  command
+      .Value("--clearance", clearance,
+             "tell of other windows, edges of the roof and obstacles that are nearer to a window than this")
+      .Named("METRES");
+}
+
+double ClearanceSaid(const std::string& clearance, LengthStyle style) {
+  return clearance.empty() ? 0.0 : ParseClearance("--clearance", clearance, style);
 }
 
 LengthStyle StyleSaid(std::string_view style) {

@@ -87,6 +87,16 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, const std
   return face;
 }
 
+std::optional<UprightFace> MakeUprightFace(const std::vector<Vec3>& corners, double tolerance) {
+  UprightFace face;
+  face.corners = WithoutRepeats(corners);
+  if (face.corners.size() < 3) return std::nullopt;
+  const Vec3 area = AreaVector(face.corners);
+  const double twiceArea = geometry::VecLength(area);
+  const bool isUpright = twiceArea > tolerance * tolerance && std::abs(area.z) < VERTICAL_LIMIT * twiceArea;
+  return isUpright ? std::optional(std::move(face)) : std::nullopt;
+}
+
 double Warp(const RoofFace& face, const Plane& plane) {
   double warp = 0.0;
   const auto measure = [&](const Ring& ring) {

@@ -20,6 +20,14 @@ struct RoofFace {
   Ring corners;             // in order around the face
   std::vector<Ring> holes;  // in order around them, the other way round
   Plane plane;              // of the face's mean normal (Newell), through the middle of the corners
+  bool isFlatKind = false;  // of a kind with which plans are drawn too, as EntityFaces has it
+};
+
+// No roof, but what walls and chimneys are made of. Drawing coordinates and units.
+struct UprightFace {
+  std::string name;  // as RoofFace has both
+  std::string layer;
+  Ring corners;
 };
 
 // `tolerance` is a millimetre in drawing units (RoofTolerance in Units.h) in all of these.
@@ -29,6 +37,9 @@ struct RoofFace {
 std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners, double tolerance);
 std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners,
                                      const std::vector<Ring>& holes, double tolerance);
+
+// The vertical face with these corners when it has an area.
+std::optional<UprightFace> MakeUprightFace(const std::vector<geometry::Vec3>& corners, double tolerance);
 
 // How far the farthest corner lies off the plane; for the face's own plane 0 but for rounding when it is
 // planar.

@@ -2,7 +2,6 @@
 #include "teskarlt/drawing/RoofSearch.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "teskarlt/drawing/OutlineHoles.h"
@@ -24,13 +23,18 @@ FoundFaces SearchFaces(const dxf::Document& drawing, double tolerance) {
   FoundFaces found;
   found.unread = ReadPlacedFaces(drawing, [&](PlacedFace placed) {
     if (IsInPlan(placed)) return;
-    std::optional<RoofFace> face = MakeRoofFace(placed.face.corners, placed.face.holes, tolerance);
-    if (!face) return;
-    face->name = std::move(placed.name);
-    face->entity = std::move(placed.entity);
-    face->layer = std::move(placed.layer);
-    face->type = placed.type;
-    found.faces.push_back(*std::move(face));
+    if (auto face = MakeRoofFace(placed.face.corners, placed.face.holes, tolerance)) {
+      face->name = std::move(placed.name);
+      face->entity = std::move(placed.entity);
+      face->layer = std::move(placed.layer);
+      face->type = placed.type;
+      face->isFlatKind = placed.isFlatKind;
+      found.faces.push_back(*std::move(face));
+    } else if (auto upright = MakeUprightFace(placed.face.corners, tolerance)) {
+      upright->name = std::move(placed.name);
+      upright->layer = std::move(placed.layer);
+      found.uprights.push_back(*std::move(upright));
+    }
   });
   CutHoles(found.faces, tolerance);
   return found;

@@ -29,12 +29,15 @@ void TakeToWorking(const WorkingUnit& unit, RoofFace& face) {
 
 }  // namespace
 
-Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit, UnreadEntities unread)
+Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit, UnreadEntities unread,
+             std::vector<UprightFace> uprights)
     : faces_(std::move(faces)),
+      uprights_(std::move(uprights)),
       unread_(std::move(unread)),
       tolerance_(tolerance),
       unit_(unit),
       index_(BoxesOf(faces_)),
+      uprightIndex_(BoxesOf(uprights_)),
       surfaces_(SurfacesOf(faces_, index_, tolerance)),
       surfaceOf_(faces_.size(), NO_SURFACE) {
   for (std::size_t surface = 0; surface < surfaces_.size(); ++surface) {
@@ -68,6 +71,13 @@ std::vector<const RoofFace*> Roofs::FacesNear(const PlanBox& area) const {
   return near;
 }
 
+std::vector<const UprightFace*> Roofs::UprightsNear(const PlanBox& area) const {
+  std::vector<const UprightFace*> near;
+  for (const std::size_t number : uprightIndex_.Touching(area))
+    near.push_back(&uprights_[number]);
+  return near;
+}
+
 std::vector<FaceOver> Roofs::FacesAt(double x, double y) const {
   std::vector<FaceOver> found;
   for (const RoofFace* face : FacesNear({x, y, x, y})) {
@@ -96,7 +106,8 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
 
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
   FoundFaces found = SearchFaces(drawing, tolerance);
-  return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread)};
+  return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread),
+          std::move(found.uprights)};
 }
 
 Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
@@ -104,7 +115,9 @@ Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
   FoundFaces found = SearchFaces(drawing, ToDrawn(tolerance, unit));
   for (RoofFace& face : found.faces)
     TakeToWorking(unit, face);
-  return {std::move(found.faces), tolerance, unit, std::move(found.unread)};
+  for (UprightFace& face : found.uprights)
+    TakeToWorking(unit, face.corners);
+  return {std::move(found.faces), tolerance, unit, std::move(found.unread), std::move(found.uprights)};
 }
 
 }  // namespace teskarlt

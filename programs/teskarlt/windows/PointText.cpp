@@ -79,4 +79,11 @@ SlopeMove ParseSlopeMove(const char* option, const std::string& text) {
   return {(*numbers)[0], (*numbers)[1]};
 }
 
+double ParseClearance(const char* option, const std::string& text, LengthStyle style) {
+  const double clearance = ParseLength(option, text, style);
+  if (clearance < 0)
+    throw Error(fmt::format("{} {}: a clearance is not negative", option, text), {.value = text});
+  return clearance;
+}
+
 }  // namespace teskarlt

@@ -19,4 +19,7 @@ SlopeMove ParseSlopeMove(const char* option, const std::string& text);
 // Throws Error, naming the option, for anything else.
 double ParseLength(const char* option, const std::string& text, LengthStyle style);
 
+// Such a length that a window keeps to what is in its way. Throws Error for a negative one, too.
+double ParseClearance(const char* option, const std::string& text, LengthStyle style);
+
 }  // namespace teskarlt

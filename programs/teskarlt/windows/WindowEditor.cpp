@@ -119,7 +119,7 @@ std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
         throw Naming(window, error);
       }
     }
-    FindMisfits(edited);
+    FindMisfits(order, edited);
     if (order.isStrict) RefuseMisfitting(edited);
     return edited;
   });
@@ -172,7 +172,7 @@ void WindowEditor::PutPlace(const WindowOrder& order, const RoofChoice& roof, Wi
   request.point = PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf);
 }
 
-void WindowEditor::FindMisfits(std::vector<EditedWindow>& edited) const {
+void WindowEditor::FindMisfits(const WindowOrder& order, std::vector<EditedWindow>& edited) const {
   std::set<const DrawnWindow*> selected;
   for (const EditableWindow& window : windows_)
     selected.insert(window.drawn);
@@ -183,7 +183,8 @@ void WindowEditor::FindMisfits(std::vector<EditedWindow>& edited) const {
     if (outline) fit.Add(window.number, *outline);
   }
   for (EditedWindow& window : edited) {
-    window.placed.misfits = fit.Misfits(window.placed.record, window.placed.outline);
+    window.placed.misfits =
+        fit.Misfits(window.placed.record, window.placed.outline, RulesFor(window.placed, order));
     fit.Add(window.placed.record.markerValue, window.placed.outline);
   }
 }

@@ -52,7 +52,7 @@ class WindowEditor {
   CommandOutcome EditOnto(const RoofChoice& roof, const WindowRequest& request);
   // Puts the point for which the order's words stand into the request.
   void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
-  void FindMisfits(std::vector<EditedWindow>& edited) const;
+  void FindMisfits(const WindowOrder& order, std::vector<EditedWindow>& edited) const;
   // Throws Error for windows with misfits.
   void RefuseMisfitting(const std::vector<EditedWindow>& edited) const;
   // The same error, with the window's number where there are several windows.

@@ -75,7 +75,7 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
   PutRoof(roof, request);
   if (IsGiven(order.placing)) PutPlace(order, roof, request);
   PlacedWindow window = PlacedBy(InsertOnto(roof, request), work_.unit, roof);
-  window.misfits = fit_.Misfits(window.record, window.outline);
+  window.misfits = fit_.Misfits(window.record, window.outline, RulesFor(window, order));
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
   return window;
 }

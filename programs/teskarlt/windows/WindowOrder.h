@@ -81,7 +81,8 @@ struct WindowOrder {
   std::vector<FieldSetting> settings;  // of the same field the last one holds
   // What plain numbers of settings that are lengths count; marked ones are feet and inches in either case.
   LengthStyle lengths = LengthStyle::Metres;
-  bool isStrict = false;  // a window that does not fit is refused
+  double clearance = 0.0;  // metres that windows keep to what is in their way
+  bool isStrict = false;   // a window that does not fit is refused
 };
 
 }  // namespace teskarlt

@@ -130,6 +130,16 @@ TEST(FindFaces, FaceWithoutAHandleIsNumbered) {
   EXPECT_EQ(faces[0].name, "N2");
 }
 
+TEST(SearchFaces, UprightFacesComeApart) {
+  const FoundFaces found = SearchFaces(Drawing("", Groups("0 3DFACE|5 2F|8 WALL|10 0|20 0|30 0|11 4000|21 "
+                                                          "0|31 0|12 4000|22 0|32 3000|13 0|23 0|33 3000|")),
+                                       TOLERANCE);
+  EXPECT_TRUE(found.faces.empty());
+  ASSERT_EQ(found.uprights.size(), 1U);
+  EXPECT_EQ(found.uprights[0].name, "2F");
+  EXPECT_EQ(found.uprights[0].layer, "WALL");
+}
+
 TEST(SearchFaces, FlatOutlinesAtHeightZeroAreLinesOfAPlan) {
   const std::string outline = "|70 1|10 0|20 0|10 4000|20 0|10 4000|20 3000|";
   EXPECT_TRUE(FindFaces(Drawing("", Groups("0 LWPOLYLINE|8 A" + outline)), TOLERANCE).empty());
