@@ -92,11 +92,32 @@ def test_roof_at_the_new_place_can_be_named(teskarlt, tmp_path):
     assert answer["place"] == pytest.approx([5, 1, 0.75])
 
 
+# Frames of 0.94 by 1.4 m on a roof whose slope is 40 degrees steep.
+def test_words_say_where_a_window_moves(teskarlt, tmp_path):
+    roof, path = Roof(direction=70, pitch=40), tmp_path / "roof.dxf"
+    roof.save(path)
+    x, y, _ = roof.point()
+    teskarlt.done("insert", path, "--at", f"{x!r},{y!r}")
+    teskarlt.done("move", path, "1", "--on", "R1", "--from-eaves", "1.2", "--from-verge", "0.6")
+    in_plan = math.cos(math.radians(40))
+    def corner(left, bottom):
+        return roof.point(left - roof.width / 2, bottom * in_plan - roof.depth / 2)
+    assert math.dist(windows.outline(readers.audited(path))[0], corner(0.6, 1.2)) < TOLERANCE * roof.scale
+    teskarlt.done("move", path, "1", "--from-right-verge", "2'", "--from-eaves", "4", "--lengths", "ft")
+    left, bottom = roof.width - 2 * 0.3048 - 0.94, 4 * 0.3048
+    assert math.dist(windows.outline(readers.audited(path))[0], corner(left, bottom)) < TOLERANCE * roof.scale
+    teskarlt.done("move", path, "1", "--by", "-1'-6\",0.5", "--lengths", "ft")
+    corners = windows.outline(readers.audited(path))
+    assert math.dist(corners[0], corner(left - 1.5 * 0.3048, bottom + 0.5 * 0.3048)) < TOLERANCE * roof.scale
+
+
 @pytest.mark.parametrize("arguments, status, part", [
     (["1"], 2, "say where the windows go: --by or --to"),
+    (["1", "--by", "0.2,0", "--centre"], 2, "--by says how far the windows go"),
+    (["1", "--to", "99999,1"], 1, "--to 99999,1: no roof face lies over that point"),
     (["--by", "0.2,0"], 2, "say which windows"),
     (["1", "--by", "0.2,0", "--to", "1,1"], 2, "--by"),
-    (["1", "--by", "0.2"], 1, "--by 0.2: a move is two finite numbers"),
+    (["1", "--by", "0.2"], 1, "--by 0.2: a move is two lengths"),
     (["1-2", "--to", "4000,1200"], 1, "2 windows cannot all stand at the point 4000,1200"),
     (["7", "--by", "1,0"], 1, "has no window 7"),
 ], ids=str)

@@ -152,4 +152,4 @@ def test_clearance_is_asked_for_by_words_jobs_check_and_refit(teskarlt, tmp_path
 def test_negative_clearance_is_refused(teskarlt, house):
     for command in (("insert", house, "--at", "2500,1200"), ("check", house), ("refit", house)):
         answer = teskarlt(*command, "--clearance=-0.1")
-        assert answer.status == 1 and answer.stderr == "teskarlt: --clearance -0.1: a clearance is not negative\n"
+        assert answer.status == 1 and answer.stderr == "teskarlt: --clearance -0.1: a distance is not negative\n"

@@ -155,7 +155,54 @@ def test_what_is_not_shown_is_said(teskarlt, tmp_path):
     assert answer.stderr == "teskarlt: not shown: 1 TEXT\n"
 
 
+def names_in(path):
+    """The names of roofs in a vector picture, with their places."""
+    group = ElementTree.parse(path).getroot().find(f"{SVG}g[@id='roof-names']")
+    return {text.text: (float(text.get("x")), float(text.get("y"))) for text in group}
+
+
+def test_roofs_bear_their_names_where_they_are_seen(teskarlt, windowed, tmp_path):
+    """The layers of the house say which roof is which; its plan is 15.7 m wide, from 0.4 m west of the origin."""
+    listed = {roof["roof"]: roof for roof in teskarlt.done("roofs", windowed, "--json").json["roofs"]}
+    teskarlt.done("preview", windowed, "-o", tmp_path / "out.svg", "--roofs")
+    names = names_in(tmp_path / "out.svg")
+    assert names.keys() == listed.keys()
+    for name, (x, y) in names.items():
+        corners = [corner for ring in listed[name]["outline"] for corner in ring]
+        lows, highs = ([extreme(corner[axis] for corner in corners) for axis in (0, 1)] for extreme in (min, max))
+        scale = 936 / 15700  # pixels a millimetre
+        assert lows[0] < (x - 32) / scale - 400 < highs[0], name
+    assert names["R2"][1] < names["R1"][1]  # R2 is the northern one
+
+
+def test_only_what_faces_the_viewer_bears_a_name(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "out.svg", "--roofs", "--view", "south")
+    assert {"R1", "R3"} <= names_in(tmp_path / "out.svg").keys() and "R2" not in names_in(tmp_path / "out.svg")
+
+
+def test_names_stand_in_pictures_of_pixels(teskarlt, windowed, tmp_path):
+    def is_ink(red, green, blue):
+        return abs(red - 29) + abs(green - 58) + abs(blue - 79) < 12
+    shares = []
+    for options in ([], ["--roofs"]):
+        teskarlt.done("preview", windowed, "-o", tmp_path / "out.png", "--width", "600", *options)
+        shares.append(pictures.pixels((tmp_path / "out.png").read_bytes()).share(is_ink))
+    assert shares[1] > shares[0] + 0.0003
+
+
+def test_picture_zooms_to_a_roof(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "out.svg", "--on", "r3")
+    assert "R3" in names_in(tmp_path / "out.svg") and ">house, roof R3</text>" in (tmp_path / "out.svg").read_text()
+    refused(teskarlt("preview", windowed, "-o", tmp_path / "out.svg", "--on", "R9"), "no roof with the name R9")
+
+
+def test_names_without_room_are_counted(teskarlt, windowed, tmp_path):
+    answer = teskarlt.done("preview", windowed, "-o", tmp_path / "out.svg", "--roofs", "--width", "100")
+    assert "3 roofs have no room for their names in this picture" in answer.stderr
+
+
 WRONG_USAGE = {"no format": ["-o", "out.jpg"], "view of a page": ["-o", "out.html", "--view", "iso"],
+               "names in a model": ["-o", "out.glb", "--roofs"], "roof and window": ["-o", "out.svg", "--on", "R1", "--window", "1"],
                "width of a model": ["-o", "out.glb", "--width", "500"], "unknown view": ["-o", "out.svg", "--view", "up"],
                "no output": []}
 

@@ -159,7 +159,10 @@ def test_jobs_take_feet_and_inches(teskarlt, tmp_path):
     path, jobs = tmp_path / "roof.dxf", tmp_path / "jobs.jsonl"
     roof(path, "ft")
     x, y = (value / 0.3048 for value in PLACE)
-    jobs.write_text(f'{{"at": [{x}, {y}], "set": {{"width": "2\'-6\\"", "length": 4}}}}\n', encoding="ascii")
+    job = f'{{"at": [{x}, {y}], "set": {{"width": "2\'-6\\"", "length": 4}}'
+    jobs.write_text(job + ', "lengths": "ft"}\n', encoding="ascii")
+    teskarlt.done("insert", path, "--jobs", jobs, "--dry-run")
+    jobs.write_text(job + '}\n', encoding="ascii")
     teskarlt.done("insert", path, "--jobs", jobs, "--lengths", "ft")
     [window] = teskarlt.done("list", path, "--json").json["windows"]
     assert math.isclose(window["fields"]["width"], 2.5 * 0.3048)

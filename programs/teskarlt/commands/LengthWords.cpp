@@ -11,19 +11,12 @@
 
 namespace teskarlt {
 
-namespace {
-
-constexpr const char* METRES = "m";
-constexpr const char* FEET = "ft";
-
-}  // namespace
-
 void AddLengthsOption(Subcommand& command, std::string& style) {
   command
-      .Value(
-          "--lengths", style,
-          "what lengths are said in: metres, or feet and inches to 1/64, with ~ where that is rounded; JSON "
-          "has metres")
+      .Value("--lengths", style,
+             "what lengths are read and said in: metres, or feet, and feet and inches to 1/64, with ~ where "
+             "that "
+             "is rounded; JSON has metres")
       .Named("m|ft")
       .OneOfListed({METRES, FEET});
 }
@@ -32,11 +25,11 @@ void AddClearanceOption(Subcommand& command, std::string& clearance) {
   command
       .Value("--clearance", clearance,
              "tell of other windows, edges of the roof and obstacles that are nearer to a window than this")
-      .Named("METRES");
+      .Named("LENGTH");
 }
 
 double ClearanceSaid(const std::string& clearance, LengthStyle style) {
-  return clearance.empty() ? 0.0 : ParseClearance("--clearance", clearance, style);
+  return clearance.empty() ? 0.0 : ParseDistance("--clearance", clearance, style);
 }
 
 LengthStyle StyleSaid(std::string_view style) {

@@ -38,6 +38,8 @@ struct PreviewOptions {
   std::vector<std::string> layers;
   std::optional<int> window;
   std::optional<int> width;
+  bool withRoofs = false;
+  std::string roof;  // to zoom to
 };
 
 std::string FormatOf(const PreviewOptions& options) {
@@ -60,6 +62,8 @@ void RefuseUnusable(const PreviewOptions& options, const std::string& format) {
   };
   if (!isFlat && !options.view.empty()) refuse("--view");
   if (!isFlat && options.width) refuse("--width");
+  if (!isFlat && options.withRoofs) refuse("--roofs");
+  if (!isFlat && !options.roof.empty()) refuse("--on");
   if (format == "glb" && options.window) refuse("--window");
 }
 
@@ -73,6 +77,23 @@ std::optional<std::size_t> WindowIndex(const PreviewOptions& options, const prev
   return static_cast<std::size_t>(found - scene.windows.begin());
 }
 
+std::optional<std::size_t> RoofIndex(const PreviewOptions& options, const preview::Scene& scene) {
+  if (options.roof.empty()) return std::nullopt;
+  const auto found = std::find_if(scene.roofs.begin(), scene.roofs.end(),
+                                  [&](const auto& roof) { return dxf::SameName(roof.name, options.roof); });
+  if (found == scene.roofs.end())
+    throw Error(fmt::format("{}: no roof with the name {} is to be seen; teskarlt roofs lists them",
+                            options.file, options.roof));
+  return static_cast<std::size_t>(found - scene.roofs.begin());
+}
+
+void ReportUnnamed(std::size_t count) {
+  if (count == 0) return;
+  TellNote(fmt::format(
+      "{} roof{} {} no room for {} in this picture; a greater --width or another --view may give it", count,
+      count == 1 ? "" : "s", count == 1 ? "has" : "have", count == 1 ? "its name" : "their names"));
+}
+
 std::string Made(const PreviewOptions& options, const std::string& format, const preview::Scene& scene) {
   const std::optional<std::size_t> window = WindowIndex(options, scene);
   if (format == "glb") return preview::Glb(scene);
@@ -81,8 +102,15 @@ std::string Made(const PreviewOptions& options, const std::string& format, const
   preview::PictureOptions picture;
   picture.view = preview::FindView(!options.view.empty() ? options.view : isSvg ? "plan" : "iso");
   picture.width = options.width.value_or(isSvg ? SVG_WIDTH : PNG_WIDTH);
-  picture.window = window;
-  return isSvg ? preview::Svg(scene, picture) : preview::Png(preview::Render(scene, picture));
+  picture.zoom = {window, RoofIndex(options, scene)};
+  if (isSvg) {
+    preview::VectorPicture made = preview::Svg(scene, picture);
+    ReportUnnamed(made.unnamedRoofs);
+    return std::move(made.text);
+  }
+  const preview::Picture made = preview::Render(scene, picture);
+  ReportUnnamed(made.unnamedRoofs);
+  return preview::Png(made);
 }
 
 void ReportLeftOut(const preview::Scene& scene) {
@@ -96,7 +124,8 @@ void RunPreview(const PreviewOptions& options) {
   const std::string format = FormatOf(options);
   RefuseUnusable(options, format);
   const dxf::Document drawing = dxf::Document::Load(options.file);
-  const preview::Scene scene = preview::ReadScene(drawing, {options.units, options.layers});
+  const preview::Scene scene = preview::ReadScene(
+      drawing, {options.units, options.layers, options.withRoofs || !options.roof.empty()});
   platform::WriteWholeFile(options.output, Made(options, format, scene));
   ReportLeftOut(scene);
   fmt::print("{} written.\n", options.output);
@@ -117,11 +146,17 @@ void AddPreviewCommand(OptionParser& parser) {
   command.Value("--view", options->view, "plan, iso, south, north, east or west; plan for .svg, iso for .png")
       .Named("VIEW")
       .OneOf({"plan", "iso", "south", "north", "east", "west"});
-  command.Value("--window", options->window, "zoom to the window with this number").Named("NUMBER");
+  const Option window =
+      command.Value("--window", options->window, "zoom to the window with this number").Named("NUMBER");
   command.Many("--layer", options->layers, "show this layer only; several may be given").Named("LAYER");
   command.Value("--width", options->width, "width of the picture, from 100 to 10000")
       .Named("PIXELS")
       .Within(LEAST_WIDTH, GREATEST_WIDTH);
+  command.Value("--on", options->roof, "zoom to the roof of this name, with the names of --roofs")
+      .Named("ROOF")
+      .Excludes(window);
+  command.Flag("--roofs", options->withRoofs,
+               "write the names of the roofs, as teskarlt roofs lists them, onto them (.svg, .png)");
   AddUnitOptions(command, options->units);
   command.Footer(
       "A .svg is a drawing with title, scale bar and a group for each layer; a .png is seen from the "
@@ -131,6 +166,7 @@ void AddPreviewCommand(OptionParser& parser) {
       "Examples:\n"
       "  teskarlt preview house.dxf -o plan.svg\n"
       "  teskarlt preview house.dxf -o south.svg --view south\n"
+      "  teskarlt preview house.dxf -o roofs.svg --roofs\n"
       "  teskarlt preview house.dxf -o window.png --window 3");
   command.Run([options] { RunPreview(*options); });
 }

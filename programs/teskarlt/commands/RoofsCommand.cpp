@@ -53,11 +53,6 @@ struct RoofList {
   std::vector<const RoofFace*> steep;
 };
 
-bool IsFlat(const RoofSurface& surface) {
-  constexpr double FLATTEST = 1.0;  // degrees; less is the ground, or a floor
-  return Pitch(surface.plane) < FLATTEST;
-}
-
 // A mesh has many faces and is one entity: its handle stands before the first slash of their names.
 std::map<std::string, std::size_t> EntitiesOf(const RoofSurface& surface, const Roofs& roofs) {
   std::map<std::string, std::set<std::string>> handles;

@@ -1,6 +1,8 @@
 // RowOptions.cpp - by which the user orders windows in a row.
 #include "teskarlt/commands/RowOptions.h"
 
+#include "teskarlt/windows/PointText.h"
+
 namespace teskarlt {
 
 void AddRowOptions(Subcommand& command, RowOptions& options) {
@@ -8,11 +10,11 @@ void AddRowOptions(Subcommand& command, RowOptions& options) {
       .Named("N")
       .NotEmpty();
   const Option spacing =
-      command.Value("--spacing", options.spacing, "the windows' distance from axis to axis, in metres")
-          .Named("METRES")
+      command.Value("--spacing", options.spacing, "the windows' distance from axis to axis")
+          .Named("LENGTH")
           .NotEmpty();
-  command.Value("--gap", options.gap, "their distance from frame to frame, in metres")
-      .Named("METRES")
+  command.Value("--gap", options.gap, "their distance from frame to frame")
+      .Named("LENGTH")
       .NotEmpty()
       .Excludes(spacing);
   command.Flag("--column", options.isColumn, "the row runs up the slope");
@@ -24,11 +26,11 @@ void AddRowOptions(Subcommand& command, RowOptions& options) {
       .NotEmpty();
 }
 
-RowOrder RowOf(const RowOptions& options) {
+RowOrder RowOf(const RowOptions& options, LengthStyle lengths) {
   RowOrder row;
   if (!options.count.empty()) row.count = ParseRowCount(options.count);
-  if (!options.spacing.empty()) row.spacing = ParseRowLength("--spacing", options.spacing);
-  if (!options.gap.empty()) row.gap = ParseRowLength("--gap", options.gap);
+  if (!options.spacing.empty()) row.spacing = ParseDistance("--spacing", options.spacing, lengths);
+  if (!options.gap.empty()) row.gap = ParseDistance("--gap", options.gap, lengths);
   if (!options.from.empty()) row.from = options.from;
   if (options.isColumn) row.isColumn = true;
   return row;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "teskarlt/terminal/Options.h"
+#include "teskarlt/windows/FeetInches.h"
 #include "teskarlt/windows/RowOrder.h"
 
 namespace teskarlt {
@@ -20,7 +21,8 @@ struct RowOptions {
 // Adds --row and all options behind it to the command. The options must outlive the parsing.
 void AddRowOptions(Subcommand& command, RowOptions& options);
 
-// The row that the options stand for. Throws Error, naming the option, for a malformed one.
-RowOrder RowOf(const RowOptions& options);
+// The row that the options stand for, whose plain lengths count as said. Throws Error, naming the option, for
+// a malformed one.
+RowOrder RowOf(const RowOptions& options, LengthStyle lengths);
 
 }  // namespace teskarlt

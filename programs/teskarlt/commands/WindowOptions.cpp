@@ -17,13 +17,13 @@ namespace teskarlt {
 
 namespace {
 
-FieldSetting ParseSetting(const std::string& text) {
+FieldSetting ParseSetting(const std::string& text, LengthStyle lengths) {
   const auto equals = text.find('=');
   if (equals == std::string::npos) {
     throw Error(fmt::format("--set {}: a setting is FIELD=VALUE, as in --set width=0.94", text),
                 {.value = text});
   }
-  return {text.substr(0, equals), text.substr(equals + 1)};
+  return {text.substr(0, equals), text.substr(equals + 1), lengths};
 }
 
 std::string Joined(const std::vector<std::string>& values) {
@@ -60,10 +60,11 @@ void ApplyPlaceWords(const WindowOptions& options, WindowOrder& order) {
 
 }  // namespace
 
-Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
-  const Option at =
-      command.Value("--at", options.at, "the place in the drawing; the uppermost roof face over it is taken")
-          .Named("X,Y");
+Option AddPlaceOptions(Subcommand& command, WindowOptions& options) {
+  const Option point = command
+                           .Value(options.pointOption, options.at,
+                                  "the place in the drawing; the uppermost roof face over it is taken")
+                           .Named("X,Y");
   const Option on = command
                         .Value("--on,--roof-face", options.roofName,
                                "the roof or one of its faces, as teskarlt roofs lists them")
@@ -71,6 +72,11 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
   command.Values("--roof", 3, options.roof, "three points of the roof's plane").Named("X,Y,Z").Excludes(on);
   AddPlaceWords(command, PlanRoofWords(), "A roof that is only drawn in plan", options);
   AddPlaceWords(command, PlacingWords(), "The place on the roof", options);
+  return point;
+}
+
+Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
+  const Option at = AddPlaceOptions(command, options);
   const Option window =
       command.Value("--window", options.window, "a catalogue's window, whose sizes and texts are taken")
           .Named("MAKER/KEY")
@@ -108,12 +114,12 @@ WindowOrder OrderOf(const WindowOptions& options) {
   order.window = options.window;
   order.catalogue = options.catalogue;
   for (const std::string& setting : options.settings)
-    order.settings.push_back(ParseSetting(setting));
-  if (!options.at.empty()) order.at = ParsePlanPoint("--at", options.at);
+    order.settings.push_back(ParseSetting(setting, order.lengths));
+  if (!options.at.empty()) order.at = ParsePlanPoint(options.pointOption, options.at);
   order.roofName = options.roofName;
   for (const std::string& point : options.roof)
     order.roof.push_back(ParsePoint("--roof", point));
-  order.row = RowOf(options.row);
+  order.row = RowOf(options.row, order.lengths);
   const bool namesRoof = !order.roofName.empty() || !order.roof.empty();
   ApplyPlaceWords(options, order);
   if (namesRoof && order.planRoof.IsGiven())

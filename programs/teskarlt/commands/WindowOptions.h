@@ -16,6 +16,7 @@ namespace teskarlt {
 // As the user wrote it; UTF-8, and empty where nothing was written.
 struct WindowOptions {
   ResultTarget target;
+  const char* pointOption = "--at";  // what the command calls `at`
   std::string at;
   std::string roofName;
   std::vector<std::string> roof;                               // no or three points
@@ -31,7 +32,11 @@ struct WindowOptions {
   bool asJson = false;
 };
 
-// Adds --at, which it gives, and all options behind it to the command. The options must outlive the parsing.
+// Adds the options for a window's place to the command: the one for a point, which it gives, those for a
+// roof, and the words. The options must outlive the parsing.
+Option AddPlaceOptions(Subcommand& command, WindowOptions& options);
+
+// The same, and all options for the window itself and for the result.
 Option AddWindowOptions(Subcommand& command, WindowOptions& options);
 
 // Adds -o with --backup, --units, --strict, --dry-run and --json to a command that changes windows. The

@@ -189,6 +189,11 @@ class SurfaceFinder {
 
 }  // namespace
 
+bool IsFlat(const RoofSurface& surface) {
+  constexpr double FLATTEST = 1.0;  // degrees
+  return Pitch(surface.plane) < FLATTEST;
+}
+
 std::vector<RoofSurface> SurfacesOf(const std::vector<RoofFace>& faces, const PlanIndex& index,
                                     double tolerance) {
   std::vector<RoofSurface> surfaces = SurfaceFinder(faces, index, tolerance).Find();

@@ -20,6 +20,9 @@ struct RoofSurface {
   bool isPlanar = false;           // it can take a window
 };
 
+// True below 1 degree: the ground, a floor, the top of a chimney.
+bool IsFlat(const RoofSurface& surface);
+
 // The surfaces that the faces make, each face in at most one. From the largest face on, a surface walks over
 // common edges as long as the next face has the same direction, within 2 degrees or being a sliver, and lies
 // in the plane within the WarpLimit of the largest. A face that is not planar stays alone, one that is steep

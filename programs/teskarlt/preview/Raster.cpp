@@ -13,17 +13,24 @@
 #include "teskarlt/Error.h"
 #include "teskarlt/preview/BandLists.h"
 #include "teskarlt/preview/DepthBand.h"
+#include "teskarlt/preview/Letters.h"
 #include "teskarlt/preview/Picture.h"
+#include "teskarlt/preview/RoofNames.h"
 #include "teskarlt/preview/VisibleLines.h"
 
 namespace teskarlt::preview {
 
 namespace {
 
-constexpr int BAND = 16;            // rows of pixels that are held at a time
-constexpr double MARGIN = 0.04;     // of the picture's width
-constexpr double TALLEST = 1.5;     // height of the picture against its width
-constexpr double EDGE_WIDTH = 1.1;  // pixels
+constexpr int BAND = 16;                         // rows of pixels that are held at a time
+constexpr double MARGIN = 0.04;                  // of the picture's width
+constexpr double TALLEST = 1.5;                  // height of the picture against its width
+constexpr double EDGE_WIDTH = 1.1;               // pixels
+constexpr LetterHeights NAME_HEIGHTS = {9, 16};  // pixels
+constexpr double NAME_WIDTH = 2.2;               // of the lines of letters, likewise
+constexpr double HALO_WIDTH = 6;                 // of what is left free around them
+constexpr Colour NAME_INK = {29, 58, 79};
+constexpr Colour HALO = {255, 255, 255};
 constexpr Colour GROUND = {236, 239, 241};
 
 // Samples in each direction of a pixel: fewer where so many surfaces lie over one another that more would
@@ -39,16 +46,14 @@ struct Stroke {
   Vec3 b;
   DashPattern pattern;
   double offset = 0;
+  double width = 0;
 };
 
 class Renderer {
  public:
   Renderer(const Scene& scene, const PictureOptions& options, const std::vector<VisibleLine>& lines,
            int samples)
-      : scene_(scene),
-        view_(*options.view),
-        frame_(FrameOf(scene, view_, options.window)),
-        samples_(samples) {
+      : scene_(scene), view_(*options.view), frame_(FrameOf(scene, view_, options.zoom)), samples_(samples) {
     const double margin = options.width * MARGIN;
     const double room = options.width - 2 * margin;
     double scale = room / frame_.Width();
@@ -65,6 +70,7 @@ class Renderer {
     AddSurfaces();
     for (const VisibleLine& line : lines)
       AddLine(line);
+    AddNames();
     ListByBands();
   }
 
@@ -118,15 +124,43 @@ class Renderer {
   // A visible line is so much nearer to the viewer than the surfaces that it bounds that none of them cuts
   // it.
   void AddLine(const VisibleLine& line) {
-    Stroke stroke{InSamples(line.a), InSamples(line.b), {}, line.offset * scale_};
+    Stroke stroke{InSamples(line.a), InSamples(line.b), {}, line.offset * scale_, EDGE_WIDTH * samples_};
     stroke.a.z += pull_;
     stroke.b.z += pull_;
     for (const double length :
          ReadablePattern(scene_.patterns[line.pattern], SHORTEST_PERIOD * samples_ / scale_))
       stroke.pattern.push_back(length * scale_);
+    AddStroke(std::move(stroke), line.isEdge ? EdgeInk(line.colour) : Ink(line.colour));
+  }
+
+  void AddStroke(Stroke stroke, const Colour& colour) {
     strokes_.push_back(std::move(stroke));
-    const std::uint32_t owner = AddColour(line.isEdge ? EdgeInk(line.colour) : Ink(line.colour));
+    const std::uint32_t owner = AddColour(colour);
     if (strokes_.size() == 1) firstStroke_ = owner;
+  }
+
+  void AddNames() {
+    const double perPixel = samples_ / scale_;
+    const RoofNames names =
+        PlaceRoofNames(scene_, view_, frame_, {NAME_HEIGHTS.least * perPixel, NAME_HEIGHTS.most * perPixel});
+    picture_.unnamedRoofs = names.withoutRoom;
+    for (const PlacedName& name : names.shown) {
+      AddName(name, HALO_WIDTH * samples_, HALO, 2 * pull_);
+      AddName(name, NAME_WIDTH * samples_, NAME_INK, 3 * pull_);
+    }
+  }
+
+  // A name comes so much nearer to the viewer than what it stands on.
+  void AddName(const PlacedName& name, double width, const Colour& colour, double pull) {
+    const Vec3 middle = InSamples(name.middle);
+    const double height = name.height * scale_;
+    const auto at = [&](const Vec3& point) {
+      return Vec3{middle.x + point.x * height, middle.y - point.y * height, middle.z + pull};
+    };
+    for (const std::vector<Vec3>& line : StrokesOf(name.text)) {
+      for (std::size_t i = 1; i < line.size(); ++i)
+        AddStroke({at(line[i - 1]), at(line[i]), {}, 0, width}, colour);
+    }
   }
 
   void ListByBands() {
@@ -138,9 +172,10 @@ class Renderer {
       surfacesByBand_->Add(std::min({a.y, b.y, c.y}), std::max({a.y, b.y, c.y}));
     }
     strokesByBand_.emplace(bands, height);
-    const double width = EDGE_WIDTH * samples_;
-    for (const Stroke& stroke : strokes_)
-      strokesByBand_->Add(std::min(stroke.a.y, stroke.b.y) - width, std::max(stroke.a.y, stroke.b.y) + width);
+    for (const Stroke& stroke : strokes_) {
+      strokesByBand_->Add(std::min(stroke.a.y, stroke.b.y) - stroke.width,
+                          std::max(stroke.a.y, stroke.b.y) + stroke.width);
+    }
   }
 
   void RenderBand(DepthBand& band, int firstRow) {
@@ -162,7 +197,7 @@ class Renderer {
 
   // The dashes of a stroke, as far as they may lie in the band.
   void Draw(const Stroke& stroke, std::uint32_t owner, int firstRow, DepthBand& band) const {
-    const double width = EDGE_WIDTH * samples_;
+    const double width = stroke.width;
     const double top = firstRow * samples_ - width;
     const double bottom = (firstRow + BAND) * samples_ + width;
     const double right = picture_.width * samples_ + width;
@@ -173,19 +208,20 @@ class Renderer {
         !Narrow(a.x + width, b.x + width, part) || !Narrow(right - a.x, right - b.x, part))
       return;
     if (stroke.pattern.empty()) {
-      DrawDash(a, b, width / 2, owner, band);
+      DrawDash(a, b, width, width / 2, owner, band);
       return;
     }
     const double offset = stroke.offset + part.first * DistanceInPicture(a, b);
     const std::vector<Vec3> points = {geometry::Between(a, b, part.first),
                                       geometry::Between(a, b, part.second)};
     for (const std::vector<Vec3>& dash : Dashes(points, stroke.pattern, offset))
-      DrawDash(dash.front(), dash.back(), 0, owner, band);
+      DrawDash(dash.front(), dash.back(), width, 0, owner, band);
   }
 
   // A narrow strip whose ends stand out by so much: by half of its width they close the corners of lines.
-  void DrawDash(const Vec3& a, const Vec3& b, double standOut, std::uint32_t owner, DepthBand& band) const {
-    const double half = EDGE_WIDTH * samples_ / 2;
+  static void DrawDash(const Vec3& a, const Vec3& b, double width, double standOut, std::uint32_t owner,
+                       DepthBand& band) {
+    const double half = width / 2;
     const double length = DistanceInPicture(a, b);
     const double alongX = length > 0 ? (b.x - a.x) / length : 1;
     const double alongY = length > 0 ? (b.y - a.y) / length : 0;
@@ -253,7 +289,7 @@ class Renderer {
 
 Picture Render(const Scene& scene, const PictureOptions& options) {
   const std::vector<VisibleLine> lines =
-      VisibleLines(scene, *options.view, FrameOf(scene, *options.view, options.window));
+      VisibleLines(scene, *options.view, FrameOf(scene, *options.view, options.zoom));
   for (const int samples : SAMPLES) {
     if (std::optional<Picture> picture = Renderer(scene, options, lines, samples).Run())
       return *std::move(picture);

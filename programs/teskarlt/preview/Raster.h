@@ -15,9 +15,11 @@ struct Picture {
   int width = 0;
   int height = 0;
   std::vector<std::uint8_t> bytes;
+  std::size_t unnamedRoofs = 0;  // that have no room for their names
 };
 
-// Surfaces in soft light with their edges, and lines, by a depth buffer. The same bytes on every system.
+// Surfaces in soft light with their edges, and lines, by a depth buffer, and above them the names of the
+// scene's roofs. The same bytes on every system.
 // Throws Error when so much lies over one another that it would take too long.
 Picture Render(const Scene& scene, const PictureOptions& options);
 

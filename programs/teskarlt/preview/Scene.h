@@ -71,6 +71,13 @@ struct SceneWindow {
   Box box;
 };
 
+// A roof that takes windows, for its name in pictures.
+struct SceneRoof {
+  std::string name;                      // as Roofs names its surface
+  Vec3 normal;                           // of its plane, unit length, z positive
+  std::vector<std::vector<Vec3>> rings;  // around it and its holes, in a plane over all of its faces
+};
+
 // Lengths of dash, gap, dash, gap ... in drawing units, a dash of 0 being a dot. Empty: an unbroken line.
 using DashPattern = std::vector<double>;
 
@@ -84,6 +91,7 @@ struct Scene {
   std::vector<Surface> surfaces;
   std::vector<Curve> curves;
   std::vector<SceneWindow> windows;
+  std::vector<SceneRoof> roofs;                // where their names are asked for
   std::map<std::string, std::size_t> leftOut;  // entities that no picture shows, by type
   Box box;
 };

@@ -12,6 +12,9 @@
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/EntityFaces.h"
 #include "teskarlt/drawing/Rings.h"
+#include "teskarlt/drawing/Roofs.h"
+#include "teskarlt/drawing/SurfaceOutline.h"
+#include "teskarlt/drawing/UnitProposal.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
@@ -65,6 +68,19 @@ void KeepSolid(EntityFaces& outlines) {
     face.hiddenEdges = ~0U;
 }
 
+// Its rings lie as far over its plane as its faces reach, and a little more.
+SceneRoof ToSceneRoof(const RoofSurface& surface, const Roofs& roofs) {
+  const SurfaceOutline outline = OutlineOf(surface, roofs.Faces(), roofs.Tolerance());
+  const Vec3& normal = surface.plane.normal;
+  SceneRoof roof{surface.name, normal, {}};
+  for (const SlopeRing& ring : outline.rings) {
+    std::vector<Vec3>& corners = roof.rings.emplace_back();
+    for (const SlopePoint& corner : ring)
+      corners.push_back(geometry::Moved(outline.frame.At(corner), normal, surface.warp + roofs.Tolerance()));
+  }
+  return roof;
+}
+
 class Reader {
  public:
   Reader(const dxf::Document& drawing, const SceneOptions& options)
@@ -84,6 +100,7 @@ class Reader {
 
  private:
   void ReadWindows();
+  void ReadRoofs(const AskedUnit& units);
   void ReadEntity(const dxf::Entity& entity, const Placement& placement);
   void ReadInsert(const dxf::TagList& insert, const Look& look, const Placement& placement);
   Look LookOf(const dxf::TagList& entity, const Placement& placement) const;
@@ -117,6 +134,19 @@ void Reader::ReadWindows() {
     if (window.isComplete && scene_.perMetre > 0)
       shown.label = fmt::format("{:.2f} \u00d7 {:.2f} m", window.params.width, window.params.length);
     scene_.windows.push_back(std::move(shown));
+  }
+}
+
+// The sloped ones on layers that are seen.
+void Reader::ReadRoofs(const AskedUnit& units) {
+  const DrawingUnit* const unit = KnownUnit(drawing_, units);
+  const Roofs roofs = FindRoofs(drawing_, ToleranceToLookWith(drawing_, unit == nullptr ? UNSTATED : *unit));
+  for (const RoofSurface& surface : roofs.Surfaces()) {
+    if (!surface.isPlanar || IsFlat(surface)) continue;
+    const bool isSeen = std::any_of(surface.faces.begin(), surface.faces.end(), [&](std::size_t face) {
+      return layerIndices_.contains(dxf::FoldedName(roofs.Faces()[face].layer));
+    });
+    if (isSeen) scene_.roofs.push_back(ToSceneRoof(surface, roofs));
   }
 }
 
@@ -262,6 +292,7 @@ Scene Reader::Run(const SceneOptions& options) {
       drawing_.Source().Fail(fmt::format("nothing is to be seen on layer \"{}\"", layer));
   }
   if (scene_.box.IsEmpty()) drawing_.Source().Fail("nothing is to be seen in this drawing");
+  if (options.withRoofs) ReadRoofs(options.units);
   const Box& box = scene_.box;
   for (const double reach : {box.low.x, box.low.y, box.low.z, box.high.x, box.high.y, box.high.z}) {
     if (!(std::abs(reach) <= FARTHEST)) drawing_.Source().Fail("reaches too far for a picture");

@@ -13,6 +13,7 @@ namespace teskarlt::preview {
 struct SceneOptions {
   AskedUnit units;                       // what the user says of the drawing's unit
   std::vector<std::string> layers = {};  // only these, UTF-8, without regard to case; empty: all
+  bool withRoofs = false;                // finds the roofs, too, as far as they are to be seen
 };
 
 // The model space with its blocks, as far as its layers are visible. Throws Error for a malformed drawing, an

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "teskarlt/preview/PaintOrder.h"
+#include "teskarlt/preview/RoofNames.h"
 #include "teskarlt/preview/VisibleLines.h"
 
 namespace teskarlt::preview {
@@ -60,10 +61,7 @@ double RoundLength(double most) {
 class Writer {
  public:
   Writer(const Scene& scene, const PictureOptions& options)
-      : scene_(scene),
-        options_(options),
-        view_(*options.view),
-        frame_(FrameOf(scene, view_, options.window)) {
+      : scene_(scene), options_(options), view_(*options.view), frame_(FrameOf(scene, view_, options.zoom)) {
     scale_ = (options.width - 2 * MARGIN) / frame_.Width();
     height_ = frame_.Height() * scale_;
     const double tallest = options.width * TALLEST;
@@ -74,15 +72,16 @@ class Writer {
     left_ = (options.width - frame_.Width() * scale_) / 2;
   }
 
-  std::string Run() {
+  VectorPicture Run() {
     Head();
     Surfaces();
     Layers();
     text_ += "</g>\n";
     if (view_.IsPlan()) Numbers();
+    if (!scene_.roofs.empty()) Names();
     Footer();
     text_ += "</svg>\n";
-    return std::move(text_);
+    return {std::move(text_), unnamedRoofs_};
   }
 
  private:
@@ -96,8 +95,10 @@ class Writer {
   }
 
   std::string Title() const {
-    if (!options_.window) return scene_.name;
-    return fmt::format("{}, window {}", scene_.name, scene_.windows[*options_.window].number);
+    const Zoom& zoom = options_.zoom;
+    if (zoom.window) return fmt::format("{}, window {}", scene_.name, scene_.windows[*zoom.window].number);
+    if (zoom.roof) return fmt::format("{}, roof {}", scene_.name, scene_.roofs[*zoom.roof].name);
+    return scene_.name;
   }
 
   void Head();
@@ -107,6 +108,7 @@ class Writer {
   bool IsOutside(const Vec3& a, const Vec3& b) const;
   std::string DashText(const VisibleLine& line) const;
   void Numbers();
+  void Names();
   void Footer();
   void ScaleBar(double y);
 
@@ -118,6 +120,7 @@ class Writer {
   double height_ = 0;
   double left_ = 0;
   std::string text_;
+  std::size_t unnamedRoofs_ = 0;
 };
 
 void Writer::Head() {
@@ -233,6 +236,22 @@ void Writer::Numbers() {
   Put("</g>\n");
 }
 
+void Writer::Names() {
+  constexpr double capital = 0.72;  // height of a capital letter against the size of the font
+  constexpr LetterHeights inPixels = {6, 10};
+  const RoofNames names =
+      PlaceRoofNames(scene_, view_, frame_, {inPixels.least / scale_, inPixels.most / scale_});
+  unnamedRoofs_ = names.withoutRoom;
+  Put("<g id=\"roof-names\" font-weight=\"bold\" text-anchor=\"middle\" fill=\"#1d3a4f\" stroke=\"#ffffff\" "
+      "stroke-width=\"2.5\" stroke-linejoin=\"round\" paint-order=\"stroke\">\n");
+  for (const PlacedName& name : names.shown) {
+    const double height = name.height * scale_;
+    Put("<text x=\"{}\" y=\"{}\" font-size=\"{}\">{}</text>\n", Number(X(name.middle)),
+        Number(Y(name.middle) + height / 2), Number(height / capital), name.text);
+  }
+  Put("</g>\n");
+}
+
 void Writer::ScaleBar(double y) {
   constexpr double widest = 200;
   constexpr double thickness = 5;
@@ -266,7 +285,7 @@ void Writer::Footer() {
 
 }  // namespace
 
-std::string Svg(const Scene& scene, const PictureOptions& options) {
+VectorPicture Svg(const Scene& scene, const PictureOptions& options) {
   return Writer(scene, options).Run();
 }
 

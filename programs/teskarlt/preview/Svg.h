@@ -1,7 +1,7 @@
 // Svg.h - a drawing as a vector picture.
 #pragma once
 
-#include <optional>
+#include <cstddef>
 #include <string>
 
 #include "teskarlt/preview/Scene.h"
@@ -10,14 +10,19 @@
 namespace teskarlt::preview {
 
 struct PictureOptions {
-  const View* view = nullptr;         // never null
-  int width = 0;                      // pixels
-  std::optional<std::size_t> window;  // shows only its surroundings; index in Scene::windows
+  const View* view = nullptr;  // never null
+  int width = 0;               // pixels
+  Zoom zoom;
+};
+
+struct VectorPicture {
+  std::string text;
+  std::size_t unnamedRoofs = 0;  // that have no room for their names
 };
 
 // An SVG document: surfaces with a light wash of their colours, above them one group a layer with its lines,
-// then the numbers of the windows (in plan), title and scale bar. Edges of surfaces are drawn as far as
-// nothing hides them, and so are lines, but in plan, where every line is drawn.
-std::string Svg(const Scene& scene, const PictureOptions& options);
+// then the numbers of the windows (in plan), the names of the scene's roofs, title and scale bar. Edges of
+// surfaces are drawn as far as nothing hides them, and so are lines, but in plan, where every line is drawn.
+VectorPicture Svg(const Scene& scene, const PictureOptions& options);
 
 }  // namespace teskarlt::preview

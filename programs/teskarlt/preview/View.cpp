@@ -36,6 +36,18 @@ void Grow(Frame& frame, double by) {
   frame.top += by;
 }
 
+Frame FrameOf(const SceneRoof& roof, const View& view) {
+  constexpr double around = 0.25;
+  Box box;
+  for (const std::vector<Vec3>& ring : roof.rings) {
+    for (const Vec3& corner : ring)
+      box.Add(view.Project(corner));
+  }
+  Frame frame = Around(box);
+  Grow(frame, std::max(frame.Width(), frame.Height()) * around);
+  return frame;
+}
+
 }  // namespace
 
 Vec3 View::Project(const Vec3& point) const {
@@ -60,7 +72,9 @@ double Brightness(const View& view, const Vec3& normal) {
          fillStrength * std::max(0.0, geometry::VecDot(n, fill));
 }
 
-Frame FrameOf(const Scene& scene, const View& view, std::optional<std::size_t> window) {
+Frame FrameOf(const Scene& scene, const View& view, const Zoom& zoom) {
+  if (zoom.roof) return FrameOf(scene.roofs[*zoom.roof], view);
+  const std::optional<std::size_t>& window = zoom.window;
   Box box;
   const auto add = [&](const std::vector<Vec3>& points, int itsWindow) {
     if (window && itsWindow != static_cast<int>(*window)) return;

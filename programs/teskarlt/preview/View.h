@@ -40,8 +40,14 @@ struct Frame {
   double Height() const { return top - bottom; }
 };
 
-// The rectangle around the scene, or around one of its windows with as much again on every side; never
-// without width or height.
-Frame FrameOf(const Scene& scene, const View& view, std::optional<std::size_t> window);
+// What of a scene a picture shows: all, or the surroundings of a window or a roof.
+struct Zoom {
+  std::optional<std::size_t> window = {};  // index in Scene::windows
+  std::optional<std::size_t> roof = {};    // index in Scene::roofs
+};
+
+// The rectangle around the scene, around one of its windows with as much again on every side, or around one
+// of its roofs with a quarter more; never without width or height.
+Frame FrameOf(const Scene& scene, const View& view, const Zoom& zoom);
 
 }  // namespace teskarlt::preview

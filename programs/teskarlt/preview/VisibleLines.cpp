@@ -14,10 +14,13 @@ namespace teskarlt::preview {
 
 namespace {
 
-// How far an edge is moved into its surface before it is asked for, relative to the size of the scene.
+// How far an edge is moved into its surface before it is asked for: relative to the size of the scene, or of
+// what is shown of it with as much around that it is seldom less; but farther than HiddenLines tells apart.
 constexpr double INSET = 1e-5;
-// Shorter parts, likewise relative, are left over by that movement.
-constexpr double SHORTEST = 1e-4;
+constexpr double AROUND_FRAME = 10;
+constexpr double LEAST_INSET = 2e-6;  // relative to the size of the scene
+// Parts of so many insets and shorter are left over by that movement.
+constexpr double SHORTEST = 10;
 
 // An edge that two surfaces may share, in the picture.
 struct Edge {
@@ -43,7 +46,9 @@ class Gatherer {
   Gatherer(const Scene& scene, const View& view, const Frame& frame)
       : scene_(scene), view_(view), frame_(frame), hidden_(scene, view) {
     const Box& box = scene.box;
-    size_ = std::max({box.high.x - box.low.x, box.high.y - box.low.y, box.high.z - box.low.z});
+    const double size = std::max({box.high.x - box.low.x, box.high.y - box.low.y, box.high.z - box.low.z});
+    const double shown = AROUND_FRAME * std::max(frame.Width(), frame.Height());
+    inset_ = std::max(INSET * std::min(size, shown), LEAST_INSET * size);
   }
 
   std::vector<VisibleLine> Run() {
@@ -79,7 +84,7 @@ class Gatherer {
   Parts VisibleInside(const VisibleLine& line, const Vec3& from, const Vec3& to, const Vec3& normal) {
     const Vec3 inwards = geometry::Cross(normal, geometry::Difference(to, from));
     const double length = geometry::VecLength(inwards);
-    const Vec3 shift = view_.Project(geometry::Scaled(inwards, length > 0 ? INSET * size_ / length : 0));
+    const Vec3 shift = view_.Project(geometry::Scaled(inwards, length > 0 ? inset_ / length : 0));
     return hidden_.Visible(geometry::Sum(line.a, shift), geometry::Sum(line.b, shift));
   }
 
@@ -103,7 +108,7 @@ class Gatherer {
   }
 
   void AddParts(const VisibleLine& line, const Parts& parts) {
-    const double shortest = SHORTEST * size_;
+    const double shortest = SHORTEST * inset_;
     for (const auto& [from, to] : parts) {
       const bool isWhole = from == 0 && to == 1;
       if (!isWhole && (to - from) * DistanceInPicture(line.a, line.b) < shortest) continue;
@@ -127,7 +132,7 @@ class Gatherer {
   const View& view_;
   const Frame& frame_;
   HiddenLines hidden_;
-  double size_ = 0;
+  double inset_ = 0;
   std::unordered_set<Edge, EdgeHash> edges_;
   std::vector<VisibleLine> lines_;
 };

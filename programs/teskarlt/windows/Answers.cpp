@@ -16,7 +16,7 @@ namespace teskarlt {
 namespace {
 
 // A length in metres, as the dialog reads it.
-std::string LengthText(const FieldSetting& setting, LengthStyle style) {
+std::string LengthText(const FieldSetting& setting) {
   const std::string& value = setting.value;
   if (const auto metres = ParseFeetInches(value)) return fmt::format("{}", *metres);
   if (value.find_first_of("'\"") != std::string::npos) {
@@ -25,12 +25,11 @@ std::string LengthText(const FieldSetting& setting, LengthStyle style) {
                             setting.field, value),
                 {.value = value});
   }
-  const auto feet = style == LengthStyle::FeetAndInches ? dxf::ParseReal(value) : std::nullopt;
+  const auto feet = setting.lengths == LengthStyle::FeetAndInches ? dxf::ParseReal(value) : std::nullopt;
   return feet ? fmt::format("{}", *feet * METRES_PER_FOOT) : value;
 }
 
-void AddSetting(const FieldSetting& setting, LengthStyle style, const dxf::Document& drawing,
-                DialogAnswers& answers) {
+void AddSetting(const FieldSetting& setting, const dxf::Document& drawing, DialogAnswers& answers) {
   const brevanta::RecordField* field = brevanta::FindRecordField(setting.field);
   if (field == nullptr) {
     throw Error(fmt::format("--set {}={}: there is no such field; teskarlt insert --fields lists them",
@@ -38,7 +37,7 @@ void AddSetting(const FieldSetting& setting, LengthStyle style, const dxf::Docum
                 {.value = setting.field});
   }
   std::string& answer = answers[setting.field] = setting.value;
-  if (field->kind == brevanta::FieldKind::Length) answer = LengthText(setting, style);
+  if (field->kind == brevanta::FieldKind::Length) answer = LengthText(setting);
   if (field->kind != brevanta::FieldKind::Text) return;
   try {
     const bool isFixed = setting.field == "openingCode" && setting.value == brevanta::FIXED_GLAZING;
@@ -73,8 +72,8 @@ DialogAnswers AnswersOf(const WindowOrder& order, const dxf::Document& drawing, 
   DialogAnswers answers;
   if (!order.window.empty()) AddCatalogueWindow(order, drawing, shelf, answers);
   for (const FieldSetting& setting : order.settings) {
-    if (order.lengths == LengthStyle::Metres) RefuseOtherUnits(setting);
-    AddSetting(setting, order.lengths, drawing, answers);
+    if (setting.lengths == LengthStyle::Metres) RefuseOtherUnits(setting);
+    AddSetting(setting, drawing, answers);
   }
   return answers;
 }

@@ -10,6 +10,10 @@ namespace teskarlt {
 // What lengths are said in.
 enum class LengthStyle { Metres, FeetAndInches };
 
+// How users name them.
+inline constexpr const char* METRES = "m";
+inline constexpr const char* FEET = "ft";
+
 constexpr double METRES_PER_INCH = 0.0254;
 constexpr double METRES_PER_FOOT = 0.3048;
 

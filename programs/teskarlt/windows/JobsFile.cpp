@@ -19,6 +19,7 @@ using nlohmann::json;
 
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::string_view BLANKS = " \t";
+constexpr const char* LENGTHS = "lengths";
 constexpr std::size_t POINTS_OF_A_PLANE = 3;
 constexpr int MOST_LEVELS = 10;            // a job needs four; what handles values calls itself for each
 constexpr std::size_t LONGEST_QUOTE = 60;  // bytes of a value in a message
@@ -76,22 +77,23 @@ std::vector<geometry::Vec3> PlanePoints(const std::string& name, const json& val
 }
 
 // The settings of a job go behind those of the defaults, so that they win.
-void AddSettings(const json& value, std::vector<FieldSetting>& settings) {
+void AddSettings(const json& value, LengthStyle lengths, std::vector<FieldSetting>& settings) {
   if (!value.is_object())
     throw Error(fmt::format("set: {} is no object, as {{\"width\": 0.78}} is one", Shown(value)));
   for (const auto& [field, setting] : value.items())
-    settings.push_back({field, ValueText("set: " + field, setting)});
+    settings.push_back({field, ValueText("set: " + field, setting), lengths});
 }
 
 // Spacing and gap go before each other, as the last one said of the row.
-bool ApplyRowMember(const std::string& name, const json& value, RowOrder& row) {
+bool ApplyRowMember(const std::string& name, const json& value, WindowOrder& order) {
+  RowOrder& row = order.row;
   if (name == "row") {
     row.count = ParseRowCount(ScalarText(name, value));
   } else if (name == "spacing") {
-    row.spacing = ParseRowLength("--spacing", ScalarText(name, value));
+    row.spacing = ParseDistance("--spacing", ScalarText(name, value), order.lengths);
     row.gap.reset();
   } else if (name == "gap") {
-    row.gap = ParseRowLength("--gap", ScalarText(name, value));
+    row.gap = ParseDistance("--gap", ScalarText(name, value), order.lengths);
     row.spacing.reset();
   } else if (name == "row-from") {
     row.from = NameText(name, value);
@@ -104,7 +106,15 @@ bool ApplyRowMember(const std::string& name, const json& value, RowOrder& row) {
   return true;
 }
 
+// What the plain lengths of a job count.
+LengthStyle StyleOf(const std::string& name, const json& value) {
+  if (value == METRES) return LengthStyle::Metres;
+  if (value == FEET) return LengthStyle::FeetAndInches;
+  throw Error(fmt::format("{}: {} is neither \"{}\" nor \"{}\"", name, Shown(value), METRES, FEET));
+}
+
 void ApplyMember(const std::string& name, const json& value, WindowOrder& order) {
+  if (name == LENGTHS) return;  // went before the others
   if (name == "at") {
     order.at = ParsePlanPoint("--at", ValueText(name, value));
   } else if (name == "on" || name == "roof-face") {
@@ -120,15 +130,16 @@ void ApplyMember(const std::string& name, const json& value, WindowOrder& order)
   } else if (name == "catalogue") {
     order.catalogue = NameText(name, value);
   } else if (name == "set") {
-    AddSettings(value, order.settings);
+    AddSettings(value, order.lengths, order.settings);
   } else if (const PlaceWord* word = FindPlaceWord(name)) {
     word->apply(*word, ListText(name, value), order);
-  } else if (!ApplyRowMember(name, value, order.row)) {
+  } else if (!ApplyRowMember(name, value, order)) {
     throw Error(
-        fmt::format("a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set, row, "
-                    "spacing, gap, column, row-from and the options of insert that say where a window "
-                    "goes, as from-eaves",
-                    name),
+        fmt::format(
+            "a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set, row, "
+            "spacing, gap, column, row-from, lengths and the options of insert that say where a window "
+            "goes, as from-eaves",
+            name),
         {.value = name});
   }
 }
@@ -169,6 +180,7 @@ std::vector<Job> JobsIn(std::string_view text) {
 WindowOrder ParseJob(std::string_view text, const WindowOrder& defaults) {
   const json job = ParseObject(text);
   WindowOrder order = defaults;
+  if (const auto style = job.find(LENGTHS); style != job.end()) order.lengths = StyleOf(LENGTHS, *style);
   for (const auto& [name, value] : job.items())
     ApplyMember(name, value, order);
   return order;

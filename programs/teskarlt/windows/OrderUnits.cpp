@@ -37,7 +37,7 @@ std::string PointsInWorkingUnits(std::string_view text, const WorkingUnit& unit)
 }
 
 PlanPoint InWorkingUnits(const PlanPoint& point, const WorkingUnit& unit) {
-  return {ToWorking(point.x, unit), ToWorking(point.y, unit), point.text};
+  return {ToWorking(point.x, unit), ToWorking(point.y, unit), point.text, point.option};
 }
 
 }  // namespace

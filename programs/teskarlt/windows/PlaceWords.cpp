@@ -88,9 +88,7 @@ void ApplyLength(const PlaceWord& word, const std::string& text, WindowOrder& or
 // How far from an edge, which a window cannot be behind.
 template <auto Member>
 void ApplyDistance(const PlaceWord& word, const std::string& text, WindowOrder& order) {
-  const double distance = Length(word, text, order);
-  if (distance < 0) Refuse(word, text, "a distance is not negative");
-  order.placing.*Member = distance;
+  order.placing.*Member = ParseDistance(fmt::format("--{}", word.name).c_str(), text, order.lengths);
 }
 
 void ApplyCentre(const PlaceWord& word, const std::string& text, WindowOrder& order) {
@@ -127,7 +125,7 @@ void ApplySnap(const PlaceWord& word, const std::string& text, WindowOrder& orde
 }
 
 void ApplyClearance(const PlaceWord& word, const std::string& text, WindowOrder& order) {
-  order.clearance = ParseClearance(fmt::format("--{}", word.name).c_str(), text, order.lengths);
+  order.clearance = ParseDistance(fmt::format("--{}", word.name).c_str(), text, order.lengths);
 }
 
 constexpr std::array PLAN_ROOF_WORDS = {
@@ -137,33 +135,34 @@ constexpr std::array PLAN_ROOF_WORDS = {
     PlaceWord{"ridge", 2, "X,Y", "its ridge in place of the eaves; it lies to the left of it, too",
               ApplyRidge},
     PlaceWord{"pitch", 1, "DEGREES", "its pitch", ApplyPitch},
-    PlaceWord{"eaves-height", 1, "METRES", "the height of the eaves", ApplyHeight<&PlanRoof::eavesHeight>},
-    PlaceWord{"ridge-height", 1, "METRES", "the height of the ridge", ApplyHeight<&PlanRoof::ridgeHeight>},
+    PlaceWord{"eaves-height", 1, "LENGTH", "the height of the eaves", ApplyHeight<&PlanRoof::eavesHeight>},
+    PlaceWord{"ridge-height", 1, "LENGTH", "the height of the ridge", ApplyHeight<&PlanRoof::ridgeHeight>},
     PlaceWord{"rises-to", 1, "X,Y", "a point on the side to which it rises", ApplyRisesTo},
 };
 
 constexpr std::array PLACING_WORDS = {
-    PlaceWord{"from-eaves", 1, "METRES", "from the lowest edge of the roof up to the frame, along the slope",
+    PlaceWord{"from-eaves", 1, "LENGTH", "from the lowest edge of the roof up to the frame, along the slope",
               ApplyDistance<&Placing::fromEaves>},
-    PlaceWord{"from-ridge", 1, "METRES",
+    PlaceWord{"from-ridge", 1, "LENGTH",
               "from the highest edge of the roof down to the frame, along the slope",
               ApplyDistance<&Placing::fromRidge>},
-    PlaceWord{"sill", 1, "METRES", "the height of the frame's lower edge", ApplyLength<&Placing::sill>},
-    PlaceWord{"head", 1, "METRES", "the height of the frame's upper edge", ApplyLength<&Placing::head>},
-    PlaceWord{"from-verge", 1, "METRES",
+    PlaceWord{"sill", 1, "LENGTH", "the height of the frame's lower edge", ApplyLength<&Placing::sill>},
+    PlaceWord{"head", 1, "LENGTH", "the height of the frame's upper edge", ApplyLength<&Placing::head>},
+    PlaceWord{"from-verge", 1, "LENGTH",
               "from the left edge of the roof to the frame, seen from below the eaves",
               ApplyDistance<&Placing::fromVerge>},
-    PlaceWord{"from-right-verge", 1, "METRES", "from the right edge of the roof to the frame",
+    PlaceWord{"from-right-verge", 1, "LENGTH", "from the right edge of the roof to the frame",
               ApplyDistance<&Placing::fromRightVerge>},
     PlaceWord{"centre", 0, "", "in the middle of the roof, between its left and right edge", ApplyCentre},
     PlaceWord{"between", 2, "N", "in the middle between two windows", ApplyBetween},
     PlaceWord{"over", 1, "X,Y", "on the axis of a point of the plan, as of a wall opening below", ApplyOver},
     PlaceWord{"align", 1, "N", "in line with window N, by the edge of --edge", ApplyAlign},
     PlaceWord{"edge", 1, "EDGE", "what --align lines up: top, bottom (without it) or axis", ApplyEdge},
-    PlaceWord{"snap", 1, "METRES",
-              "moves what --at says to multiples of this, from the left edge and from the eaves", ApplySnap},
+    PlaceWord{"snap", 1, "LENGTH",
+              "moves what a point says to multiples of this, from the left edge and from the eaves",
+              ApplySnap},
     PlaceWord{
-        "clearance", 1, "METRES",
+        "clearance", 1, "LENGTH",
         "tells of other windows, edges of the roof and obstacles that are nearer to the frame than this",
         ApplyClearance},
 };

@@ -184,6 +184,13 @@ bool Sets(const WindowOrder& order, std::initializer_list<std::string_view> fiel
   });
 }
 
+// The box around all windows of a row, of which the one at its point lies in `box`.
+SlopeBox Widened(SlopeBox box, const RowReach& row) {
+  (row.isColumn ? box.bottom : box.left) -= row.before;
+  (row.isColumn ? box.top : box.right) += row.behind;
+  return box;
+}
+
 // A point of the roof in the plan, for the trial.
 std::array<double, 2> SomePoint(const MeasuredRoof& roof) {
   return {roof.frame.origin.x, roof.frame.origin.y};
@@ -213,17 +220,17 @@ MeasuredRoof MeasuredOn(const WindowOrder& order, const RoofChoice& roof, const 
 }
 
 SlopePoint WayToPlace(const Placing& placing, const MeasuredRoof& roof, const Outline& frame,
-                      const KnownPlace& known, const OutlineOfWindow& outlineOf) {
-  return Placer(placing, roof, BoxOf(frame, roof.frame), known, outlineOf).Way();
+                      const KnownPlace& known, const OutlineOfWindow& outlineOf, const RowReach& row) {
+  return Placer(placing, roof, Widened(BoxOf(frame, roof.frame), row), known, outlineOf).Way();
 }
 
 std::array<double, 2> PlaceFor(const WindowOrder& order, const MeasuredRoof& roof, WindowRequest request,
-                               const TryOut& tryOut, const OutlineOfWindow& outlineOf) {
+                               const TryOut& tryOut, const OutlineOfWindow& outlineOf, const RowReach& row) {
   const bool setsHeight = Sets(order, {"lowerEdgeHeight", "upperEdgeHeight"});
   const KnownPlace known{.isPoint = request.point.has_value(), .isHeight = setsHeight};
   if (!request.point) request.point = SomePoint(roof);
   request.facesNear = nullptr;
-  const SlopePoint way = WayToPlace(order.placing, roof, OutlineOf(tryOut(request)), known, outlineOf);
+  const SlopePoint way = WayToPlace(order.placing, roof, OutlineOf(tryOut(request)), known, outlineOf, row);
   const geometry::Vec3 moved =
       geometry::Moved(geometry::Moved({}, roof.frame.across, way.across), roof.frame.up, way.up);
   return {request.point->front() + moved.x, request.point->back() + moved.y};

@@ -12,6 +12,7 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/modules/ModuleSession.h"
 #include "teskarlt/windows/RoofChoice.h"
+#include "teskarlt/windows/RowPoints.h"
 #include "teskarlt/windows/WindowOrder.h"
 
 namespace teskarlt {
@@ -39,18 +40,20 @@ struct KnownPlace {
 
 using OutlineOfWindow = std::function<std::optional<Outline>(int number)>;
 
-// How far a frame that is drawn at `frame` must move along the eaves and up the slope to lie as the words
-// say. Throws Error, naming the words, when they contradict one another, do not say all that is not known,
-// name a window that there is not, or mean a place beside the roof.
+// How far a frame that is drawn at `frame`, or a row with that frame at its point, must move along the eaves
+// and up the slope to lie as the words say. Throws Error, naming the words, when they contradict one another,
+// do not say all that is not known, name a window that there is not, or mean a place beside the roof.
 SlopePoint WayToPlace(const Placing& placing, const MeasuredRoof& roof, const Outline& frame,
-                      const KnownPlace& known, const OutlineOfWindow& outlineOf);
+                      const KnownPlace& known, const OutlineOfWindow& outlineOf, const RowReach& row = {});
 
 // Runs the command without leaving anything in the drawing and gives the record that the dialog confirms.
 using TryOut = std::function<brevanta::WindowParams(const WindowRequest& trial)>;
 
 // The point in the plan with which the request brings the frame to where the order's words say. A trial tells
-// where the frame lies: that depends on settings, catalogue and build-up.
+// where the frame lies: that depends on settings, catalogue and build-up. Of a row, the words mean all of its
+// windows together, and the point is the row's.
 std::array<double, 2> PlaceFor(const WindowOrder& order, const MeasuredRoof& roof, WindowRequest request,
-                               const TryOut& tryOut, const OutlineOfWindow& outlineOf);
+                               const TryOut& tryOut, const OutlineOfWindow& outlineOf,
+                               const RowReach& row = {});
 
 }  // namespace teskarlt

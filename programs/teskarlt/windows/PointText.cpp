@@ -1,4 +1,4 @@
-// PointText.cpp - points and moves as users write them.
+// PointText.cpp - points, lengths and moves as users write them.
 #include "teskarlt/windows/PointText.h"
 
 #include <optional>
@@ -45,15 +45,17 @@ PlanPoint ParsePlanPoint(const char* option, const std::string& text) {
                             HintAt(text, "3000.5,2000")),
                 {.value = text});
   }
-  return {(*numbers)[0], (*numbers)[1], text};
+  return {(*numbers)[0], (*numbers)[1], text, option};
 }
 
 double ParseLength(const char* option, const std::string& text, LengthStyle style) {
   if (const std::optional<double> metres = ParseFeetInches(text)) return *metres;
   const double metresEach = style == LengthStyle::Metres ? 1.0 : METRES_PER_FOOT;
   if (const std::optional<double> number = dxf::ParseReal(text)) return *number * metresEach;
+  const char* const counted =
+      style == LengthStyle::Metres ? "metres" : "feet, or feet and inches with their marks, as 5'-4 1/2\"";
   throw Error(
-      fmt::format("{} {}: a length is a finite number of metres{}", option, text, HintAt(text, "0.5")),
+      fmt::format("{} {}: a length is a finite number of {}{}", option, text, counted, HintAt(text, "0.5")),
       {.value = text});
 }
 
@@ -67,23 +69,22 @@ geometry::Vec3 ParsePoint(const char* option, const std::string& text) {
   return {(*numbers)[0], (*numbers)[1], (*numbers)[2]};
 }
 
-SlopeMove ParseSlopeMove(const char* option, const std::string& text) {
-  const auto numbers = ParseNumbers(text);
-  if (!numbers || numbers->size() != 2) {
-    throw Error(
-        fmt::format("{} {}: a move is two finite numbers, ALONG,UP, in metres along the eaves and up the "
-                    "slope",
-                    option, text),
-        {.value = text});
-  }
-  return {(*numbers)[0], (*numbers)[1]};
+double ParseDistance(const char* option, const std::string& text, LengthStyle style) {
+  const double distance = ParseLength(option, text, style);
+  if (distance < 0.0)
+    throw Error(fmt::format("{} {}: a distance is not negative", option, text), {.value = text});
+  return distance;
 }
 
-double ParseClearance(const char* option, const std::string& text, LengthStyle style) {
-  const double clearance = ParseLength(option, text, style);
-  if (clearance < 0)
-    throw Error(fmt::format("{} {}: a clearance is not negative", option, text), {.value = text});
-  return clearance;
+SlopeMove ParseSlopeMove(const char* option, const std::string& text, LengthStyle style) {
+  const std::size_t comma = text.find(',');
+  if (comma == std::string::npos || text.find(',', comma + 1) != std::string::npos) {
+    throw Error(fmt::format("{} {}: a move is two lengths, ALONG,UP, along the eaves and up the slope{}",
+                            option, text, HintAt(text, "0.2,0")),
+                {.value = text});
+  }
+  return {ParseLength(option, text.substr(0, comma), style),
+          ParseLength(option, text.substr(comma + 1), style)};
 }
 
 }  // namespace teskarlt

@@ -1,4 +1,4 @@
-// PointText.h - points and moves as users write them.
+// PointText.h - points, lengths and moves as users write them.
 #pragma once
 
 #include <string>
@@ -12,14 +12,14 @@ namespace teskarlt {
 PlanPoint ParsePlanPoint(const char* option, const std::string& text);
 geometry::Vec3 ParsePoint(const char* option, const std::string& text);
 
-// "ACROSS,UP" in metres. Throws Error, naming the option, for anything but finite numbers.
-SlopeMove ParseSlopeMove(const char* option, const std::string& text);
-
 // A length, which becomes metres: a number of what the style counts, or feet and inches with their marks.
 // Throws Error, naming the option, for anything else.
 double ParseLength(const char* option, const std::string& text, LengthStyle style);
 
-// Such a length that a window keeps to what is in its way. Throws Error for a negative one, too.
-double ParseClearance(const char* option, const std::string& text, LengthStyle style);
+// The same of a length that is not negative.
+double ParseDistance(const char* option, const std::string& text, LengthStyle style);
+
+// "ACROSS,UP", two such lengths. Throws Error, naming the option, for anything else.
+SlopeMove ParseSlopeMove(const char* option, const std::string& text, LengthStyle style);
 
 }  // namespace teskarlt

@@ -95,18 +95,18 @@ const RoofFace& FaceAt(const PlanPoint& point, const std::string& file, const Ro
   if (over && over->surface->isPlanar) return *over->face;
   if (over) {
     throw Error(
-        fmt::format("--at {}: the uppermost face over that point, {} of layer {}, {}; --on names another "
+        fmt::format("{} {}: the uppermost face over that point, {} of layer {}, {}; --on names another "
                     "one, and {}",
-                    point.text, over->face->name, over->face->layer, Hindrance(*over->face, roofs),
-                    PLANE_HINT),
+                    point.option, point.text, over->face->name, over->face->layer,
+                    Hindrance(*over->face, roofs), PLANE_HINT),
         {.value = point.text});
   }
   if (roofs.IsEmpty()) {
     throw Error(
         fmt::format("{} holds no planar face that can take a roof window{}", file, UnreadClause(roofs)));
   }
-  throw Error(fmt::format("--at {}: no roof face lies over that point; the roofs lie within {}{}", point.text,
-                          PlanExtents(roofs), UnreadClause(roofs)),
+  throw Error(fmt::format("{} {}: no roof face lies over that point; the roofs lie within {}{}", point.option,
+                          point.text, PlanExtents(roofs), UnreadClause(roofs)),
               {.value = point.text});
 }
 

@@ -7,7 +7,6 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/TagValue.h"
-#include "teskarlt/windows/FeetInches.h"
 
 namespace teskarlt {
 
@@ -19,16 +18,6 @@ int ParseRowCount(const std::string& text) {
                 {.value = text});
   }
   return static_cast<int>(*count);
-}
-
-double ParseRowLength(const char* option, const std::string& text) {
-  std::optional<double> length = ParseFeetInches(text);
-  if (!length) length = dxf::ParseReal(text);
-  if (!length || *length < 0.0) {
-    throw Error(fmt::format("{} {}: a distance is a number of metres, as in {} 1.2", option, text, option),
-                {.value = text});
-  }
-  return *length;
 }
 
 RowPlace PlaceOfPoint(const RowOrder& row) {

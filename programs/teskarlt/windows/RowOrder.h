@@ -18,10 +18,8 @@ struct RowOrder {
 // Which window of a row stands at its point.
 enum class RowPlace { First, Middle, Last };
 
-// As users write them; all throw Error, naming the option. A count is from 1 to 1000, a length is one in
-// metres, or with marks one in feet and inches (FeetInches.h).
+// As users write it, from 1 to 1000. Throws Error, naming the option, for anything else.
 int ParseRowCount(const std::string& text);
-double ParseRowLength(const char* option, const std::string& text);
 
 // "left", "centre" or "right", of a column "bottom", "centre" or "top"; where the order says nothing, the
 // first window.

@@ -20,20 +20,28 @@ double StepsToPoint(const RowOrder& row, int count) {
   return 0.0;
 }
 
+PlanPoint PointAt(const geometry::Vec3& place, const WorkingUnit& unit) {
+  return {place.x, place.y, fmt::format("{:.9g},{:.9g}", ToDrawn(place.x, unit), ToDrawn(place.y, unit))};
+}
+
 }  // namespace
 
-std::vector<PlanPoint> RowPoints(const RowOrder& row, const PlanPoint& point, const SlopeFrame& roof,
-                                 double step) {
-  const bool isColumn = row.isColumn.value_or(false);
+RowReach ReachOf(const RowOrder& row, double step) {
   const int count = row.count.value_or(1);
-  const double before = StepsToPoint(row, count);
+  const double steps = StepsToPoint(row, count);
+  return {steps * step, (count - 1 - steps) * step, row.isColumn.value_or(false)};
+}
+
+std::vector<PlanPoint> RowPoints(const RowOrder& row, const PlanPoint& point, const SlopeFrame& roof,
+                                 double step, const WorkingUnit& unit) {
+  const int count = row.count.value_or(1);
+  const double steps = StepsToPoint(row, count);
   std::vector<PlanPoint> points;
   points.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
-    const double along = step * (i - before);
-    const SlopePoint way = isColumn ? SlopePoint{0.0, along} : SlopePoint{along, 0.0};
-    const geometry::Vec3 place = SlopeFrame{{point.x, point.y, 0.0}, roof.across, roof.up}.At(way);
-    points.push_back({place.x, place.y, fmt::format("{:.9g},{:.9g}", place.x, place.y)});
+    const double along = step * (i - steps);
+    const SlopePoint way = row.isColumn.value_or(false) ? SlopePoint{0.0, along} : SlopePoint{along, 0.0};
+    points.push_back(PointAt(SlopeFrame{{point.x, point.y, 0.0}, roof.across, roof.up}.At(way), unit));
   }
   return points;
 }

@@ -12,7 +12,6 @@
 #include "teskarlt/windows/OntoRoof.h"
 #include "teskarlt/windows/OrderUnits.h"
 #include "teskarlt/windows/Placing.h"
-#include "teskarlt/windows/RowPoints.h"
 
 namespace teskarlt {
 
@@ -25,9 +24,13 @@ bool Sets(const WindowOrder& order, std::string_view field) {
 
 // Refuses what would put all windows of a row at one place.
 void CheckRoomForRow(const WindowOrder& order) {
-  if (!order.at) throw Error("--row: say the point of the row with --at X,Y");
-  if (IsGiven(order.placing))
-    throw Error("--row starts at its point; leave the words for the place of one window out");
+  if (!order.at && !IsGiven(order.placing)) {
+    throw Error(
+        "--row: say where the row goes, with its point, --at X,Y, or with words, as --from-eaves 1.2 "
+        "--centre");
+  }
+  if (!order.at && order.row.from)
+    throw Error("--row-from says which window stands at the point; add --at X,Y or leave it out");
   if (Sets(order, "roofPlanePoints"))
     throw Error("--row: roofPlanePoints cannot be set for a row; --roof gives its plane");
   if (!order.row.isColumn.value_or(false)) return;
@@ -65,15 +68,21 @@ std::vector<PlacedWindow> WindowInserter::InsertAll(const WindowOrder& drawnOrde
   return windows;
 }
 
-PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& roof,
-                                  const WindowNumbers& numbers) {
+WindowRequest WindowInserter::RequestFor(const WindowOrder& order, const RoofChoice& roof,
+                                         const WindowNumbers& numbers) {
   WindowRequest request;
   request.unit = work_.unit;
   request.numbersInUse = &numbers;
   request.answers = AnswersOf(order, work_.drawing, shelf_);
   if (order.at) request.point = {order.at->x, order.at->y};
   PutRoof(roof, request);
-  if (IsGiven(order.placing)) PutPlace(order, roof, request);
+  return request;
+}
+
+PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& roof,
+                                  const WindowNumbers& numbers) {
+  WindowRequest request = RequestFor(order, roof, numbers);
+  if (IsGiven(order.placing)) request.point = FindPlace(order, roof, request);
   PlacedWindow window = PlacedBy(InsertOnto(roof, request), work_.unit, roof);
   window.misfits = fit_.Misfits(window.record, window.outline, RulesFor(window, order));
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
@@ -82,26 +91,39 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
 
 std::vector<PlacedWindow> WindowInserter::DrawRow(const WindowOrder& order, const RoofChoice& roof) {
   const double step = StepOf(order, roof);
+  const SlopeFrame frame = FrameOf(PlaneOf(roof.corners));
   WindowNumbers numbers = numbers_;
+  WindowOrder one = order;
+  one.placing = {};
   std::vector<PlacedWindow> windows;
-  for (const PlanPoint& point : RowPoints(order.row, *order.at, FrameOf(PlaneOf(roof.corners)), step)) {
-    WindowOrder one = order;
+  for (const PlanPoint& point :
+       RowPoints(order.row, PointOfRow(order, roof, step), frame, step, work_.unit)) {
     one.at = point;
     try {
       windows.push_back(Draw(one, roof, numbers));
     } catch (const Error& error) {
-      throw Error(fmt::format("window {} of the row: {}", windows.size() + 1, error.Message()),
-                  error.Place());
+      throw Error(
+          fmt::format("window {} of the row, at {}: {}", windows.size() + 1, point.text, error.Message()),
+          error.Place());
     }
     numbers.Take(windows.back().record.markerValue);
   }
   return windows;
 }
 
-// A window at the row's point, on a roof without bounds, tells the size of all.
+PlanPoint WindowInserter::PointOfRow(const WindowOrder& order, const RoofChoice& roof, double step) {
+  if (!IsGiven(order.placing)) return *order.at;
+  const WindowRequest request = RequestFor(order, roof, numbers_);
+  const auto [x, y] = FindPlace(order, roof, request, ReachOf(order.row, step));
+  return {x, y, {}};
+}
+
+// A window somewhere on the roof, which has no bounds then, tells the size of all.
 double WindowInserter::StepOf(const WindowOrder& order, RoofChoice roof) {
   WindowOrder sampleOrder = order;
   sampleOrder.isStrict = false;
+  sampleOrder.placing = {};
+  if (!order.at) sampleOrder.at = PlanPoint{roof.corners.front().x, roof.corners.front().y, {}};
   roof.facesNear = nullptr;
   const dxf::EditMark before = work_.drawing.Mark();
   const brevanta::WindowParams sample = Draw(sampleOrder, roof, numbers_).record;
@@ -109,10 +131,12 @@ double WindowInserter::StepOf(const WindowOrder& order, RoofChoice roof) {
   const double size = order.row.isColumn.value_or(false) ? sample.length : sample.width;
   const double step = order.row.gap ? size + *order.row.gap : *order.row.spacing;
   if (step < size) {
-    throw Error(
-        fmt::format("--spacing {:g}: the windows of the row, {:g} m each, would overlap; say --spacing {:g} "
-                    "or more",
-                    step, size, size));
+    const auto said = [&](double length) {
+      return order.lengths == LengthStyle::Metres ? fmt::format("{:g} m", length) : FeetInchesText(length);
+    };
+    throw Error(fmt::format(
+        "--spacing: the windows of the row, {} each, would overlap {} apart; say a longer one, or --gap 0",
+        said(size), said(step)));
   }
   return step * sample.unitFactor;
 }
@@ -127,7 +151,8 @@ CommandOutcome WindowInserter::InsertOnto(const RoofChoice& roof, const WindowRe
                      [&](const WindowRequest& run) { return module_.Insert(work_.drawing, run); });
 }
 
-void WindowInserter::PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request) {
+std::array<double, 2> WindowInserter::FindPlace(const WindowOrder& order, const RoofChoice& roof,
+                                                const WindowRequest& request, const RowReach& row) {
   const auto tryOut = [&](const WindowRequest& trial) {
     const dxf::EditMark before = work_.drawing.Mark();
     const CommandOutcome outcome = module_.Insert(work_.drawing, trial);
@@ -135,7 +160,7 @@ void WindowInserter::PutPlace(const WindowOrder& order, const RoofChoice& roof, 
     return *outcome.confirmed;
   };
   const auto outlineOf = [&](int number) { return fit_.OutlineOf(number); };
-  request.point = PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf);
+  return PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf, row);
 }
 
 }  // namespace teskarlt

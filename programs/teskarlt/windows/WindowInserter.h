@@ -1,6 +1,7 @@
 // WindowInserter.h - inserts windows into one drawing, one after the other.
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "teskarlt/drawing/WindowFit.h"
@@ -9,6 +10,7 @@
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/PlacedWindow.h"
 #include "teskarlt/windows/RoofChoice.h"
+#include "teskarlt/windows/RowPoints.h"
 #include "teskarlt/windows/WindowOrder.h"
 #include "teskarlt/windows/WorkedDrawing.h"
 
@@ -30,15 +32,20 @@ class WindowInserter {
   std::vector<PlacedWindow> InsertAll(const WindowOrder& order);
 
  private:
+  // What the module is asked for; words for the place are still to be followed.
+  WindowRequest RequestFor(const WindowOrder& order, const RoofChoice& roof, const WindowNumbers& numbers);
   // Draws the window, which counts with none of the next ones yet. Throws Error, and may leave a part behind.
   PlacedWindow Draw(const WindowOrder& order, const RoofChoice& roof, const WindowNumbers& numbers);
   std::vector<PlacedWindow> DrawRow(const WindowOrder& order, const RoofChoice& roof);
   // How far apart the points of a row lie, in working units along the roof.
   double StepOf(const WindowOrder& order, RoofChoice roof);
+  // The point from which the row's windows are counted, where its order or its words say.
+  PlanPoint PointOfRow(const WindowOrder& order, const RoofChoice& roof, double step);
   void Count(const PlacedWindow& window);
   CommandOutcome InsertOnto(const RoofChoice& roof, const WindowRequest& request);
-  // Puts the point for which the order's words stand into the request.
-  void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
+  // The point for which the order's words stand, in working units.
+  std::array<double, 2> FindPlace(const WindowOrder& order, const RoofChoice& roof,
+                                  const WindowRequest& request, const RowReach& row = {});
 
   const WindowModule& module_;
   const WorkedDrawing work_;

@@ -16,7 +16,8 @@ namespace teskarlt {
 struct PlanPoint {
   double x;
   double y;
-  std::string text;  // as the user wrote it, for messages
+  std::string text;             // as the user wrote it, for messages
+  std::string option = "--at";  // by which he said it, likewise
 
   bool operator==(const PlanPoint&) const = default;
 };
@@ -31,6 +32,8 @@ struct SlopeMove {
 struct FieldSetting {
   std::string field;
   std::string value;
+  // What a plain number counts where the field is a length; marked ones are feet and inches in either case.
+  LengthStyle lengths = LengthStyle::Metres;
 };
 
 // A roof that is only drawn in plan: one of its edges, the edge's height and the pitch.
@@ -76,13 +79,12 @@ struct WindowOrder {
   std::vector<geometry::Vec3> roof;  // three points of a plane in place of a face, in drawing units; or none
   PlanRoof planRoof;                 // the same
   Placing placing;
-  std::string window;                  // of a catalogue, "MAKER/KEY"
-  std::string catalogue;               // its file or folder; without it the one in the data folder
-  std::vector<FieldSetting> settings;  // of the same field the last one holds
-  // What plain numbers of settings that are lengths count; marked ones are feet and inches in either case.
-  LengthStyle lengths = LengthStyle::Metres;
-  double clearance = 0.0;  // metres that windows keep to what is in their way
-  bool isStrict = false;   // a window that does not fit is refused
+  std::string window;                         // of a catalogue, "MAKER/KEY"
+  std::string catalogue;                      // its file or folder; without it the one in the data folder
+  std::vector<FieldSetting> settings;         // of the same field the last one holds
+  LengthStyle lengths = LengthStyle::Metres;  // what plain lengths count that are still to be read
+  double clearance = 0.0;                     // metres that windows keep to what is in their way
+  bool isStrict = false;                      // a window that does not fit is refused
 };
 
 }  // namespace teskarlt

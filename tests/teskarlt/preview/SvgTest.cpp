@@ -15,7 +15,7 @@ std::string Drawn(const Parts& parts, const char* view = "plan") {
   PictureOptions options;
   options.view = FindView(view);
   options.width = 264;  // with margins of 32, ten units are 20 pixels each
-  return Svg(SceneOf(parts), options);
+  return Svg(SceneOf(parts), options).text;
 }
 
 TEST(Svg, LineIsAPathOfItsLayer) {

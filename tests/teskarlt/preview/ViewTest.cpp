@@ -33,13 +33,13 @@ TEST(FrameOf, WindowHasAsMuchAgainAroundIt) {
   const Scene scene =
       SceneOf({.entities = Rectangle("B", 10, 10, 12, 11, 0, "|1001 TK_LT_ELEM|1000 TKBRVA|1071 7") +
                            Line("A", 0, 0, 99, 99)});
-  const Frame frame = FrameOf(scene, *FindView("plan"), 0);
+  const Frame frame = FrameOf(scene, *FindView("plan"), {.window = 0});
   EXPECT_EQ(frame.left, 8);
   EXPECT_EQ(frame.top, 13);
 }
 
 TEST(FrameOf, LineInOneDirectionStillHasAnArea) {
-  const Frame frame = FrameOf(SceneOf({.entities = Line("A", 0, 0, 10, 0)}), *FindView("plan"), std::nullopt);
+  const Frame frame = FrameOf(SceneOf({.entities = Line("A", 0, 0, 10, 0)}), *FindView("plan"), {});
   EXPECT_GT(frame.Height(), 0);
 }
 

@@ -36,5 +36,18 @@ TEST(VisibleLines, TopOfAWallIsSeenFromTheSide) {
   EXPECT_EQ(TopsSeen(WALL, "south"), 1);
 }
 
+TEST(VisibleLines, ShortPartOfAnEdgeIsSeenInASmallPieceOfALargeDrawing) {
+  // A fin through a roof, of whose edges half a metre is seen from above; ten kilometres away is a line.
+  const Scene scene =
+      SceneOf({.entities = "0 3DFACE|8 FIN|10 2|20 2|30 4|11 2|21 3|31 6|12 3|22 3|32 6|13 3|23 2|33 4|" +
+                           Rectangle("ROOF", 0, 0, 10, 10, 5) + Line("FAR", 10000, 0, 10000, 1)});
+  const View& plan = *FindView("plan");
+  const std::vector<VisibleLine> lines = VisibleLines(scene, plan, {0, 0, 10, 10});
+  const auto isSide = [&](const VisibleLine& line) {
+    return scene.layers[line.layer].name == "FIN" && line.a.x == line.b.x;
+  };
+  EXPECT_EQ(std::count_if(lines.begin(), lines.end(), isSide), 2);
+}
+
 }  // namespace
 }  // namespace teskarlt::preview

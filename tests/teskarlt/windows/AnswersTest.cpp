@@ -47,10 +47,10 @@ TEST_F(AnswersTest, LengthInFeetAndInchesIsAnsweredInMetres) {
   EXPECT_EQ(Answers({"text1", "10\""})["text1"], "10\"");
 }
 
-TEST_F(AnswersTest, PlainNumberOfALengthCountsFeetWhereTheOrderSaysSo) {
+TEST_F(AnswersTest, PlainNumberOfALengthCountsFeetWhereTheSettingSaysSo) {
+  const auto feet = LengthStyle::FeetAndInches;
   WindowOrder order;
-  order.lengths = LengthStyle::FeetAndInches;
-  order.settings = {{"width", "2.5"}, {"length", "1'-6\""}, {"rotation", "1.5"}};
+  order.settings = {{"width", "2.5", feet}, {"length", "1'-6\"", feet}, {"rotation", "1.5", feet}};
   DialogAnswers answers = AnswersOf(order, drawing, shelf);
   EXPECT_EQ(answers["width"], "0.762");
   EXPECT_EQ(answers["length"], "0.4572");

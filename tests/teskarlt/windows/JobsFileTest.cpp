@@ -124,6 +124,19 @@ TEST(ParseJob, DistanceOfTheJobReplacesThatOfTheDefaults) {
   EXPECT_FALSE(order.row.gap.has_value());
 }
 
+TEST(ParseJob, PlainLengthsCountWhatTheJobSays) {
+  WindowOrder defaults;
+  defaults.settings = {{"length", "1.4"}};
+  const WindowOrder order = ParseJob(
+      R"({"set": {"width": 3}, "gap": 2, "from-eaves": "1'", "sill": 10, "lengths": "ft"})", defaults);
+  EXPECT_EQ(order.row.gap, 2 * METRES_PER_FOOT);
+  EXPECT_DOUBLE_EQ(order.placing.fromEaves.value(), METRES_PER_FOOT);
+  EXPECT_DOUBLE_EQ(order.placing.sill.value(), 10 * METRES_PER_FOOT);
+  EXPECT_EQ(order.settings[0].lengths, LengthStyle::Metres);  // as they were said
+  EXPECT_EQ(order.settings[1].lengths, LengthStyle::FeetAndInches);
+  EXPECT_EQ(Refusal(R"({"lengths": "yd"})"), R"(lengths: "yd" is neither "m" nor "ft")");
+}
+
 TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
   EXPECT_EQ(Refusal(R"({"column": 1})"), "column: 1 is neither true nor false");
   EXPECT_EQ(Refusal(R"({"row": 0})"), "--row 0: the number of windows in a row is from 1 to 1000");
@@ -135,9 +148,10 @@ TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
   EXPECT_EQ(Refusal(R"({"window": ""})"), "window: the name is empty");
   EXPECT_EQ(Refusal(R"({"set": 3})"), R"(set: 3 is no object, as {"width": 0.78} is one)");
   EXPECT_EQ(Refusal(R"({"at": [1e999, 0]})"), "a number is too large");
-  EXPECT_EQ(Refusal(R"({"place": 1})"),
-            R"(a job has no member "place"; it can have at, on, roof, window, catalogue, set, row, spacing, )"
-            "gap, column, row-from and the options of insert that say where a window goes, as from-eaves");
+  EXPECT_EQ(
+      Refusal(R"({"place": 1})"),
+      R"(a job has no member "place"; it can have at, on, roof, window, catalogue, set, row, spacing, )"
+      "gap, column, row-from, lengths and the options of insert that say where a window goes, as from-eaves");
 }
 
 TEST(ParseJob, LongValueIsShownByItsBeginning) {

@@ -1,6 +1,7 @@
 // PointTextTest.cpp - points as users write them.
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "teskarlt/Error.h"
@@ -59,10 +60,29 @@ TEST(ParsePoint, TakesThreeNumbers) {
 }
 
 TEST(ParseSlopeMove, TakesTwoNumbers) {
-  EXPECT_EQ(ParseSlopeMove("--by", "0.2,-1").across, 0.2);
-  EXPECT_EQ(ParseSlopeMove("--by", "0.2,-1").up, -1);
-  EXPECT_EQ(RefusalOf([] { ParseSlopeMove("--by", "0.2"); }),
-            "--by 0.2: a move is two finite numbers, ALONG,UP, in metres along the eaves and up the slope");
+  EXPECT_EQ(ParseSlopeMove("--by", "0.2,-1", LengthStyle::Metres).across, 0.2);
+  EXPECT_EQ(ParseSlopeMove("--by", "0.2,-1", LengthStyle::Metres).up, -1);
+  EXPECT_EQ(RefusalOf([] { ParseSlopeMove("--by", "0.2", LengthStyle::Metres); }),
+            "--by 0.2: a move is two lengths, ALONG,UP, along the eaves and up the slope");
+  EXPECT_THAT(RefusalOf([] { ParseSlopeMove("--by", "0,2,0", LengthStyle::Metres); }),
+              testing::HasSubstr("decimals stand behind a point, as in 0.2,0"));
+}
+
+TEST(ParseSlopeMove, TakesFeetAndInches) {
+  EXPECT_EQ(ParseSlopeMove("--by", "2,-1", LengthStyle::FeetAndInches).across, 2 * METRES_PER_FOOT);
+  EXPECT_DOUBLE_EQ(ParseSlopeMove("--by", "2,-1'-6\"", LengthStyle::FeetAndInches).up,
+                   -1.5 * METRES_PER_FOOT);
+  EXPECT_EQ(ParseSlopeMove("--by", "8 1/2\",0", LengthStyle::Metres).across, 8.5 * METRES_PER_INCH);
+}
+
+TEST(ParseDistance, IsAtLeastNothing) {
+  EXPECT_EQ(ParseDistance("--gap", "0", LengthStyle::Metres), 0);
+  EXPECT_EQ(ParseDistance("--gap", "2", LengthStyle::FeetAndInches), 2 * METRES_PER_FOOT);
+  EXPECT_EQ(RefusalOf([] { ParseDistance("--gap", "-0.1", LengthStyle::Metres); }),
+            "--gap -0.1: a distance is not negative");
+  EXPECT_EQ(
+      RefusalOf([] { ParseDistance("--gap", "x", LengthStyle::FeetAndInches); }),
+      "--gap x: a length is a finite number of feet, or feet and inches with their marks, as 5'-4 1/2\"");
 }
 
 }  // namespace

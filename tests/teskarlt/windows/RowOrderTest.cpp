@@ -18,13 +18,6 @@ TEST(RowOrder, CountIsFromOneToAThousand) {
     EXPECT_THAT(RefusalOf([&] { ParseRowCount(text); }), HasSubstr("from 1 to 1000")) << text;
 }
 
-TEST(RowOrder, DistanceIsAtLeastNothing) {
-  EXPECT_EQ(ParseRowLength("--gap", "0.1"), 0.1);
-  EXPECT_NEAR(ParseRowLength("--gap", "4\""), 0.1016, 1e-12);
-  EXPECT_EQ(RefusalOf([] { ParseRowLength("--gap", "-0.1"); }),
-            "--gap -0.1: a distance is a number of metres, as in --gap 1.2");
-}
-
 TEST(RowOrder, PointIsTheFirstWindowUnlessSaidOtherwise) {
   EXPECT_EQ(PlaceOfPoint({}), RowPlace::First);
   EXPECT_EQ(PlaceOfPoint({.from = "centre"}), RowPlace::Middle);

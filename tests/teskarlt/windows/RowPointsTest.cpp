@@ -33,7 +33,7 @@ void ExpectAt(const PlanPoint& point, const geometry::Vec3& direction, double di
 TEST(RowPoints, RowRunsToTheRightAlongTheEaves) {
   for (int degrees = 0; degrees < 360; degrees += 25) {
     const TurnedRoof roof(degrees);
-    const auto points = RowPoints({.count = 3}, POINT, roof.frame, STEP);
+    const auto points = RowPoints({.count = 3}, POINT, roof.frame, STEP, IN_DRAWING_UNITS);
     ASSERT_EQ(points.size(), 3U);
     for (int i = 0; i < 3; ++i)
       ExpectAt(points[static_cast<std::size_t>(i)], roof.right, i * STEP);
@@ -44,7 +44,7 @@ TEST(RowPoints, RowRunsToTheRightAlongTheEaves) {
 TEST(RowPoints, ColumnRunsUpTheSlope) {
   for (int degrees = 0; degrees < 360; degrees += 25) {
     const TurnedRoof roof(degrees);
-    const auto points = RowPoints({.count = 2, .isColumn = true}, POINT, roof.frame, STEP);
+    const auto points = RowPoints({.count = 2, .isColumn = true}, POINT, roof.frame, STEP, IN_DRAWING_UNITS);
     ExpectAt(points[0], roof.up, 0);
     ExpectAt(points[1], roof.up, 4);
   }
@@ -52,17 +52,35 @@ TEST(RowPoints, ColumnRunsUpTheSlope) {
 
 TEST(RowPoints, PointMayBeTheMiddleOrTheEnd) {
   const TurnedRoof roof(270);
-  const auto centred = RowPoints({.count = 4, .from = "centre"}, POINT, roof.frame, STEP);
+  const auto centred = RowPoints({.count = 4, .from = "centre"}, POINT, roof.frame, STEP, IN_DRAWING_UNITS);
   ExpectAt(centred[0], roof.right, -1.5 * STEP);
   ExpectAt(centred[3], roof.right, 1.5 * STEP);
-  const auto ending = RowPoints({.count = 4, .from = "right"}, POINT, roof.frame, STEP);
+  const auto ending = RowPoints({.count = 4, .from = "right"}, POINT, roof.frame, STEP, IN_DRAWING_UNITS);
   ExpectAt(ending[0], roof.right, -3 * STEP);
   ExpectAt(ending[3], roof.right, 0);
 }
 
 TEST(RowPoints, RowOnAFlatRoofRunsAlongX) {
-  const auto points = RowPoints({.count = 2}, POINT, FrameOf({{0, 0, 3}, {0, 0, 1}}), STEP);
+  const auto points = RowPoints({.count = 2}, POINT, FrameOf({{0, 0, 3}, {0, 0, 1}}), STEP, IN_DRAWING_UNITS);
   ExpectAt(points[1], {1, 0, 0}, STEP);
+}
+
+// 254 mm are 10 inches.
+TEST(RowPoints, TextsAreInDrawingUnits) {
+  const WorkingUnit inches{.perMetre = 1000, .perDrawingUnit = 25.4};
+  const auto points = RowPoints({.count = 2}, {254, 508, ""}, FrameOf({{0, 0, 3}, {0, 0, 1}}), 508, inches);
+  EXPECT_EQ(points[1].text, "30,20");
+}
+
+TEST(RowPoints, ReachIsCountedFromThePoint) {
+  const RowReach row = ReachOf({.count = 4, .from = "centre"}, STEP);
+  EXPECT_EQ(row.before, 1.5 * STEP);
+  EXPECT_EQ(row.behind, 1.5 * STEP);
+  EXPECT_FALSE(row.isColumn);
+  const RowReach column = ReachOf({.count = 3, .isColumn = true}, STEP);
+  EXPECT_EQ(column.before, 0);
+  EXPECT_EQ(column.behind, 2 * STEP);
+  EXPECT_TRUE(column.isColumn);
 }
 
 }  // namespace

@@ -154,7 +154,7 @@ TEST_F(WindowInserterTest, ColumnRunsUpTheSlope) {
 TEST_F(WindowInserterTest, RowIsRefusedWholeWithTheWindowThatIsRefused) {
   const std::string before = drawing.Serialize();
   EXPECT_THAT(RefusalOf([&] { inserter.InsertAll(RowOf(6)); }),
-              HasSubstr("window 6 of the row: the window would leave the roof face"));
+              HasSubstr("window 6 of the row, at 8500,2000: the window would leave the roof face"));
   EXPECT_EQ(drawing.Serialize(), before);
   const auto windows = inserter.InsertAll(RowOf(5));  // nothing of the refused one counts
   EXPECT_EQ(windows[0].record.markerValue, 1);
@@ -165,7 +165,14 @@ TEST_F(WindowInserterTest, WindowsThatWouldOverlapEachOtherMakeNoRow) {
   WindowOrder order = RowOf(2);
   order.row.spacing = 0.9;
   EXPECT_EQ(RefusalOf([&] { inserter.InsertAll(order); }),
-            "--spacing 0.9: the windows of the row, 0.94 m each, would overlap; say --spacing 0.94 or more");
+            "--spacing: the windows of the row, 0.94 m each, would overlap 0.9 m apart; say a longer one, or "
+            "--gap 0");
+  order.lengths = LengthStyle::FeetAndInches;
+  order.row.spacing = 2 * METRES_PER_FOOT;
+  order.settings = {{"width", "3", LengthStyle::FeetAndInches}};
+  EXPECT_EQ(RefusalOf([&] { inserter.InsertAll(order); }),
+            "--spacing: the windows of the row, 3'-0\" each, would overlap 2'-0\" apart; say a longer one, "
+            "or --gap 0");
   EXPECT_FALSE(drawing.IsChanged());
 }
 
@@ -175,6 +182,30 @@ TEST_F(WindowInserterTest, OneHeightForAllWindowsOfAColumnIsRefused) {
   order.settings = {{"lowerEdgeHeight", "2"}};
   EXPECT_THAT(RefusalOf([&] { inserter.InsertAll(order); }),
               HasSubstr("would put all windows at one height"));
+}
+
+// Three windows 0.94 m wide and 1.5 m apart are 3.94 m wide: from 2.03 to 5.97 m on a roof of 8 m.
+TEST_F(WindowInserterTest, WordsMeanTheWholeRow) {
+  WindowOrder order = RowOf(3);
+  order.at.reset();
+  order.roofName = "R1";
+  order.placing = {.fromEaves = 1.0, .isCentred = true};
+  const auto windows = inserter.InsertAll(order);
+  ASSERT_EQ(windows.size(), 3U);
+  EXPECT_NEAR(windows[0].outline[0].x, 2030, 1e-6);
+  EXPECT_NEAR(windows[2].outline[3].x, 5970, 1e-6);
+  EXPECT_NEAR(windows[1].outline[0].y, 1000 / std::sqrt(2.0), 1e-6);
+}
+
+TEST_F(WindowInserterTest, WordsOfARowNeedNoWindowAtAPoint) {
+  WindowOrder order = RowOf(2);
+  order.at.reset();
+  order.roofName = "R1";
+  EXPECT_THAT(RefusalOf([&] { inserter.InsertAll(order); }), HasSubstr("say where the row goes"));
+  order.placing = {.fromEaves = 1.0, .isCentred = true};
+  order.row.from = "centre";
+  EXPECT_THAT(RefusalOf([&] { inserter.InsertAll(order); }),
+              HasSubstr("--row-from says which window stands at the point"));
 }
 
 TEST_F(WindowInserterTest, OrderWithoutARowIsOneWindow) {
