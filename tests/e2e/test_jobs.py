@@ -113,6 +113,109 @@ def test_example_jobs_fit_the_example_house(teskarlt, house):
     assert answer.stdout.startswith("3 windows: ")
 
 
+# What each job says on a line of its own, and as a command.
+OF_ALL_KINDS = [
+    (GOOD, ["insert", "--at", "2500,1200"]),
+    (OTHER, ["insert", "--at", "4800,1200", "--set", "width=0.78", "--set", "openingCode=BI"]),
+    ({"do": "insert", "at": [6000, 6800], "row": 2, "gap": 0.5}, ["insert", "--at", "6000,6800", "--row", "2", "--gap", "0.5"]),
+    ({"do": "edit", "windows": [1, "3-4"], "set": {"frameWidth": 0.12}}, ["edit", "1", "3-4", "--set", "frameWidth=0.12"]),
+    ({"do": "move", "windows": 1, "by": ["6\"", -0.1]}, ["move", "1", "--by", "6\",-0.1"]),
+    ({"do": "move", "windows": "2", "align": 1, "edge": "top"}, ["move", "2", "--align", "1", "--edge", "top"]),
+    ({"do": "edit", "where": "width<0.8", "window": "OL 94x140", "catalogue": str(ROOT / "examples" / "BREVANTA.LIB")},
+     ["edit", "--where", "width<0.8", "--window", "OL 94x140", "--catalogue", ROOT / "examples" / "BREVANTA.LIB"]),
+    ({"do": "erase", "windows": [4]}, ["erase", "4"]),
+    ({"do": "erase", "type": "OL 94x140"}, ["erase", "--type", "OL 94x140"]),
+    ({"at": [6000, 6800]}, ["insert", "--at", "6000,6800"]),
+]
+
+
+def test_jobs_of_all_kinds_do_what_commands_do_one_after_the_other(teskarlt, house, tmp_path):
+    together, alone = tmp_path / "together.dxf", tmp_path / "alone.dxf"
+    jobs = [job | ({"catalogue": teskarlt.spelled(ROOT / "examples" / "BREVANTA.LIB")} if "catalogue" in job else {})
+            for job, _ in OF_ALL_KINDS]
+    answer = teskarlt.done("apply", house, jobs_file(tmp_path, *jobs), "-o", together)
+    assert answer.stdout.splitlines()[-1] == \
+        f"10 jobs (5 windows inserted, 6 changed, 2 erased) done; written to {teskarlt.spelled(together)}."
+    alone.write_bytes(house.read_bytes())
+    for _, (command, *words) in OF_ALL_KINDS:
+        teskarlt.done(command, alone, *words)
+    assert together.read_bytes() == alone.read_bytes()
+    readers.audited(together)
+
+
+def test_json_tells_what_became_of_each_window(teskarlt, house, tmp_path):
+    path = jobs_file(tmp_path, GOOD, {"do": "edit", "windows": 1, "set": {"width": 0.78}},
+                     {"do": "move", "windows": 1, "to": [4800, 1200]}, {"do": "erase", "windows": 1})
+    before = house.read_bytes()
+    answer = teskarlt.done("insert", house, "--jobs", path, "--json", "--dry-run").json
+    assert [(window["line"], window["do"], window["number"]) for window in answer["windows"]] == \
+        [(1, "insert", 1), (2, "edit", 1), (3, "move", 1), (4, "erase", 1)]
+    assert answer["windows"][1]["changes"] == [{"field": "width", "from": 0.94, "to": 0.78}]
+    assert answer["windows"][2]["place"][:2] == pytest.approx([4800, 1200])
+    assert answer["windows"][3] == {"line": 4, "do": "erase", "number": 1, "erased": 33}
+    assert answer["refused"] == [] and answer["dryRun"] is True
+    assert house.read_bytes() == before
+
+
+def test_refused_job_of_any_kind_writes_nothing_unless_others_are_to_go_on(teskarlt, house, tmp_path):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    before, path = house.read_bytes(), jobs_file(tmp_path, {"do": "move", "windows": 1, "by": [0.1, 0]},
+                                                 {"do": "move", "windows": 1, "by": [99, 0]}, {"do": "erase", "windows": 7})
+    answer = teskarlt("apply", house, path)
+    name = teskarlt.spelled(path)
+    assert answer.status == 1 and house.read_bytes() == before
+    first, second, last = answer.stderr.splitlines()
+    assert first.startswith(f"teskarlt: {name}:2: the window would leave the roof face")
+    assert second.startswith(f"teskarlt: {name}:3: ") and "has no window 7" in second
+    assert last == "teskarlt: 2 of 3 jobs refused; nothing was written"
+    answer = teskarlt("apply", house, path, "--keep-going")
+    assert answer.status == 3
+    assert answer.stdout == f"1 job (1 window changed) done; written to {teskarlt.spelled(house)}.\n"
+    assert teskarlt.done("list", house, "--json").json["windows"][0]["fields"]["storedPoint"][0] == pytest.approx(2600)
+
+
+def test_strict_looks_where_windows_stand_at_the_moment(teskarlt, house, tmp_path):
+    path = jobs_file(tmp_path, GOOD, {"do": "move", "windows": 1, "by": [2, 0]}, GOOD, {"do": "move", "windows": 1, "by": [-2, 0]})
+    answer = teskarlt("apply", house, path, "--strict")
+    assert answer.status == 1 and ":4: --strict: the window is refused; it overlaps window 2" in answer.stderr.splitlines()[0]
+
+
+def test_windows_on_locked_layers_are_changed_where_the_job_says_so(teskarlt, house, tmp_path):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    drawing = readers.ezdxf.readfile(house)
+    for layer in drawing.layers:
+        layer.lock()
+    drawing.saveas(house)
+    assert "locked" in teskarlt("apply", house, jobs_file(tmp_path, {"do": "erase", "windows": 1})).stderr
+    teskarlt.done("apply", house, jobs_file(tmp_path, {"do": "erase", "windows": 1, "locked": True}))
+
+
+def test_jobs_that_change_nothing_write_nothing(teskarlt, house, tmp_path):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    stamp = house.stat().st_mtime_ns
+    answer = teskarlt.done("apply", house, jobs_file(tmp_path, {"do": "edit", "windows": 1, "set": {"width": 0.94}}))
+    assert answer.stdout == "Nothing changes: the windows stand there as ordered; nothing was written.\n"
+    assert house.stat().st_mtime_ns == stamp
+
+
+@pytest.mark.parametrize("job, part", [
+    ({"do": "paint"}, 'do: "paint" is none of insert, edit, move and erase'),
+    ({"do": "erase"}, 'say which windows: by "windows", "where" or "type"'),
+    ({"do": "edit", "windows": "x"}, 'windows: "x" is no window\'s number'),
+    ({"do": "edit", "where": "wide<1"}, 'there is no field "wide"'),
+    ({"do": "move", "windows": 1, "by": [0.1, 0], "centre": True}, "--by says how far the windows go"),
+    ({"do": "move", "windows": 1, "set": {"width": 1}}, 'a job to move has no member "set"'),
+    ({"windows": 1, **GOOD}, 'a job to insert has no member "windows"'),
+], ids=str)
+def test_job_that_means_nothing_is_refused_with_its_line(teskarlt, house, tmp_path, job, part):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    before = house.read_bytes()
+    path = jobs_file(tmp_path, {}, job)
+    answer = teskarlt("apply", house, path)
+    assert answer.status == 1 and f"teskarlt: {teskarlt.spelled(path)}:2: " in answer.stderr and part in answer.stderr, answer
+    assert house.read_bytes() == before
+
+
 def test_ten_thousand_windows_are_ordinary(teskarlt, build, tmp_path):
     columns = 10 if build == "asan" else 100  # sanitizers take minutes for all of them
     roof = Roof(width=300, depth=200)
@@ -124,3 +227,16 @@ def test_ten_thousand_windows_are_ordinary(teskarlt, build, tmp_path):
     count = 100 * columns
     assert answer.stdout.startswith(f"{count} windows: {17 * count} faces and {16 * count} lines added")
     assert drawing.read_bytes().count(b"TKBRVA") == 33 * count
+
+
+# No job is on a window that another one drew, so that the drawing is read once.
+def test_windows_move_in_jobs_of_their_own(teskarlt, build, tmp_path):
+    count = 50 if build == "asan" else 300
+    roof = Roof(width=300, depth=200)
+    drawing = tmp_path / "town.dxf"
+    roof.save(drawing)
+    places = [roof.point(-148 + 2.9 * (number % 100), -98 + 1.95 * (number // 100)) for number in range(count)]
+    teskarlt.done("apply", drawing, jobs_file(tmp_path, *({"at": [x, y]} for x, y, _ in places)))
+    moves = [{"do": "move", "windows": number, "by": [0.01, 0]} for number in range(1, count + 1)]
+    answer = teskarlt.done("apply", drawing, jobs_file(tmp_path, *moves, {"do": "erase", "windows": f"2-{count}"}))
+    assert answer.stdout.startswith(f"{count + 1} jobs ({count} windows changed, {count - 1} erased) done; ")

@@ -37,6 +37,7 @@ void AddCommands(OptionParser& parser) {
   AddEditCommand(parser);
   AddMoveCommand(parser);
   AddEraseCommand(parser);
+  AddApplyCommand(parser);
   AddListCommand(parser);
   AddRefitCommand(parser);
   AddRenumberCommand(parser);

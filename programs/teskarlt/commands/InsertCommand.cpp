@@ -48,11 +48,9 @@ void AddInsertCommand(OptionParser& parser) {
   AddRowOptions(command, options->row);
   const Option jobsFile =
       command
-          .Value(
-              "--jobs", jobs->file,
-              "many windows: a JSON object a line with \"at\", \"on\", \"roof\", \"window\", "
-              "\"catalogue\", \"set\", \"row\", \"spacing\", \"gap\", \"column\", \"row-from\" and the words "
-              "for a place; - reads standard input")
+          .Value("--jobs", jobs->file,
+                 "many windows: a JSON object a line, a job with members of the options' names, as teskarlt "
+                 "apply --help shows them; - reads standard input")
           .Named("FILE")
           .NotEmpty()
           .Excludes(at);

@@ -1,4 +1,4 @@
-// JobsRun.cpp - "insert --jobs": many windows with one load and one save.
+// JobsRun.cpp - "apply" and "insert --jobs": many jobs with one load and one save.
 #include "teskarlt/commands/JobsRun.h"
 
 #include <cstdio>
@@ -9,13 +9,14 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/check/Proof.h"
 #include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Progress.h"
 #include "teskarlt/terminal/Report.h"
-#include "teskarlt/windows/InsertJobs.h"
+#include "teskarlt/windows/DoJobs.h"
 
 namespace teskarlt {
 
@@ -40,20 +41,15 @@ std::string ReadJobs(const std::string& file) {
 // Tells what becomes of each job while they run, and gathers it for programs.
 class JobsTeller {
  public:
-  JobsTeller(std::string file, std::size_t jobs, bool asJson)
-      : file_(std::move(file)), asJson_(asJson), progress_("windows", jobs) {}
+  JobsTeller(const dxf::Document& drawing, std::string file, std::size_t jobs, bool asJson)
+      : drawing_(drawing), file_(std::move(file)), asJson_(asJson), progress_("jobs", jobs) {}
 
   void Add(const Job& job, const JobResult& result) {
-    if (const auto* windows = std::get_if<std::vector<PlacedWindow>>(&result)) {
-      for (const PlacedWindow& window : *windows)
-        AddWindow(job, window);
-    } else {
-      AddRefusal(job, std::get<Error>(result));
-    }
+    std::visit([&](const auto& outcome) { AddOutcome(job, outcome); }, result);
     progress_.Step();
   }
 
-  // For programs: the windows that came into the drawing, and the jobs that were refused.
+  // For programs: what became of each window, and the jobs that were refused.
   Json ReleaseAnswer() {
     Json answer = Json::Object({{"version", JSON_VERSION}});
     answer["windows"] = std::move(windows_);
@@ -62,19 +58,45 @@ class JobsTeller {
   }
 
  private:
-  void AddWindow(const Job& job, const PlacedWindow& window) {
-    if (asJson_) {
-      Json entry = Json::Object({{"line", job.line}});
-      entry.AddMembers(WindowJson(window));
-      windows_.Add(std::move(entry));
+  void AddOutcome(const Job& job, const InsertedWindows& inserted) {
+    for (const PlacedWindow& window : inserted.windows) {
+      if (asJson_) AddWindow(job, JobKind::Insert, WindowJson(window));
+      WarnOfMisfits(job, window);
     }
-    const std::string warning = MisfitWarning(window.record.markerValue, window.misfits);
-    if (!warning.empty()) TellOf(job, "warning: " + warning);
   }
 
-  void AddRefusal(const Job& job, const Error& error) {
+  void AddOutcome(const Job& job, const ChangedWindows& changed) {
+    for (std::size_t i = 0; i < changed.windows.size(); ++i) {
+      const EditedWindow& window = changed.windows[i];
+      const WindowReading& before = changed.before[i].reading;
+      for (const std::string& note : before.notes)
+        TellOf(job, fmt::format("note: window {}: {}", window.placed.record.markerValue, note));
+      if (asJson_) AddWindow(job, changed.kind, EditedJson(window, before, drawing_));
+      WarnOfMisfits(job, window.placed);
+    }
+  }
+
+  void AddOutcome(const Job& job, const std::vector<ErasedWindow>& erased) {
+    if (!asJson_) return;
+    for (const ErasedWindow& window : erased) {
+      AddWindow(job, JobKind::Erase, Json::Object({{"number", window.number}, {"erased", window.entities}}));
+    }
+  }
+
+  void AddOutcome(const Job& job, const Error& error) {
     TellOf(job, error.what());
     refused_.Add(Json::Object({{"line", job.line}, {"message", error.what()}}));
+  }
+
+  void AddWindow(const Job& job, JobKind kind, Json window) {
+    Json entry = Json::Object({{"line", job.line}, {"do", WordOf(kind)}});
+    entry.AddMembers(std::move(window));
+    windows_.Add(std::move(entry));
+  }
+
+  void WarnOfMisfits(const Job& job, const PlacedWindow& window) {
+    const std::string warning = MisfitWarning(window.record.markerValue, window.misfits);
+    if (!warning.empty()) TellOf(job, "warning: " + warning);
   }
 
   void TellOf(const Job& job, const std::string& message) {
@@ -83,6 +105,7 @@ class JobsTeller {
     Tell(Error(message, place).what());
   }
 
+  const dxf::Document& drawing_;
   std::string file_;
   bool asJson_;
   Progress progress_;
@@ -95,19 +118,41 @@ struct JobsReport {
   Json answer;
 };
 
-JobsReport RunAll(WindowInserter& inserter, const std::vector<Job>& jobs, const WindowOptions& defaults,
+JobsReport RunAll(JobSite& site, const std::vector<Job>& jobs, const WindowOptions& defaults,
                   const std::string& file) {
-  JobsTeller teller(file, jobs.size(), defaults.asJson);
+  JobsTeller teller(site.Work().drawing, file, jobs.size(), defaults.asJson);
   JobsReport report;
-  report.totals = InsertJobs(inserter, jobs, OrderOf(defaults),
-                             [&](const Job& job, const JobResult& result) { teller.Add(job, result); });
+  report.totals = DoJobs(site, jobs, OrderOf(defaults),
+                         [&](const Job& job, const JobResult& result) { teller.Add(job, result); });
   report.answer = teller.ReleaseAnswer();
   return report;
 }
 
-void PrintTotals(const ResultTarget& target, const JobTotals& totals) {
-  fmt::print("{} window{}: {} faces and {} lines {}.\n", totals.inserted, totals.inserted == 1 ? "" : "s",
-             totals.faces, totals.lines, target.Ending("added", "be added"));
+std::string Windows(std::size_t count) {
+  return fmt::format("{} window{}", count, count == 1 ? "" : "s");
+}
+
+// "2 windows inserted, 1 changed and 3 erased: done; written to out.dxf."; of jobs that all insert, what was
+// added.
+void PrintTotals(const ResultTarget& target, const JobTotals& totals, bool isChanged) {
+  if (!isChanged) {
+    fmt::print("Nothing changes: the windows stand there as ordered; {}.\n", target.UnchangedEnding());
+    return;
+  }
+  if (totals.changed + totals.erased == 0) {
+    fmt::print("{}: {} faces and {} lines {}.\n", Windows(totals.inserted), totals.faces, totals.lines,
+               target.Ending("added", "be added"));
+    return;
+  }
+  std::vector<std::string> parts;
+  for (const auto& [count, what] :
+       {std::pair{totals.inserted, "inserted"}, std::pair{totals.changed, "changed"},
+        std::pair{totals.erased, "erased"}}) {
+    if (count > 0)
+      parts.push_back(fmt::format("{} {}", parts.empty() ? Windows(count) : fmt::to_string(count), what));
+  }
+  fmt::print("{} job{} ({}) {}.\n", totals.done, totals.done == 1 ? "" : "s", fmt::join(parts, ", "),
+             target.Ending("done", "be done"));
 }
 
 }  // namespace
@@ -121,18 +166,19 @@ void RunJobs(WindowOptions& defaults, const JobsOptions& options) {
 
   dxf::Document drawing = dxf::Document::Load(defaults.target.File());
   const DrawingUnit& unit = ChooseUnitAndWarn(drawing, defaults.units);
-  WindowInserter inserter(module, drawing, unit);
-  auto [totals, answer] = RunAll(inserter, jobs, defaults, file);
+  JobSite site(module, drawing, unit, check::ProveChanges);
+  auto [totals, answer] = RunAll(site, jobs, defaults, file);
 
-  const bool isWanted = totals.refused == 0 || (options.keepGoing && totals.inserted > 0);
+  const bool isWanted = totals.refused == 0 || (options.keepGoing && totals.done > 0);
+  const bool isChanged = drawing.IsChanged();
   WarnOfClosedLayers(drawing, totals.layers);
   WarnOfTexts(drawing);
-  if (isWanted) SaveDrawing(drawing, defaults.target);
+  if (isWanted && (isChanged || defaults.target.IsNamed())) SaveDrawing(drawing, defaults.target);
   if (defaults.asJson) {
     defaults.target.AddTo(answer);
     PrintJson(answer);
   } else {
-    PrintTotals(defaults.target, totals);
+    PrintTotals(defaults.target, totals, isChanged || totals.done == 0);
   }
   if (totals.refused > 0) {
     throw Error(fmt::format("{} of {} jobs refused{}", totals.refused, jobs.size(),

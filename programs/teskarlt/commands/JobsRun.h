@@ -1,4 +1,4 @@
-// JobsRun.h - "insert --jobs": many windows with one load and one save.
+// JobsRun.h - "apply" and "insert --jobs": many jobs with one load and one save.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ struct JobsOptions {
   bool keepGoing = false;
 };
 
-// Inserts the windows of the jobs; what a job does not say comes from `defaults`. Each refused job is told
+// Does the jobs; what one that inserts does not say comes from `defaults`. Each refused job is told
 // with its line. The drawing is saved when no job was refused or --keep-going was given. Throws Error when
 // any was refused, with their number.
 void RunJobs(WindowOptions& defaults, const JobsOptions& options);

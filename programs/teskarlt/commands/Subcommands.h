@@ -6,6 +6,7 @@
 namespace teskarlt {
 
 // Each adds its subcommand, which runs when the command line names it and throws what goes wrong.
+void AddApplyCommand(OptionParser& parser);
 void AddCatalogueCommand(OptionParser& parser);
 void AddCheckCommand(OptionParser& parser);
 void AddEditCommand(OptionParser& parser);

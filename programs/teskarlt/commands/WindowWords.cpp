@@ -95,15 +95,6 @@ void PrintChanges(const EditedWindow& window, const WindowReading& before, const
   }
 }
 
-// Of a window that was changed, for programs.
-Json EditedJson(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
-  Json json = WindowJson(window.placed);
-  json["sources"] = SourcesJson(before);
-  json["notes"] = before.notes;
-  json["changes"] = ChangesJson(window, before, drawing);
-  return json;
-}
-
 // "Window 3: width: 0.94 m -> 1.14 m; openingCode: "D" -> "B"".
 std::string EditedLine(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing,
                        const LengthWords& words) {
@@ -174,6 +165,14 @@ Json WindowJson(const PlacedWindow& window) {
   json["faces"] = window.faces;
   json["lines"] = window.lines;
   json["warnings"] = window.misfits;
+  return json;
+}
+
+Json EditedJson(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing) {
+  Json json = WindowJson(window.placed);
+  json["sources"] = SourcesJson(before);
+  json["notes"] = before.notes;
+  json["changes"] = ChangesJson(window, before, drawing);
   return json;
 }
 

@@ -34,6 +34,9 @@ void WarnOfTexts(const dxf::Document& drawing);
 // For programs: the window that came into the drawing.
 Json WindowJson(const PlacedWindow& window);
 
+// For programs: the same of a window that was changed, with what it was before.
+Json EditedJson(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing);
+
 // For programs: the unit's name; null where none is stated.
 Json UnitJson(const DrawingUnit& unit);
 

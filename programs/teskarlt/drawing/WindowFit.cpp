@@ -193,6 +193,13 @@ void WindowFit::Add(std::int32_t number, const Outline& outline) {
   widest_ = std::max(widest_, most - least);
 }
 
+void WindowFit::Remove(std::int32_t number, const Outline& outline) {
+  const auto [begin, end] = places_.equal_range(ReachAlongX(outline).first);
+  const auto found =
+      std::find_if(begin, end, [&](const auto& entry) { return entry.second.number == number; });
+  if (found != end) places_.erase(found);
+}
+
 std::optional<Outline> WindowFit::OutlineOf(std::int32_t number) const {
   for (const auto& [x, place] : places_)
     if (place.number == number) return place.outline;

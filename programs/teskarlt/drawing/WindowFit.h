@@ -62,6 +62,8 @@ class WindowFit {
   void AddAll(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows,
               const DrawnWindow* except = nullptr);
   void Add(std::int32_t number, const Outline& outline);
+  // Takes a window that was added with that outline out; does nothing when there is none.
+  void Remove(std::int32_t number, const Outline& outline);
 
   // The outline of a window that was added; none when there is no such number.
   std::optional<Outline> OutlineOf(std::int32_t number) const;

@@ -24,6 +24,9 @@ class WindowNumbers {
     return highest_ < std::numeric_limits<std::int32_t>::max() ? highest_ + 1 : lowestFree_;
   }
 
+  // The highest that is taken or kept; 0 without any.
+  std::int32_t Highest() const { return highest_; }
+
   // Gives no number up to this one any more while there is a higher one.
   void KeepTaken(std::int32_t number) { highest_ = std::max(highest_, number); }
 
@@ -32,6 +35,12 @@ class WindowNumbers {
     highest_ = std::max(highest_, number);
     while (taken_.contains(lowestFree_))
       ++lowestFree_;
+  }
+
+  // The window of that number is gone; the number stays one of a gap.
+  void Release(std::int32_t number) {
+    taken_.erase(number);
+    if (number > 0) lowestFree_ = std::min(lowestFree_, number);
   }
 
  private:

@@ -69,6 +69,13 @@ platform::FileState StateAfterSave(const std::string& path) {
   }
 }
 
+SourceText SourceOf(const std::string& name, std::string_view text) {
+  platform::FileBytes bytes;
+  bytes.bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
+  bytes.size = text.copy(bytes.bytes.get(), text.size());
+  return {name, std::move(bytes)};
+}
+
 Rules RulesOf(const SourceText& source, const Index& index) {
   Rules rules;
   rules.version = VersionNumber(VariableText(index, VARIABLE_VERSION)).value_or(VERSION_R12);
@@ -98,6 +105,8 @@ struct Document::State {
   Rules rules;
   TextCodec codec;
   Edits edits;
+  bool isSettled = false;          // edits were taken over
+  std::vector<std::string> notes;  // of these
 };
 
 Document::Document(std::unique_ptr<State> state) : state_(std::move(state)) {}
@@ -111,10 +120,7 @@ Document Document::Load(const std::string& path) {
 }
 
 Document Document::FromText(const std::string& name, std::string_view text) {
-  platform::FileBytes bytes;
-  bytes.bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
-  bytes.size = text.copy(bytes.bytes.get(), text.size());
-  return FromSource(SourceText(name, std::move(bytes)));
+  return FromSource(SourceOf(name, text));
 }
 
 Document Document::FromSource(SourceText source) {
@@ -259,12 +265,24 @@ void Document::RequireApplication(std::string_view name) {
   state_->edits.TableEntries().RequireApplication(name);
 }
 
+void Document::Settle() {
+  auto settled = std::make_unique<State>(SourceOf(FileName(), Serialize()), state_->file);
+  settled->rules.units = state_->rules.units;
+  settled->codec = state_->codec;  // what texts are in does not change, and what was doubtful stays so
+  settled->isSettled = state_->isSettled || IsChanged();
+  settled->notes = Notes();
+  state_ = std::move(settled);
+}
+
 bool Document::IsChanged() const {
-  return state_->edits.IsChanged();
+  return state_->isSettled || state_->edits.IsChanged();
 }
 
 std::vector<std::string> Document::Notes() const {
-  return state_->edits.Notes();
+  std::vector<std::string> notes = state_->notes;
+  for (std::string& note : state_->edits.Notes())
+    if (std::find(notes.begin(), notes.end(), note) == notes.end()) notes.push_back(std::move(note));
+  return notes;
 }
 
 EditMark Document::Mark() const {

@@ -128,6 +128,12 @@ class Document {
   void RequireLinetype(std::string_view name);
   void RequireApplication(std::string_view name);
 
+  // Takes the edits over as if the drawing had been saved and loaded again: what it holds is what Save would
+  // have written, and Save writes that with the edits made since. Entities, tags and marks from before are
+  // void. Throws as Load does, and then the document is as it was.
+  void Settle();
+
+  // Whether anything was edited since the drawing was loaded.
   bool IsChanged() const;
   // What of the drawing's own damage the edits mend, in sentences for the user.
   std::vector<std::string> Notes() const;

@@ -29,29 +29,51 @@ std::int32_t HighestOf(const std::vector<const DrawnWindow*>& windows) {
   return highest;
 }
 
+void RefuseAny(const dxf::Document& drawing, const std::vector<const DrawnWindow*>& windows,
+               bool isLockedToo) {
+  for (const DrawnWindow* const window : windows) {
+    RefuseUnclear(*window);
+    if (!isLockedToo) RefuseClosedLayers(drawing, *window);
+  }
+}
+
+std::vector<ErasedWindow> EraseAll(const WindowModule& module, dxf::Document& drawing,
+                                   const std::vector<const DrawnWindow*>& windows) {
+  return AllOrNone(drawing, [&] {
+    std::vector<ErasedWindow> erased;
+    erased.reserve(windows.size());
+    for (const DrawnWindow* const window : windows) {
+      WindowRequest request;
+      request.replaced = window->entities;
+      erased.push_back({window->number, module.Erase(drawing, request).erased});
+    }
+    return erased;
+  });
+}
+
 }  // namespace
+
+std::vector<ErasedWindow> EraseWindows(JobSite& site, const WindowSelection& selection, bool isLockedToo) {
+  site.ReadFor(selection);
+  dxf::Document& drawing = site.Work().drawing;
+  const std::vector<const DrawnWindow*> chosen = ChooseWindows(drawing, site.Work().windows, selection);
+  RefuseAny(drawing, chosen, isLockedToo);
+  std::vector<ErasedWindow> erased = EraseAll(site.Module(), drawing, chosen);
+  std::for_each(chosen.rbegin(), chosen.rend(), [&](const DrawnWindow* window) {  // the highest number first
+    site.NoteErased(window->number, DrawnOutline(drawing, *window));
+  });
+  return erased;
+}
 
 std::vector<ErasedWindow> EraseWindows(const WindowModule& module, dxf::Document& drawing,
                                        const WindowSelection& selection, const WorkingUnit& unit,
                                        bool isLockedToo) {
   const std::vector<DrawnWindow> windows = FindWindows(drawing, unit);
   const std::vector<const DrawnWindow*> chosen = ChooseWindows(drawing, windows, selection);
-  for (const DrawnWindow* const window : chosen) {
-    RefuseUnclear(*window);
-    if (!isLockedToo) RefuseClosedLayers(drawing, *window);
-  }
-
-  return AllOrNone(drawing, [&] {
-    std::vector<ErasedWindow> erased;
-    erased.reserve(chosen.size());
-    for (const DrawnWindow* const window : chosen) {
-      WindowRequest request;
-      request.replaced = window->entities;
-      erased.push_back({window->number, module.Erase(drawing, request).erased});
-    }
-    KeepNumberTaken(drawing, windows, HighestOf(chosen));
-    return erased;
-  });
+  RefuseAny(drawing, chosen, isLockedToo);
+  std::vector<ErasedWindow> erased = EraseAll(module, drawing, chosen);
+  KeepNumberTaken(drawing, windows, HighestOf(chosen));
+  return erased;
 }
 
 }  // namespace teskarlt

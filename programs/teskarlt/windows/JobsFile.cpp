@@ -1,13 +1,16 @@
-// JobsFile.cpp - a file of jobs: a JSON object a line, each a window to insert.
+// JobsFile.cpp - a file of jobs: a JSON object a line, each windows to insert, edit, move or erase.
 #include "teskarlt/windows/JobsFile.h"
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
 #include "inc/DialogServices.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/windows/MoveOrder.h"
 #include "teskarlt/windows/PlaceWords.h"
 #include "teskarlt/windows/PointText.h"
 
@@ -19,6 +22,7 @@ using nlohmann::json;
 
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::string_view BLANKS = " \t";
+constexpr const char* DO = "do";
 constexpr const char* LENGTHS = "lengths";
 constexpr std::size_t POINTS_OF_A_PLANE = 3;
 constexpr int MOST_LEVELS = 10;            // a job needs four; what handles values calls itself for each
@@ -84,26 +88,9 @@ void AddSettings(const json& value, LengthStyle lengths, std::vector<FieldSettin
     settings.push_back({field, ValueText("set: " + field, setting), lengths});
 }
 
-// Spacing and gap go before each other, as the last one said of the row.
-bool ApplyRowMember(const std::string& name, const json& value, WindowOrder& order) {
-  RowOrder& row = order.row;
-  if (name == "row") {
-    row.count = ParseRowCount(ScalarText(name, value));
-  } else if (name == "spacing") {
-    row.spacing = ParseDistance("--spacing", ScalarText(name, value), order.lengths);
-    row.gap.reset();
-  } else if (name == "gap") {
-    row.gap = ParseDistance("--gap", ScalarText(name, value), order.lengths);
-    row.spacing.reset();
-  } else if (name == "row-from") {
-    row.from = NameText(name, value);
-  } else if (name == "column") {
-    if (!value.is_boolean()) throw Error(fmt::format("column: {} is neither true nor false", Shown(value)));
-    row.isColumn = value.get<bool>();
-  } else {
-    return false;
-  }
-  return true;
+bool Flag(const std::string& name, const json& value) {
+  if (!value.is_boolean()) throw Error(fmt::format("{}: {} is neither true nor false", name, Shown(value)));
+  return value.get<bool>();
 }
 
 // What the plain lengths of a job count.
@@ -113,35 +100,147 @@ LengthStyle StyleOf(const std::string& name, const json& value) {
   throw Error(fmt::format("{}: {} is neither \"{}\" nor \"{}\"", name, Shown(value), METRES, FEET));
 }
 
-void ApplyMember(const std::string& name, const json& value, WindowOrder& order) {
-  if (name == LENGTHS) return;  // went before the others
-  if (name == "at") {
-    order.at = ParsePlanPoint("--at", ValueText(name, value));
-  } else if (name == "on" || name == "roof-face") {
-    order.roofName = NameText(name, value);
-    order.roof.clear();
-    order.planRoof = {};
-  } else if (name == "roof") {
-    order.roof = PlanePoints(name, value);
-    order.roofName.clear();
-    order.planRoof = {};
-  } else if (name == "window") {
-    order.window = NameText(name, value);
-  } else if (name == "catalogue") {
-    order.catalogue = NameText(name, value);
-  } else if (name == "set") {
-    AddSettings(value, order.lengths, order.settings);
-  } else if (const PlaceWord* word = FindPlaceWord(name)) {
-    word->apply(*word, ListText(name, value), order);
-  } else if (!ApplyRowMember(name, value, order)) {
-    throw Error(
-        fmt::format(
-            "a job has no member \"{}\"; it can have at, on, roof, window, catalogue, set, row, "
-            "spacing, gap, column, row-from, lengths and the options of insert that say where a window "
-            "goes, as from-eaves",
-            name),
-        {.value = name});
+JobKind KindOf(const json& value) {
+  for (const JobKind kind : {JobKind::Insert, JobKind::Edit, JobKind::Move, JobKind::Erase})
+    if (value == WordOf(kind)) return kind;
+  throw Error(fmt::format("{}: {} is none of insert, edit, move and erase", DO, Shown(value)));
+}
+
+NumberRange RangeOf(const std::string& name, const json& value) {
+  const std::string text = ScalarText(name, value);
+  if (const auto range = ParseNumberRange(text)) return *range;
+  throw Error(fmt::format("{}: {} is no window's number, nor a range as \"4-9\"", name, Shown(value)),
+              {.value = text});
+}
+
+// A number, a range, or a list of them.
+std::vector<NumberRange> RangesOf(const std::string& name, const json& value) {
+  if (!value.is_array()) return {RangeOf(name, value)};
+  if (value.empty()) throw Error(fmt::format("{}: the list is empty", name));
+  std::vector<NumberRange> ranges;
+  ranges.reserve(value.size());
+  for (const json& range : value)
+    ranges.push_back(RangeOf(name, range));
+  return ranges;
+}
+
+// A member with a name of its own; the words for a place are in PlaceWords.h.
+struct Member {
+  const char* name;
+  std::vector<JobKind> kinds;  // of the jobs that have it
+  void (*apply)(const std::string& name, const json& value, JobOrder& job);
+};
+
+void ApplyPoint(const std::string& name, const json& value, JobOrder& job) {
+  job.window.at = ParsePlanPoint(("--" + name).c_str(), ValueText(name, value));
+}
+
+void ApplyRoofName(const std::string& name, const json& value, JobOrder& job) {
+  job.window.roofName = NameText(name, value);
+  job.window.roof.clear();
+  job.window.planRoof = {};
+}
+
+void ApplyRoof(const std::string& name, const json& value, JobOrder& job) {
+  job.window.roof = PlanePoints(name, value);
+  job.window.roofName.clear();
+  job.window.planRoof = {};
+}
+
+// Spacing and gap go before each other, as the last one said of the row.
+void ApplySpacing(const std::string& name, const json& value, JobOrder& job) {
+  job.window.row.spacing = ParseDistance("--spacing", ScalarText(name, value), job.window.lengths);
+  job.window.row.gap.reset();
+}
+
+void ApplyGap(const std::string& name, const json& value, JobOrder& job) {
+  job.window.row.gap = ParseDistance("--gap", ScalarText(name, value), job.window.lengths);
+  job.window.row.spacing.reset();
+}
+
+const std::vector<Member>& Members() {
+  using enum JobKind;
+  static const std::vector<JobKind> INSERTING = {Insert};
+  static const std::vector<JobKind> DRAWING = {Insert, Edit};
+  static const std::vector<JobKind> PLACING = {Insert, Edit, Move};
+  static const std::vector<JobKind> CHOOSING = {Edit, Move, Erase};
+  using Text = const std::string&;
+  using Value = const json&;
+  static const std::vector<Member> MEMBERS = {
+      {DO, {Insert, Edit, Move, Erase}, [](Text, Value, JobOrder&) {}},       // was read before
+      {LENGTHS, {Insert, Edit, Move, Erase}, [](Text, Value, JobOrder&) {}},  // likewise
+      {"windows", CHOOSING, [](Text n, Value v, JobOrder& job) { job.selection.numbers = RangesOf(n, v); }},
+      {"where", CHOOSING,
+       [](Text n, Value v, JobOrder& job) { job.selection.where = WindowCondition(NameText(n, v)); }},
+      {"type", CHOOSING, [](Text n, Value v, JobOrder& job) { job.selection.type = NameText(n, v); }},
+      {"locked", CHOOSING, [](Text n, Value v, JobOrder& job) { job.isLockedToo = Flag(n, v); }},
+      {"at", DRAWING, ApplyPoint},
+      {"to", {Move}, ApplyPoint},
+      {"by",
+       {Move},
+       [](Text n, Value v, JobOrder& job) {
+         job.window.by = ParseSlopeMove("--by", ValueText(n, v), job.window.lengths);
+       }},
+      {"on", PLACING, ApplyRoofName},
+      {"roof-face", PLACING, ApplyRoofName},
+      {"roof", PLACING, ApplyRoof},
+      {"window", DRAWING, [](Text n, Value v, JobOrder& job) { job.window.window = NameText(n, v); }},
+      {"catalogue", DRAWING, [](Text n, Value v, JobOrder& job) { job.window.catalogue = NameText(n, v); }},
+      {"set", DRAWING,
+       [](Text, Value v, JobOrder& job) { AddSettings(v, job.window.lengths, job.window.settings); }},
+      {"row", INSERTING,
+       [](Text n, Value v, JobOrder& job) { job.window.row.count = ParseRowCount(ScalarText(n, v)); }},
+      {"spacing", INSERTING, ApplySpacing},
+      {"gap", INSERTING, ApplyGap},
+      {"column", INSERTING, [](Text n, Value v, JobOrder& job) { job.window.row.isColumn = Flag(n, v); }},
+      {"row-from", INSERTING, [](Text n, Value v, JobOrder& job) { job.window.row.from = NameText(n, v); }},
+  };
+  return MEMBERS;
+}
+
+bool Has(JobKind kind, const Member& member) {
+  return std::find(member.kinds.begin(), member.kinds.end(), kind) != member.kinds.end();
+}
+
+[[noreturn]] void RefuseMember(const std::string& name, JobKind kind) {
+  std::string known;
+  for (const Member& member : Members())
+    if (Has(kind, member)) known += (known.empty() ? "" : ", ") + std::string(member.name);
+  throw Error(fmt::format("a job to {} has no member \"{}\"; it can have {}{}", WordOf(kind), name, known,
+                          kind == JobKind::Erase ? "" : ", and the words for a place, as from-eaves"),
+              {.value = name});
+}
+
+void ApplyMember(const std::string& name, const json& value, JobOrder& job) {
+  const std::vector<Member>& members = Members();
+  const auto member =
+      std::find_if(members.begin(), members.end(), [&](const Member& m) { return m.name == name; });
+  const PlaceWord* const word = job.kind == JobKind::Erase ? nullptr : FindPlaceWord(name);
+  if (member != members.end() && Has(job.kind, *member)) {
+    member->apply(name, value, job);
+  } else if (word != nullptr) {
+    word->apply(*word, ListText(name, value), job.window);
+  } else {
+    RefuseMember(name, job.kind);
   }
+}
+
+// What the members must say together.
+void Check(const JobOrder& job) {
+  const WindowSelection& selection = job.selection;
+  if (job.kind == JobKind::Insert) return;
+  if (selection.numbers.empty() && !selection.where && selection.type.empty())
+    throw Error("say which windows: by \"windows\", \"where\" or \"type\"");
+  const std::string mistake = job.kind == JobKind::Move ? MoveMistake(job.window) : "";
+  if (!mistake.empty()) throw Error(mistake);
+}
+
+// Of what the command line says of windows to insert, what is meant for other jobs, too.
+WindowOrder ForOtherJobs(const WindowOrder& defaults) {
+  WindowOrder order;
+  order.lengths = defaults.lengths;
+  order.isStrict = defaults.isStrict;
+  return order;
 }
 
 json ParseObject(std::string_view text) {
@@ -177,13 +276,31 @@ std::vector<Job> JobsIn(std::string_view text) {
   return jobs;
 }
 
-WindowOrder ParseJob(std::string_view text, const WindowOrder& defaults) {
-  const json job = ParseObject(text);
-  WindowOrder order = defaults;
-  if (const auto style = job.find(LENGTHS); style != job.end()) order.lengths = StyleOf(LENGTHS, *style);
-  for (const auto& [name, value] : job.items())
-    ApplyMember(name, value, order);
-  return order;
+const char* WordOf(JobKind kind) {
+  switch (kind) {
+    case JobKind::Insert:
+      return "insert";
+    case JobKind::Edit:
+      return "edit";
+    case JobKind::Move:
+      return "move";
+    case JobKind::Erase:
+      break;
+  }
+  return "erase";
+}
+
+JobOrder ParseJob(std::string_view text, const WindowOrder& defaults) {
+  const json members = ParseObject(text);
+  JobOrder job;
+  if (const auto kind = members.find(DO); kind != members.end()) job.kind = KindOf(*kind);
+  job.window = job.kind == JobKind::Insert ? defaults : ForOtherJobs(defaults);
+  if (const auto style = members.find(LENGTHS); style != members.end())
+    job.window.lengths = StyleOf(LENGTHS, *style);
+  for (const auto& [name, value] : members.items())
+    ApplyMember(name, value, job);
+  Check(job);
+  return job;
 }
 
 }  // namespace teskarlt

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <unordered_map>
 
 #include <fmt/format.h>
 
@@ -71,15 +72,14 @@ std::string Wish(const WindowSelection& selection) {
 
 void RefuseSharedNumbers(const std::vector<DrawnWindow>& windows, const std::string& file,
                          const std::vector<const DrawnWindow*>& chosen) {
-  std::vector<int> numbers;
-  numbers.reserve(windows.size());
+  std::unordered_map<int, std::ptrdiff_t> counts;
+  for (const DrawnWindow* const window : chosen)
+    counts[window->number] = 0;
   for (const DrawnWindow& window : windows)
-    numbers.push_back(window.number);
-  std::sort(numbers.begin(), numbers.end());
-  for (const DrawnWindow* const window : chosen) {
-    const auto [first, last] = std::equal_range(numbers.begin(), numbers.end(), window->number);
-    if (last - first > 1) RefuseCopies(file, last - first, window->number);
-  }
+    if (const auto count = counts.find(window.number); count != counts.end()) ++count->second;
+  for (const DrawnWindow* const window : chosen)
+    if (const std::ptrdiff_t count = counts[window->number]; count > 1)
+      RefuseCopies(file, count, window->number);
 }
 
 }  // namespace

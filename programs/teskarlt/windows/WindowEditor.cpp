@@ -93,12 +93,22 @@ bool StandsAs(const EditableWindow& window, const WindowParams& record) {
 
 }  // namespace
 
+WindowEditor::WindowEditor(JobSite& site, const WindowSelection& selection, bool isLockedToo) : site_(site) {
+  Choose(selection, isLockedToo);
+}
+
 WindowEditor::WindowEditor(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit,
                            const WindowSelection& selection, bool isLockedToo)
-    : module_(module), work_(drawing, unit) {
-  for (const DrawnWindow* const window : ChooseWindows(drawing, work_.windows, selection)) {
+    : own_(std::make_unique<JobSite>(module, drawing, unit)), site_(*own_) {
+  Choose(selection, isLockedToo);
+}
+
+void WindowEditor::Choose(const WindowSelection& selection, bool isLockedToo) {
+  site_.ReadFor(selection);
+  const dxf::Document& drawing = Work().drawing;
+  for (const DrawnWindow* const window : ChooseWindows(drawing, Work().windows, selection)) {
     if (!isLockedToo) RefuseClosedLayers(drawing, *window);
-    windows_.push_back({window, ReadEditableWindow(drawing, *window)});
+    windows_.push_back({window, ReadEditableWindow(drawing, *window), DrawnOutline(drawing, *window)});
   }
 }
 
@@ -108,8 +118,8 @@ std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
                             order.at->text),
                 {.value = order.at->text});
   }
-  const WindowOrder working = InWorkingUnits(order, work_.unit);
-  return AllOrNone(work_.drawing, [&] {
+  const WindowOrder working = InWorkingUnits(order, Work().unit);
+  return AllOrNone(Work().drawing, [&] {
     std::vector<EditedWindow> edited;
     edited.reserve(windows_.size());
     for (const EditableWindow& window : windows_) {
@@ -119,8 +129,7 @@ std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
         throw Naming(window, error);
       }
     }
-    FindMisfits(order, edited);
-    if (order.isStrict) RefuseMisfitting(edited);
+    Fit(edited, order);
     return edited;
   });
 }
@@ -128,65 +137,63 @@ std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
 EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrder& order) {
   const WindowParams& record = window.reading.params;
   WindowRequest request;
-  request.unit = work_.unit;
+  request.unit = Work().unit;
   request.edited = record;
   request.replaced = window.drawn->entities;
-  request.parts = PartsByRole(work_.drawing, *window.drawn);
-  request.numbersInUse = &work_.numbers;
-  request.answers = AnswersOf(order, work_.drawing, shelf_);
+  request.parts = PartsByRole(Work().drawing, *window.drawn);
+  request.numbersInUse = &site_.Numbers();
+  request.answers = AnswersOf(order, Work().drawing, site_.Shelf());
   request.point = PointOf(order, record);
   const bool moves = NamesPlace(order);
-  if (!moves) KeepSecondPlane(record, work_.tolerance, request.answers);
+  if (!moves) KeepSecondPlane(record, Work().tolerance, request.answers);
   const RoofChoice roof =
-      moves ? ChooseRoof(order, work_.drawing.FileName(), work_.roofs) : RoofUnder(window.reading, work_);
+      moves ? ChooseRoof(order, Work().drawing.FileName(), Work().roofs) : RoofUnder(window.reading, Work());
   PutRoof(roof, request);
   if (IsGiven(order.placing)) PutPlace(order, roof, request);
 
-  const dxf::EditMark before = work_.drawing.Mark();
+  const dxf::EditMark before = Work().drawing.Mark();
   EditedWindow edited;
-  edited.placed = PlacedBy(EditOnto(roof, request), work_.unit, roof);
+  edited.placed = PlacedBy(EditOnto(roof, request), Work().unit, roof);
   const WindowParams& after = edited.placed.record;
   edited.changes = ChangedFields(record, after);
   edited.isRewritten = !StandsAs(window, after);
-  if (!edited.isRewritten) work_.drawing.Rollback(before);
+  if (!edited.isRewritten) Work().drawing.Rollback(before);
   return edited;
 }
 
 CommandOutcome WindowEditor::EditOnto(const RoofChoice& roof, const WindowRequest& request) {
-  return RunOntoRoof(request, roof, work_.roofs, work_.drawing,
-                     [&](const WindowRequest& run) { return module_.Edit(work_.drawing, run); });
+  return RunOntoRoof(request, roof, Work().roofs, Work().drawing,
+                     [&](const WindowRequest& run) { return site_.Module().Edit(Work().drawing, run); });
 }
 
 void WindowEditor::PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request) {
   const auto tryOut = [&](const WindowRequest& trial) {
-    const dxf::EditMark before = work_.drawing.Mark();
-    const CommandOutcome outcome = module_.Edit(work_.drawing, trial);
-    work_.drawing.Rollback(before);
+    const dxf::EditMark before = Work().drawing.Mark();
+    const CommandOutcome outcome = site_.Module().Edit(Work().drawing, trial);
+    Work().drawing.Rollback(before);
     return *outcome.confirmed;
   };
-  const auto outlineOf = [&](int number) -> std::optional<Outline> {
-    for (const DrawnWindow& window : work_.windows)
-      if (window.number == number) return DrawnOutline(work_.drawing, window);
-    return std::nullopt;
-  };
-  request.point = PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf);
+  const auto outlineOf = [&](int number) { return site_.Fit().OutlineOf(number); };
+  request.point = PlaceFor(order, MeasuredOn(order, roof, Work().roofs), request, tryOut, outlineOf);
 }
 
-void WindowEditor::FindMisfits(const WindowOrder& order, std::vector<EditedWindow>& edited) const {
-  std::set<const DrawnWindow*> selected;
+void WindowEditor::Fit(std::vector<EditedWindow>& edited, const WindowOrder& order) {
   for (const EditableWindow& window : windows_)
-    selected.insert(window.drawn);
-  WindowFit fit(work_.roofs);
-  for (const DrawnWindow& window : work_.windows) {
-    const std::optional<Outline> outline =
-        selected.contains(&window) ? std::nullopt : DrawnOutline(work_.drawing, window);
-    if (outline) fit.Add(window.number, *outline);
-  }
+    site_.NoteMoved(window.drawn->number, window.outline, std::nullopt);
   for (EditedWindow& window : edited) {
-    window.placed.misfits =
-        fit.Misfits(window.placed.record, window.placed.outline, RulesFor(window.placed, order));
-    fit.Add(window.placed.record.markerValue, window.placed.outline);
+    PlacedWindow& placed = window.placed;
+    placed.misfits = site_.Fit().Misfits(placed.record, placed.outline, RulesFor(placed, order));
+    site_.NoteMoved(placed.record.markerValue, std::nullopt, placed.outline);
   }
+  try {
+    if (order.isStrict) RefuseMisfitting(edited);
+  } catch (...) {
+    for (std::size_t i = 0; i < edited.size(); ++i)
+      site_.NoteMoved(windows_[i].drawn->number, edited[i].placed.outline, windows_[i].outline);
+    throw;
+  }
+  for (const EditedWindow& window : edited)
+    if (window.isRewritten) site_.NoteRedrawn(window.placed.record.markerValue);
 }
 
 void WindowEditor::RefuseMisfitting(const std::vector<EditedWindow>& edited) const {

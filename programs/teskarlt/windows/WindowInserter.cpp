@@ -43,16 +43,14 @@ void CheckRoomForRow(const WindowOrder& order) {
 }  // namespace
 
 WindowInserter::WindowInserter(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit)
-    : module_(module), work_(drawing, unit), numbers_(work_.numbers), fit_(work_.roofs) {
-  fit_.AddAll(drawing, work_.windows);
-}
+    : own_(std::make_unique<JobSite>(module, drawing, unit)), site_(*own_) {}
 
 PlacedWindow WindowInserter::Insert(const WindowOrder& drawnOrder) {
-  const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
-  PlacedWindow window = AllOrNone(work_.drawing, [&] {
-    return Draw(order, ChooseRoof(order, work_.drawing.FileName(), work_.roofs), numbers_);
+  const WindowOrder order = InWorkingUnits(drawnOrder, Work().unit);
+  PlacedWindow window = AllOrNone(Work().drawing, [&] {
+    return Draw(order, ChooseRoof(order, Work().drawing.FileName(), Work().roofs), site_.Numbers());
   });
-  Count(window);
+  Note(window);
   return window;
 }
 
@@ -60,20 +58,20 @@ std::vector<PlacedWindow> WindowInserter::InsertAll(const WindowOrder& drawnOrde
   CheckRow(drawnOrder.row);
   if (!drawnOrder.row.count) return {Insert(drawnOrder)};
   CheckRoomForRow(drawnOrder);
-  const WindowOrder order = InWorkingUnits(drawnOrder, work_.unit);
-  const RoofChoice roof = ChooseRoof(order, work_.drawing.FileName(), work_.roofs);
-  std::vector<PlacedWindow> windows = AllOrNone(work_.drawing, [&] { return DrawRow(order, roof); });
+  const WindowOrder order = InWorkingUnits(drawnOrder, Work().unit);
+  const RoofChoice roof = ChooseRoof(order, Work().drawing.FileName(), Work().roofs);
+  std::vector<PlacedWindow> windows = AllOrNone(Work().drawing, [&] { return DrawRow(order, roof); });
   for (const PlacedWindow& window : windows)
-    Count(window);
+    Note(window);
   return windows;
 }
 
 WindowRequest WindowInserter::RequestFor(const WindowOrder& order, const RoofChoice& roof,
                                          const WindowNumbers& numbers) {
   WindowRequest request;
-  request.unit = work_.unit;
+  request.unit = Work().unit;
   request.numbersInUse = &numbers;
-  request.answers = AnswersOf(order, work_.drawing, shelf_);
+  request.answers = AnswersOf(order, Work().drawing, site_.Shelf());
   if (order.at) request.point = {order.at->x, order.at->y};
   PutRoof(roof, request);
   return request;
@@ -83,8 +81,8 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
                                   const WindowNumbers& numbers) {
   WindowRequest request = RequestFor(order, roof, numbers);
   if (IsGiven(order.placing)) request.point = FindPlace(order, roof, request);
-  PlacedWindow window = PlacedBy(InsertOnto(roof, request), work_.unit, roof);
-  window.misfits = fit_.Misfits(window.record, window.outline, RulesFor(window, order));
+  PlacedWindow window = PlacedBy(InsertOnto(roof, request), Work().unit, roof);
+  window.misfits = site_.Fit().Misfits(window.record, window.outline, RulesFor(window, order));
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
   return window;
 }
@@ -92,12 +90,12 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
 std::vector<PlacedWindow> WindowInserter::DrawRow(const WindowOrder& order, const RoofChoice& roof) {
   const double step = StepOf(order, roof);
   const SlopeFrame frame = FrameOf(PlaneOf(roof.corners));
-  WindowNumbers numbers = numbers_;
+  WindowNumbers numbers = site_.Numbers();
   WindowOrder one = order;
   one.placing = {};
   std::vector<PlacedWindow> windows;
   for (const PlanPoint& point :
-       RowPoints(order.row, PointOfRow(order, roof, step), frame, step, work_.unit)) {
+       RowPoints(order.row, PointOfRow(order, roof, step), frame, step, Work().unit)) {
     one.at = point;
     try {
       windows.push_back(Draw(one, roof, numbers));
@@ -113,7 +111,7 @@ std::vector<PlacedWindow> WindowInserter::DrawRow(const WindowOrder& order, cons
 
 PlanPoint WindowInserter::PointOfRow(const WindowOrder& order, const RoofChoice& roof, double step) {
   if (!IsGiven(order.placing)) return *order.at;
-  const WindowRequest request = RequestFor(order, roof, numbers_);
+  const WindowRequest request = RequestFor(order, roof, site_.Numbers());
   const auto [x, y] = FindPlace(order, roof, request, ReachOf(order.row, step));
   return {x, y, {}};
 }
@@ -125,9 +123,9 @@ double WindowInserter::StepOf(const WindowOrder& order, RoofChoice roof) {
   sampleOrder.placing = {};
   if (!order.at) sampleOrder.at = PlanPoint{roof.corners.front().x, roof.corners.front().y, {}};
   roof.facesNear = nullptr;
-  const dxf::EditMark before = work_.drawing.Mark();
-  const brevanta::WindowParams sample = Draw(sampleOrder, roof, numbers_).record;
-  work_.drawing.Rollback(before);
+  const dxf::EditMark before = Work().drawing.Mark();
+  const brevanta::WindowParams sample = Draw(sampleOrder, roof, site_.Numbers()).record;
+  Work().drawing.Rollback(before);
   const double size = order.row.isColumn.value_or(false) ? sample.length : sample.width;
   const double step = order.row.gap ? size + *order.row.gap : *order.row.spacing;
   if (step < size) {
@@ -141,26 +139,25 @@ double WindowInserter::StepOf(const WindowOrder& order, RoofChoice roof) {
   return step * sample.unitFactor;
 }
 
-void WindowInserter::Count(const PlacedWindow& window) {
-  fit_.Add(window.record.markerValue, window.outline);
-  numbers_.Take(window.record.markerValue);
+void WindowInserter::Note(const PlacedWindow& window) {
+  site_.NoteInserted(window.record.markerValue, window.outline);
 }
 
 CommandOutcome WindowInserter::InsertOnto(const RoofChoice& roof, const WindowRequest& request) {
-  return RunOntoRoof(request, roof, work_.roofs, work_.drawing,
-                     [&](const WindowRequest& run) { return module_.Insert(work_.drawing, run); });
+  return RunOntoRoof(request, roof, Work().roofs, Work().drawing,
+                     [&](const WindowRequest& run) { return site_.Module().Insert(Work().drawing, run); });
 }
 
 std::array<double, 2> WindowInserter::FindPlace(const WindowOrder& order, const RoofChoice& roof,
                                                 const WindowRequest& request, const RowReach& row) {
   const auto tryOut = [&](const WindowRequest& trial) {
-    const dxf::EditMark before = work_.drawing.Mark();
-    const CommandOutcome outcome = module_.Insert(work_.drawing, trial);
-    work_.drawing.Rollback(before);
+    const dxf::EditMark before = Work().drawing.Mark();
+    const CommandOutcome outcome = site_.Module().Insert(Work().drawing, trial);
+    Work().drawing.Rollback(before);
     return *outcome.confirmed;
   };
-  const auto outlineOf = [&](int number) { return fit_.OutlineOf(number); };
-  return PlaceFor(order, MeasuredOn(order, roof, work_.roofs), request, tryOut, outlineOf, row);
+  const auto outlineOf = [&](int number) { return site_.Fit().OutlineOf(number); };
+  return PlaceFor(order, MeasuredOn(order, roof, Work().roofs), request, tryOut, outlineOf, row);
 }
 
 }  // namespace teskarlt

@@ -2,23 +2,24 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <vector>
 
-#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/modules/WindowModule.h"
-#include "teskarlt/windows/Answers.h"
+#include "teskarlt/windows/JobSite.h"
 #include "teskarlt/windows/PlacedWindow.h"
 #include "teskarlt/windows/RoofChoice.h"
 #include "teskarlt/windows/RowPoints.h"
 #include "teskarlt/windows/WindowOrder.h"
-#include "teskarlt/windows/WorkedDrawing.h"
 
 namespace teskarlt {
 
 class WindowInserter {
  public:
-  // Module and drawing must outlive the object.
+  // The site must outlive the object.
+  explicit WindowInserter(JobSite& site) : site_(site) {}
+  // With a site of its own. Module and drawing must outlive the object.
   WindowInserter(const WindowModule& module, dxf::Document& drawing, const DrawingUnit& unit);
   WindowInserter(const WindowInserter&) = delete;
   WindowInserter& operator=(const WindowInserter&) = delete;
@@ -41,17 +42,15 @@ class WindowInserter {
   double StepOf(const WindowOrder& order, RoofChoice roof);
   // The point from which the row's windows are counted, where its order or its words say.
   PlanPoint PointOfRow(const WindowOrder& order, const RoofChoice& roof, double step);
-  void Count(const PlacedWindow& window);
+  void Note(const PlacedWindow& window);
+  const WorkedDrawing& Work() const { return site_.Work(); }
   CommandOutcome InsertOnto(const RoofChoice& roof, const WindowRequest& request);
   // The point for which the order's words stand, in working units.
   std::array<double, 2> FindPlace(const WindowOrder& order, const RoofChoice& roof,
                                   const WindowRequest& request, const RowReach& row = {});
 
-  const WindowModule& module_;
-  const WorkedDrawing work_;
-  WindowNumbers numbers_;  // of the windows that stand in the drawing now
-  WindowFit fit_;
-  CatalogueShelf shelf_;
+  std::unique_ptr<JobSite> own_;
+  JobSite& site_;
 };
 
 }  // namespace teskarlt

@@ -143,6 +143,18 @@ TEST(WindowFit, NamesTheWindowsThatAreOverlapped) {
   EXPECT_THAT(fit.Misfits(Window(6.1, 3), OutlineOf(Window(6.1, 3))), ElementsAre("it overlaps window 3"));
 }
 
+TEST(WindowFit, RemovedWindowIsNotMet) {
+  const Roofs none({}, TOLERANCE);
+  WindowFit fit(none);
+  const Outline place = OutlineOf(Window(3, 2));
+  fit.Add(1, place);
+  fit.Add(2, place);
+  fit.Remove(1, place);
+  fit.Remove(7, place);
+  EXPECT_FALSE(fit.OutlineOf(1));
+  EXPECT_THAT(fit.Misfits(Window(3, 2), place), ElementsAre("it overlaps window 2"));
+}
+
 TEST(WindowFit, WideWindowIsFoundFromItsFarEnd) {
   const Roofs none({}, TOLERANCE);
   WindowFit fit(none);

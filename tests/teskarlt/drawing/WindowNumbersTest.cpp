@@ -27,6 +27,14 @@ TEST(WindowNumbers, NumberThatIsKeptTakenIsNotGivenAgain) {
   EXPECT_FALSE(numbers.IsTaken(5));
 }
 
+TEST(WindowNumbers, NumberOfAWindowThatIsGoneIsFreeAndNotGivenOut) {
+  WindowNumbers numbers{1, 2};
+  numbers.Release(2);
+  EXPECT_FALSE(numbers.IsTaken(2));
+  EXPECT_EQ(numbers.Highest(), 2);
+  EXPECT_EQ(numbers.Free(), 3);
+}
+
 TEST(WindowNumbers, GapIsTheLastResort) {
   EXPECT_EQ((WindowNumbers{1, 2, std::numeric_limits<std::int32_t>::max()}.Free()), 3);
 }

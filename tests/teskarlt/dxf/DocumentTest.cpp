@@ -119,6 +119,30 @@ TEST(Document, AssumedUnitsGoBeforeThoseOfTheHeader) {
   EXPECT_NE(DashedIn(UNITS_MILLIMETRES, UNITS_MILLIMETRES), metres);
 }
 
+TEST(Document, SettledEditsAreReadLikeThoseOfTheFile) {
+  Document drawing = Parsed(OnlyEntities("0|LINE|8|0"));
+  const TypedTag point[] = {{0, "POINT"}, {8, "0"}, {10, Point{}}};
+  drawing.AddEntity(point);
+  drawing.RemoveEntity(drawing.Entities()[0]);
+  const std::string text = drawing.Serialize();
+  drawing.Settle();
+  ASSERT_EQ(drawing.Entities().size(), 1U);
+  EXPECT_EQ(drawing.Entities()[0].type, "POINT");
+  EXPECT_EQ(drawing.Serialize(), text);
+  EXPECT_TRUE(drawing.IsChanged());
+}
+
+TEST(Document, SettledDrawingIsStillThatOfItsFile) {
+  const TemporaryFile file(OnlyEntities("0|LINE|8|0"));
+  Document drawing = Document::Load(file.Path());
+  drawing.Settle();
+  EXPECT_FALSE(drawing.IsChanged());
+  drawing.AssumeUnits(UNITS_METRES);
+  platform::WriteWholeFile(file.Path(), OnlyEntities("0|LINE|8|0|0|LINE|8|0"));
+  EXPECT_THAT(ErrorOf([&] { drawing.Save(file.Path()); }),
+              testing::HasSubstr("was changed by another program"));
+}
+
 TEST(Document, UnknownCodePageIsNotedOnceItMatters) {
   const Document drawing = Parsed(WithHeader("9|$DWGCODEPAGE|3|UNDEFINED|"));
   EXPECT_EQ(drawing.TextNote(), "");
