@@ -306,3 +306,36 @@ def test_bad_faces_take_no_window(teskarlt, tmp_path, corners):
     before = path.read_bytes()
     answer = teskarlt("insert", path, "--at", "4,2.5", *SIZE)
     assert answer.status == 1 and answer.stderr.count("\n") == 1 and path.read_bytes() == before
+
+
+def test_wall_is_told_by_its_name_and_listed(teskarlt, tmp_path):
+    path = tmp_path / "walls.dxf"
+    drawing = new_drawing()
+    drawing.modelspace().add_3dface(CORNERS)
+    wall = drawing.modelspace().add_3dface([(0, 0, 0), (8, 0, 0), (8, 0, 2), (0, 0, 2)]).dxf.handle
+    drawing.saveas(path)
+    told = teskarlt("insert", path, "--on", wall, "--at", AT, *SIZE)
+    assert told.status == 1 and f"--on {wall}: that face of {path} is a wall, vertical, and no roof" in told.stderr
+    listed, = teskarlt.done("roofs", path, "--all", "--json").json["steep"]
+    assert (listed["face"], listed["pitch"], listed["fallDirection"], listed["area"]) == (wall, 90, None, 16)
+    assert "none: vertical" in teskarlt.done("roofs", path, "--all").stdout
+
+
+def test_outline_that_cancels_itself_is_told(teskarlt, tmp_path):
+    path = tmp_path / "crossed.dxf"
+    drawing = new_drawing()
+    drawing.modelspace().add_polyline3d([CORNERS[n] for n in (0, 1, 3, 2)], close=True)
+    drawing.saveas(path)
+    for answer in (teskarlt("insert", path, "--at", AT, *SIZE), teskarlt.done("roofs", path)):
+        assert "1 3D POLYLINE that crosses or retraces itself is not read: draw its corners in their order" in answer.stderr
+
+
+def test_every_copy_in_a_long_row_takes_a_window(teskarlt, tmp_path):
+    path = tmp_path / "row.dxf"
+    drawing = new_drawing()
+    block_of(drawing)
+    drawing.modelspace().add_blockref("HOUSE", (0, 0), dxfattribs={"column_count": 1500, "column_spacing": 10})
+    drawing.saveas(path)
+    answer, outline = insert(teskarlt, path, at="14994,1")
+    assert answer["face"].split(".")[0].endswith("-1500")
+    expect_in_plane(outline)

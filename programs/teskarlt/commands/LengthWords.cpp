@@ -74,11 +74,12 @@ std::string LengthWords::WithUnit(std::string text) const {
   return fmt::format("{} {}", std::move(text), isStated_ ? METRES : "units");
 }
 
-const DrawingUnit& UnitToLookIn(const dxf::Document& drawing, const AskedUnit& asked) {
-  if (const DrawingUnit* const unit = KnownUnit(drawing, asked)) return *unit;
+LookingUnit UnitToLookIn(const dxf::Document& drawing, const AskedUnit& asked) {
+  if (const DrawingUnit* const unit = KnownUnit(drawing, asked)) return {*unit, RoofTolerance(*unit)};
+  const std::optional<UnitProposal> proposal = ProposeUnit(drawing);
   TellNote(fmt::format("{} does not say its unit, and lengths are in drawing units; {}", drawing.FileName(),
-                       UnitRemedy(drawing)));
-  return UNSTATED;
+                       UnitRemedy(proposal)));
+  return {UNSTATED, ToleranceToLookWith(UNSTATED, proposal)};
 }
 
 }  // namespace teskarlt

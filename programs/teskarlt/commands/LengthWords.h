@@ -49,8 +49,14 @@ class LengthWords {
   bool isStated_;
 };
 
-// The unit of a drawing that is only looked at; that without a name, with a note of what it may be, where
-// nothing tells it. Throws Error as UnitOf does for a unit that the user says.
-const DrawingUnit& UnitToLookIn(const dxf::Document& drawing, const AskedUnit& asked);
+// The unit of a drawing that is only looked at.
+struct LookingUnit {
+  const DrawingUnit& unit;  // that without a name where nothing tells it
+  double tolerance;         // of its roofs, a millimetre in drawing units
+};
+
+// Tells a note of what the unit may be where nothing tells it. Throws Error as UnitOf does for a unit that
+// the user says.
+LookingUnit UnitToLookIn(const dxf::Document& drawing, const AskedUnit& asked);
 
 }  // namespace teskarlt

@@ -167,7 +167,7 @@ std::vector<DrawnWindow> WindowsByNumber(const dxf::Document& drawing, const Dra
 
 void RunList(const ListOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
-  const DrawingUnit& unit = UnitToLookIn(drawing, options.units);
+  const DrawingUnit& unit = UnitToLookIn(drawing, options.units).unit;
   const std::vector<DrawnWindow> windows = WindowsByNumber(drawing, unit);
   const std::vector<Row> rows = ReadRows(drawing, windows);
   WarnOfTexts(drawing);

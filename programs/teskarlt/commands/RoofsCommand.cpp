@@ -13,9 +13,9 @@
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
 #include "teskarlt/drawing/RingsAround.h"
+#include "teskarlt/drawing/RoofSearch.h"
 #include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/drawing/SurfaceOutline.h"
-#include "teskarlt/drawing/UnitProposal.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Messages.h"
@@ -44,13 +44,14 @@ struct ListedSurface {
   std::map<std::string, std::size_t> entities;  // how many of which type
 };
 
-// The surfaces that take a window, and the faces that take none: uneven ones, and walls that are not quite
-// upright.
+// The surfaces that take a window, and the faces that take none: uneven ones, walls that are not quite
+// upright, and vertical ones.
 struct RoofList {
   std::vector<ListedSurface> sloped;
   std::vector<ListedSurface> flat;
   std::vector<const RoofFace*> warped;
   std::vector<const RoofFace*> steep;
+  std::vector<RoofFace> walls;  // vertical faces, where all are asked for
 };
 
 // A mesh has many faces and is one entity: its handle stands before the first slash of their names.
@@ -141,14 +142,20 @@ Json ToJson(const ListedSurface& listed, const Roofs& roofs, const DrawingUnit& 
   return json;
 }
 
+// Null for a vertical face, which none of the roofs has.
+const RoofSurface* SurfaceOf(const RoofFace& face, const Roofs& roofs) {
+  return IsVertical(face) ? nullptr : roofs.SurfaceOf(face);
+}
+
 Json ToJson(const RoofFace& face, const Roofs& roofs, const DrawingUnit& unit) {
-  const RoofSurface* surface = roofs.SurfaceOf(face);
+  const RoofSurface* surface = SurfaceOf(face, roofs);
   Json json;
   json["face"] = face.name;
   json["roof"] = surface != nullptr && surface->isPlanar ? Json(surface->name) : Json(nullptr);
   json["type"] = face.type;
   json["layer"] = face.layer;
   AddDirection(face.plane, json);
+  if (IsVertical(face)) json["fallDirection"] = json["compass"] = nullptr;
   json["area"] = Area(face) / (unit.perMetre * unit.perMetre);
   for (const geometry::Vec3& corner : face.corners)
     json["corners"].Add(ToJson(corner));
@@ -156,10 +163,7 @@ Json ToJson(const RoofFace& face, const Roofs& roofs, const DrawingUnit& unit) {
 }
 
 Json ToJson(const std::vector<ListedSurface>& surfaces, const Roofs& roofs, const DrawingUnit& unit) {
-  Json list = Json::List();
-  for (const ListedSurface& listed : surfaces)
-    list.Add(ToJson(listed, roofs, unit));
-  return list;
+  return Json::ListOf(surfaces.size(), [&](std::size_t i) { return ToJson(surfaces[i], roofs, unit); });
 }
 
 void PrintRoofs(const RoofList& list, const Roofs& roofs, const RoofsOptions& options,
@@ -178,12 +182,15 @@ void PrintRoofs(const RoofList& list, const Roofs& roofs, const RoofsOptions& op
         {{"face", face->name}, {"layer", face->layer}, {"offPlane", Warp(*face) / unit.perMetre}}));
   }
   if (options.isAll) {
-    json["steep"] = Json::List();
-    for (const RoofFace* face : list.steep)
-      json["steep"].Add(ToJson(*face, roofs, unit));
-    json["faces"] = Json::List();
-    for (const RoofFace& face : roofs.Faces())
-      json["faces"].Add(ToJson(face, roofs, unit));
+    const auto before = [&](std::size_t count, const auto& faceOf) {  // those, then the vertical ones
+      return Json::ListOf(count + list.walls.size(), [=, &list, &roofs, &unit](std::size_t i) {
+        return ToJson(i < count ? faceOf(i) : list.walls[i - count], roofs, unit);
+      });
+    };
+    json["steep"] =
+        before(list.steep.size(), [&](std::size_t i) -> const RoofFace& { return *list.steep[i]; });
+    json["faces"] =
+        before(roofs.Faces().size(), [&](std::size_t i) -> const RoofFace& { return roofs.Faces()[i]; });
   }
   PrintJson(json);
 }
@@ -219,32 +226,38 @@ void PrintTable(const RoofList& list, bool withFlat, const DrawingUnit& unit, co
 // The name of the face's roof, or why it takes no window.
 std::string Verdict(const RoofFace& face, const Roofs& roofs, const DrawingUnit& unit,
                     const LengthWords& words) {
-  const RoofSurface* surface = roofs.SurfaceOf(face);
+  const RoofSurface* surface = SurfaceOf(face, roofs);
   if (surface != nullptr && surface->isPlanar) return surface->name;
+  if (IsVertical(face)) return "none: vertical";
   if (IsSteep(face)) return "none: steeper than 85 degrees";
   return fmt::format("none: {} off its plane", words.Spoken(Warp(face) / unit.perMetre));
 }
 
-void PrintFaces(const Roofs& roofs, const DrawingUnit& unit, const LengthWords& words) {
+void PrintFaces(const RoofList& list, const Roofs& roofs, const DrawingUnit& unit, const LengthWords& words) {
   Table table({"face", "type", "layer", "pitch deg", "falls to deg", words.AreaColumn(), words.Column("from"),
                words.Column("to"), "roof"});
-  for (const RoofFace& face : roofs.Faces()) {
+  const auto add = [&](const RoofFace& face) {
     const auto [low, high] = std::minmax_element(face.corners.begin(), face.corners.end(),
                                                  [](const auto& a, const auto& b) { return a.z < b.z; });
     table.Add({face.name, face.type, face.layer, fmt::format("{:.2f}", Pitch(face.plane)),
-               FallText(face.plane), words.AreaCell(Area(face) / (unit.perMetre * unit.perMetre)),
+               IsVertical(face) ? "-" : FallText(face.plane),
+               words.AreaCell(Area(face) / (unit.perMetre * unit.perMetre)),
                words.Cell(low->z / unit.perMetre), words.Cell(high->z / unit.perMetre),
                Verdict(face, roofs, unit, words)});
-  }
+  };
+  std::for_each(roofs.Faces().begin(), roofs.Faces().end(), add);
+  std::for_each(list.walls.begin(), list.walls.end(), add);
   table.Print();
 }
 
 void RunRoofs(const RoofsOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
-  const DrawingUnit& unit = UnitToLookIn(drawing, options.units);
+  const LookingUnit looking = UnitToLookIn(drawing, options.units);
+  const DrawingUnit& unit = looking.unit;
   const LengthWords words(StyleSaid(options.lengths), IsStated(unit));
-  const Roofs roofs = FindRoofs(drawing, ToleranceToLookWith(drawing, unit));
-  const RoofList list = ListOf(roofs);
+  const Roofs roofs = FindRoofs(drawing, looking.tolerance);
+  RoofList list = ListOf(roofs);
+  if (options.isAll) list.walls = FindWalls(drawing, looking.tolerance);
   if (!options.isAll) TellOfLeftOut(list, unit, words);
   if (const std::string unread = TextOf(roofs.Unread()); !unread.empty()) TellNote(unread);
   WarnOfTexts(drawing);
@@ -256,9 +269,9 @@ void RunRoofs(const RoofsOptions& options) {
   } else {
     PrintTable(list, options.isAll, unit, words);
   }
-  if (!options.isAll || options.asJson || roofs.Faces().empty()) return;
+  if (!options.isAll || options.asJson || (roofs.Faces().empty() && list.walls.empty())) return;
   fmt::print("\n");
-  PrintFaces(roofs, unit, words);
+  PrintFaces(list, roofs, unit, words);
 }
 
 }  // namespace

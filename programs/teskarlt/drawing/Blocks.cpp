@@ -16,7 +16,7 @@ namespace {
 using geometry::Matrix4;
 using geometry::Vec3;
 
-constexpr std::int64_t MOST_ROWS = 1000;
+constexpr std::int64_t MOST_ROWS = 1'000'000'000;  // more than anyone draws; their product is still a number
 
 std::string_view Between(const char* begin, const char* end) {
   return {begin, static_cast<std::size_t>(end - begin)};
@@ -32,6 +32,11 @@ Matrix4 Moved(const Vec3& by) {
   Matrix4 matrix{};
   geometry::MatTranslation(by, matrix);
   return matrix;
+}
+
+// How many rows or columns the INSERT has.
+std::size_t CopiesIn(const dxf::TagList& insert, int code) {
+  return static_cast<std::size_t>(std::clamp<std::int64_t>(insert.Integer(code, 1), 1, MOST_ROWS));
 }
 
 }  // namespace
@@ -73,28 +78,26 @@ Blocks ReadBlocks(const dxf::Document& drawing) {
   return blocks;
 }
 
-std::vector<Matrix4> InsertMatrices(const dxf::TagList& insert, const Vec3& base) {
+InsertCopies::InsertCopies(const dxf::TagList& insert, const Vec3& base)
+    : columns_(CopiesIn(insert, dxf::CODE_INSERT_COLUMNS)),
+      rows_(CopiesIn(insert, dxf::CODE_INSERT_ROWS)),
+      columnSpacing_(insert.Real(dxf::CODE_INSERT_COLUMN_SPACING)),
+      rowSpacing_(insert.Real(dxf::CODE_INSERT_ROW_SPACING)) {
   Matrix4 turn{};
   geometry::MatRotationZ(geometry::DegToRad(insert.Real(dxf::CODE_INSERT_ROTATION)), turn);
   Matrix4 scale{};
   geometry::MatIdentity(scale);
   for (int axis = 0; axis < 3; ++axis)
     scale.m[axis][axis] = insert.Real(dxf::CODE_INSERT_SCALE_X + axis, 1.0);
-  const Matrix4 place = Product(ObjectToDrawing(insert.Point(dxf::CODE_EXTRUSION, UPWARDS)),
-                                Product(Moved(insert.Point(dxf::CODE_INSERT_POINT)), turn));
-  const Matrix4 shape = Product(scale, Moved({-base.x, -base.y, -base.z}));
-  const std::int64_t columns =
-      std::clamp<std::int64_t>(insert.Integer(dxf::CODE_INSERT_COLUMNS, 1), 1, MOST_ROWS);
-  const std::int64_t rows = std::clamp<std::int64_t>(insert.Integer(dxf::CODE_INSERT_ROWS, 1), 1, MOST_ROWS);
-  std::vector<Matrix4> matrices;
-  for (std::int64_t row = 0; row < rows; ++row) {
-    for (std::int64_t column = 0; column < columns; ++column) {
-      const Vec3 step = {static_cast<double>(column) * insert.Real(dxf::CODE_INSERT_COLUMN_SPACING),
-                         static_cast<double>(row) * insert.Real(dxf::CODE_INSERT_ROW_SPACING), 0};
-      matrices.push_back(Product(place, Product(Moved(step), shape)));
-    }
-  }
-  return matrices;
+  place_ = Product(ObjectToDrawing(insert.Point(dxf::CODE_EXTRUSION, UPWARDS)),
+                   Product(Moved(insert.Point(dxf::CODE_INSERT_POINT)), turn));
+  shape_ = Product(scale, Moved({-base.x, -base.y, -base.z}));
+}
+
+Matrix4 InsertCopies::At(std::size_t copy) const {
+  const Vec3 step = {static_cast<double>(copy % columns_) * columnSpacing_,
+                     static_cast<double>(copy / columns_) * rowSpacing_, 0};
+  return Product(place_, Product(Moved(step), shape_));
 }
 
 }  // namespace teskarlt

@@ -1,6 +1,7 @@
 // Blocks.h - the blocks of a drawing: named groups of entities that others insert.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -21,7 +22,24 @@ struct Block {
 using Blocks = std::unordered_map<std::string, Block>;
 Blocks ReadBlocks(const dxf::Document& drawing);
 
-// From the block's coordinates to those around the INSERT: one matrix for each row and column of its array.
-std::vector<geometry::Matrix4> InsertMatrices(const dxf::TagList& insert, const geometry::Vec3& base);
+// The copies of a block that an INSERT stands for, one for each row and column.
+class InsertCopies {
+ public:
+  // `base` is that of the block.
+  InsertCopies(const dxf::TagList& insert, const geometry::Vec3& base);
+
+  std::size_t Count() const { return columns_ * rows_; }
+
+  // From the block's coordinates to those around the INSERT; row by row, from 0.
+  geometry::Matrix4 At(std::size_t copy) const;
+
+ private:
+  geometry::Matrix4 place_{};
+  geometry::Matrix4 shape_{};
+  std::size_t columns_;
+  std::size_t rows_;
+  double columnSpacing_;
+  double rowSpacing_;
+};
 
 }  // namespace teskarlt

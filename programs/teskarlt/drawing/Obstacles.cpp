@@ -34,7 +34,7 @@ class ObstacleSearch {
   std::vector<Obstacle> Run() {
     for (const RoofFace* face : roofs_.FacesNear(area_))
       if (!IsOfPlan(*face) && !IsSkin(*face)) Take(*face, LineAround(face->corners, face->holes));
-    for (const UprightFace* face : roofs_.UprightsNear(area_))
+    for (const Wall* face : roofs_.WallsNear(area_))
       Take(*face, face->corners);
     return std::move(found_);
   }

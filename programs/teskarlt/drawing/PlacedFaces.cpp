@@ -35,7 +35,7 @@ struct BlockContent;
 struct Insertion {
   std::string name;
   std::string layer;
-  std::vector<Matrix4> matrices;  // of its copies, to the coordinates around it
+  InsertCopies copies;
   const BlockContent* content;
 };
 
@@ -135,8 +135,8 @@ class FaceWalk {
     if (!content.isRead) return leaveOut(UNREAD_ENDLESS);
     if (content.faceCount == 0 && content.unread.empty()) return std::nullopt;
     Insertion insertion{NameOf(entity, number), insert.Text(dxf::CODE_LAYER, dxf::DEFAULT_LAYER),
-                        InsertMatrices(insert, block->second.base), &content};
-    AddUnread(content.unread, insertion.matrices.size(), unread);
+                        InsertCopies(insert, block->second.base), &content};
+    AddUnread(content.unread, insertion.copies.Count(), unread);
     if (content.faceCount == 0) return std::nullopt;
     return insertion;
   }
@@ -161,7 +161,7 @@ class FaceWalk {
       if (dxf::SameName(entity.type, dxf::TYPE_INSERT)) {
         std::optional<Insertion> insertion = ReadInsertion(entity, number, content.unread);
         if (!insertion) continue;
-        more = Times(insertion->content->faceCount, insertion->matrices.size());
+        more = Times(insertion->content->faceCount, insertion->copies.Count());
         content.insertions.push_back(*std::move(insertion));
       } else if (std::optional<EntityFaces> faces = ReadFaces(entity, content.unread)) {
         more = faces->faces.size();
@@ -172,7 +172,7 @@ class FaceWalk {
   }
 
   void PlaceAll(const Insertion& insertion) {
-    const std::size_t more = Times(insertion.content->faceCount, insertion.matrices.size());
+    const std::size_t more = Times(insertion.content->faceCount, insertion.copies.Count());
     if (more > MOST_IN_BLOCKS - placed_) {
       ++unread_[std::string(UNREAD_TOO_MANY)];
       return;
@@ -184,12 +184,12 @@ class FaceWalk {
   }
 
   void Place(const Insertion& insertion, const Placement& around) {
-    const std::size_t count = insertion.matrices.size();
+    const std::size_t count = insertion.copies.Count();
     Placement inside{{}, insertion.layer == dxf::DEFAULT_LAYER ? around.layer : insertion.layer, {}};
     for (std::size_t copy = 0; copy < count; ++copy) {
       inside.prefix = count == 1 ? fmt::format("{}{}.", around.prefix, insertion.name)
                                  : fmt::format("{}{}-{}.", around.prefix, insertion.name, copy + 1);
-      geometry::MatMultiply(around.matrix, insertion.matrices[copy], inside.matrix);
+      geometry::MatMultiply(around.matrix, insertion.copies.At(copy), inside.matrix);
       PlaceContent(*insertion.content, inside);
     }
   }

@@ -75,6 +75,13 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, double to
 
 std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, const std::vector<Ring>& holes,
                                      double tolerance) {
+  std::optional<RoofFace> face = MakeAnyFace(corners, holes, tolerance);
+  if (face && IsVertical(*face)) return std::nullopt;
+  return face;
+}
+
+std::optional<RoofFace> MakeAnyFace(const std::vector<Vec3>& corners, const std::vector<Ring>& holes,
+                                    double tolerance) {
   RoofFace face;
   face.corners = WithoutRepeats(corners);
   if (face.corners.size() < 3) return std::nullopt;
@@ -83,18 +90,25 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<Vec3>& corners, const std
   const double twiceArea = geometry::VecLength(area);
   if (!(twiceArea > tolerance * tolerance)) return std::nullopt;
   face.plane = {Middle(face.corners), Scaled(area, (area.z < 0 ? -1.0 : 1.0) / twiceArea)};
-  if (!(face.plane.normal.z >= VERTICAL_LIMIT)) return std::nullopt;  // nor where numbers end
+  if (!(face.plane.normal.z >= 0)) return std::nullopt;  // where numbers end
   return face;
 }
 
-std::optional<UprightFace> MakeUprightFace(const std::vector<Vec3>& corners, double tolerance) {
-  UprightFace face;
-  face.corners = WithoutRepeats(corners);
-  if (face.corners.size() < 3) return std::nullopt;
-  const Vec3 area = AreaVector(face.corners);
-  const double twiceArea = geometry::VecLength(area);
-  const bool isUpright = twiceArea > tolerance * tolerance && std::abs(area.z) < VERTICAL_LIMIT * twiceArea;
-  return isUpright ? std::optional(std::move(face)) : std::nullopt;
+bool IsVertical(const RoofFace& face) {
+  return face.plane.normal.z < VERTICAL_LIMIT;
+}
+
+bool CancelsItself(const std::vector<Vec3>& corners, double tolerance) {
+  constexpr double LEAST_SIDE = 100.0;  // millimetres; a smaller part is no roof
+  const std::vector<Vec3> kept = WithoutRepeats(corners);
+  if (kept.size() < 4 || geometry::VecLength(AreaVector(kept)) > tolerance * tolerance) return false;
+  for (std::size_t i = 1; i + 1 < kept.size(); ++i) {
+    const Vec3 part = Cross(Difference(kept[i], kept[0]), Difference(kept[i + 1], kept[0]));
+    const double twiceArea = geometry::VecLength(part);
+    if (std::sqrt(twiceArea) > LEAST_SIDE * tolerance && std::abs(part.z) >= VERTICAL_LIMIT * twiceArea)
+      return true;
+  }
+  return false;
 }
 
 double Warp(const RoofFace& face, const Plane& plane) {

@@ -23,8 +23,8 @@ struct RoofFace {
   bool isFlatKind = false;  // of a kind with which plans are drawn too, as EntityFaces has it
 };
 
-// No roof, but what walls and chimneys are made of. Drawing coordinates and units.
-struct UprightFace {
+// A vertical face, of a wall, a chimney or the side of a dormer. Drawing coordinates and units.
+struct Wall {
   std::string name;  // as RoofFace has both
   std::string layer;
   Ring corners;
@@ -38,8 +38,16 @@ std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners,
 std::optional<RoofFace> MakeRoofFace(const std::vector<geometry::Vec3>& corners,
                                      const std::vector<Ring>& holes, double tolerance);
 
-// The vertical face with these corners when it has an area.
-std::optional<UprightFace> MakeUprightFace(const std::vector<geometry::Vec3>& corners, double tolerance);
+// The same for a face that may be vertical, too.
+std::optional<RoofFace> MakeAnyFace(const std::vector<geometry::Vec3>& corners,
+                                    const std::vector<Ring>& holes, double tolerance);
+
+// True within 0.006 degrees of the vertical: the module takes no plane for such a wall.
+bool IsVertical(const RoofFace& face);
+
+// Whether the corners have no area since they cross themselves or run back on themselves, though each part
+// for itself has one that is not vertical.
+bool CancelsItself(const std::vector<geometry::Vec3>& corners, double tolerance);
 
 // How far the farthest corner lies off the plane; for the face's own plane 0 but for rounding when it is
 // planar.

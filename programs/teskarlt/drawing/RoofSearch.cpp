@@ -19,25 +19,46 @@ bool IsInPlan(const PlacedFace& placed) {
 
 }  // namespace
 
+UnreadEntities WalkFaces(const dxf::Document& drawing, double tolerance,
+                         const std::function<void(RoofFace)>& take) {
+  UnreadEntities cancelling;
+  UnreadEntities unread = ReadPlacedFaces(drawing, [&](PlacedFace placed) {
+    if (IsInPlan(placed)) return;
+    std::optional<RoofFace> face = MakeAnyFace(placed.face.corners, placed.face.holes, tolerance);
+    if (!face) {
+      if (CancelsItself(placed.face.corners, tolerance)) ++cancelling[CancellingKind(placed.type)];
+      return;
+    }
+    face->name = std::move(placed.name);
+    face->entity = std::move(placed.entity);
+    face->layer = std::move(placed.layer);
+    face->type = placed.type;
+    face->isFlatKind = placed.isFlatKind;
+    take(*std::move(face));
+  });
+  AddUnread(cancelling, 1, unread);
+  return unread;
+}
+
 FoundFaces SearchFaces(const dxf::Document& drawing, double tolerance) {
   FoundFaces found;
-  found.unread = ReadPlacedFaces(drawing, [&](PlacedFace placed) {
-    if (IsInPlan(placed)) return;
-    if (auto face = MakeRoofFace(placed.face.corners, placed.face.holes, tolerance)) {
-      face->name = std::move(placed.name);
-      face->entity = std::move(placed.entity);
-      face->layer = std::move(placed.layer);
-      face->type = placed.type;
-      face->isFlatKind = placed.isFlatKind;
-      found.faces.push_back(*std::move(face));
-    } else if (auto upright = MakeUprightFace(placed.face.corners, tolerance)) {
-      upright->name = std::move(placed.name);
-      upright->layer = std::move(placed.layer);
-      found.uprights.push_back(*std::move(upright));
+  found.unread = WalkFaces(drawing, tolerance, [&](RoofFace face) {
+    if (IsVertical(face)) {
+      found.walls.push_back({std::move(face.name), std::move(face.layer), std::move(face.corners)});
+    } else {
+      found.faces.push_back(std::move(face));
     }
   });
   CutHoles(found.faces, tolerance);
   return found;
+}
+
+std::vector<RoofFace> FindWalls(const dxf::Document& drawing, double tolerance) {
+  std::vector<RoofFace> walls;
+  WalkFaces(drawing, tolerance, [&](RoofFace face) {
+    if (IsVertical(face)) walls.push_back(std::move(face));
+  });
+  return walls;
 }
 
 std::vector<RoofFace> FindFaces(const dxf::Document& drawing, double tolerance) {

@@ -1,6 +1,7 @@
 // RoofSearch.h - finds the faces of a drawing of which roofs can be made.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,8 +14,8 @@ namespace teskarlt {
 
 struct FoundFaces {
   std::vector<RoofFace> faces;
-  std::vector<UprightFace> uprights;
-  UnreadEntities unread;
+  std::vector<Wall> walls;
+  UnreadEntities unread;  // those whose outlines cancel themselves among them
 };
 
 // The faces of the model space in the order of the file (EntityFaces.h), those of blocks where they are
@@ -30,6 +31,14 @@ FoundFaces SearchFaces(const dxf::Document& drawing, double tolerance);
 
 // Those that are not vertical alone.
 std::vector<RoofFace> FindFaces(const dxf::Document& drawing, double tolerance);
+
+// The vertical faces.
+std::vector<RoofFace> FindWalls(const dxf::Document& drawing, double tolerance);
+
+// Hands over the faces one after the other, vertical ones too, without holes that are closed polylines of
+// their own; gives what cannot be read.
+UnreadEntities WalkFaces(const dxf::Document& drawing, double tolerance,
+                         const std::function<void(RoofFace)>& take);
 
 // The name that a face has now by one that it had before: "2F/3" was "2F.3", and "#7" was "N7".
 std::string PresentName(std::string_view name);

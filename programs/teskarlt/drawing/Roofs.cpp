@@ -30,14 +30,14 @@ void TakeToWorking(const WorkingUnit& unit, RoofFace& face) {
 }  // namespace
 
 Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit, UnreadEntities unread,
-             std::vector<UprightFace> uprights)
+             std::vector<Wall> walls)
     : faces_(std::move(faces)),
-      uprights_(std::move(uprights)),
+      walls_(std::move(walls)),
       unread_(std::move(unread)),
       tolerance_(tolerance),
       unit_(unit),
       index_(BoxesOf(faces_)),
-      uprightIndex_(BoxesOf(uprights_)),
+      wallIndex_(BoxesOf(walls_)),
       surfaces_(SurfacesOf(faces_, index_, tolerance)),
       surfaceOf_(faces_.size(), NO_SURFACE) {
   for (std::size_t surface = 0; surface < surfaces_.size(); ++surface) {
@@ -71,10 +71,10 @@ std::vector<const RoofFace*> Roofs::FacesNear(const PlanBox& area) const {
   return near;
 }
 
-std::vector<const UprightFace*> Roofs::UprightsNear(const PlanBox& area) const {
-  std::vector<const UprightFace*> near;
-  for (const std::size_t number : uprightIndex_.Touching(area))
-    near.push_back(&uprights_[number]);
+std::vector<const Wall*> Roofs::WallsNear(const PlanBox& area) const {
+  std::vector<const Wall*> near;
+  for (const std::size_t number : wallIndex_.Touching(area))
+    near.push_back(&walls_[number]);
   return near;
 }
 
@@ -104,10 +104,16 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
   return named;
 }
 
+bool Roofs::IsWall(std::string_view name) const {
+  const std::string folded = dxf::FoldedName(PresentName(name));
+  return std::any_of(walls_.begin(), walls_.end(),
+                     [&](const Wall& wall) { return dxf::FoldedName(wall.name) == folded; });
+}
+
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
   FoundFaces found = SearchFaces(drawing, tolerance);
   return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread),
-          std::move(found.uprights)};
+          std::move(found.walls)};
 }
 
 Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
@@ -115,9 +121,9 @@ Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
   FoundFaces found = SearchFaces(drawing, ToDrawn(tolerance, unit));
   for (RoofFace& face : found.faces)
     TakeToWorking(unit, face);
-  for (UprightFace& face : found.uprights)
-    TakeToWorking(unit, face.corners);
-  return {std::move(found.faces), tolerance, unit, std::move(found.unread), std::move(found.uprights)};
+  for (Wall& wall : found.walls)
+    TakeToWorking(unit, wall.corners);
+  return {std::move(found.faces), tolerance, unit, std::move(found.unread), std::move(found.walls)};
 }
 
 }  // namespace teskarlt

@@ -27,9 +27,9 @@ struct FaceOver {
 class Roofs {
  public:
   // `tolerance` is a millimetre in the unit of the faces, which are drawing units where nothing else is said;
-  // `unread` is what of the drawing may be a roof besides.
+  // `unread` is what of the drawing may be a roof besides, `walls` are its vertical faces.
   Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit = IN_DRAWING_UNITS,
-        UnreadEntities unread = {}, std::vector<UprightFace> uprights = {});
+        UnreadEntities unread = {}, std::vector<Wall> walls = {});
 
   double Tolerance() const { return tolerance_; }
 
@@ -45,8 +45,8 @@ class Roofs {
   // In the order given. Steep ones are among them.
   const std::vector<RoofFace>& Faces() const { return faces_; }
 
-  // Walls, and the sides of chimneys and dormers, in the order given.
-  const std::vector<UprightFace>& Uprights() const { return uprights_; }
+  // The vertical faces in the order given.
+  const std::vector<Wall>& Walls() const { return walls_; }
 
   // In the order of their first faces (RoofSurface.h).
   const std::vector<RoofSurface>& Surfaces() const { return surfaces_; }
@@ -66,8 +66,11 @@ class Roofs {
   // The faces whose boxes in the plan touch the area, in the order of Faces().
   std::vector<const RoofFace*> FacesNear(const PlanBox& area) const;
 
-  // The same for Uprights().
-  std::vector<const UprightFace*> UprightsNear(const PlanBox& area) const;
+  // The same for Walls().
+  std::vector<const Wall*> WallsNear(const PlanBox& area) const;
+
+  // Whether a vertical face has that name, without regard to case.
+  bool IsWall(std::string_view name) const;
 
   // The faces of that name (RoofSearch.h), also of one that it had before, without regard to case; several
   // where the drawing uses a handle twice.
@@ -75,12 +78,12 @@ class Roofs {
 
  private:
   std::vector<RoofFace> faces_;
-  std::vector<UprightFace> uprights_;
+  std::vector<Wall> walls_;
   UnreadEntities unread_;
   double tolerance_;
   WorkingUnit unit_;
   PlanIndex index_;
-  PlanIndex uprightIndex_;
+  PlanIndex wallIndex_;
   std::vector<RoofSurface> surfaces_;
   std::vector<std::size_t> surfaceOf_;                               // by the number of the face; NO_SURFACE
   std::unordered_map<std::string, std::vector<std::size_t>> named_;  // numbers of faces by folded names

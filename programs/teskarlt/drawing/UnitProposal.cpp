@@ -16,31 +16,6 @@ namespace teskarlt {
 
 namespace {
 
-// The sides of a face's box in the plan, drawing units.
-struct PlanSize {
-  double longer = 0.0;
-  double shorter = 0.0;
-};
-
-PlanSize SizeOf(const RoofFace& face) {
-  const PlanBox box = PlanBoxOf(face.corners);
-  const double alongX = box.highX - box.lowX;
-  const double alongY = box.highY - box.lowY;
-  return {std::max(alongX, alongY), std::min(alongX, alongY)};
-}
-
-// Of the face with the largest box; none without a face.
-std::optional<PlanSize> LargestRoof(const dxf::Document& drawing) {
-  constexpr double ANY_SIZE = 1e-6;  // less than a millimetre in any unit but kilometres and miles
-  std::optional<PlanSize> largest;
-  const auto area = [](const PlanSize& size) { return size.longer * size.shorter; };
-  for (const RoofFace& face : FindFaces(drawing, ANY_SIZE)) {
-    const PlanSize size = SizeOf(face);
-    if (!largest || area(size) > area(*largest)) largest = size;
-  }
-  return largest;
-}
-
 bool CountsInFeet(const dxf::Document& drawing) {
   constexpr int imperial = 0;
   const std::optional<dxf::Tag> measurement = drawing.HeaderVariable(dxf::VARIABLE_MEASUREMENT);
@@ -70,23 +45,33 @@ const DrawingUnit& LikelyUnit(double longSide, bool isImperial) {
   return isImperial ? likely(IMPERIAL) : likely(METRIC);
 }
 
-const DrawingUnit* ProposedUnit(const dxf::Document& drawing) {
-  const std::optional<PlanSize> roof = LargestRoof(drawing);
-  return roof ? &LikelyUnit(roof->longer, CountsInFeet(drawing)) : nullptr;
+std::optional<UnitProposal> ProposeUnit(const dxf::Document& drawing) {
+  constexpr double ANY_SIZE = 1e-6;  // less than a millimetre in any unit but kilometres and miles
+  std::optional<UnitProposal> largest;
+  WalkFaces(drawing, ANY_SIZE, [&](const RoofFace& face) {
+    if (IsVertical(face)) return;
+    const PlanBox box = PlanBoxOf(face.corners);
+    const double alongX = box.highX - box.lowX;
+    const double alongY = box.highY - box.lowY;
+    if (!largest || alongX * alongY > largest->longer * largest->shorter)
+      largest = {std::max(alongX, alongY), std::min(alongX, alongY), nullptr};
+  });
+  if (largest) largest->unit = &LikelyUnit(largest->longer, CountsInFeet(drawing));
+  return largest;
 }
 
 double ToleranceToLookWith(const dxf::Document& drawing, const DrawingUnit& unit) {
-  if (IsStated(unit)) return RoofTolerance(unit);
-  const DrawingUnit* const proposed = ProposedUnit(drawing);
-  return RoofTolerance(proposed == nullptr ? unit : *proposed);
+  return ToleranceToLookWith(unit, IsStated(unit) ? std::nullopt : ProposeUnit(drawing));
 }
 
-std::string UnitRemedy(const dxf::Document& drawing) {
-  const std::optional<PlanSize> roof = LargestRoof(drawing);
-  if (!roof) return "say it with --units, as in --units mm, m, in or ft";
-  const DrawingUnit& unit = LikelyUnit(roof->longer, CountsInFeet(drawing));
-  return fmt::format("a roof of {} by {}: {}? say --units {}", Rounded(roof->longer), Rounded(roof->shorter),
-                     unit.words, unit.name);
+double ToleranceToLookWith(const DrawingUnit& unit, const std::optional<UnitProposal>& proposal) {
+  return RoofTolerance(IsStated(unit) || !proposal ? unit : *proposal->unit);
+}
+
+std::string UnitRemedy(const std::optional<UnitProposal>& proposal) {
+  if (!proposal) return "say it with --units, as in --units mm, m, in or ft";
+  return fmt::format("a roof of {} by {}: {}? say --units {}", Rounded(proposal->longer),
+                     Rounded(proposal->shorter), proposal->unit->words, proposal->unit->name);
 }
 
 }  // namespace teskarlt

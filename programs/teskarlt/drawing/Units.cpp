@@ -139,8 +139,9 @@ const DrawingUnit& UnitOf(const dxf::Document& drawing, const AskedUnit& asked) 
   }
   if (stated.unit != nullptr) return *stated.unit;
   if (stated.words.empty()) {
-    throw Error(fmt::format("the drawing does not say its unit ($INSUNITS); {}", UnitRemedy(drawing)),
-                {.file = file});
+    throw Error(
+        fmt::format("the drawing does not say its unit ($INSUNITS); {}", UnitRemedy(ProposeUnit(drawing))),
+        {.file = file});
   }
   throw Error(
       fmt::format("roof windows cannot be drawn in the drawing's unit ($INSUNITS {}); if it is drawn in "

@@ -19,8 +19,13 @@ constexpr std::string_view UNREADABLE_TYPES[] = {
     "REVOLVEDSURFACE", "SWEPTSURFACE", "PLANESURFACE", "NURBSURFACE", "ACAD_PROXY_ENTITY"};
 constexpr std::string_view FOREIGN_ENDING = "_ENTITY";  // of what programs add to the format
 
+constexpr std::string_view CANCELLING = " that crosses or retraces itself";
+
 constexpr std::string_view EXPLODE = "explode them into faces, or give the plane by --roof";
 constexpr std::string_view MEND = "mend the blocks, or give the plane by --roof";
+
+constexpr std::string_view REDRAW =
+    "draw its corners in their order around the roof, or give the plane by --roof";
 
 constexpr std::pair<std::string_view, std::string_view> REMEDIES[] = {
     {UNREAD_ATTACHED, "bind the other drawing into this one, or give the plane by --roof"},
@@ -31,6 +36,7 @@ constexpr std::pair<std::string_view, std::string_view> REMEDIES[] = {
     {UNREAD_TOO_MANY, "keep the roofs in a drawing of their own, or give the plane by --roof"}};
 
 std::string_view RemedyOf(std::string_view kind) {
+  if (kind.ends_with(CANCELLING)) return REDRAW;
   const auto* const found = std::find_if(std::begin(REMEDIES), std::end(REMEDIES),
                                          [&](const auto& remedy) { return remedy.first == kind; });
   return found == std::end(REMEDIES) ? EXPLODE : found->second;
@@ -58,6 +64,10 @@ bool IsUnreadable(std::string_view type) {
   return type.ends_with(FOREIGN_ENDING) ||
          std::any_of(std::begin(UNREADABLE_TYPES), std::end(UNREADABLE_TYPES),
                      [&](std::string_view unreadable) { return dxf::SameName(type, unreadable); });
+}
+
+std::string CancellingKind(std::string_view type) {
+  return std::string(type).append(CANCELLING);
 }
 
 void AddUnread(const UnreadEntities& more, std::size_t times, UnreadEntities& unread) {

@@ -17,6 +17,9 @@ constexpr std::string_view UNREAD_DEEP = "INSERT of blocks in blocks in more tha
 constexpr std::string_view UNREAD_FLATTENED = "INSERT with a scale of 0";
 constexpr std::string_view UNREAD_TOO_MANY = "INSERT of more faces than there is room for";
 
+// The kind of faces of that type whose outlines cross themselves or run back on themselves.
+std::string CancellingKind(std::string_view type);
+
 // How many there are of each kind, by its name: one of those, or a type of entities. Counts end at the
 // highest.
 using UnreadEntities = std::map<std::string, std::size_t, std::less<>>;

@@ -242,18 +242,25 @@ void Reader::ReadInsert(const dxf::TagList& insert, const Look& look, const Plac
     return;
   }
   if (placement.depth == MOST_NESTED) drawing_.Source().Fail("holds blocks in blocks without an end");
-  Matrix4 where{};
-  geometry::MatIdentity(where);
-  const bool isInsert = dxf::SameName(insert.Type(), dxf::TYPE_INSERT);
-  for (const Matrix4& matrix : isInsert ? InsertMatrices(insert, found->second.base) : std::vector{where}) {
-    Placement inside = placement;
+  Placement inside = placement;
+  inside.look = look;
+  inside.isBlock = true;
+  ++inside.depth;
+  const auto readAt = [&](const Matrix4& matrix) {
     inside.matrix = matrix;
     if (placement.isBlock) geometry::MatMultiply(placement.matrix, matrix, inside.matrix);
-    inside.look = look;
-    inside.isBlock = true;
-    ++inside.depth;
     for (const dxf::Entity& entity : found->second.entities)
       ReadEntity(entity, inside);
+  };
+  if (found->second.entities.empty()) return;
+  if (dxf::SameName(insert.Type(), dxf::TYPE_INSERT)) {
+    const InsertCopies copies(insert, found->second.base);
+    for (std::size_t copy = 0; copy < copies.Count(); ++copy)
+      readAt(copies.At(copy));
+  } else {
+    Matrix4 where{};
+    geometry::MatIdentity(where);
+    readAt(where);
   }
 }
 

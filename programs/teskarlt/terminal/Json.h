@@ -2,7 +2,9 @@
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -17,6 +19,10 @@ class Json {
  public:
   using Items = std::vector<Json>;
   using Members = std::vector<std::pair<std::string, Json>>;
+  struct MadeItems {
+    std::size_t count;
+    std::function<Json(std::size_t)> make;
+  };
 
   // Implicit, so that values are written as they are. NOLINTBEGIN(google-explicit-constructor)
   Json(std::nullptr_t = nullptr) {}
@@ -38,6 +44,9 @@ class Json {
   // NOLINTEND(google-explicit-constructor)
 
   static Json List(std::initializer_list<Json> items = {});
+  // A list of so many items, numbered from 0, each of which is made when it is printed: a long list takes no
+  // memory. What `make` refers to must live until then.
+  static Json ListOf(std::size_t count, std::function<Json(std::size_t)> make);
   static Json Object(std::initializer_list<std::pair<const char*, Json>> members = {});
 
   // The member of that name, null until a value is given to it. Makes an object of null.
@@ -47,12 +56,13 @@ class Json {
   // Puts an item behind the others of a list. Makes a list of null.
   void Add(Json item);
 
-  // Lines with two blanks a level, without a line end at the end. Bytes that are no UTF-8, as file names may
-  // hold them, become U+FFFD.
+  // Puts lines with two blanks a level, without a line end at the end, piece by piece. Bytes that are no
+  // UTF-8, as file names may hold them, become U+FFFD.
+  void Print(const std::function<void(std::string_view)>& put) const;
   std::string Text() const;
 
-  using Value =
-      std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string, Items, Members>;
+  using Value = std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string, Items,
+                             MadeItems, Members>;
   const Value& Get() const { return value_; }
 
  private:

@@ -20,7 +20,8 @@ std::size_t Width(const std::string& text) {
 }  // namespace
 
 void PrintJson(const Json& json) {
-  fmt::print("{}\n", json.Text());
+  json.Print([](std::string_view text) { fmt::print("{}", text); });
+  fmt::print("\n");
 }
 
 Table::Table(std::vector<std::string> headings) : rows_{std::move(headings)} {}

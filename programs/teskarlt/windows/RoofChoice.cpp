@@ -62,6 +62,11 @@ const RoofFace& FaceOf(const RoofSurface& surface, const std::optional<PlanPoint
 
 const RoofFace& FaceNamed(const std::string& name, const std::string& file, const Roofs& roofs) {
   const std::vector<const RoofFace*> named = roofs.FacesNamed(name);
+  if (named.empty() && roofs.IsWall(name)) {
+    throw Error(
+        fmt::format("--on {}: that face of {} is a wall, vertical, and no roof; {}", name, file, PLANE_HINT),
+        {.value = name});
+  }
   if (named.empty()) {
     throw Error(
         fmt::format("--on {}: {} has no roof or face of that name; teskarlt roofs lists them", name, file),

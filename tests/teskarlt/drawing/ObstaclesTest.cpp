@@ -27,21 +27,17 @@ RoofFace Face(const char* name, const std::vector<Vec3>& corners) {
 }
 
 // From (4000, 4000) of the plan, 1000 long along x.
-UprightFace Wall(double low, double high) {
-  UprightFace wall = *MakeUprightFace(
-      {{4000, 4000, low}, {5000, 4000, low}, {5000, 4000, high}, {4000, 4000, high}}, TOLERANCE);
-  wall.name = "W";
-  wall.layer = "CHIMNEY";
-  return wall;
+Wall Standing(double low, double high) {
+  return {"W", "CHIMNEY", {{4000, 4000, low}, {5000, 4000, low}, {5000, 4000, high}, {4000, 4000, high}}};
 }
 
-std::vector<Obstacle> On(std::vector<RoofFace> faces, std::vector<UprightFace> uprights = {}) {
+std::vector<Obstacle> On(std::vector<RoofFace> faces, std::vector<Wall> walls = {}) {
   return ObstaclesOn(SLOPE, AREA, LEAST,
-                     Roofs(std::move(faces), TOLERANCE, IN_DRAWING_UNITS, {}, std::move(uprights)));
+                     Roofs(std::move(faces), TOLERANCE, IN_DRAWING_UNITS, {}, std::move(walls)));
 }
 
 TEST(ObstaclesOn, WallThroughTheRoofIsALineOnIt) {
-  const auto found = On({}, {Wall(0, 9000)});
+  const auto found = On({}, {Standing(0, 9000)});
   ASSERT_EQ(found.size(), 1U);
   EXPECT_EQ(found[0].layer, "CHIMNEY");
   for (const SlopePoint& corner : found[0].footprint)
@@ -50,14 +46,14 @@ TEST(ObstaclesOn, WallThroughTheRoofIsALineOnIt) {
 
 // At y = 4000 the roof is 3000 high.
 TEST(ObstaclesOn, WallUnderTheRoofIsNone) {
-  EXPECT_THAT(On({}, {Wall(0, 3000)}), IsEmpty());
-  EXPECT_THAT(On({}, {Wall(0, 3019)}), IsEmpty());
-  EXPECT_EQ(On({}, {Wall(0, 3021)}).size(), 1U);
+  EXPECT_THAT(On({}, {Standing(0, 3000)}), IsEmpty());
+  EXPECT_THAT(On({}, {Standing(0, 3019)}), IsEmpty());
+  EXPECT_EQ(On({}, {Standing(0, 3021)}).size(), 1U);
 }
 
 TEST(ObstaclesOn, WallOnFeetIsOneAndWhatHoversIsNone) {
-  EXPECT_EQ(On({}, {Wall(3299, 4000)}).size(), 1U);
-  EXPECT_THAT(On({}, {Wall(3301, 4000)}), IsEmpty());
+  EXPECT_EQ(On({}, {Standing(3299, 4000)}).size(), 1U);
+  EXPECT_THAT(On({}, {Standing(3301, 4000)}), IsEmpty());
 }
 
 TEST(ObstaclesOn, RoofOfADormerCoversWhatLiesUnderIt) {

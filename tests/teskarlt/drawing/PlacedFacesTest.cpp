@@ -164,5 +164,19 @@ TEST(PlacedFaces, BlocksNestedTooDeepAreTold) {
   EXPECT_EQ(found.unread.at(std::string(UNREAD_DEEP)), 1U);
 }
 
+TEST(PlacedFaces, EveryCopyInLongRowsIsThere) {
+  const Found found = Read(Block("B", Triangle("2F")), Insert("1A", "B", "70 1200|71 2|44 5|45 7|"));
+  ASSERT_THAT(found.faces, SizeIs(2400));
+  EXPECT_EQ(found.faces.back().name, "1A-2400.2F");
+  ExpectPoint(found.faces.back().face.corners[0], 10 + 1199 * 5 + 1, 20 + 7, 5);
+  EXPECT_THAT(found.unread, IsEmpty());
+}
+
+TEST(PlacedFaces, MoreCopiesThanThereIsRoomForAreTold) {
+  const Found found = Read(Block("B", Triangle("2F")), Insert("1A", "B", "70 30000|71 30000|44 5|45 7|"));
+  EXPECT_THAT(found.faces, IsEmpty());
+  EXPECT_THAT(found.unread, ElementsAre(Pair(std::string(UNREAD_TOO_MANY), 1U)));
+}
+
 }  // namespace
 }  // namespace teskarlt

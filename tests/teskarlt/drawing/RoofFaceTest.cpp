@@ -37,6 +37,24 @@ TEST(MakeRoofFace, VerticalFaceIsNone) {
   EXPECT_FALSE(MakeRoofFace({{0, 0, 0}, {4, 0, 0}, {4, 0, 3}, {0, 0, 3}}, TOLERANCE));
 }
 
+TEST(MakeAnyFace, VerticalFaceIsOne) {
+  const auto wall = MakeAnyFace({{0, 0, 0}, {4, 0, 0}, {4, 0, 3}, {0, 0, 3}}, {}, TOLERANCE);
+  ASSERT_TRUE(wall);
+  EXPECT_TRUE(IsVertical(*wall));
+  EXPECT_EQ(Area(*wall), 12);
+}
+
+TEST(CancelsItself, OutlineThatCrossesItselfInItsMiddleDoes) {
+  EXPECT_TRUE(CancelsItself({{0, 0, 2}, {8, 0, 2}, {0, 5, 5}, {8, 5, 5}}, TOLERANCE));
+  EXPECT_FALSE(CancelsItself({{0, 0, 2}, {8, 0, 2}, {8, 5, 5}, {0, 5, 5}}, TOLERANCE));
+}
+
+TEST(CancelsItself, LinesAndWallsAndSpecksDoNot) {
+  EXPECT_FALSE(CancelsItself({{0, 0, 0}, {4, 0, 0}, {8, 0, 0}, {2, 0, 0}}, TOLERANCE));
+  EXPECT_FALSE(CancelsItself({{0, 0, 0}, {8, 0, 0}, {0, 0, 5}, {8, 0, 5}}, TOLERANCE));
+  EXPECT_FALSE(CancelsItself({{0, 0, 0}, {0.08, 0, 0}, {0, 0.05, 0}, {0.08, 0.05, 0}}, TOLERANCE));
+}
+
 TEST(MakeRoofFace, FaceWithoutAreaIsNone) {
   EXPECT_FALSE(MakeRoofFace({{0, 0, 0}, {4, 0, 0}, {8, 0, 0}}, TOLERANCE));
   EXPECT_FALSE(MakeRoofFace({{1, 1, 1}, {1, 1, 1}, {1, 1, 1}, {1, 1, 1}}, TOLERANCE));

@@ -1,4 +1,5 @@
 // RoofSearchTest.cpp - the faces of a drawing of which roofs can be made.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "teskarlt/drawing/RoofSearch.h"
@@ -59,6 +60,20 @@ TEST(FindFaces, WallsAreLeftOut) {
   const std::string wall =
       Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 0, 2500) + Point(13, 0, 0, 2500);
   EXPECT_TRUE(FindFaces(Drawing("", Face("1", wall)), TOLERANCE).empty());
+  EXPECT_THAT(SearchFaces(Drawing("", Face("1", wall)), TOLERANCE).walls,
+              testing::ElementsAre(testing::Field(&Wall::name, "1")));
+  EXPECT_EQ(FindWalls(Drawing("", Face("1", wall)), TOLERANCE).size(), 1U);
+}
+
+TEST(SearchFaces, OutlineThatCancelsItselfIsTold) {
+  const std::string crossed = Point(10, 0, 0, 2000) + Point(11, 8000, 0, 2000) + Point(12, 0, 5000, 5000) +
+                              Point(13, 8000, 5000, 5000);
+  const FoundFaces found = SearchFaces(Drawing("", Face("1", crossed)), TOLERANCE);
+  EXPECT_TRUE(found.faces.empty());
+  EXPECT_EQ(
+      TextOf(found.unread),
+      "1 3DFACE that crosses or retraces itself is not read: draw its corners in their order around the "
+      "roof, or give the plane by --roof");
 }
 
 TEST(FindFaces, FacesOfAWindowAreLeftOut) {
@@ -128,16 +143,6 @@ TEST(FindFaces, FaceWithoutAHandleIsNumbered) {
   const auto faces = FindFaces(Drawing("", "0\nLINE\n8\n0\n0\n3DFACE\n8\nROOF\n" + SLOPE), TOLERANCE);
   ASSERT_EQ(faces.size(), 1U);
   EXPECT_EQ(faces[0].name, "N2");
-}
-
-TEST(SearchFaces, UprightFacesComeApart) {
-  const FoundFaces found = SearchFaces(Drawing("", Groups("0 3DFACE|5 2F|8 WALL|10 0|20 0|30 0|11 4000|21 "
-                                                          "0|31 0|12 4000|22 0|32 3000|13 0|23 0|33 3000|")),
-                                       TOLERANCE);
-  EXPECT_TRUE(found.faces.empty());
-  ASSERT_EQ(found.uprights.size(), 1U);
-  EXPECT_EQ(found.uprights[0].name, "2F");
-  EXPECT_EQ(found.uprights[0].layer, "WALL");
 }
 
 TEST(SearchFaces, FlatOutlinesAtHeightZeroAreLinesOfAPlan) {

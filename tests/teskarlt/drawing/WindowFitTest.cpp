@@ -167,18 +167,13 @@ TEST(WindowFit, WideWindowIsFoundFromItsFarEnd) {
 }
 
 // A wall across the slope at `x` metres, 1 m long from y on, that rises 2 m above it.
-UprightFace WallAt(double x, double y) {
+Wall WallAt(double x, double y) {
   const Vec3 low = Corner(x, y);
   const Vec3 high = Corner(x, y + 1);
-  UprightFace wall =
-      *MakeUprightFace({low, high, Moved(high, {0, 0, 1}, 2000), Moved(low, {0, 0, 1}, 2000)}, TOLERANCE);
-  wall.name = "2F";
-  wall.layer = "CHIMNEY";
-  return wall;
+  return {"2F", "CHIMNEY", {low, high, Moved(high, {0, 0, 1}, 2000), Moved(low, {0, 0, 1}, 2000)}};
 }
 
-std::vector<std::string> MisfitsBeside(const UprightFace& wall, const WindowParams& record,
-                                       double clearance = 0) {
+std::vector<std::string> MisfitsBeside(const Wall& wall, const WindowParams& record, double clearance = 0) {
   const Roofs roofs({*MakeRoofFace({Corner(0, 0), Corner(10, 0), Corner(10, 10), Corner(0, 10)}, TOLERANCE)},
                     TOLERANCE, IN_DRAWING_UNITS, {}, {wall});
   return WindowFit(roofs).Misfits(record, OutlineOf(record), {.clearance = clearance});

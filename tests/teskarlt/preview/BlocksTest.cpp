@@ -37,6 +37,13 @@ TEST(Blocks, ArrayRepeatsTheBlock) {
   EXPECT_EQ(scene.curves[5].points[0].y, 7);
 }
 
+TEST(Blocks, EveryCopyInALongRowIsShown) {
+  const Scene scene = SceneOf(
+      {.blocks = Block("B", Line("0", 0, 0, 1, 0)), .entities = "0 INSERT|8 0|2 B|10 0|20 0|70 1200|44 5|"});
+  ASSERT_EQ(scene.curves.size(), 1200U);
+  EXPECT_EQ(scene.curves.back().points[0].x, 1199 * 5);
+}
+
 TEST(Blocks, BlocksInBlocksAreShown) {
   const Scene scene =
       SceneOf({.blocks = Block("A", "0 INSERT|8 0|2 B|10 1|20 0|") + Block("B", Line("0", 0, 0, 1, 0)),

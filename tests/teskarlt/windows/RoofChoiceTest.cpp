@@ -105,6 +105,15 @@ TEST_F(RoofChoiceTest, RefusalsNameWhatWasNotRead) {
   EXPECT_THAT(Refusal(OrderAt(1, 1)), HasSubstr("can take a roof window; 2 3DSOLID are not read"));
 }
 
+TEST_F(RoofChoiceTest, NameOfAWallIsToldAsSuch) {
+  const Ring upright = {{0, 0, 0}, {4000, 0, 0}, {4000, 0, 2500}};
+  roofs = Roofs(roofs.Faces(), 1.0, IN_DRAWING_UNITS, {}, {{"2F", "A", upright}, {"2F.3", "A", upright}});
+  WindowOrder order = OrderAt(4000, 2000);
+  order.roofName = "2f/3";
+  EXPECT_THAT(Refusal(order),
+              HasSubstr("--on 2f/3: that face of house.dxf is a wall, vertical, and no roof; --roof"));
+}
+
 TEST_F(RoofChoiceTest, NameOfNoFaceIsRefused) {
   WindowOrder order = OrderAt(4000, 2000);
   order.roofName = "FFFF";
