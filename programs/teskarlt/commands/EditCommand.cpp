@@ -17,7 +17,8 @@ struct EditOptions {
 };
 
 void RunEdit(EditOptions& options) {
-  ChangeWindows(options.window, SelectionOf(options.selection), OrderOf(options.window), options.isLockedToo);
+  const WindowOrder order = OrderOf(options.window);
+  ChangeWindows(options.window, SelectionOf(options.selection, order.lengths), order, options.isLockedToo);
 }
 
 }  // namespace

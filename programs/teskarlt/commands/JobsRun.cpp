@@ -88,9 +88,9 @@ class JobsTeller {
     refused_.Add(Json::Object({{"line", job.line}, {"message", error.what()}}));
   }
 
-  void AddWindow(const Job& job, JobKind kind, Json window) {
+  void AddWindow(const Job& job, JobKind kind, const Json& window) {
     Json entry = Json::Object({{"line", job.line}, {"do", WordOf(kind)}});
-    entry.AddMembers(std::move(window));
+    entry.AddMembers(window);
     windows_.Add(std::move(entry));
   }
 

@@ -24,7 +24,7 @@ void RunMove(MoveOptions& options) {
   WindowOrder order = OrderOf(options.window);
   if (!options.by.empty()) order.by = ParseSlopeMove("--by", options.by, order.lengths);
   if (const std::string mistake = MoveMistake(order); !mistake.empty()) throw UsageError(mistake);
-  ChangeWindows(options.window, SelectionOf(options.selection), order, options.isLockedToo);
+  ChangeWindows(options.window, SelectionOf(options.selection, order.lengths), order, options.isLockedToo);
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ void AddSelectionOptions(Subcommand& command, SelectionOptions& options) {
       .NotEmpty();
 }
 
-WindowSelection SelectionOf(const SelectionOptions& options) {
+WindowSelection SelectionOf(const SelectionOptions& options, LengthStyle lengths) {
   if (options.numbers.empty() && options.where.empty() && options.type.empty())
     throw UsageError("say which windows: by NUMBER, --where or --type");
   WindowSelection selection;
@@ -30,7 +30,7 @@ WindowSelection SelectionOf(const SelectionOptions& options) {
     if (!range) throw UsageError(fmt::format("NUMBER: {} is no window's number, nor a range as 4-9", text));
     selection.numbers.push_back(*range);
   }
-  if (!options.where.empty()) selection.where = WindowCondition(options.where);
+  if (!options.where.empty()) selection.where = WindowCondition(options.where, lengths);
   selection.type = options.type;
   return selection;
 }

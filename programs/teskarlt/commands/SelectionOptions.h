@@ -19,8 +19,8 @@ struct SelectionOptions {
 // Adds NUMBER, --where and --type to the command. The options must outlive the parsing.
 void AddSelectionOptions(Subcommand& command, SelectionOptions& options);
 
-// The selection that the options stand for. Throws UsageError for a malformed number and where nothing is
-// said, Error for a malformed condition.
-WindowSelection SelectionOf(const SelectionOptions& options);
+// The selection that the options stand for, plain lengths counting as said. Throws UsageError for a malformed
+// number and where nothing is said, Error for a malformed condition.
+WindowSelection SelectionOf(const SelectionOptions& options, LengthStyle lengths = LengthStyle::Metres);
 
 }  // namespace teskarlt

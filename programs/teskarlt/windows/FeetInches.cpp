@@ -64,6 +64,12 @@ std::optional<double> ParseFeetInches(std::string_view text) {
   return isNegative ? -metres : metres;
 }
 
+std::optional<double> ParseLengthIn(std::string_view text, LengthStyle style) {
+  if (const std::optional<double> metres = ParseFeetInches(text)) return metres;
+  const std::optional<double> number = dxf::ParseReal(text);
+  return number && style == LengthStyle::FeetAndInches ? *number * METRES_PER_FOOT : number;
+}
+
 std::string FeetInchesText(double metres) {
   constexpr std::int64_t PARTS = 64;  // of an inch
   constexpr double EXACT = 1e-6;      // metres

@@ -21,6 +21,9 @@ constexpr double METRES_PER_FOOT = 0.3048;
 // front or none; none where the text has neither of the marks ' and ", or is no such length.
 std::optional<double> ParseFeetInches(std::string_view text);
 
+// The length in metres of such a text, or of a plain number of what the style counts; none of anything else.
+std::optional<double> ParseLengthIn(std::string_view text, LengthStyle style);
+
 // Such a text of a length in metres, to the nearest 1/64 of an inch: 5'-4 1/2". With a ~ in front where that
 // differs from the length by more than a micrometre.
 std::string FeetInchesText(double metres);

@@ -97,7 +97,7 @@ bool Flag(const std::string& name, const json& value) {
 LengthStyle StyleOf(const std::string& name, const json& value) {
   if (value == METRES) return LengthStyle::Metres;
   if (value == FEET) return LengthStyle::FeetAndInches;
-  throw Error(fmt::format("{}: {} is neither \"{}\" nor \"{}\"", name, Shown(value), METRES, FEET));
+  throw Error(fmt::format(R"({}: {} is neither "{}" nor "{}")", name, Shown(value), METRES, FEET));
 }
 
 JobKind KindOf(const json& value) {
@@ -171,7 +171,9 @@ const std::vector<Member>& Members() {
       {LENGTHS, {Insert, Edit, Move, Erase}, [](Text, Value, JobOrder&) {}},  // likewise
       {"windows", CHOOSING, [](Text n, Value v, JobOrder& job) { job.selection.numbers = RangesOf(n, v); }},
       {"where", CHOOSING,
-       [](Text n, Value v, JobOrder& job) { job.selection.where = WindowCondition(NameText(n, v)); }},
+       [](Text n, Value v, JobOrder& job) {
+         job.selection.where = WindowCondition(NameText(n, v), job.window.lengths);
+       }},
       {"type", CHOOSING, [](Text n, Value v, JobOrder& job) { job.selection.type = NameText(n, v); }},
       {"locked", CHOOSING, [](Text n, Value v, JobOrder& job) { job.isLockedToo = Flag(n, v); }},
       {"at", DRAWING, ApplyPoint},
@@ -230,7 +232,7 @@ void Check(const JobOrder& job) {
   const WindowSelection& selection = job.selection;
   if (job.kind == JobKind::Insert) return;
   if (selection.numbers.empty() && !selection.where && selection.type.empty())
-    throw Error("say which windows: by \"windows\", \"where\" or \"type\"");
+    throw Error(R"(say which windows: by "windows", "where" or "type")");
   const std::string mistake = job.kind == JobKind::Move ? MoveMistake(job.window) : "";
   if (!mistake.empty()) throw Error(mistake);
 }

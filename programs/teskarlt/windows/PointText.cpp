@@ -49,9 +49,7 @@ PlanPoint ParsePlanPoint(const char* option, const std::string& text) {
 }
 
 double ParseLength(const char* option, const std::string& text, LengthStyle style) {
-  if (const std::optional<double> metres = ParseFeetInches(text)) return *metres;
-  const double metresEach = style == LengthStyle::Metres ? 1.0 : METRES_PER_FOOT;
-  if (const std::optional<double> number = dxf::ParseReal(text)) return *number * metresEach;
+  if (const std::optional<double> metres = ParseLengthIn(text, style)) return *metres;
   const char* const counted =
       style == LengthStyle::Metres ? "metres" : "feet, or feet and inches with their marks, as 5'-4 1/2\"";
   throw Error(

@@ -45,7 +45,8 @@ bool IsBlank(char c) {
 // Reads one comparison after the other from the text of a condition.
 class ConditionReader {
  public:
-  explicit ConditionReader(std::string_view text) : whole_(text), rest_(text) {}
+  ConditionReader(std::string_view text, LengthStyle lengths)
+      : whole_(text), rest_(text), lengths_(lengths) {}
 
   std::vector<FieldComparison> Read() {
     std::vector<FieldComparison> comparisons;
@@ -87,7 +88,9 @@ class ConditionReader {
         Refuse(fmt::format("{} is a text, which can only be = or != another", name));
       return;
     }
-    const std::optional<double> number = dxf::ParseReal(read.text);
+    const bool isLength = read.field->kind == FieldKind::Length;
+    const std::optional<double> number =
+        isLength ? ParseLengthIn(read.text, lengths_) : dxf::ParseReal(read.text);
     if (!number) Refuse(fmt::format("{} is a number, and {} is none", name, dxf::Quoted(read.text)));
     read.number = *number;
   }
@@ -137,6 +140,7 @@ class ConditionReader {
 
   std::string_view whole_;
   std::string_view rest_;
+  LengthStyle lengths_;
 };
 
 // Less than 0, 0 or more than 0, as `value` is less than, equal to or greater than `other`.
@@ -172,8 +176,8 @@ std::string TextOf(const dxf::Document& drawing, const DrawnWindow& window, cons
 
 }  // namespace
 
-WindowCondition::WindowCondition(std::string_view text)
-    : text_(text), comparisons_(ConditionReader(text).Read()) {}
+WindowCondition::WindowCondition(std::string_view text, LengthStyle lengths)
+    : text_(text), comparisons_(ConditionReader(text, lengths).Read()) {}
 
 bool WindowCondition::Holds(const dxf::Document& drawing, const DrawnWindow& window,
                             const WindowReading& reading) const {

@@ -8,6 +8,7 @@
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/Document.h"
+#include "teskarlt/windows/FeetInches.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {
@@ -26,9 +27,10 @@ struct FieldComparison {
 class WindowCondition {
  public:
   // Reads "width<0.8 and text1="Maker"": fields of the record, one of < <= = != >= >, and a number or a text,
-  // in quotation marks where it holds the word "and". Throws Error, naming --where, for what is malformed,
-  // for a field that there is not or that is a point, and for a text that is compared as a number.
-  explicit WindowCondition(std::string_view text);
+  // in quotation marks where it holds the word "and"; a plain length counts as said. Throws Error, naming
+  // --where, for what is malformed, for a field that there is not or that is a point, and for a text that is
+  // compared as a number.
+  explicit WindowCondition(std::string_view text, LengthStyle lengths = LengthStyle::Metres);
 
   // As the user wrote it.
   const std::string& Text() const { return text_; }

@@ -14,7 +14,7 @@ using testing::HasSubstr;
 
 // Whether the condition holds for a window 0.78 m wide and 1.4 m long with the opening code D and the texts
 // "Maker and Son" and "OL 78x118".
-bool Holds(const std::string& condition, bool isComplete = true) {
+bool Holds(const std::string& condition, bool isComplete = true, LengthStyle lengths = LengthStyle::Metres) {
   const dxf::Document drawing = House();
   DrawnWindow window;
   window.isComplete = isComplete;
@@ -25,7 +25,7 @@ bool Holds(const std::string& condition, bool isComplete = true) {
   reading.params.length = 1.4;
   reading.params.widthAnchor = 2;
   reading.params.openingCode[0] = 'D';
-  return WindowCondition(condition).Holds(drawing, window, reading);
+  return WindowCondition(condition, lengths).Holds(drawing, window, reading);
 }
 
 std::string RefusalOfCondition(const std::string& condition) {
@@ -44,6 +44,13 @@ TEST(WindowCondition, EachSignComparesNumbers) {
 TEST(WindowCondition, NumbersWithinAMicrometreAreEqual) {
   EXPECT_TRUE(Holds("width=0.7800001"));
   EXPECT_FALSE(Holds("width=0.78001"));
+}
+
+// 0.78 m are 2'-6.7".
+TEST(WindowCondition, LengthsMayBeFeetAndInches) {
+  EXPECT_TRUE(Holds("width<2'-7\" and width>30.5\""));
+  EXPECT_FALSE(Holds("width<2'-6\""));
+  EXPECT_TRUE(Holds("width<2.6 and width>2.5 and widthAnchor=2", true, LengthStyle::FeetAndInches));
 }
 
 TEST(WindowCondition, WholeNumbersAreCompared) {
