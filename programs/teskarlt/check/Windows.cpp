@@ -29,6 +29,7 @@ struct Scene {
   const dxf::Document& drawing;
   const std::vector<DrawnWindow>& windows;
   const DrawingUnit* unit;  // null when the header does not name it: lengths cannot be compared then
+  double clearance;         // metres
   Findings& findings;
 };
 
@@ -94,7 +95,8 @@ void CheckFits(const Scene& scene) {
   for (const DrawnWindow& window : scene.windows) {
     const std::optional<Outline> outline = DrawnOutline(scene.drawing, window);
     if (!outline) continue;
-    for (const std::string& misfit : fit.Misfits(ReadWindow(scene.drawing, window).params, *outline)) {
+    const brevanta::WindowParams record = ReadWindow(scene.drawing, window).params;
+    for (const std::string& misfit : fit.Misfits(record, *outline, {.clearance = scene.clearance})) {
       Report(scene, Kind::WindowMisfit, window, fmt::format("window {}: {}", window.number, misfit),
              Severity::Warning);
     }
@@ -150,12 +152,12 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
   }
 }
 
-void CheckWindows(const dxf::Document& drawing, Findings& findings) {
+void CheckWindows(const dxf::Document& drawing, double clearance, Findings& findings) {
   const DrawingUnit* const unit = KnownUnit(drawing);
   const std::vector<DrawnWindow> windows =
       FindWindows(drawing, unit == nullptr ? IN_DRAWING_UNITS : unit->working);
   for (const auto check : CHECKS)
-    check({drawing, windows, unit, findings});
+    check({drawing, windows, unit, clearance, findings});
 }
 
 }  // namespace teskarlt::check

@@ -10,7 +10,8 @@ namespace teskarlt::check {
 // Extended data under the names of our applications that no roof window has.
 void CheckWindowMarks(const Object& object, Findings& findings);
 
-// Each window by itself and all of them together. Sizes are checked where the header names the unit.
-void CheckWindows(const dxf::Document& drawing, Findings& findings);
+// Each window by itself and all of them together. Sizes are checked where the header names the unit. Windows
+// that are nearer to what is in their way than the clearance, in metres, are told.
+void CheckWindows(const dxf::Document& drawing, double clearance, Findings& findings);
 
 }  // namespace teskarlt::check

@@ -6,6 +6,7 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/check/Check.h"
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
@@ -20,6 +21,8 @@ using check::Verdict;
 
 struct CheckOptions {
   std::string file;
+  std::string clearance;
+  std::string lengths;
   bool asJson = false;
 };
 
@@ -79,8 +82,9 @@ void PrintVerdict(const Verdict& verdict, const std::string& file) {
 }
 
 int RunCheck(const CheckOptions& options) {
+  const double clearance = ClearanceSaid(options.clearance, StyleSaid(options.lengths));
   const Verdict verdict =
-      check::CheckDrawing(dxf::SourceText(options.file, platform::ReadWholeFile(options.file)));
+      check::CheckDrawing(dxf::SourceText(options.file, platform::ReadWholeFile(options.file)), clearance);
   if (options.asJson) {
     PrintVerdictJson(verdict, options.file);
   } else {
@@ -95,6 +99,8 @@ void AddCheckCommand(OptionParser& parser) {
   Subcommand command = parser.Add("check", "Tell what strict programs find wrong with a drawing");
   const auto options = std::make_shared<CheckOptions>();
   command.Argument("FILE", options->file, "the drawing").Required();
+  AddClearanceOption(command, options->clearance);
+  AddLengthsOption(command, options->lengths);
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
       "Each finding comes with its line in the file (in a binary drawing the offset of its byte), a name of\n"
@@ -106,7 +112,7 @@ void AddCheckCommand(OptionParser& parser) {
       "Exit status: 0 no errors, perhaps warnings; 1 errors; 2 wrong usage.\n"
       "Examples:\n"
       "  teskarlt check house.dxf\n"
-      "  teskarlt check house.dxf --json");
+      "  teskarlt check house.dxf --clearance 0.2");
   command.RunWithStatus([options] { return RunCheck(*options); });
 }
 

@@ -7,6 +7,7 @@
 
 #include "teskarlt/drawing/UnitProposal.h"
 #include "teskarlt/terminal/Messages.h"
+#include "teskarlt/windows/PointText.h"
 
 namespace teskarlt {
 
@@ -18,6 +19,17 @@ void AddLengthsOption(Subcommand& command, std::string& style) {
              "is rounded; JSON has metres")
       .Named("m|ft")
       .OneOfListed({METRES, FEET});
+}
+
+void AddClearanceOption(Subcommand& command, std::string& clearance) {
+  command
+      .Value("--clearance", clearance,
+             "tell of other windows, edges of the roof and obstacles that are nearer to a window than this")
+      .Named("LENGTH");
+}
+
+double ClearanceSaid(const std::string& clearance, LengthStyle style) {
+  return clearance.empty() ? 0.0 : ParseDistance("--clearance", clearance, style);
 }
 
 LengthStyle StyleSaid(std::string_view style) {

@@ -17,6 +17,13 @@ void AddLengthsOption(Subcommand& command, std::string& style);
 // What the user said of it; metres where that was nothing.
 LengthStyle StyleSaid(std::string_view style);
 
+// Adds --clearance to a command that looks at where windows stand. The
+// text must outlive the parsing.
+void AddClearanceOption(Subcommand& command, std::string& clearance);
+
+// What the user said of it, in metres; 0 where that was nothing. Throws Error for what is no such length.
+double ClearanceSaid(const std::string& clearance, LengthStyle style);
+
 // Lengths are given in metres, areas in square metres, or in drawing units where no unit is stated.
 class LengthWords {
  public:

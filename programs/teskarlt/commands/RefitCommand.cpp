@@ -30,6 +30,7 @@ struct RefitOptions {
   double reach = REFIT_REACH;
   AskedUnit units;
   std::string lengths;
+  std::string clearance;
   bool isLockedToo = false;
   bool keepGoing = false;
   bool isStrict = false;
@@ -117,8 +118,9 @@ void RunRefit(RefitOptions& options) {
   dxf::Document drawing = dxf::Document::Load(options.target.File());
   const DrawingUnit& unit = ChooseUnitAndWarn(drawing, options.units);
   const RefitKeeps keeps = options.keep == KEEP_HEIGHT ? RefitKeeps::Height : RefitKeeps::Plan;
-  const RefitReport report =
-      RefitWindows(module, drawing, unit, {options.numbers, keeps, options.isLockedToo, options.reach});
+  const RefitReport report = RefitWindows(module, drawing, unit,
+                                          {options.numbers, keeps, options.isLockedToo, options.reach,
+                                           ClearanceSaid(options.clearance, StyleSaid(options.lengths))});
   TellProblems(options, report);
   WarnOfTexts(drawing);
   const bool isWanted = report.problems.empty() || options.keepGoing;
@@ -155,8 +157,10 @@ void AddRefitCommand(OptionParser& parser) {
   AddLockedOption(command, options->isLockedToo);
   options->target.AddOutput(command);
   AddUnitOptions(command, options->units);
+  AddClearanceOption(command, options->clearance);
   AddLengthsOption(command, options->lengths);
-  command.Flag("--strict", options->isStrict, "refuse when a window would overlap another");
+  command.Flag("--strict", options->isStrict,
+               "refuse when something stands in a window's way at its new place");
   options->target.AddDryRun(command);
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(

@@ -97,8 +97,9 @@ void AddResultOptions(Subcommand& command, WindowOptions& options) {
   options.target.AddOutput(command);
   AddUnitOptions(command, options.units);
   AddLengthsOption(command, options.lengths);
-  command.Flag("--strict", options.isStrict,
-               "refuse a window that overlaps another or does not lie on a roof face");
+  command.Flag(
+      "--strict", options.isStrict,
+      "refuse a window in whose way something stands: another window, a chimney, an edge of its roof");
   options.target.AddDryRun(command);
   command.Flag("--json", options.asJson, JSON_HELP);
 }

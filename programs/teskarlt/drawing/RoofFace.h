@@ -20,6 +20,14 @@ struct RoofFace {
   Ring corners;             // in order around the face
   std::vector<Ring> holes;  // in order around them, the other way round
   Plane plane;              // of the face's mean normal (Newell), through the middle of the corners
+  bool isFlatKind = false;  // of a kind with which plans are drawn too, as EntityFaces has it
+};
+
+// A vertical face, of a wall, a chimney or the side of a dormer. Drawing coordinates and units.
+struct Wall {
+  std::string name;  // as RoofFace has both
+  std::string layer;
+  Ring corners;
 };
 
 // `tolerance` is a millimetre in drawing units (RoofTolerance in Units.h) in all of these.

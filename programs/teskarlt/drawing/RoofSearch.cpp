@@ -2,7 +2,6 @@
 #include "teskarlt/drawing/RoofSearch.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "teskarlt/drawing/OutlineHoles.h"
@@ -34,6 +33,7 @@ UnreadEntities WalkFaces(const dxf::Document& drawing, double tolerance,
     face->entity = std::move(placed.entity);
     face->layer = std::move(placed.layer);
     face->type = placed.type;
+    face->isFlatKind = placed.isFlatKind;
     take(*std::move(face));
   });
   AddUnread(cancelling, 1, unread);
@@ -44,7 +44,7 @@ FoundFaces SearchFaces(const dxf::Document& drawing, double tolerance) {
   FoundFaces found;
   found.unread = WalkFaces(drawing, tolerance, [&](RoofFace face) {
     if (IsVertical(face)) {
-      found.walls.push_back(std::move(face.name));
+      found.walls.push_back({std::move(face.name), std::move(face.layer), std::move(face.corners)});
     } else {
       found.faces.push_back(std::move(face));
     }

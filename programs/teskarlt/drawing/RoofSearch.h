@@ -14,14 +14,14 @@ namespace teskarlt {
 
 struct FoundFaces {
   std::vector<RoofFace> faces;
-  UnreadEntities unread;           // those whose outlines cancel themselves among them
-  std::vector<std::string> walls;  // the names of the vertical faces
+  std::vector<Wall> walls;
+  UnreadEntities unread;  // those whose outlines cancel themselves among them
 };
 
 // The faces of the model space in the order of the file (EntityFaces.h), those of blocks where they are
-// inserted; closed polylines within others are holes (OutlineHoles.h). Left out are vertical faces, those of
-// roof windows, and flat outlines and fillings at height 0, with which plans are drawn. `tolerance` is a
-// millimetre in drawing units.
+// inserted; closed polylines within others are holes (OutlineHoles.h). Vertical faces come apart; left out
+// are those of roof windows, and flat outlines and fillings at height 0, with which plans are drawn.
+// `tolerance` is a millimetre in drawing units.
 //
 // A face is named by the handle of its entity, "2F"; where that has several, with their numbers from 1,
 // "2F.3". Before it stand the handles of the INSERTs around it, "1A.2F.3", one with rows and columns with the
@@ -29,7 +29,7 @@ struct FoundFaces {
 // block.
 FoundFaces SearchFaces(const dxf::Document& drawing, double tolerance);
 
-// The faces alone.
+// Those that are not vertical alone.
 std::vector<RoofFace> FindFaces(const dxf::Document& drawing, double tolerance);
 
 // The vertical faces.

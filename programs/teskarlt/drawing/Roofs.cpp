@@ -30,12 +30,14 @@ void TakeToWorking(const WorkingUnit& unit, RoofFace& face) {
 }  // namespace
 
 Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit, UnreadEntities unread,
-             const std::vector<std::string>& walls)
+             std::vector<Wall> walls)
     : faces_(std::move(faces)),
+      walls_(std::move(walls)),
       unread_(std::move(unread)),
       tolerance_(tolerance),
       unit_(unit),
       index_(BoxesOf(faces_)),
+      wallIndex_(BoxesOf(walls_)),
       surfaces_(SurfacesOf(faces_, index_, tolerance)),
       surfaceOf_(faces_.size(), NO_SURFACE) {
   for (std::size_t surface = 0; surface < surfaces_.size(); ++surface) {
@@ -46,8 +48,6 @@ Roofs::Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& u
   }
   for (std::size_t face = 0; face < faces_.size(); ++face)
     named_[dxf::FoldedName(faces_[face].name)].push_back(face);
-  for (const std::string& wall : walls)
-    walls_.insert(dxf::FoldedName(wall));
 }
 
 bool Roofs::IsEmpty() const {
@@ -68,6 +68,13 @@ std::vector<const RoofFace*> Roofs::FacesNear(const PlanBox& area) const {
   std::vector<const RoofFace*> near;
   for (const std::size_t number : index_.Touching(area))
     near.push_back(&faces_[number]);
+  return near;
+}
+
+std::vector<const Wall*> Roofs::WallsNear(const PlanBox& area) const {
+  std::vector<const Wall*> near;
+  for (const std::size_t number : wallIndex_.Touching(area))
+    near.push_back(&walls_[number]);
   return near;
 }
 
@@ -98,12 +105,15 @@ std::vector<const RoofFace*> Roofs::FacesNamed(std::string_view name) const {
 }
 
 bool Roofs::IsWall(std::string_view name) const {
-  return walls_.contains(dxf::FoldedName(PresentName(name)));
+  const std::string folded = dxf::FoldedName(PresentName(name));
+  return std::any_of(walls_.begin(), walls_.end(),
+                     [&](const Wall& wall) { return dxf::FoldedName(wall.name) == folded; });
 }
 
 Roofs FindRoofs(const dxf::Document& drawing, double tolerance) {
   FoundFaces found = SearchFaces(drawing, tolerance);
-  return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread), found.walls};
+  return {std::move(found.faces), tolerance, IN_DRAWING_UNITS, std::move(found.unread),
+          std::move(found.walls)};
 }
 
 Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
@@ -111,7 +121,9 @@ Roofs FindRoofs(const dxf::Document& drawing, const WorkingUnit& unit) {
   FoundFaces found = SearchFaces(drawing, ToDrawn(tolerance, unit));
   for (RoofFace& face : found.faces)
     TakeToWorking(unit, face);
-  return {std::move(found.faces), tolerance, unit, std::move(found.unread), found.walls};
+  for (Wall& wall : found.walls)
+    TakeToWorking(unit, wall.corners);
+  return {std::move(found.faces), tolerance, unit, std::move(found.unread), std::move(found.walls)};
 }
 
 }  // namespace teskarlt

@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 #include "teskarlt/drawing/PlanIndex.h"
@@ -28,9 +27,9 @@ struct FaceOver {
 class Roofs {
  public:
   // `tolerance` is a millimetre in the unit of the faces, which are drawing units where nothing else is said;
-  // `unread` is what of the drawing may be a roof besides, `walls` are the names of its vertical faces.
+  // `unread` is what of the drawing may be a roof besides, `walls` are its vertical faces.
   Roofs(std::vector<RoofFace> faces, double tolerance, const WorkingUnit& unit = IN_DRAWING_UNITS,
-        UnreadEntities unread = {}, const std::vector<std::string>& walls = {});
+        UnreadEntities unread = {}, std::vector<Wall> walls = {});
 
   double Tolerance() const { return tolerance_; }
 
@@ -45,6 +44,9 @@ class Roofs {
 
   // In the order given. Steep ones are among them.
   const std::vector<RoofFace>& Faces() const { return faces_; }
+
+  // The vertical faces in the order given.
+  const std::vector<Wall>& Walls() const { return walls_; }
 
   // In the order of their first faces (RoofSurface.h).
   const std::vector<RoofSurface>& Surfaces() const { return surfaces_; }
@@ -64,6 +66,9 @@ class Roofs {
   // The faces whose boxes in the plan touch the area, in the order of Faces().
   std::vector<const RoofFace*> FacesNear(const PlanBox& area) const;
 
+  // The same for Walls().
+  std::vector<const Wall*> WallsNear(const PlanBox& area) const;
+
   // Whether a vertical face has that name, without regard to case.
   bool IsWall(std::string_view name) const;
 
@@ -73,15 +78,16 @@ class Roofs {
 
  private:
   std::vector<RoofFace> faces_;
+  std::vector<Wall> walls_;
   UnreadEntities unread_;
   double tolerance_;
   WorkingUnit unit_;
   PlanIndex index_;
+  PlanIndex wallIndex_;
   std::vector<RoofSurface> surfaces_;
   std::vector<std::size_t> surfaceOf_;                               // by the number of the face; NO_SURFACE
   std::unordered_map<std::string, std::vector<std::size_t>> named_;  // numbers of faces by folded names
   std::unordered_map<std::string, std::size_t> namedSurfaces_;       // and of surfaces
-  std::unordered_set<std::string> walls_;                            // folded names
 };
 
 // The roofs of the model space, in drawing units; and in those in which windows are computed.

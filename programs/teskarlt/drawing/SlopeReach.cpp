@@ -56,10 +56,6 @@ std::optional<double> WayInto(const SlopeReach& reach, double low, double high) 
   return high > reach->second ? reach->second - high : 0.0;
 }
 
-SlopeBox Moved(const SlopeBox& box, const SlopePoint& way) {
-  return {box.left + way.across, box.right + way.across, box.bottom + way.up, box.top + way.up};
-}
-
 // The way up or down alone, the one along the eaves alone, else up or down first and then along.
 std::optional<SlopePoint> WayInside(const SlopeBox& frame, const std::vector<SlopeRing>& rings) {
   const auto up = WayInto(ReachUp(rings, frame.left, frame.right), frame.bottom, frame.top);
@@ -74,18 +70,47 @@ std::optional<SlopePoint> WayInside(const SlopeBox& frame, const std::vector<Slo
   return then ? std::optional(SlopePoint{*then, *into}) : std::nullopt;
 }
 
-// "the ridge by 0.120 m"
-std::string PassedUp(double way, const SlopeBox& frame, const SlopeBox& roof, double perMetre) {
+// An edge of a roof and how far a frame must move to come inside; negative to the left and down.
+struct EdgePassed {
+  std::string name;
+  double way;
+  bool isAtSide;
+};
+
+// The edge above or below, which the frame touches after its way.
+EdgePassed EdgeAlongEaves(double way, const SlopeBox& frame, const SlopeBox& roof, double perMetre) {
   constexpr double SAME = 0.001;  // metres
   const double edge = way < 0 ? frame.top + way : frame.bottom + way;
   const bool isLast = std::abs(edge - (way < 0 ? roof.top : roof.bottom)) <= SAME * perMetre;
-  const char* name =
-      way < 0 ? (isLast ? "ridge" : "upper edge of its roof") : (isLast ? "eaves" : "lower edge of its roof");
-  return fmt::format("the {} by {:.3f} m", name, std::abs(way) / perMetre);
+  if (way < 0) return {isLast ? "the ridge" : "the upper edge of its roof", way, false};
+  return {isLast ? "the eaves" : "the lower edge of its roof", way, false};
 }
 
-std::string PassedAcross(double way, double perMetre) {
-  return fmt::format("the {} verge by {:.3f} m", way > 0 ? "left" : "right", std::abs(way) / perMetre);
+// The edge at the side: a roof gets narrower above a hip, and wider above a valley.
+EdgePassed EdgeAtSide(double way, const SlopeBox& frame, const std::vector<SlopeRing>& rings) {
+  constexpr double UPRIGHT = 0.01;  // of the height: how far a verge may lean
+  const char* const side = way > 0 ? "left" : "right";
+  const double height = frame.top - frame.bottom;
+  const SlopeReach low = ReachAt(rings, frame.bottom + UPRIGHT * height);
+  const SlopeReach high = ReachAt(rings, frame.top - UPRIGHT * height);
+  if (!low || !high) return {fmt::format("the {} verge", side), way, true};
+  const double inward = way > 0 ? high->first - low->first : low->second - high->second;
+  const char* const kind = std::abs(inward) <= UPRIGHT * height ? "verge" : inward > 0 ? "hip" : "valley";
+  return {fmt::format("the {} {}", side, kind), way, true};
+}
+
+// The edges that the frame passes, first that at a side; none where it passes none, and where no way would
+// bring it inside.
+std::vector<EdgePassed> EdgesPassed(const SlopeBox& frame, const SurfaceOutline& outline, double perMetre) {
+  const double least = 1e-6 * perMetre;  // what rounding leaves
+  const std::optional<SlopePoint> way = WayInside(frame, outline.rings);
+  std::vector<EdgePassed> passed;
+  if (!way) return passed;
+  if (std::abs(way->across) > least)
+    passed.push_back(EdgeAtSide(way->across, Moved(frame, {0.0, way->up}), outline.rings));
+  if (std::abs(way->up) > least)
+    passed.push_back(EdgeAlongEaves(way->up, frame, BoxAround(outline.rings), perMetre));
+  return passed;
 }
 
 }  // namespace
@@ -132,21 +157,28 @@ SlopeReach ReachUp(const std::vector<SlopeRing>& rings, double left, double righ
 }
 
 std::string PassedEdges(const brevanta::Outline& frame, const SurfaceOutline& outline, double perMetre) {
-  const double least = 1e-6 * perMetre;  // what rounding leaves
   const SlopeBox box = BoxOf(frame, outline.frame);
-  const std::optional<SlopePoint> way = WayInside(box, outline.rings);
-  if (!way) return {};
-  const bool isUp = std::abs(way->up) > least;
-  const bool isAcross = std::abs(way->across) > least;
-  if (!isUp && !isAcross) return {};
-  std::string text = "passes ";
-  if (isAcross) text += PassedAcross(way->across, perMetre);
-  if (isAcross && isUp) text += " and ";
-  if (!isUp) return text;
-  text += PassedUp(way->up, box, BoxAround(outline.rings), perMetre);
-  if (IsFlat(outline.frame)) return text;
-  return text + fmt::format("; the {} lower edge is {:.3f} m", way->up < 0 ? "highest" : "lowest",
-                            outline.frame.At({0.0, box.bottom + way->up}).z / perMetre);
+  std::string text;
+  double up = 0.0;
+  for (const EdgePassed& edge : EdgesPassed(box, outline, perMetre)) {
+    text += fmt::format("{} {} by {:.3f} m", text.empty() ? "passes" : " and", edge.name,
+                        std::abs(edge.way) / perMetre);
+    if (!edge.isAtSide) up = edge.way;
+  }
+  if (up == 0.0 || IsFlat(outline.frame)) return text;
+  return text + fmt::format("; the {} lower edge is {:.3f} m", up < 0 ? "highest" : "lowest",
+                            outline.frame.At({0.0, box.bottom + up}).z / perMetre);
+}
+
+std::string EdgesWithin(double clearance, const brevanta::Outline& frame, const SurfaceOutline& outline,
+                        double perMetre) {
+  const SlopeBox grown = Grown(BoxOf(frame, outline.frame), clearance);
+  std::string text;
+  for (const EdgePassed& edge : EdgesPassed(grown, outline, perMetre)) {
+    text += fmt::format("{}{}, {:.3f} m away", text.empty() ? "" : " and ", edge.name,
+                        std::max(0.0, clearance - std::abs(edge.way)) / perMetre);
+  }
+  return text;
 }
 
 }  // namespace teskarlt

@@ -6,20 +6,11 @@
 #include <utility>
 #include <vector>
 
+#include "teskarlt/drawing/SlopeBox.h"
 #include "teskarlt/drawing/SurfaceOutline.h"
 #include "window/Outlines.h"
 
 namespace teskarlt {
-
-// A rectangle along the eaves and the slope.
-struct SlopeBox {
-  double left;
-  double right;
-  double bottom;
-  double top;
-
-  double Middle() const { return (left + right) / 2; }
-};
 
 // The box around the outline in the frame of a roof; of a roof with a slope by the heights of the corners, so
 // that those of windows on other roofs count as well.
@@ -43,5 +34,10 @@ SlopeReach ReachUp(const std::vector<SlopeRing>& rings, double left, double righ
 // highest lower edge is 4.31 m". Empty where it passes none, as over a hole, and where no way along the eaves
 // or the slope would bring it inside. `perMetre` units of the outline are a metre.
 std::string PassedEdges(const brevanta::Outline& frame, const SurfaceOutline& outline, double perMetre);
+
+// Which edges of the roof the frame, which lies within it, comes nearer to than the clearance, in units: "the
+// ridge, 0.080 m away". Empty like PassedEdges.
+std::string EdgesWithin(double clearance, const brevanta::Outline& frame, const SurfaceOutline& outline,
+                        double perMetre);
 
 }  // namespace teskarlt

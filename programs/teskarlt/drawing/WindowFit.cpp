@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <set>
 #include <utility>
 
 #include <fmt/format.h>
@@ -13,6 +12,8 @@
 #include "geometry/Vectors.h"
 #include "inc/RecordPoints.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/ObstacleWords.h"
+#include "teskarlt/drawing/SlopeMoves.h"
 #include "teskarlt/drawing/SlopeReach.h"
 #include "teskarlt/drawing/WindowShape.h"
 #include "window/SecondPlane.h"
@@ -75,6 +76,44 @@ std::vector<const RoofFace*> FacesInPlaneOf(const Outline& outline, const Roofs&
   std::vector<const RoofFace*> faces = roofs.FacesNear(PlanBoxOf(outline));
   faces.erase(std::remove_if(faces.begin(), faces.end(), isElsewhere), faces.end());
   return faces;
+}
+
+// The surface on which the outline lies, of several that under its middle; null where there is none in its
+// plane.
+const RoofSurface* SurfaceUnder(const Outline& outline, const Roofs& roofs) {
+  const std::vector<const RoofFace*> faces = FacesInPlaneOf(outline, roofs);
+  if (faces.empty()) return nullptr;
+  const Vec3 middle = Between(outline[0], outline[2], 0.5);
+  const auto under = std::find_if(faces.begin(), faces.end(),
+                                  [&](const RoofFace* face) { return LiesOver(*face, middle.x, middle.y); });
+  return roofs.SurfaceOf(under == faces.end() ? *faces.front() : **under);
+}
+
+// That of the surface, which there is.
+SurfaceOutline OutlineUnder(const Outline& outline, const Roofs& roofs) {
+  return OutlineOf(*SurfaceUnder(outline, roofs), roofs.Faces(), roofs.Tolerance());
+}
+
+// The outline with a margin on every side.
+Outline Grown(const Outline& outline, double margin) {
+  const Vec3 up = Unit(Difference(outline[1], outline[0]));
+  const Vec3 across = Unit(Difference(outline[3], outline[0]));
+  const auto grow = [&](const Vec3& corner, double toRight, double toTop) {
+    return Moved(Moved(corner, across, toRight), up, toTop);
+  };
+  return {grow(outline[0], -margin, -margin), grow(outline[1], -margin, margin),
+          grow(outline[2], margin, margin), grow(outline[3], margin, -margin)};
+}
+
+// "window 3", "windows 1, 2 and 3 more"
+std::string NumberWords(const std::set<std::int32_t>& numbers) {
+  constexpr std::size_t MOST_NAMED = 10;
+  const std::size_t named = std::min(numbers.size(), MOST_NAMED);
+  const auto end = std::next(numbers.begin(), static_cast<std::ptrdiff_t>(named));
+  std::string text =
+      fmt::format("window{} {}", numbers.size() == 1 ? "" : "s", fmt::join(numbers.begin(), end, ", "));
+  if (numbers.size() > named) text += fmt::format(" and {} more", numbers.size() - named);
+  return text;
 }
 
 }  // namespace
@@ -167,9 +206,8 @@ std::optional<Outline> WindowFit::OutlineOf(std::int32_t number) const {
   return std::nullopt;
 }
 
-// "it overlaps windows 1, 2 and 3 more"; empty when it overlaps none.
-std::string WindowFit::Overlapped(const Outline& outline) const {
-  constexpr std::size_t MOST_NAMED = 10;
+// The windows that cover a piece of it.
+std::set<std::int32_t> WindowFit::NumbersOver(const Outline& outline) const {
   const auto [least, most] = ReachAlongX(outline);
   const auto [leastY, mostY] = ReachAlongY(outline);
   std::set<std::int32_t> numbers;
@@ -179,40 +217,103 @@ std::string WindowFit::Overlapped(const Outline& outline) const {
     const bool isNear = place.leastY <= mostY && place.mostY >= leastY;
     if (isNear && Overlap(outline, place.outline, roofs_.Tolerance())) numbers.insert(place.number);
   }
-  if (numbers.empty()) return {};
-  const std::size_t named = std::min(numbers.size(), MOST_NAMED);
-  const std::vector<std::int32_t> names(numbers.begin(),
-                                        std::next(numbers.begin(), static_cast<std::ptrdiff_t>(named)));
-  std::string text =
-      fmt::format("it overlaps window{} {}", numbers.size() == 1 ? "" : "s", fmt::join(names, ", "));
-  if (numbers.size() > named) text += fmt::format(" and {} more", numbers.size() - named);
-  return text;
+  return numbers;
+}
+
+void WindowFit::TellWindows(const Outline& outline, double clearance, double perMetre,
+                            Sentences& misfits) const {
+  const std::set<std::int32_t> overlapped = NumbersOver(outline);
+  if (!overlapped.empty()) misfits.push_back("it overlaps " + NumberWords(overlapped));
+  if (clearance <= 0.0) return;
+  std::set<std::int32_t> near = NumbersOver(Grown(outline, clearance));
+  for (const std::int32_t number : overlapped)
+    near.erase(number);
+  if (!near.empty()) misfits.push_back(NearerThan(clearance, perMetre) + " " + NumberWords(near));
 }
 
 // "it passes the ridge by 0.12 m"; over a hole, how much of it.
-std::string WindowFit::Outside(const WindowParams& record, const Outline& outline, double covered) const {
-  const RoofFace& face = *FacesInPlaneOf(outline, roofs_).front();
-  const std::string passed =
-      PassedEdges(outline, teskarlt::OutlineOf(*roofs_.SurfaceOf(face), roofs_.Faces(), roofs_.Tolerance()),
-                  record.unitFactor);
+std::string WindowFit::Outside(const Outline& outline, double covered, double perMetre) const {
+  const std::string passed = PassedEdges(outline, OutlineUnder(outline, roofs_), perMetre);
   if (!passed.empty()) return "it " + passed;
   return fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT);
 }
 
-std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Outline& outline) const {
-  std::vector<std::string> misfits;
-  if (std::string overlapped = Overlapped(outline); !overlapped.empty())
-    misfits.push_back(std::move(overlapped));
-  if (roofs_.IsEmpty() || HasOwnSecondPlane(record, roofs_.Tolerance())) return misfits;
+void WindowFit::TellEdges(const Outline& outline, double clearance, double perMetre,
+                          Sentences& misfits) const {
   const double covered = CoveredPart(outline, roofs_);
   if (covered <= 0.0) {
     misfits.emplace_back("it lies on no roof face");
   } else if (!IsWhole(covered)) {
-    misfits.push_back(Outside(record, outline, covered));
+    misfits.push_back(Outside(outline, covered, perMetre));
+  } else if (clearance > 0.0 && !IsWhole(CoveredPart(Grown(outline, clearance), roofs_))) {
+    const std::string edges = EdgesWithin(clearance, outline, OutlineUnder(outline, roofs_), perMetre);
+    misfits.push_back(NearerThan(clearance, perMetre) + " " +
+                      (edges.empty() ? "an inner edge of its roof" : edges));
   }
   const double unevenness = UnevennessIn(outline, roofs_) / roofs_.Tolerance();
   if (unevenness > ROOF_UNEVENNESS)
     misfits.push_back(fmt::format("its roof is uneven there, {:.0f} mm off its plane", unevenness));
+}
+
+const std::vector<Obstacle>& WindowFit::ObstaclesOf(const RoofSurface& surface) const {
+  const auto known = obstacles_.find(&surface);
+  if (known != obstacles_.end()) return known->second;
+  const double least = ROOF_UNEVENNESS * roofs_.Tolerance() + surface.warp;
+  return obstacles_.emplace(&surface, ObstaclesOn(surface.plane, surface.box, least, roofs_)).first->second;
+}
+
+void WindowFit::TellObstacles(const Outline& outline, double clearance, double perMetre,
+                              Sentences& misfits) const {
+  constexpr double AROUND = 3.0;  // metres around a window on a plane that has no bounds
+  const RoofSurface* const surface = SurfaceUnder(outline, roofs_);
+  const Plane plane = surface != nullptr ? surface->plane : Plane{outline[0], UnitNormal(outline)};
+  const double tolerance = roofs_.Tolerance();
+  const std::vector<Obstacle> around =
+      surface != nullptr ? std::vector<Obstacle>()
+                         : ObstaclesOn(plane, PlanBoxOf(outline, AROUND * perMetre + clearance),
+                                       ROOF_UNEVENNESS * tolerance, roofs_);
+  const std::vector<Obstacle>& obstacles = surface != nullptr ? ObstaclesOf(*surface) : around;
+  const SlopeFrame frame = FrameOf(plane);
+  Sentences met = ObstacleWords(obstacles, BoxOf(outline, frame), clearance, tolerance, perMetre);
+  if (met.empty()) return;
+  if (const auto way = WayToFreePlace(outline, frame, obstacles, clearance))
+    met.back() += fmt::format("; the nearest free place is {}", WayWords(*way, perMetre));
+  std::move(met.begin(), met.end(), std::back_inserter(misfits));
+}
+
+std::optional<SlopePoint> WindowFit::WayToFreePlace(const Outline& outline, const SlopeFrame& frame,
+                                                    const std::vector<Obstacle>& obstacles,
+                                                    double clearance) const {
+  const double tolerance = roofs_.Tolerance();
+  std::vector<SlopeRing> rings;
+  for (const Obstacle& obstacle : obstacles)
+    rings.push_back(obstacle.footprint);
+  for (const auto& [x, place] : places_) {
+    if (!LiesInPlane(place.outline, outline[0], UnitNormal(outline), tolerance)) continue;
+    SlopeRing& ring = rings.emplace_back();
+    for (const Vec3& corner : place.outline)
+      ring.push_back(frame.Of(corner));
+  }
+  const bool isBounded = SurfaceUnder(outline, roofs_) != nullptr;
+  for (const SlopePoint& way : WaysClearOf(rings, Grown(BoxOf(outline, frame), clearance))) {
+    Outline moved = Grown(outline, clearance);
+    for (Vec3& corner : moved)
+      corner = Moved(Moved(corner, frame.across, way.across), frame.up, way.up);
+    if (!isBounded || IsWhole(CoveredPart(moved, roofs_))) return way;
+  }
+  return std::nullopt;
+}
+
+std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Outline& outline,
+                                            const FitRules& rules) const {
+  const double perMetre = record.unitFactor;
+  const double clearance = rules.clearance * perMetre;
+  Sentences misfits;
+  TellWindows(outline, clearance, perMetre, misfits);
+  if (HasOwnSecondPlane(record, roofs_.Tolerance())) return misfits;
+  const bool hasFaces = !rules.isPlaneGiven || SurfaceUnder(outline, roofs_) != nullptr;
+  if (hasFaces && !roofs_.IsEmpty()) TellEdges(outline, clearance, perMetre, misfits);
+  TellObstacles(outline, clearance, perMetre, misfits);
   return misfits;
 }
 

@@ -4,11 +4,14 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/Obstacles.h"
 #include "teskarlt/drawing/Roofs.h"
 #include "window/Outlines.h"
 
@@ -43,6 +46,12 @@ constexpr bool IsWhole(double part) {
   return part >= 1.0 - 1e-6;
 }
 
+// What is asked of a window besides that nothing stands in its way.
+struct FitRules {
+  double clearance = 0.0;     // metres along the eaves and the slope to windows, edges of roofs and obstacles
+  bool isPlaneGiven = false;  // by the user: no roof face need lie in it
+};
+
 // The roofs of a drawing and the windows that stand on them.
 class WindowFit {
  public:
@@ -59,9 +68,12 @@ class WindowFit {
   // The outline of a window that was added; none when there is no such number.
   std::optional<Outline> OutlineOf(std::int32_t number) const;
 
-  // What is wrong with a window that is to come or stands there, for people: "it overlaps window 3". The
-  // roofs have no part in it where the drawing has none and where the window has a second plane of its own.
-  std::vector<std::string> Misfits(const brevanta::WindowParams& record, const Outline& outline) const;
+  // What is wrong with a window that is to come or stands there, for people: "it overlaps window 3", "it
+  // passes the ridge by 0.120 m", "it meets face 2F of layer CHIMNEY by 0.310 m; the nearest free place is
+  // 0.400 m to the left". Of a window with a second plane of its own only
+  // the windows that it overlaps are told; roof faces have no part in it where the drawing has none.
+  std::vector<std::string> Misfits(const brevanta::WindowParams& record, const Outline& outline,
+                                   const FitRules& rules = {}) const;
 
  private:
   struct Place {
@@ -71,12 +83,22 @@ class WindowFit {
     double mostY;
   };
 
-  std::string Overlapped(const Outline& outline) const;
-  std::string Outside(const brevanta::WindowParams& record, const Outline& outline, double covered) const;
+  using Sentences = std::vector<std::string>;
+
+  std::set<std::int32_t> NumbersOver(const Outline& outline) const;
+  void TellWindows(const Outline& outline, double clearance, double perMetre, Sentences& misfits) const;
+  void TellEdges(const Outline& outline, double clearance, double perMetre, Sentences& misfits) const;
+  void TellObstacles(const Outline& outline, double clearance, double perMetre, Sentences& misfits) const;
+  std::string Outside(const Outline& outline, double covered, double perMetre) const;
+  const std::vector<Obstacle>& ObstaclesOf(const RoofSurface& surface) const;
+  // The shortest way along the eaves or the slope to a place on the roof where nothing is met.
+  std::optional<SlopePoint> WayToFreePlace(const Outline& outline, const SlopeFrame& frame,
+                                           const std::vector<Obstacle>& obstacles, double clearance) const;
 
   const Roofs& roofs_;
-  std::multimap<double, Place> places_;  // by the least x
-  double widest_ = 0.0;                  // along x
+  std::multimap<double, Place> places_;                                              // by the least x
+  double widest_ = 0.0;                                                              // along x
+  mutable std::unordered_map<const RoofSurface*, std::vector<Obstacle>> obstacles_;  // as far as asked for
 };
 
 }  // namespace teskarlt

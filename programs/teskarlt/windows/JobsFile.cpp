@@ -241,6 +241,7 @@ void Check(const JobOrder& job) {
 WindowOrder ForOtherJobs(const WindowOrder& defaults) {
   WindowOrder order;
   order.lengths = defaults.lengths;
+  order.clearance = defaults.clearance;
   order.isStrict = defaults.isStrict;
   return order;
 }

@@ -124,6 +124,10 @@ void ApplySnap(const PlaceWord& word, const std::string& text, WindowOrder& orde
   order.placing.snap = step;
 }
 
+void ApplyClearance(const PlaceWord& word, const std::string& text, WindowOrder& order) {
+  order.clearance = ParseDistance(fmt::format("--{}", word.name).c_str(), text, order.lengths);
+}
+
 constexpr std::array PLAN_ROOF_WORDS = {
     PlaceWord{"eaves", 2, "X,Y",
               "the eaves of a roof that is only drawn in plan; it lies to the left of their direction",
@@ -157,6 +161,10 @@ constexpr std::array PLACING_WORDS = {
     PlaceWord{"snap", 1, "LENGTH",
               "moves what a point says to multiples of this, from the left edge and from the eaves",
               ApplySnap},
+    PlaceWord{
+        "clearance", 1, "LENGTH",
+        "tells of other windows, edges of the roof and obstacles that are nearer to the frame than this",
+        ApplyClearance},
 };
 
 }  // namespace

@@ -19,6 +19,10 @@ PlacedWindow PlacedBy(const CommandOutcome& outcome, const WorkingUnit& unit, co
   return window;
 }
 
+FitRules RulesFor(const PlacedWindow& window, const WindowOrder& order) {
+  return {.clearance = order.clearance, .isPlaneGiven = !window.face};
+}
+
 void RefuseMisfits(const std::vector<std::string>& misfits) {
   throw Error(fmt::format("--strict: the window is refused; {}", fmt::join(misfits, " and ")));
 }

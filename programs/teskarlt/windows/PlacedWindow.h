@@ -11,6 +11,7 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/modules/ModuleSession.h"
 #include "teskarlt/windows/RoofChoice.h"
+#include "teskarlt/windows/WindowOrder.h"
 
 namespace teskarlt {
 
@@ -33,6 +34,9 @@ struct PlacedWindow {
 
 // What the module's command left behind, in its unit, on the roof that was chosen for it.
 PlacedWindow PlacedBy(const CommandOutcome& outcome, const WorkingUnit& unit, const RoofChoice& roof);
+
+// What the order asks of the window's place.
+FitRules RulesFor(const PlacedWindow& window, const WindowOrder& order);
 
 // Throws Error for a window with misfits, of which there is at least one.
 [[noreturn]] void RefuseMisfits(const std::vector<std::string>& misfits);

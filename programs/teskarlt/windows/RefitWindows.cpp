@@ -113,7 +113,10 @@ class Refitter {
     const WindowShape shape = ShapeOf(work_.drawing, window);
     const double covered = hasOwnSecondPlane ? 0.0 : CoveredPart(shape.outline, work_.roofs);
     if (IsWhole(covered)) return {};
-    if (covered > 0.0) throw Error("a part of it lies outside its roof face; move it or make it smaller");
+    if (covered > 0.0) {
+      throw Error(WindowFit(work_.roofs).Misfits(reading.params, shape.outline).front() +
+                  "; move it or make it smaller");
+    }
     const NearFace nearest = NearestFace(reading.params.storedPoint, shape.Normal(), work_.roofs);
     if (std::string reason = ReasonToStay(nearest); !reason.empty()) return {nullptr, std::move(reason)};
     if (hasOwnSecondPlane)
@@ -155,7 +158,7 @@ class Refitter {
     }
     for (Refitted& window : report_.refitted) {
       const Outline outline = OutlineOf(window.after);
-      window.misfits = fit.Misfits(window.after, outline);
+      window.misfits = fit.Misfits(window.after, outline, {.clearance = order_.clearance});
       fit.Add(window.after.markerValue, outline);
     }
   }

@@ -23,6 +23,7 @@ struct RefitOrder {
   RefitKeeps keeps = RefitKeeps::Plan;
   bool isLockedToo = false;    // also windows on locked and frozen layers
   double reach = REFIT_REACH;  // how far over or under a window its roof may have come, metres
+  double clearance = 0.0;      // metres that windows keep to what is in their way
 };
 
 // A window that was put onto another face.

@@ -129,7 +129,7 @@ std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
         throw Naming(window, error);
       }
     }
-    Fit(edited, order.isStrict);
+    Fit(edited, order);
     return edited;
   });
 }
@@ -177,16 +177,16 @@ void WindowEditor::PutPlace(const WindowOrder& order, const RoofChoice& roof, Wi
   request.point = PlaceFor(order, MeasuredOn(order, roof, Work().roofs), request, tryOut, outlineOf);
 }
 
-void WindowEditor::Fit(std::vector<EditedWindow>& edited, bool isStrict) {
+void WindowEditor::Fit(std::vector<EditedWindow>& edited, const WindowOrder& order) {
   for (const EditableWindow& window : windows_)
     site_.NoteMoved(window.drawn->number, window.outline, std::nullopt);
   for (EditedWindow& window : edited) {
     PlacedWindow& placed = window.placed;
-    placed.misfits = site_.Fit().Misfits(placed.record, placed.outline);
+    placed.misfits = site_.Fit().Misfits(placed.record, placed.outline, RulesFor(placed, order));
     site_.NoteMoved(placed.record.markerValue, std::nullopt, placed.outline);
   }
   try {
-    if (isStrict) RefuseMisfitting(edited);
+    if (order.isStrict) RefuseMisfitting(edited);
   } catch (...) {
     for (std::size_t i = 0; i < edited.size(); ++i)
       site_.NoteMoved(windows_[i].drawn->number, edited[i].placed.outline, windows_[i].outline);

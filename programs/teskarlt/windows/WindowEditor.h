@@ -60,8 +60,8 @@ class WindowEditor {
   // Puts the point for which the order's words stand into the request.
   void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
   // Looks whether the edited windows fit, and tells the site where they stand now. Throws Error for those
-  // that do not where that `isStrict`; they stand where they stood then.
-  void Fit(std::vector<EditedWindow>& edited, bool isStrict);
+  // that do not where the order is strict; they stand where they stood then.
+  void Fit(std::vector<EditedWindow>& edited, const WindowOrder& order);
   // Throws Error for windows with misfits.
   void RefuseMisfitting(const std::vector<EditedWindow>& edited) const;
   // The same error, with the window's number where there are several windows.

@@ -82,7 +82,7 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
   WindowRequest request = RequestFor(order, roof, numbers);
   if (IsGiven(order.placing)) request.point = FindPlace(order, roof, request);
   PlacedWindow window = PlacedBy(InsertOnto(roof, request), Work().unit, roof);
-  window.misfits = site_.Fit().Misfits(window.record, window.outline);
+  window.misfits = site_.Fit().Misfits(window.record, window.outline, RulesFor(window, order));
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
   return window;
 }

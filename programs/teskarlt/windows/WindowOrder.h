@@ -83,6 +83,7 @@ struct WindowOrder {
   std::string catalogue;                      // its file or folder; without it the one in the data folder
   std::vector<FieldSetting> settings;         // of the same field the last one holds
   LengthStyle lengths = LengthStyle::Metres;  // what plain lengths count that are still to be read
+  double clearance = 0.0;                     // metres that windows keep to what is in their way
   bool isStrict = false;                      // a window that does not fit is refused
 };
 

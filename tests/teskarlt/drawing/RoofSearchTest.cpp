@@ -60,7 +60,8 @@ TEST(FindFaces, WallsAreLeftOut) {
   const std::string wall =
       Point(10, 0, 0, 0) + Point(11, 4000, 0, 0) + Point(12, 4000, 0, 2500) + Point(13, 0, 0, 2500);
   EXPECT_TRUE(FindFaces(Drawing("", Face("1", wall)), TOLERANCE).empty());
-  EXPECT_THAT(SearchFaces(Drawing("", Face("1", wall)), TOLERANCE).walls, testing::ElementsAre("1"));
+  EXPECT_THAT(SearchFaces(Drawing("", Face("1", wall)), TOLERANCE).walls,
+              testing::ElementsAre(testing::Field(&Wall::name, "1")));
   EXPECT_EQ(FindWalls(Drawing("", Face("1", wall)), TOLERANCE).size(), 1U);
 }
 

@@ -58,7 +58,25 @@ TEST(PassedEdges, CornerOfTheRoofIsTwoEdges) {
 
 TEST(PassedEdges, OfAHipTheShorterWayIsTold) {
   // At the frame's top, 2.5 m up, the hip lies at 6 m; the frame ends at 6.2 m.
-  EXPECT_EQ(Passed(HIP, 5.2, 1), "passes the right verge by 0.200 m");
+  EXPECT_EQ(Passed(HIP, 5.2, 1), "passes the right hip by 0.200 m");
+}
+
+TEST(PassedEdges, RoofThatGetsWiderUpwardsHasAValley) {
+  // At the frame's lower edge, 1 m up, the valley lies at 6 m; the frame ends at 6.3 m.
+  const SurfaceOutline roof = RoofOf({{0, 0}, {5, 0}, {10, 5}, {0, 5}});
+  EXPECT_EQ(Passed(roof, 5.3, 1), "passes the right valley by 0.300 m");
+}
+
+TEST(EdgesWithin, SayHowFarTheEdgesAre) {
+  const auto within = [](double left, double bottom) {
+    const auto at = [&](double across, double up) {
+      return RECTANGLE.frame.At({left + across, bottom + up});
+    };
+    return EdgesWithin(0.2, {at(0, 0), at(0, 1.5), at(1, 1.5), at(1, 0)}, RECTANGLE, 1.0);
+  };
+  EXPECT_EQ(within(0.15, 1), "the left verge, 0.150 m away");
+  EXPECT_EQ(within(6.9, 3.4), "the right verge, 0.100 m away and the ridge, 0.100 m away");
+  EXPECT_EQ(within(0.2, 1), "");
 }
 
 TEST(PassedEdges, InsideAndTooLongForTheRoofNothingIsPassed) {

@@ -166,6 +166,63 @@ TEST(WindowFit, WideWindowIsFoundFromItsFarEnd) {
   EXPECT_THAT(fit.Misfits(Window(24, 2), OutlineOf(Window(24, 2))), ElementsAre("it overlaps window 1"));
 }
 
+// A wall across the slope at `x` metres, 1 m long from y on, that rises 2 m above it.
+Wall WallAt(double x, double y) {
+  const Vec3 low = Corner(x, y);
+  const Vec3 high = Corner(x, y + 1);
+  return {"2F", "CHIMNEY", {low, high, Moved(high, {0, 0, 1}, 2000), Moved(low, {0, 0, 1}, 2000)}};
+}
+
+std::vector<std::string> MisfitsBeside(const Wall& wall, const WindowParams& record, double clearance = 0) {
+  const Roofs roofs({*MakeRoofFace({Corner(0, 0), Corner(10, 0), Corner(10, 10), Corner(0, 10)}, TOLERANCE)},
+                    TOLERANCE, IN_DRAWING_UNITS, {}, {wall});
+  return WindowFit(roofs).Misfits(record, OutlineOf(record), {.clearance = clearance});
+}
+
+TEST(WindowFit, ObstacleIsNamedWithTheNearestFreePlace) {
+  // The frame reaches from 4.5 to 5.5 m.
+  EXPECT_THAT(
+      MisfitsBeside(WallAt(5.3, 2.5), Window(5, 2)),
+      ElementsAre(
+          "it meets face 2F of layer CHIMNEY by 0.200 m; the nearest free place is 0.200 m to the left"));
+  EXPECT_THAT(MisfitsBeside(WallAt(5.5, 2.5), Window(5, 2)), IsEmpty());
+  EXPECT_THAT(MisfitsBeside(WallAt(5.3, 3.6), Window(5, 2)), IsEmpty());
+}
+
+TEST(WindowFit, FreePlaceLiesOnTheRoof) {
+  // 0.3 m to the left, the frame would pass the verge.
+  EXPECT_THAT(
+      MisfitsBeside(WallAt(0.9, 2.5), Window(0.7, 2)),
+      ElementsAre(
+          "it meets face 2F of layer CHIMNEY by 0.300 m; the nearest free place is 0.700 m to the right"));
+}
+
+TEST(WindowFit, ClearanceIsKeptToObstaclesEdgesAndWindows) {
+  EXPECT_THAT(
+      MisfitsBeside(WallAt(5.6, 2.5), Window(5, 2), 0.2),
+      ElementsAre("it comes nearer than its clearance of 0.200 m to face 2F of layer CHIMNEY, 0.100 m away; "
+                  "the nearest free place is 0.100 m to the left"));
+  EXPECT_THAT(MisfitsBeside(WallAt(8, 2.5), Window(0.65, 2), 0.2),
+              ElementsAre("it comes nearer than its clearance of 0.200 m to the left verge, 0.150 m away"));
+  const Roofs roofs = Slope(10);
+  WindowFit fit(roofs);
+  fit.Add(1, OutlineOf(Window(5, 2)));
+  const WindowParams beside = Window(6.1, 2);
+  EXPECT_THAT(fit.Misfits(beside, OutlineOf(beside), {.clearance = 0.2}),
+              ElementsAre("it comes nearer than its clearance of 0.200 m to window 1"));
+  EXPECT_THAT(fit.Misfits(beside, OutlineOf(beside), {.clearance = 0.1}), IsEmpty());
+}
+
+TEST(WindowFit, PlaneThatTheUserGaveNeedsNoRoofFaceAndKnowsObstacles) {
+  const WindowParams record = Window(5, 2, 0.4);
+  const Roofs roofs({*MakeRoofFace({Corner(0, 0), Corner(9, 0), Corner(9, 9)}, TOLERANCE)}, TOLERANCE,
+                    IN_DRAWING_UNITS, {}, {WallAt(5.3, 2.5)});
+  EXPECT_THAT(
+      WindowFit(roofs).Misfits(record, OutlineOf(record), {.isPlaneGiven = true}),
+      ElementsAre(
+          "it meets face 2F of layer CHIMNEY by 0.200 m; the nearest free place is 0.200 m to the left"));
+}
+
 TEST(WindowFit, FaceOfWindowWithASecondPlaneOfItsOwnIsNotAsked) {
   const Roofs roofs = Slope(10);
   const WindowFit fit(roofs);

@@ -106,7 +106,8 @@ TEST_F(RoofChoiceTest, RefusalsNameWhatWasNotRead) {
 }
 
 TEST_F(RoofChoiceTest, NameOfAWallIsToldAsSuch) {
-  roofs = Roofs(roofs.Faces(), 1.0, IN_DRAWING_UNITS, {}, {"2F", "2F.3"});
+  const Ring upright = {{0, 0, 0}, {4000, 0, 0}, {4000, 0, 2500}};
+  roofs = Roofs(roofs.Faces(), 1.0, IN_DRAWING_UNITS, {}, {{"2F", "A", upright}, {"2F.3", "A", upright}});
   WindowOrder order = OrderAt(4000, 2000);
   order.roofName = "2f/3";
   EXPECT_THAT(Refusal(order),
