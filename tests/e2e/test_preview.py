@@ -5,6 +5,7 @@ import shutil
 import subprocess
 import xml.etree.ElementTree as ElementTree
 
+import ezdxf
 import pictures
 import pytest
 import readers
@@ -153,6 +154,27 @@ def test_what_is_not_shown_is_said(teskarlt, tmp_path):
     path.write_text(text)
     answer = teskarlt.done("preview", path, "-o", tmp_path / "out.svg")
     assert answer.stderr == "teskarlt: not shown: 1 TEXT\n"
+
+
+def test_holes_of_roofs_stay_open(teskarlt, tmp_path):
+    """A red roof of ten metres with a hole of four in its middle, as polylines and as a hatch."""
+    squares = [[(low, low), (high, low), (high, high), (low, high)] for low, high in ((0, 10), (3, 7))]
+    for kind in ("polylines", "hatch"):
+        path = tmp_path / f"{kind}.dxf"
+        document = ezdxf.new("R2010")
+        space = document.modelspace()
+        if kind == "hatch":
+            hatch = space.add_hatch(color=1, dxfattribs={"extrusion": (0, -0.6, 0.8)})
+            for square in squares:
+                hatch.paths.add_polyline_path(square, is_closed=True)
+        else:
+            for square in squares:
+                space.add_polyline3d([(x, y, y) for x, y in square], close=True, dxfattribs={"color": 1})
+        document.saveas(path)
+        teskarlt.done("preview", path, "-o", tmp_path / "out.png", "--view", "plan", "--width", "200")
+        picture = pictures.pixels((tmp_path / "out.png").read_bytes())
+        assert pictures.is_red(*picture.at(40, picture.height / 2)), kind
+        assert not pictures.is_red(*picture.at(100, picture.height / 2)), kind
 
 
 def names_in(path):

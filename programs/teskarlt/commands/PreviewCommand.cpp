@@ -81,9 +81,10 @@ std::optional<std::size_t> RoofIndex(const PreviewOptions& options, const previe
   if (options.roof.empty()) return std::nullopt;
   const auto found = std::find_if(scene.roofs.begin(), scene.roofs.end(),
                                   [&](const auto& roof) { return dxf::SameName(roof.name, options.roof); });
-  if (found == scene.roofs.end())
+  if (found == scene.roofs.end()) {
     throw Error(fmt::format("{}: no roof with the name {} is to be seen; teskarlt roofs lists them",
                             options.file, options.roof));
+  }
   return static_cast<std::size_t>(found - scene.roofs.begin());
 }
 

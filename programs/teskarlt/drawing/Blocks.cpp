@@ -95,8 +95,9 @@ InsertCopies::InsertCopies(const dxf::TagList& insert, const Vec3& base)
 }
 
 Matrix4 InsertCopies::At(std::size_t copy) const {
-  const Vec3 step = {static_cast<double>(copy % columns_) * columnSpacing_,
-                     static_cast<double>(copy / columns_) * rowSpacing_, 0};
+  const std::size_t row = copy / columns_;
+  const std::size_t column = copy % columns_;
+  const Vec3 step = {static_cast<double>(column) * columnSpacing_, static_cast<double>(row) * rowSpacing_, 0};
   return Product(place_, Product(Moved(step), shape_));
 }
 

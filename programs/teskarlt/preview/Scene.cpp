@@ -20,6 +20,10 @@ double Turn(const Vec3& a, const Vec3& b, const Vec3& c, const Vec3& normal) {
   return geometry::VecDot(Cross(Difference(b, a), Difference(c, a)), normal);
 }
 
+bool AreSame(const Vec3& a, const Vec3& b) {
+  return a.x == b.x && a.y == b.y && a.z == b.z;
+}
+
 // Cuts one ear after the other off a polygon (G. Meisters, 1975).
 class EarCutter {
  public:
@@ -49,11 +53,24 @@ class EarCutter {
     if (Turn(a, b, c, normal_) <= 0) return false;
     for (std::size_t i = 2; i + 1 < left_.size(); ++i) {
       const Vec3& p = corners_[At(place + i)];
+      if (AreSame(p, a) || AreSame(p, c)) continue;
       const bool isInside =
           Turn(a, b, p, normal_) >= 0 && Turn(b, c, p, normal_) >= 0 && Turn(c, a, p, normal_) >= 0;
-      if (isInside) return false;
+      if (isInside && !(AreSame(p, b) && LeavesEar(place, place + i))) return false;
     }
     return true;
+  }
+
+  // Whether the outline, which comes by the tip of the ear once more, as on the way to a hole, does so
+  // outside of it. Where it comes by its base it cannot enter without a corner within.
+  bool LeavesEar(std::size_t ear, std::size_t place) const {
+    const Vec3& before = corners_[At(ear + left_.size() - 1)];
+    const Vec3& tip = corners_[At(ear)];
+    const Vec3& after = corners_[At(ear + 1)];
+    const auto enters = [&](const Vec3& q) {
+      return Turn(before, tip, q, normal_) > 0 && Turn(tip, after, q, normal_) > 0;
+    };
+    return !enters(corners_[At(place - 1)]) && !enters(corners_[At(place + 1)]);
   }
 
   void Cut(std::size_t place) {

@@ -20,6 +20,8 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
+#include "teskarlt/preview/Bridges.h"
+#include "teskarlt/preview/SceneHoles.h"
 #include "teskarlt/preview/Styles.h"
 #include "window/Parts.h"
 
@@ -61,7 +63,7 @@ bool IsLevel(const EntityFace& face) {
 }
 
 // Of outlines, keeps the faces that are surfaces: what lies level is a line of a plan, or its filling, and
-// would hide the rest. Their edges are drawn otherwise: by the polyline itself.
+// would hide the rest. Their edges are drawn otherwise: by lines.
 void KeepSolid(EntityFaces& outlines) {
   if (outlines.isFlatKind) std::erase_if(outlines.faces, IsLevel);
   for (EntityFace& face : outlines.faces)
@@ -101,6 +103,7 @@ class Reader {
  private:
   void ReadWindows();
   void ReadRoofs(const AskedUnit& units);
+  double Tolerance(const AskedUnit& units) const;
   void ReadEntity(const dxf::Entity& entity, const Placement& placement);
   void ReadInsert(const dxf::TagList& insert, const Look& look, const Placement& placement);
   Look LookOf(const dxf::TagList& entity, const Placement& placement) const;
@@ -111,6 +114,8 @@ class Reader {
                    const Placement& placement);
   void AddCurve(CurvePoints points, const dxf::TagList& entity, const Look& look, const Placement& placement,
                 std::size_t outlined);
+  void AddOutlines(const std::vector<EntityFace>& faces, const dxf::TagList& entity, const Look& look,
+                   const Placement& placement, std::size_t surface);
   void Show(std::vector<Vec3>& points, const Placement& placement);
 
   const dxf::Document& drawing_;
@@ -122,6 +127,7 @@ class Reader {
   std::unordered_map<std::string, std::size_t> layerIndices_;
   std::map<DashPattern, std::size_t> patternIndices_;
   std::size_t entities_ = 0;
+  std::vector<std::size_t> outlines_;  // surfaces of closed polylines, by number
   Scene scene_;
 };
 
@@ -137,10 +143,15 @@ void Reader::ReadWindows() {
   }
 }
 
+// A millimetre in drawing units.
+double Reader::Tolerance(const AskedUnit& units) const {
+  const DrawingUnit* const unit = KnownUnit(drawing_, units);
+  return ToleranceToLookWith(drawing_, unit == nullptr ? UNSTATED : *unit);
+}
+
 // The sloped ones on layers that are seen.
 void Reader::ReadRoofs(const AskedUnit& units) {
-  const DrawingUnit* const unit = KnownUnit(drawing_, units);
-  const Roofs roofs = FindRoofs(drawing_, ToleranceToLookWith(drawing_, unit == nullptr ? UNSTATED : *unit));
+  const Roofs roofs = FindRoofs(drawing_, Tolerance(units));
   for (const RoofSurface& surface : roofs.Surfaces()) {
     if (!surface.isPlanar || IsFlat(surface)) continue;
     const bool isSeen = std::any_of(surface.faces.begin(), surface.faces.end(), [&](std::size_t face) {
@@ -204,7 +215,7 @@ void Reader::AddSurfaces(const std::vector<EntityFace>& faces, const dxf::TagLis
                          const Placement& placement) {
   for (const EntityFace& face : faces) {
     if (face.corners.size() < 3) continue;
-    Surface surface{LineAround(face.corners, face.holes),
+    Surface surface{LineOverBridges(face.corners, face.holes),
                     face.hiddenEdges,
                     LayerIndex(look.layer),
                     look.colour,
@@ -232,6 +243,21 @@ void Reader::AddCurve(CurvePoints points, const dxf::TagList& entity, const Look
               placement.window,  outlined};
   Show(curve.points, placement);
   scene_.curves.push_back(std::move(curve));
+}
+
+// Of a hatch, which has no line of its own: around its faces and their holes. `surface` is the first one.
+void Reader::AddOutlines(const std::vector<EntityFace>& faces, const dxf::TagList& entity, const Look& look,
+                         const Placement& placement, std::size_t surface) {
+  for (const EntityFace& face : faces) {
+    if (face.corners.size() < 3) continue;
+    const auto add = [&](CurvePoints ring) {
+      ring.push_back(ring.front());
+      AddCurve(std::move(ring), entity, look, placement, surface);
+    };
+    add(face.corners);
+    std::for_each(face.holes.begin(), face.holes.end(), add);
+    ++surface;
+  }
 }
 
 // An INSERT, or a DIMENSION, whose block is drawn where it stands.
@@ -282,8 +308,13 @@ void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
   if (faces.faces.empty() && !points) ++scene_.leftOut[std::string(entity.type)];
   const std::size_t next = scene_.surfaces.size();
   AddSurfaces(faces.faces, own, look, placement);
-  if (points)
-    AddCurve(*std::move(points), own, look, placement, next < scene_.surfaces.size() ? next : NO_SURFACE);
+  if (points) {
+    const bool isOutline = next < scene_.surfaces.size();
+    if (isOutline && placement.window == NO_WINDOW) outlines_.push_back(next);
+    AddCurve(*std::move(points), own, look, placement, isOutline ? next : NO_SURFACE);
+  } else if (is(dxf::TYPE_HATCH)) {
+    AddOutlines(faces.faces, own, look, placement, next);
+  }
 }
 
 Scene Reader::Run(const SceneOptions& options) {
@@ -299,6 +330,7 @@ Scene Reader::Run(const SceneOptions& options) {
       drawing_.Source().Fail(fmt::format("nothing is to be seen on layer \"{}\"", layer));
   }
   if (scene_.box.IsEmpty()) drawing_.Source().Fail("nothing is to be seen in this drawing");
+  if (outlines_.size() > 1) CutOutHoles(scene_, outlines_, Tolerance(options.units));
   if (options.withRoofs) ReadRoofs(options.units);
   const Box& box = scene_.box;
   for (const double reach : {box.low.x, box.low.y, box.low.z, box.high.x, box.high.y, box.high.z}) {

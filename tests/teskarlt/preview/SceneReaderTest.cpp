@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
 #include "tests/teskarlt/preview/Drawings.h"
 
@@ -142,6 +143,35 @@ TEST(ReadScene, EntitiesOfAWindowAreKnown) {
   EXPECT_EQ(scene.windows[0].box.high.y, 2);
   EXPECT_EQ(scene.windows[0].facing.z, 1);
   EXPECT_EQ(scene.curves[0].window, NO_WINDOW);
+}
+
+// A closed 3D polyline over a square of the plan in the plane z = y.
+std::string SlopedSquare(double low, double high) {
+  const auto vertex = [](double x, double y) {
+    return fmt::format("0 VERTEX|10 {}|20 {}|30 {}|70 32|", x, y, y);
+  };
+  return "0 POLYLINE|8 A|66 1|70 9|" + vertex(low, low) + vertex(high, low) + vertex(high, high) +
+         vertex(low, high) + "0 SEQEND|";
+}
+
+TEST(ReadScene, PolylineWithinAnotherIsAHoleOfItsSurface) {
+  const Scene scene = SceneOf({.entities = SlopedSquare(1, 2) + SlopedSquare(0, 4)});
+  ASSERT_EQ(scene.surfaces.size(), 1U);
+  EXPECT_EQ(geometry::AreaVector(scene.surfaces[0].corners).z, 2 * (16 - 1));
+  ASSERT_EQ(scene.curves.size(), 2U);
+  EXPECT_EQ(scene.curves[0].outlined, NO_SURFACE);
+  EXPECT_EQ(scene.curves[1].outlined, 0U);
+}
+
+TEST(ReadScene, SlopedHatchHasALineAroundIt) {
+  // In the plane of the extrusion direction (0, -0.6, 0.8).
+  const Scene scene =
+      SceneOf({.entities = "0 HATCH|8 A|10 0|20 0|30 0|210 0|220 -0.6|230 0.8|2 SOLID|70 1|71 0|91 1|92 2|"
+                           "72 0|73 1|93 3|10 0|20 0|10 4|20 0|10 0|20 3|97 0|75 0|76 1|98 0|"});
+  ASSERT_EQ(scene.surfaces.size(), 1U);
+  ASSERT_EQ(scene.curves.size(), 1U);
+  EXPECT_EQ(scene.curves[0].points.size(), 4U);
+  EXPECT_EQ(scene.curves[0].outlined, 0U);
 }
 
 }  // namespace

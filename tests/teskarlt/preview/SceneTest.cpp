@@ -1,6 +1,8 @@
 // SceneTest.cpp - triangles and dashes.
 #include <gtest/gtest.h>
 
+#include "teskarlt/drawing/Rings.h"
+#include "teskarlt/preview/Bridges.h"
 #include "teskarlt/preview/Scene.h"
 
 namespace teskarlt::preview {
@@ -39,6 +41,38 @@ TEST(Triangles, HollowPolygonKeepsItsArea) {
   EXPECT_DOUBLE_EQ(PlanArea(shape), 3);
   std::reverse(shape.begin(), shape.end());
   EXPECT_DOUBLE_EQ(PlanArea(shape), -3);
+}
+
+TEST(Triangles, HolesStayOpen) {
+  const auto square = [](double low, double high) {
+    return Ring{{low, low, 0}, {high, low, 0}, {high, high, 0}, {low, high, 0}};
+  };
+  const auto turned = [&](double low, double high) {
+    return TurnedAgainst(square(0, 10), square(low, high));
+  };
+  const std::vector<Vec3> shape = LineOverBridges(square(0, 10), {turned(1, 3), turned(4, 6), turned(7, 9)});
+  EXPECT_DOUBLE_EQ(PlanArea(shape), 100 - 3 * 4);
+  const Indices indices = Triangles(shape);
+  for (std::size_t i = 0; i < indices.size(); i += 3) {
+    const Ring triangle = {shape[indices[i]], shape[indices[i + 1]], shape[indices[i + 2]]};
+    for (const double middle : {2.1, 5.2, 8.3})
+      EXPECT_EQ(SideOf(triangle, middle, middle + 0.05), RingSide::Outside) << middle;
+  }
+}
+
+TEST(LineOverBridges, HoleInAHollowOfTheOutlineIsReachedWithinIt) {
+  // A U whose first corner sees nothing of the hole in its right arm.
+  const Ring shape = {{0, 0, 0}, {10, 0, 0}, {10, 10, 0}, {8, 10, 0},
+                      {8, 2, 0}, {2, 2, 0},  {2, 10, 0},  {0, 10, 0}};
+  const Ring hole = {{8.5, 7, 0}, {8.5, 8, 0}, {9.5, 8, 0}, {9.5, 7, 0}};
+  const std::vector<Vec3> line = LineOverBridges(shape, {hole});
+  EXPECT_EQ(line.size(), 8U + 4 + 2);
+  EXPECT_DOUBLE_EQ(PlanArea(line), 10 * 2 + 2 * 8 * 2 - 1);
+}
+
+TEST(LineOverBridges, HoleThatLiesOutsideIsLeftOut) {
+  const Ring shape = {{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {0, 4, 0}};
+  EXPECT_EQ(LineOverBridges(shape, {{{6, 1, 0}, {6, 2, 0}, {7, 2, 0}, {7, 1, 0}}}).size(), 4U);
 }
 
 TEST(Dashes, UnbrokenLineStaysWhole) {
