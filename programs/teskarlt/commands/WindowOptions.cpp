@@ -100,6 +100,9 @@ void AddResultOptions(Subcommand& command, WindowOptions& options) {
   command.Flag(
       "--strict", options.isStrict,
       "refuse a window in whose way something stands: another window, a chimney, an edge of its roof");
+  const PlaceWord& clearance = ClearanceWord();
+  command.Values("--clearance", clearance.values, options.placeWords[clearance.name], clearance.help)
+      .Named(clearance.valueName);
   options.target.AddDryRun(command);
   command.Flag("--json", options.asJson, JSON_HELP);
 }

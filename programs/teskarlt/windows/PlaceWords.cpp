@@ -161,11 +161,12 @@ constexpr std::array PLACING_WORDS = {
     PlaceWord{"snap", 1, "LENGTH",
               "moves what a point says to multiples of this, from the left edge and from the eaves",
               ApplySnap},
-    PlaceWord{
-        "clearance", 1, "LENGTH",
-        "tells of other windows, edges of the roof and obstacles that are nearer to the frame than this",
-        ApplyClearance},
 };
+
+constexpr PlaceWord CLEARANCE_WORD = {
+    "clearance", 1, "LENGTH",
+    "tells of other windows, edges of the roof and obstacles that are nearer to the frame than this",
+    ApplyClearance};
 
 }  // namespace
 
@@ -177,13 +178,17 @@ std::span<const PlaceWord> PlacingWords() {
   return PLACING_WORDS;
 }
 
+const PlaceWord& ClearanceWord() {
+  return CLEARANCE_WORD;
+}
+
 const PlaceWord* FindPlaceWord(std::string_view name) {
   for (const std::span<const PlaceWord> words : {PlanRoofWords(), PlacingWords()}) {
     const auto found =
         std::find_if(words.begin(), words.end(), [&](const PlaceWord& w) { return w.name == name; });
     if (found != words.end()) return &*found;
   }
-  return nullptr;
+  return name == CLEARANCE_WORD.name ? &CLEARANCE_WORD : nullptr;
 }
 
 }  // namespace teskarlt

@@ -23,6 +23,9 @@ struct PlaceWord {
 std::span<const PlaceWord> PlanRoofWords();
 std::span<const PlaceWord> PlacingWords();
 
+// How far a window is to stay from what is in its way.
+const PlaceWord& ClearanceWord();
+
 // The word of that name; null when there is none.
 const PlaceWord* FindPlaceWord(std::string_view name);
 
