@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "teskarlt/drawing/FeetInches.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/terminal/Options.h"
-#include "teskarlt/windows/FeetInches.h"
 
 namespace teskarlt {
 

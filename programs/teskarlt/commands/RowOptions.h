@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "teskarlt/drawing/FeetInches.h"
 #include "teskarlt/terminal/Options.h"
-#include "teskarlt/windows/FeetInches.h"
 #include "teskarlt/windows/RowOrder.h"
 
 namespace teskarlt {

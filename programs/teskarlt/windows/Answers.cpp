@@ -4,9 +4,9 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/FeetInches.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/modules/DataFolder.h"
-#include "teskarlt/windows/FeetInches.h"
 #include "teskarlt/windows/SizeWords.h"
 #include "window/Choices.h"
 #include "window/RecordFields.h"

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/FeetInches.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/dxf/Document.h"
-#include "teskarlt/windows/FeetInches.h"
 #include "window/RecordFields.h"
 
 namespace teskarlt {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "geometry/Vec3.h"
-#include "teskarlt/windows/FeetInches.h"
+#include "teskarlt/drawing/FeetInches.h"
 #include "teskarlt/windows/RowOrder.h"
 
 namespace teskarlt {

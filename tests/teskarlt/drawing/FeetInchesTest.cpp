@@ -1,7 +1,7 @@
 // FeetInchesTest.cpp - lengths in feet and inches.
 #include <gtest/gtest.h>
 
-#include "teskarlt/windows/FeetInches.h"
+#include "teskarlt/drawing/FeetInches.h"
 
 namespace teskarlt {
 namespace {

@@ -1,5 +1,5 @@
 // FeetInches.cpp - lengths in feet and inches, out of texts and into them.
-#include "teskarlt/windows/FeetInches.h"
+#include "teskarlt/drawing/FeetInches.h"
 
 #include <cmath>
 #include <cstdint>
