@@ -143,3 +143,12 @@ def test_jobs_give_the_plane_by_its_ridge(teskarlt, tmp_path):
     middle = [(a + b) / 2 for a, b in zip(corners[1], corners[2])]
     away = 100 * math.cos(math.radians(30))
     assert all(map(math.isclose, middle, (900 + away * LEFT[0], 400 + away * LEFT[1], 700 - 50)))
+
+
+def test_window_beside_a_roof_that_is_only_drawn_in_plan_is_told(teskarlt, tmp_path):
+    path = tmp_path / "plan.dxf"
+    only_lines(path)
+    roof = ("--eaves", "500,100", "1300,700", "--pitch", "30", "--eaves-height", "2.5")
+    answer = teskarlt("insert", path, *roof, "--from-eaves", "2", "--from-verge", "9.5", "--strict")
+    assert answer.status == 1 and "it passes the right verge by 0.440 m" in answer.stderr  # the eaves is 10 m long
+    assert teskarlt.done("insert", path, *roof, "--from-eaves", "2", "--from-verge", "9", "--strict").stderr == ""

@@ -139,7 +139,7 @@ def test_window_on_a_given_plane_over_a_face_stays(teskarlt, house):
     before = house.read_bytes()
     answer = teskarlt.done("refit", house, "--json")
     [staying] = answer.json["staying"]
-    assert staying["number"] == 1 and "m under it, and --reach is 1 m" in staying["message"]
+    assert staying["number"] == 1 and "m under it, and --reach is 1.000 m" in staying["message"]
     assert answer.json["windows"] == [] and house.read_bytes() == before
 
 

@@ -129,12 +129,12 @@ Verdict CheckObjects(const dxf::SourceText& source, const dxf::HandleRange& else
   return findings.Finish(source);
 }
 
-Verdict CheckDrawing(dxf::SourceText source, double clearance) {
+Verdict CheckDrawing(dxf::SourceText source, const FitRules& rules) {
   Verdict verdict = CheckObjects(source);
   try {
     const dxf::Document drawing = dxf::Document::FromSource(std::move(source));
     Findings ofWindows;
-    CheckWindows(drawing, clearance, ofWindows);
+    CheckWindows(drawing, rules, ofWindows);
     Merge(ofWindows.Finish(drawing.Source()), verdict);
   } catch (const Error& error) {
     // Most often for damage that has been found already.

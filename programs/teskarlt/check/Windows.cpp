@@ -29,7 +29,7 @@ struct Scene {
   const dxf::Document& drawing;
   const std::vector<DrawnWindow>& windows;
   const DrawingUnit* unit;  // null when the header does not name it: lengths cannot be compared then
-  double clearance;         // metres
+  const FitRules& rules;    // for places
   Findings& findings;
 };
 
@@ -96,7 +96,7 @@ void CheckFits(const Scene& scene) {
     const std::optional<Outline> outline = DrawnOutline(scene.drawing, window);
     if (!outline) continue;
     const brevanta::WindowParams record = ReadWindow(scene.drawing, window).params;
-    for (const std::string& misfit : fit.Misfits(record, *outline, {.clearance = scene.clearance})) {
+    for (const std::string& misfit : fit.Misfits(record, *outline, scene.rules)) {
       Report(scene, Kind::WindowMisfit, window, fmt::format("window {}: {}", window.number, misfit),
              Severity::Warning);
     }
@@ -152,12 +152,12 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
   }
 }
 
-void CheckWindows(const dxf::Document& drawing, double clearance, Findings& findings) {
+void CheckWindows(const dxf::Document& drawing, const FitRules& rules, Findings& findings) {
   const DrawingUnit* const unit = KnownUnit(drawing);
   const std::vector<DrawnWindow> windows =
       FindWindows(drawing, unit == nullptr ? IN_DRAWING_UNITS : unit->working);
   for (const auto check : CHECKS)
-    check({drawing, windows, unit, clearance, findings});
+    check({drawing, windows, unit, rules, findings});
 }
 
 }  // namespace teskarlt::check

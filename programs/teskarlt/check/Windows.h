@@ -3,6 +3,7 @@
 
 #include "teskarlt/check/Findings.h"
 #include "teskarlt/check/Object.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/dxf/Document.h"
 
 namespace teskarlt::check {
@@ -11,7 +12,7 @@ namespace teskarlt::check {
 void CheckWindowMarks(const Object& object, Findings& findings);
 
 // Each window by itself and all of them together. Sizes are checked where the header names the unit. Windows
-// that are nearer to what is in their way than the clearance, in metres, are told.
-void CheckWindows(const dxf::Document& drawing, double clearance, Findings& findings);
+// that do not fit by the rules are told.
+void CheckWindows(const dxf::Document& drawing, const FitRules& rules, Findings& findings);
 
 }  // namespace teskarlt::check

@@ -82,9 +82,10 @@ void PrintVerdict(const Verdict& verdict, const std::string& file) {
 }
 
 int RunCheck(const CheckOptions& options) {
-  const double clearance = ClearanceSaid(options.clearance, StyleSaid(options.lengths));
+  const LengthStyle lengths = StyleSaid(options.lengths);
+  const FitRules rules{.clearance = ClearanceSaid(options.clearance, lengths), .lengths = lengths};
   const Verdict verdict =
-      check::CheckDrawing(dxf::SourceText(options.file, platform::ReadWholeFile(options.file)), clearance);
+      check::CheckDrawing(dxf::SourceText(options.file, platform::ReadWholeFile(options.file)), rules);
   if (options.asJson) {
     PrintVerdictJson(verdict, options.file);
   } else {

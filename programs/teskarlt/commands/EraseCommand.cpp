@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/SaveDrawing.h"
 #include "teskarlt/commands/SelectionOptions.h"
 #include "teskarlt/commands/Subcommands.h"
@@ -22,6 +23,7 @@ struct EraseOptions {
   ResultTarget target;
   SelectionOptions selection;
   AskedUnit units;
+  std::string lengths;
   bool isLockedToo = false;
   bool asJson = false;
 };
@@ -64,7 +66,7 @@ void PrintText(const EraseOptions& options, const std::vector<ErasedWindow>& era
 }
 
 void RunErase(EraseOptions& options) {
-  const WindowSelection selection = SelectionOf(options.selection);
+  const WindowSelection selection = SelectionOf(options.selection, StyleSaid(options.lengths));
   const WindowModule module;
   dxf::Document drawing = dxf::Document::Load(options.target.File());
   const std::vector<ErasedWindow> erased =
@@ -82,13 +84,14 @@ void AddEraseCommand(OptionParser& parser) {
   AddSelectionOptions(command, options->selection);
   options->target.AddOutput(command);
   AddUnitOptions(command, options->units);
+  AddLengthsOption(command, options->lengths);
   AddLockedOption(command, options->isLockedToo);
   options->target.AddDryRun(command);
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
-      "Of several windows all go, or none when one of them is refused. The drawing's unit counts for "
-      "lengths\n"
-      "of --where only.\n"
+      "Of several windows all go, or none when one of them is refused. Lengths of --where are "
+      "metres,\n"
+      "or feet and inches with --lengths ft or their marks, whatever the drawing's unit is.\n"
       "Examples:\n"
       "  teskarlt erase house-with-window.dxf 1\n"
       "  teskarlt erase house-with-window.dxf 2 4-9\n"

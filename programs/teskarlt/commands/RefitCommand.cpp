@@ -14,6 +14,7 @@
 #include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/terminal/ResultTarget.h"
+#include "teskarlt/windows/PointText.h"
 #include "teskarlt/windows/RefitWindows.h"
 
 namespace teskarlt {
@@ -27,7 +28,7 @@ struct RefitOptions {
   ResultTarget target;
   std::vector<int> numbers;
   std::string keep = KEEP_PLAN;
-  double reach = REFIT_REACH;
+  std::string reach;
   AskedUnit units;
   std::string lengths;
   std::string clearance;
@@ -118,9 +119,11 @@ void RunRefit(RefitOptions& options) {
   dxf::Document drawing = dxf::Document::Load(options.target.File());
   const DrawingUnit& unit = ChooseUnitAndWarn(drawing, options.units);
   const RefitKeeps keeps = options.keep == KEEP_HEIGHT ? RefitKeeps::Height : RefitKeeps::Plan;
+  const LengthStyle lengths = StyleSaid(options.lengths);
+  const double reach = options.reach.empty() ? REFIT_REACH : ParseDistance("--reach", options.reach, lengths);
   const RefitReport report = RefitWindows(module, drawing, unit,
-                                          {options.numbers, keeps, options.isLockedToo, options.reach,
-                                           ClearanceSaid(options.clearance, StyleSaid(options.lengths))});
+                                          {options.numbers, keeps, options.isLockedToo, reach,
+                                           ClearanceSaid(options.clearance, lengths), lengths});
   TellProblems(options, report);
   WarnOfTexts(drawing);
   const bool isWanted = report.problems.empty() || options.keepGoing;
@@ -148,11 +151,10 @@ void AddRefitCommand(OptionParser& parser) {
       .ShowDefault();
   command
       .Value("--reach", options->reach,
-             "how far over or under a window its roof may have come, in metres; a window with no face that "
-             "near stays")
-      .Named("METRES")
-      .NotNegative()
-      .ShowDefault();
+             "how far over or under a window its roof may have come, 1 m where nothing is said; a window "
+             "with no "
+             "face that near stays")
+      .Named("LENGTH");
   command.Flag("--keep-going", options->keepGoing, "write the others when some windows cannot be refitted");
   AddLockedOption(command, options->isLockedToo);
   options->target.AddOutput(command);

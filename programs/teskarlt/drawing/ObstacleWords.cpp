@@ -2,6 +2,7 @@
 #include "teskarlt/drawing/ObstacleWords.h"
 
 #include <algorithm>
+#include <limits>
 #include <map>
 
 #include <fmt/format.h>
@@ -30,6 +31,25 @@ MetByLayer MetBy(const std::vector<Obstacle>& obstacles, const SlopeBox& box) {
   return met;
 }
 
+// What of one layer is nearer to a box than some distance.
+struct Near {
+  std::vector<std::string> faces;
+  double distance = std::numeric_limits<double>::max();
+};
+
+std::map<std::string, Near> NearBy(const std::vector<Obstacle>& obstacles, const SlopeBox& box,
+                                   double limit) {
+  std::map<std::string, Near> near;
+  for (const Obstacle& obstacle : obstacles) {
+    const double distance = DistanceBetween(obstacle.footprint, box);
+    if (distance >= limit) continue;
+    Near& ofLayer = near[obstacle.layer];
+    ofLayer.faces.push_back(obstacle.face);
+    ofLayer.distance = std::min(ofLayer.distance, distance);
+  }
+  return near;
+}
+
 // "face 2F of layer CHIMNEY", "faces 2F, 30, 31 and 2 more of layer CHIMNEY"
 std::string FaceWords(const std::string& layer, const std::vector<std::string>& faces) {
   constexpr std::size_t MOST_NAMED = 4;
@@ -46,36 +66,34 @@ double ShortestWay(const std::vector<SlopeRing>& rings, const SlopeBox& box) {
 
 }  // namespace
 
-std::string NearerThan(double clearance, double perMetre) {
-  return fmt::format("it comes nearer than its clearance of {:.3f} m to", clearance / perMetre);
+std::string NearerThan(double clearance, const SpokenUnit& unit) {
+  return fmt::format("it comes nearer than its clearance of {} to", LengthText(clearance, unit));
 }
 
 std::vector<std::string> ObstacleWords(const std::vector<Obstacle>& obstacles, const SlopeBox& frame,
-                                       double clearance, double tolerance, double perMetre) {
+                                       double clearance, double tolerance, const SpokenUnit& unit) {
   std::vector<std::string> words;
   const SlopeBox box = Grown(frame, -tolerance);
   const MetByLayer met = MetBy(obstacles, box);
   for (const auto& [layer, ofLayer] : met) {
-    words.push_back(fmt::format("it meets {} by {:.3f} m", FaceWords(layer, ofLayer.faces),
-                                (ShortestWay(ofLayer.rings, box) + tolerance) / perMetre));
+    words.push_back(fmt::format("it meets {} by {}", FaceWords(layer, ofLayer.faces),
+                                LengthText(ShortestWay(ofLayer.rings, box) + tolerance, unit)));
   }
   if (clearance <= 0.0) return words;
-  const SlopeBox grown = Grown(box, clearance);
-  for (const auto& [layer, ofLayer] : MetBy(obstacles, grown)) {
+  for (const auto& [layer, near] : NearBy(obstacles, frame, clearance - tolerance)) {
     if (met.contains(layer)) continue;
-    const double distance = clearance - ShortestWay(ofLayer.rings, grown) - tolerance;
-    words.push_back(fmt::format("{} {}, {:.3f} m away", NearerThan(clearance, perMetre),
-                                FaceWords(layer, ofLayer.faces), std::max(0.0, distance) / perMetre));
+    words.push_back(fmt::format("{} {}, {} away", NearerThan(clearance, unit), FaceWords(layer, near.faces),
+                                LengthText(near.distance, unit)));
   }
   return words;
 }
 
-std::string WayWords(const SlopePoint& way, double perMetre) {
+std::string WayWords(const SlopePoint& way, const SpokenUnit& unit) {
   const char* const direction = way.across < 0   ? "to the left"
                                 : way.across > 0 ? "to the right"
                                 : way.up > 0     ? "up the slope"
                                                  : "down the slope";
-  return fmt::format("{:.3f} m {}", Length(way) / perMetre, direction);
+  return fmt::format("{} {}", LengthText(Length(way), unit), direction);
 }
 
 }  // namespace teskarlt

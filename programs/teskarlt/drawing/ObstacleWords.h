@@ -4,23 +4,23 @@
 #include <string>
 #include <vector>
 
+#include "teskarlt/drawing/LengthText.h"
 #include "teskarlt/drawing/Obstacles.h"
 #include "teskarlt/drawing/SlopeBox.h"
 
 namespace teskarlt {
 
-// "it comes nearer than its clearance of 0.200 m to", for a clearance in units of which `perMetre` are a
-// metre.
-std::string NearerThan(double clearance, double perMetre);
+// "it comes nearer than its clearance of 0.200 m to", for a clearance in the spoken unit.
+std::string NearerThan(double clearance, const SpokenUnit& unit);
 
-// What reaches into the frame, and what comes nearer to it than the clearance along the eaves or the slope; a
+// What reaches into the frame, and what comes nearer to it than the clearance; a
 // sentence for each layer: "it meets faces 2F and 30 of layer CHIMNEY by 0.310 m". By how much is the
-// shortest way along the eaves or the slope that makes it end. Lengths in units; what is shorter than the
-// tolerance does not count.
+// shortest way along the eaves or the slope that makes it end. Lengths are in the spoken unit; what is
+// shorter than the tolerance does not count.
 std::vector<std::string> ObstacleWords(const std::vector<Obstacle>& obstacles, const SlopeBox& frame,
-                                       double clearance, double tolerance, double perMetre);
+                                       double clearance, double tolerance, const SpokenUnit& unit);
 
 // "0.400 m to the left"; as seen from below the eaves.
-std::string WayWords(const SlopePoint& way, double perMetre);
+std::string WayWords(const SlopePoint& way, const SpokenUnit& unit);
 
 }  // namespace teskarlt

@@ -2,7 +2,7 @@
 #include "teskarlt/drawing/Obstacles.h"
 
 #include <algorithm>
-#include <optional>
+#include <utility>
 
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"

@@ -26,7 +26,8 @@ std::optional<double> FallDirection(const Plane& plane) {
   const geometry::Vec3& normal = plane.normal;
   if (std::hypot(normal.x, normal.y) < FLAT_LIMIT) return std::nullopt;
   const double degrees = geometry::RadToDeg(geometry::ArcTangent2(normal.y, normal.x));
-  return degrees < 0 ? degrees + 360.0 : degrees;
+  constexpr double ROUNDING = 1e-9;  // of degrees: what falls to the east has 0, and not nearly 360
+  return degrees < -ROUNDING ? degrees + 360.0 : std::max(0.0, degrees);
 }
 
 std::string_view CompassPoint(double degrees) {

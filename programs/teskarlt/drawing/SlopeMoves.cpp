@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
 #include <utility>
 
 namespace teskarlt {
@@ -98,17 +100,51 @@ std::pair<double, double> ClearAlong(const std::vector<SlopeRing>& rings, const 
   return {right, left};
 }
 
+bool ReachesInto(const SlopePoint& a, const SlopePoint& b, const SlopeBox& box) {
+  Shares within;
+  within.Bound(a.across, b.across, box.left, box.right);
+  within.Bound(a.up, b.up, box.bottom, box.top);
+  return !within.IsEmpty();
+}
+
+double Distance(const SlopePoint& p, const SlopeBox& box) {
+  return std::hypot(std::max({box.left - p.across, 0.0, p.across - box.right}),
+                    std::max({box.bottom - p.up, 0.0, p.up - box.top}));
+}
+
+double Distance(const SlopePoint& p, const SlopePoint& a, const SlopePoint& b) {
+  const SlopePoint way{b.across - a.across, b.up - a.up};
+  const double square = way.across * way.across + way.up * way.up;
+  const double along = (p.across - a.across) * way.across + (p.up - a.up) * way.up;
+  const double share = square > 0 ? std::clamp(along / square, 0.0, 1.0) : 0.0;
+  return std::hypot(a.across + share * way.across - p.across, a.up + share * way.up - p.up);
+}
+
 }  // namespace
 
 bool ReachesInto(const SlopeRing& ring, const SlopeBox& box) {
   bool reaches = Encloses(ring, {box.Middle(), (box.bottom + box.top) / 2});
-  ForEachEdge(ring, [&](const SlopePoint& a, const SlopePoint& b) {
-    Shares within;
-    within.Bound(a.across, b.across, box.left, box.right);
-    within.Bound(a.up, b.up, box.bottom, box.top);
-    reaches = reaches || !within.IsEmpty();
-  });
+  ForEachEdge(ring,
+              [&](const SlopePoint& a, const SlopePoint& b) { reaches = reaches || ReachesInto(a, b, box); });
   return reaches;
+}
+
+double DistanceBetween(const SlopePoint& a, const SlopePoint& b, const SlopeBox& box) {
+  if (ReachesInto(a, b, box)) return 0.0;
+  double distance = std::min(Distance(a, box), Distance(b, box));
+  for (const SlopePoint& corner : {SlopePoint{box.left, box.bottom}, SlopePoint{box.right, box.bottom},
+                                   SlopePoint{box.right, box.top}, SlopePoint{box.left, box.top}})
+    distance = std::min(distance, Distance(corner, a, b));
+  return distance;
+}
+
+double DistanceBetween(const SlopeRing& ring, const SlopeBox& box) {
+  if (ReachesInto(ring, box)) return 0.0;
+  double distance = std::numeric_limits<double>::max();
+  ForEachEdge(ring, [&](const SlopePoint& a, const SlopePoint& b) {
+    distance = std::min(distance, DistanceBetween(a, b, box));
+  });
+  return distance;
 }
 
 std::vector<SlopePoint> WaysClearOf(const std::vector<SlopeRing>& rings, const SlopeBox& box) {

@@ -4,13 +4,18 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
 #include <fmt/format.h>
+
+#include "teskarlt/drawing/RingsAround.h"
+#include "teskarlt/drawing/SlopeMoves.h"
 
 namespace teskarlt {
 
 namespace {
 
+constexpr double LEAN = 0.01;      // of its length: how far a verge may lean, and eaves rise
 constexpr double FLATTEST = 1e-4;  // rise of a slope that heights can be measured on
 
 // From the leftmost to the rightmost edge at a level; none where the roof does not reach it.
@@ -77,26 +82,42 @@ struct EdgePassed {
   bool isAtSide;
 };
 
-// The edge above or below, which the frame touches after its way.
-EdgePassed EdgeAlongEaves(double way, const SlopeBox& frame, const SlopeBox& roof, double perMetre) {
+// An edge along the eaves at a height of the slope.
+std::string LevelEdge(bool isUpper, double up, const SlopeBox& roof, double perMetre) {
   constexpr double SAME = 0.001;  // metres
-  const double edge = way < 0 ? frame.top + way : frame.bottom + way;
-  const bool isLast = std::abs(edge - (way < 0 ? roof.top : roof.bottom)) <= SAME * perMetre;
-  if (way < 0) return {isLast ? "the ridge" : "the upper edge of its roof", way, false};
-  return {isLast ? "the eaves" : "the lower edge of its roof", way, false};
+  const bool isLast = std::abs(up - (isUpper ? roof.top : roof.bottom)) <= SAME * perMetre;
+  if (isUpper) return isLast ? "the ridge" : "the upper edge of its roof";
+  return isLast ? "the eaves" : "the lower edge of its roof";
 }
 
-// The edge at the side: a roof gets narrower above a hip, and wider above a valley.
+// An edge at a side that goes so far inward for each unit up the slope: a roof gets narrower above a hip, and
+// wider above a valley.
+std::string SideEdge(bool isLeft, double inward) {
+  const char* const kind = std::abs(inward) <= LEAN ? "verge" : inward > 0 ? "hip" : "valley";
+  return fmt::format("the {} {}", isLeft ? "left" : "right", kind);
+}
+
+// The edge of a ring that runs counter-clockwise around a roof.
+std::string EdgeName(const SlopePoint& a, const SlopePoint& b, const SlopeBox& roof, double perMetre) {
+  const double across = b.across - a.across;
+  const double up = b.up - a.up;
+  if (std::abs(up) <= LEAN * std::abs(across)) return LevelEdge(across < 0, a.up, roof, perMetre);
+  return SideEdge(up < 0, -across / std::abs(up));
+}
+
+// The edge above or below, which the frame touches after its way.
+EdgePassed EdgeAlongEaves(double way, const SlopeBox& frame, const SlopeBox& roof, double perMetre) {
+  const double up = way < 0 ? frame.top + way : frame.bottom + way;
+  return {LevelEdge(way < 0, up, roof, perMetre), way, false};
+}
+
 EdgePassed EdgeAtSide(double way, const SlopeBox& frame, const std::vector<SlopeRing>& rings) {
-  constexpr double UPRIGHT = 0.01;  // of the height: how far a verge may lean
-  const char* const side = way > 0 ? "left" : "right";
   const double height = frame.top - frame.bottom;
-  const SlopeReach low = ReachAt(rings, frame.bottom + UPRIGHT * height);
-  const SlopeReach high = ReachAt(rings, frame.top - UPRIGHT * height);
-  if (!low || !high) return {fmt::format("the {} verge", side), way, true};
+  const SlopeReach low = ReachAt(rings, frame.bottom + LEAN * height);
+  const SlopeReach high = ReachAt(rings, frame.top - LEAN * height);
+  if (!low || !high) return {SideEdge(way > 0, 0.0), way, true};
   const double inward = way > 0 ? high->first - low->first : low->second - high->second;
-  const char* const kind = std::abs(inward) <= UPRIGHT * height ? "verge" : inward > 0 ? "hip" : "valley";
-  return {fmt::format("the {} {}", side, kind), way, true};
+  return {SideEdge(way > 0, inward / height), way, true};
 }
 
 // The edges that the frame passes, first that at a side; none where it passes none, and where no way would
@@ -156,28 +177,42 @@ SlopeReach ReachUp(const std::vector<SlopeRing>& rings, double left, double righ
   return ReachAcross(Transposed(rings), left, right);
 }
 
-std::string PassedEdges(const brevanta::Outline& frame, const SurfaceOutline& outline, double perMetre) {
+std::string PassedEdges(const brevanta::Outline& frame, const SurfaceOutline& outline,
+                        const SpokenUnit& unit) {
   const SlopeBox box = BoxOf(frame, outline.frame);
   std::string text;
   double up = 0.0;
-  for (const EdgePassed& edge : EdgesPassed(box, outline, perMetre)) {
-    text += fmt::format("{} {} by {:.3f} m", text.empty() ? "passes" : " and", edge.name,
-                        std::abs(edge.way) / perMetre);
+  for (const EdgePassed& edge : EdgesPassed(box, outline, unit.perMetre)) {
+    text += fmt::format("{} {} by {}", text.empty() ? "passes" : " and", edge.name,
+                        LengthText(std::abs(edge.way), unit));
     if (!edge.isAtSide) up = edge.way;
   }
   if (up == 0.0 || IsFlat(outline.frame)) return text;
-  return text + fmt::format("; the {} lower edge is {:.3f} m", up < 0 ? "highest" : "lowest",
-                            outline.frame.At({0.0, box.bottom + up}).z / perMetre);
+  return text + fmt::format("; the {} lower edge is {}", up < 0 ? "highest" : "lowest",
+                            LengthText(outline.frame.At({0.0, box.bottom + up}).z, unit));
 }
 
 std::string EdgesWithin(double clearance, const brevanta::Outline& frame, const SurfaceOutline& outline,
-                        double perMetre) {
-  const SlopeBox grown = Grown(BoxOf(frame, outline.frame), clearance);
-  std::string text;
-  for (const EdgePassed& edge : EdgesPassed(grown, outline, perMetre)) {
-    text += fmt::format("{}{}, {:.3f} m away", text.empty() ? "" : " and ", edge.name,
-                        std::max(0.0, clearance - std::abs(edge.way)) / perMetre);
+                        const SpokenUnit& unit) {
+  const double least = 1e-6 * unit.perMetre;  // what rounding leaves
+  const SlopeBox box = BoxOf(frame, outline.frame);
+  const SlopeBox roof = BoxAround(outline.rings);
+  std::map<std::string, double> near;  // distances by the edges' names
+  for (const SlopeRing& ring : outline.rings) {
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+      const SlopePoint& a = ring[i];
+      const SlopePoint& b = ring[(i + 1) % ring.size()];
+      const double distance = DistanceBetween(a, b, box);
+      if (distance >= clearance - least) continue;
+      const std::string name =
+          SignedArea(ring) < 0 ? "a hole of its roof" : EdgeName(a, b, roof, unit.perMetre);
+      const auto [known, isNew] = near.emplace(name, distance);
+      if (!isNew) known->second = std::min(known->second, distance);
+    }
   }
+  std::string text;
+  for (const auto& [name, distance] : near)
+    text += fmt::format("{}{}, {} away", text.empty() ? "" : " and ", name, LengthText(distance, unit));
   return text;
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "teskarlt/drawing/LengthText.h"
 #include "teskarlt/drawing/SlopeBox.h"
 #include "teskarlt/drawing/SurfaceOutline.h"
 #include "window/Outlines.h"
@@ -30,14 +31,15 @@ SlopeReach ReachAcross(const std::vector<SlopeRing>& rings, double bottom, doubl
 // The same up the slope, between two places along the eaves.
 SlopeReach ReachUp(const std::vector<SlopeRing>& rings, double left, double right);
 
-// Which edges of the roof the frame passes and by how much, for people: "passes the ridge by 0.12 m; the
-// highest lower edge is 4.31 m". Empty where it passes none, as over a hole, and where no way along the eaves
-// or the slope would bring it inside. `perMetre` units of the outline are a metre.
-std::string PassedEdges(const brevanta::Outline& frame, const SurfaceOutline& outline, double perMetre);
+// Which edges of the roof the frame passes and by how much, for people: "passes the ridge by 0.120 m; the
+// highest lower edge is 4.310 m". Empty where it passes none, as over a hole, and where no way along the
+// eaves or the slope would bring it inside. The outline is in the spoken unit.
+std::string PassedEdges(const brevanta::Outline& frame, const SurfaceOutline& outline,
+                        const SpokenUnit& unit);
 
-// Which edges of the roof the frame, which lies within it, comes nearer to than the clearance, in units: "the
-// ridge, 0.080 m away". Empty like PassedEdges.
+// Which edges of the roof the frame, which lies within it, comes nearer to than the clearance: "the ridge,
+// 0.080 m away"; empty for none.
 std::string EdgesWithin(double clearance, const brevanta::Outline& frame, const SurfaceOutline& outline,
-                        double perMetre);
+                        const SpokenUnit& unit);
 
 }  // namespace teskarlt

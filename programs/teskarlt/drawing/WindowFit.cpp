@@ -27,6 +27,7 @@ using brevanta::WindowParams;
 using geometry::Vec3;
 
 constexpr double PERCENT = 100.0;
+constexpr double AROUND = 3.0;  // metres around a window that are looked at on a plane without bounds
 
 Vec3 UnitNormal(const Outline& outline) {
   Vec3 normal = Cross(Difference(outline[3], outline[0]), Difference(outline[1], outline[0]));
@@ -94,6 +95,22 @@ SurfaceOutline OutlineUnder(const Outline& outline, const Roofs& roofs) {
   return OutlineOf(*SurfaceUnder(outline, roofs), roofs.Faces(), roofs.Tolerance());
 }
 
+// "; roof R1 lies 0.152 m over it", of the nearest within reach of a refit; empty for none.
+std::string NearestRoof(const Outline& outline, const Roofs& roofs, const SpokenUnit& unit) {
+  const Vec3 middle = Between(outline[0], outline[2], 0.5);
+  const FaceOver* nearest = nullptr;
+  const std::vector<FaceOver> faces = roofs.FacesAt(middle.x, middle.y);
+  for (const FaceOver& over : faces) {
+    const double distance = std::abs(over.height - middle.z);
+    if (!over.surface->isPlanar || distance >= REFIT_REACH * unit.perMetre) continue;
+    if (nearest == nullptr || distance < std::abs(nearest->height - middle.z)) nearest = &over;
+  }
+  if (nearest == nullptr) return {};
+  return fmt::format("; roof {} lies {} {} it", nearest->surface->name,
+                     LengthText(std::abs(nearest->height - middle.z), unit),
+                     nearest->height > middle.z ? "over" : "under");
+}
+
 // The outline with a margin on every side.
 Outline Grown(const Outline& outline, double margin) {
   const Vec3 up = Unit(Difference(outline[1], outline[0]));
@@ -103,6 +120,14 @@ Outline Grown(const Outline& outline, double margin) {
   };
   return {grow(outline[0], -margin, -margin), grow(outline[1], -margin, margin),
           grow(outline[2], margin, margin), grow(outline[3], margin, -margin)};
+}
+
+SlopeRing RingOf(const Outline& outline, const SlopeFrame& frame) {
+  SlopeRing ring;
+  ring.reserve(outline.size());
+  for (const Vec3& corner : outline)
+    ring.push_back(frame.Of(corner));
+  return ring;
 }
 
 // "window 3", "windows 1, 2 and 3 more"
@@ -220,39 +245,62 @@ std::set<std::int32_t> WindowFit::NumbersOver(const Outline& outline) const {
   return numbers;
 }
 
-void WindowFit::TellWindows(const Outline& outline, double clearance, double perMetre,
+double WindowFit::DistanceTo(std::int32_t number, const Outline& outline) const {
+  const SlopeFrame frame = FrameOf({outline[0], UnitNormal(outline)});
+  return DistanceBetween(RingOf(*OutlineOf(number), frame), BoxOf(outline, frame));
+}
+
+void WindowFit::TellWindows(const Outline& outline, double clearance, const SpokenUnit& unit,
                             Sentences& misfits) const {
   const std::set<std::int32_t> overlapped = NumbersOver(outline);
   if (!overlapped.empty()) misfits.push_back("it overlaps " + NumberWords(overlapped));
   if (clearance <= 0.0) return;
-  std::set<std::int32_t> near = NumbersOver(Grown(outline, clearance));
-  for (const std::int32_t number : overlapped)
-    near.erase(number);
-  if (!near.empty()) misfits.push_back(NearerThan(clearance, perMetre) + " " + NumberWords(near));
+  std::set<std::int32_t> near;
+  double least = clearance;
+  for (const std::int32_t number : NumbersOver(Grown(outline, clearance))) {
+    const double distance = overlapped.contains(number) ? clearance : DistanceTo(number, outline);
+    if (distance >= clearance - roofs_.Tolerance()) continue;
+    near.insert(number);
+    least = std::min(least, distance);
+  }
+  if (!near.empty()) {
+    misfits.push_back(fmt::format("{} {}, {} away", NearerThan(clearance, unit), NumberWords(near),
+                                  LengthText(least, unit)));
+  }
 }
 
 // "it passes the ridge by 0.12 m"; over a hole, how much of it.
-std::string WindowFit::Outside(const Outline& outline, double covered, double perMetre) const {
-  const std::string passed = PassedEdges(outline, OutlineUnder(outline, roofs_), perMetre);
+std::string WindowFit::Outside(const Outline& outline, double covered, const SpokenUnit& unit) const {
+  const std::string passed = PassedEdges(outline, OutlineUnder(outline, roofs_), unit);
   if (!passed.empty()) return "it " + passed;
   return fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT);
 }
 
-void WindowFit::TellEdges(const Outline& outline, double clearance, double perMetre,
+void WindowFit::TellEdges(const Outline& outline, double clearance, const SpokenUnit& unit,
                           Sentences& misfits) const {
   const double covered = CoveredPart(outline, roofs_);
   if (covered <= 0.0) {
-    misfits.emplace_back("it lies on no roof face");
+    misfits.push_back("it lies on no roof face" + NearestRoof(outline, roofs_, unit));
   } else if (!IsWhole(covered)) {
-    misfits.push_back(Outside(outline, covered, perMetre));
-  } else if (clearance > 0.0 && !IsWhole(CoveredPart(Grown(outline, clearance), roofs_))) {
-    const std::string edges = EdgesWithin(clearance, outline, OutlineUnder(outline, roofs_), perMetre);
-    misfits.push_back(NearerThan(clearance, perMetre) + " " +
-                      (edges.empty() ? "an inner edge of its roof" : edges));
+    misfits.push_back(Outside(outline, covered, unit));
+  } else if (clearance > 0.0) {
+    const std::string edges = EdgesWithin(clearance, outline, OutlineUnder(outline, roofs_), unit);
+    if (!edges.empty()) misfits.push_back(NearerThan(clearance, unit) + " " + edges);
   }
   const double unevenness = UnevennessIn(outline, roofs_) / roofs_.Tolerance();
   if (unevenness > ROOF_UNEVENNESS)
     misfits.push_back(fmt::format("its roof is uneven there, {:.0f} mm off its plane", unevenness));
+}
+
+void WindowFit::TellBounds(const Outline& outline, const SurfaceOutline& bounds, double clearance,
+                           const SpokenUnit& unit, Sentences& misfits) {
+  const std::string passed = PassedEdges(outline, bounds, unit);
+  const std::string near = clearance > 0.0 ? EdgesWithin(clearance, outline, bounds, unit) : std::string();
+  if (!passed.empty()) {
+    misfits.push_back("it " + passed);
+  } else if (!near.empty()) {
+    misfits.push_back(NearerThan(clearance, unit) + " " + near);
+  }
 }
 
 const std::vector<Obstacle>& WindowFit::ObstaclesOf(const RoofSurface& surface) const {
@@ -262,58 +310,61 @@ const std::vector<Obstacle>& WindowFit::ObstaclesOf(const RoofSurface& surface) 
   return obstacles_.emplace(&surface, ObstaclesOn(surface.plane, surface.box, least, roofs_)).first->second;
 }
 
-void WindowFit::TellObstacles(const Outline& outline, double clearance, double perMetre,
+void WindowFit::TellObstacles(const Outline& outline, const FitRules& rules, const SpokenUnit& unit,
                               Sentences& misfits) const {
-  constexpr double AROUND = 3.0;  // metres around a window on a plane that has no bounds
+  const double clearance = rules.clearance * unit.perMetre;
   const RoofSurface* const surface = SurfaceUnder(outline, roofs_);
+  if (surface == nullptr && !rules.isPlaneGiven && !roofs_.IsEmpty()) return;  // its roof was taken away
   const Plane plane = surface != nullptr ? surface->plane : Plane{outline[0], UnitNormal(outline)};
   const double tolerance = roofs_.Tolerance();
   const std::vector<Obstacle> around =
       surface != nullptr ? std::vector<Obstacle>()
-                         : ObstaclesOn(plane, PlanBoxOf(outline, AROUND * perMetre + clearance),
+                         : ObstaclesOn(plane, PlanBoxOf(outline, AROUND * unit.perMetre + clearance),
                                        ROOF_UNEVENNESS * tolerance, roofs_);
   const std::vector<Obstacle>& obstacles = surface != nullptr ? ObstaclesOf(*surface) : around;
   const SlopeFrame frame = FrameOf(plane);
-  Sentences met = ObstacleWords(obstacles, BoxOf(outline, frame), clearance, tolerance, perMetre);
+  Sentences met = ObstacleWords(obstacles, BoxOf(outline, frame), clearance, tolerance, unit);
   if (met.empty()) return;
-  if (const auto way = WayToFreePlace(outline, frame, obstacles, clearance))
-    met.back() += fmt::format("; the nearest free place is {}", WayWords(*way, perMetre));
+  if (const auto way = WayToFreePlace(outline, frame, obstacles, clearance, unit.perMetre))
+    met.back() += fmt::format("; the nearest free place is {}", WayWords(*way, unit));
   std::move(met.begin(), met.end(), std::back_inserter(misfits));
 }
 
 std::optional<SlopePoint> WindowFit::WayToFreePlace(const Outline& outline, const SlopeFrame& frame,
-                                                    const std::vector<Obstacle>& obstacles,
-                                                    double clearance) const {
+                                                    const std::vector<Obstacle>& obstacles, double clearance,
+                                                    double perMetre) const {
   const double tolerance = roofs_.Tolerance();
   std::vector<SlopeRing> rings;
   for (const Obstacle& obstacle : obstacles)
     rings.push_back(obstacle.footprint);
   for (const auto& [x, place] : places_) {
     if (!LiesInPlane(place.outline, outline[0], UnitNormal(outline), tolerance)) continue;
-    SlopeRing& ring = rings.emplace_back();
-    for (const Vec3& corner : place.outline)
-      ring.push_back(frame.Of(corner));
+    rings.push_back(RingOf(place.outline, frame));
   }
   const bool isBounded = SurfaceUnder(outline, roofs_) != nullptr;
   for (const SlopePoint& way : WaysClearOf(rings, Grown(BoxOf(outline, frame), clearance))) {
     Outline moved = Grown(outline, clearance);
     for (Vec3& corner : moved)
       corner = Moved(Moved(corner, frame.across, way.across), frame.up, way.up);
-    if (!isBounded || IsWhole(CoveredPart(moved, roofs_))) return way;
+    if (isBounded ? IsWhole(CoveredPart(moved, roofs_)) : Length(way) <= AROUND * perMetre) return way;
   }
   return std::nullopt;
 }
 
 std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Outline& outline,
                                             const FitRules& rules) const {
-  const double perMetre = record.unitFactor;
-  const double clearance = rules.clearance * perMetre;
+  const SpokenUnit unit{static_cast<double>(record.unitFactor), rules.lengths};
+  const double clearance = rules.clearance * unit.perMetre;
   Sentences misfits;
-  TellWindows(outline, clearance, perMetre, misfits);
+  TellWindows(outline, clearance, unit, misfits);
   if (HasOwnSecondPlane(record, roofs_.Tolerance())) return misfits;
   const bool hasFaces = !rules.isPlaneGiven || SurfaceUnder(outline, roofs_) != nullptr;
-  if (hasFaces && !roofs_.IsEmpty()) TellEdges(outline, clearance, perMetre, misfits);
-  TellObstacles(outline, clearance, perMetre, misfits);
+  if (rules.bounds && !hasFaces) {
+    TellBounds(outline, *rules.bounds, clearance, unit, misfits);
+  } else if (hasFaces && !roofs_.IsEmpty()) {
+    TellEdges(outline, clearance, unit, misfits);
+  }
+  TellObstacles(outline, rules, unit, misfits);
   return misfits;
 }
 

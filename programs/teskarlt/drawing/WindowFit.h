@@ -11,8 +11,10 @@
 
 #include "inc/WindowParams.h"
 #include "teskarlt/drawing/DrawnWindow.h"
+#include "teskarlt/drawing/LengthText.h"
 #include "teskarlt/drawing/Obstacles.h"
 #include "teskarlt/drawing/Roofs.h"
+#include "teskarlt/drawing/SurfaceOutline.h"
 #include "window/Outlines.h"
 
 namespace teskarlt {
@@ -46,10 +48,14 @@ constexpr bool IsWhole(double part) {
   return part >= 1.0 - 1e-6;
 }
 
+constexpr double REFIT_REACH = 1.0;  // metres; a roof that is farther from a window was never its own
+
 // What is asked of a window besides that nothing stands in its way.
 struct FitRules {
-  double clearance = 0.0;     // metres along the eaves and the slope to windows, edges of roofs and obstacles
-  bool isPlaneGiven = false;  // by the user: no roof face need lie in it
+  double clearance = 0.0;                     // metres to windows, edges of the roof and obstacles
+  bool isPlaneGiven = false;                  // by the user: no roof face need lie in it
+  std::optional<SurfaceOutline> bounds = {};  // of such a plane, where its edges are known
+  LengthStyle lengths = LengthStyle::Metres;  // in which misfits are said
 };
 
 // The roofs of a drawing and the windows that stand on them.
@@ -86,14 +92,21 @@ class WindowFit {
   using Sentences = std::vector<std::string>;
 
   std::set<std::int32_t> NumbersOver(const Outline& outline) const;
-  void TellWindows(const Outline& outline, double clearance, double perMetre, Sentences& misfits) const;
-  void TellEdges(const Outline& outline, double clearance, double perMetre, Sentences& misfits) const;
-  void TellObstacles(const Outline& outline, double clearance, double perMetre, Sentences& misfits) const;
-  std::string Outside(const Outline& outline, double covered, double perMetre) const;
+  void TellWindows(const Outline& outline, double clearance, const SpokenUnit& unit,
+                   Sentences& misfits) const;
+  void TellEdges(const Outline& outline, double clearance, const SpokenUnit& unit, Sentences& misfits) const;
+  static void TellBounds(const Outline& outline, const SurfaceOutline& bounds, double clearance,
+                         const SpokenUnit& unit, Sentences& misfits);
+  void TellObstacles(const Outline& outline, const FitRules& rules, const SpokenUnit& unit,
+                     Sentences& misfits) const;
+  // Between the outline and a window that was added, which lies in its plane.
+  double DistanceTo(std::int32_t number, const Outline& outline) const;
+  std::string Outside(const Outline& outline, double covered, const SpokenUnit& unit) const;
   const std::vector<Obstacle>& ObstaclesOf(const RoofSurface& surface) const;
   // The shortest way along the eaves or the slope to a place on the roof where nothing is met.
   std::optional<SlopePoint> WayToFreePlace(const Outline& outline, const SlopeFrame& frame,
-                                           const std::vector<Obstacle>& obstacles, double clearance) const;
+                                           const std::vector<Obstacle>& obstacles, double clearance,
+                                           double perMetre) const;
 
   const Roofs& roofs_;
   std::multimap<double, Place> places_;                                              // by the least x

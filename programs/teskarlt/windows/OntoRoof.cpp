@@ -31,7 +31,7 @@ std::optional<Outline> FrameWithoutBounds(WindowRequest request, dxf::Document& 
 }  // namespace
 
 CommandOutcome RunOntoRoof(const WindowRequest& request, const RoofChoice& roof, const Roofs& roofs,
-                           dxf::Document& drawing, const RunCommand& run) {
+                           dxf::Document& drawing, LengthStyle lengths, const RunCommand& run) {
   try {
     return run(request);
   } catch (const Error&) {
@@ -39,7 +39,8 @@ CommandOutcome RunOntoRoof(const WindowRequest& request, const RoofChoice& roof,
     const std::optional<Outline> frame = FrameWithoutBounds(request, drawing, run);
     if (!frame) throw;
     const SurfaceOutline outline = OutlineOf(*roof.surface, roofs.Faces(), roofs.Tolerance());
-    const std::string passed = PassedEdges(*frame, outline, request.unit.perMetre);
+    const SpokenUnit unit{static_cast<double>(request.unit.perMetre), lengths};
+    const std::string passed = PassedEdges(*frame, outline, unit);
     if (passed.empty()) throw;
     throw Error(fmt::format("the window would leave the roof face: it {}", passed));
   }

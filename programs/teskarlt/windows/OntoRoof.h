@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "teskarlt/drawing/FeetInches.h"
 #include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/modules/ModuleSession.h"
 #include "teskarlt/windows/RoofChoice.h"
@@ -10,9 +11,10 @@
 namespace teskarlt {
 
 // Runs the command with the request. Where the dialog refuses a window that it would let stand on the roof's
-// plane without bounds, the Error says which edges of the roof the window would pass.
+// plane without bounds, the Error says which edges of the roof the window would pass, with lengths of
+// that style.
 using RunCommand = std::function<CommandOutcome(const WindowRequest& request)>;
 CommandOutcome RunOntoRoof(const WindowRequest& request, const RoofChoice& roof, const Roofs& roofs,
-                           dxf::Document& drawing, const RunCommand& run);
+                           dxf::Document& drawing, LengthStyle lengths, const RunCommand& run);
 
 }  // namespace teskarlt

@@ -20,7 +20,7 @@ PlacedWindow PlacedBy(const CommandOutcome& outcome, const WorkingUnit& unit, co
 }
 
 FitRules RulesFor(const PlacedWindow& window, const WindowOrder& order) {
-  return {.clearance = order.clearance, .isPlaneGiven = !window.face};
+  return {.clearance = order.clearance, .isPlaneGiven = !window.face, .lengths = order.lengths};
 }
 
 void RefuseMisfits(const std::vector<std::string>& misfits) {

@@ -14,6 +14,7 @@
 
 #include "geometry/Vectors.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/RingsAround.h"
 #include "teskarlt/drawing/SlopeReach.h"
 #include "teskarlt/drawing/SurfaceOutline.h"
 
@@ -119,10 +120,10 @@ class Placer {
   std::pair<double, double> Verges(const char* word) const {
     if (roof_.rings.empty()) Edge(std::nullopt, word);
     if (const auto reach = ReachAcross(roof_.rings, frame_.bottom, frame_.top)) return *reach;
-    throw Error(
-        fmt::format("{}: the window would lie above or below its roof, whose slope is {:.3f} m long from "
-                    "eaves to ridge",
-                    word, (roof_.ridge.value_or(0.0) - roof_.eaves.value_or(0.0)) / roof_.perMetre));
+    throw Error(fmt::format(
+        "the window would lie above or below its roof, whose slope is {} long from "
+        "eaves to ridge",
+        LengthText(roof_.ridge.value_or(0.0) - roof_.eaves.value_or(0.0), {roof_.perMetre, roof_.lengths})));
   }
 
   SlopeBox BoxOfWindow(const char* word, int number) const {
@@ -205,6 +206,7 @@ bool IsGiven(const Placing& placing) {
 MeasuredRoof MeasuredOn(const WindowOrder& order, const RoofChoice& roof, const Roofs& roofs) {
   MeasuredRoof measured;
   measured.perMetre = MILLIMETRES_A_METRE * roofs.Tolerance();
+  measured.lengths = order.lengths;
   if (roof.surface != nullptr) {
     SurfaceOutline outline = OutlineOf(*roof.surface, roofs.Faces(), roofs.Tolerance());
     measured.frame = outline.frame;
@@ -217,6 +219,14 @@ MeasuredRoof MeasuredOn(const WindowOrder& order, const RoofChoice& roof, const 
   measured.frame = FrameOf(plane->plane);
   if (order.planRoof.IsGiven()) MeasureFromEdge(order.planRoof, roof.corners, measured);
   return measured;
+}
+
+std::optional<SurfaceOutline> BoundsOf(const WindowOrder& order, const RoofChoice& roof, const Roofs& roofs) {
+  if (!order.planRoof.IsGiven()) return std::nullopt;
+  MeasuredRoof measured = MeasuredOn(order, roof, roofs);
+  for (SlopeRing& ring : measured.rings)
+    if (SignedArea(ring) < 0) std::reverse(ring.begin(), ring.end());
+  return SurfaceOutline{measured.frame, std::move(measured.rings)};
 }
 
 SlopePoint WayToPlace(const Placing& placing, const MeasuredRoof& roof, const Outline& frame,

@@ -20,15 +20,19 @@ namespace teskarlt {
 // A roof as distances are measured on it, in its own frame and the unit of the faces.
 struct MeasuredRoof {
   SlopeFrame frame;
-  double perMetre = 1.0;         // units a metre
-  std::vector<SlopeRing> rings;  // of its outline; none for a plane without bounds
-  std::optional<double> eaves;   // how far up its lowest and its highest edge lie; none where it has none
+  double perMetre = 1.0;                      // units a metre
+  LengthStyle lengths = LengthStyle::Metres;  // in which refusals say lengths
+  std::vector<SlopeRing> rings;               // of its outline; none for a plane without bounds
+  std::optional<double> eaves;  // how far up its lowest and its highest edge lie; none where it has none
   std::optional<double> ridge;
 };
 
 // The chosen roof: a surface with its outline, a roof that is only drawn in plan with one edge and the two
 // that go up from its ends, or a plane without bounds.
 MeasuredRoof MeasuredOn(const WindowOrder& order, const RoofChoice& roof, const Roofs& roofs);
+
+// The edges of a roof that is only drawn in plan, as far as they are known; none for other roofs.
+std::optional<SurfaceOutline> BoundsOf(const WindowOrder& order, const RoofChoice& roof, const Roofs& roofs);
 
 bool IsGiven(const Placing& placing);
 

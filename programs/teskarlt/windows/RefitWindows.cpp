@@ -11,6 +11,7 @@
 #include "geometry/Matrix4.h"
 #include "geometry/Trigonometry.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/drawing/LengthText.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/drawing/WindowShape.h"
@@ -114,8 +115,9 @@ class Refitter {
     const double covered = hasOwnSecondPlane ? 0.0 : CoveredPart(shape.outline, work_.roofs);
     if (IsWhole(covered)) return {};
     if (covered > 0.0) {
-      throw Error(WindowFit(work_.roofs).Misfits(reading.params, shape.outline).front() +
-                  "; move it or make it smaller");
+      throw Error(
+          WindowFit(work_.roofs).Misfits(reading.params, shape.outline, {.lengths = order_.lengths}).front() +
+          "; move it or make it smaller");
     }
     const NearFace nearest = NearestFace(reading.params.storedPoint, shape.Normal(), work_.roofs);
     if (std::string reason = ReasonToStay(nearest); !reason.empty()) return {nullptr, std::move(reason)};
@@ -127,10 +129,12 @@ class Refitter {
   // Empty where the face can have been the window's roof.
   std::string ReasonToStay(const NearFace& nearest) const {
     if (nearest.face == nullptr) return "no roof face that falls its way lies over or under its place";
-    const double metres = nearest.height / work_.unit.perMetre;
-    if (std::abs(metres) <= order_.reach) return {};
-    return fmt::format("the nearest roof face, {}, lies {:.3f} m {} it, and --reach is {:g} m",
-                       nearest.face->name, std::abs(metres), metres > 0 ? "over" : "under", order_.reach);
+    const SpokenUnit unit{static_cast<double>(work_.unit.perMetre), order_.lengths};
+    const double distance = std::abs(nearest.height);
+    if (distance <= order_.reach * unit.perMetre) return {};
+    return fmt::format("the nearest roof face, {}, lies {} {} it, and --reach is {}", nearest.face->name,
+                       LengthText(distance, unit), nearest.height > 0 ? "over" : "under",
+                       LengthText(order_.reach, {1.0, order_.lengths}));
   }
 
   WindowRequest RequestFor(const DrawnWindow& window, const WindowReading& reading,
@@ -158,7 +162,8 @@ class Refitter {
     }
     for (Refitted& window : report_.refitted) {
       const Outline outline = OutlineOf(window.after);
-      window.misfits = fit.Misfits(window.after, outline, {.clearance = order_.clearance});
+      window.misfits =
+          fit.Misfits(window.after, outline, {.clearance = order_.clearance, .lengths = order_.lengths});
       fit.Add(window.after.markerValue, outline);
     }
   }

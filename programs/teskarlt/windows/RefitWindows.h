@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "inc/WindowParams.h"
+#include "teskarlt/drawing/FeetInches.h"
 #include "teskarlt/drawing/Units.h"
+#include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/dxf/Document.h"
 #include "teskarlt/modules/WindowModule.h"
 
@@ -15,15 +17,13 @@ namespace teskarlt {
 // What stays of a window's place: its point in the plan, or the height of its lower edge.
 enum class RefitKeeps { Plan, Height };
 
-// About a storey: a face that is farther from a window was never its roof.
-constexpr double REFIT_REACH = 1.0;  // metres
-
 struct RefitOrder {
   std::vector<int> numbers;  // of the windows; none: all
   RefitKeeps keeps = RefitKeeps::Plan;
-  bool isLockedToo = false;    // also windows on locked and frozen layers
-  double reach = REFIT_REACH;  // how far over or under a window its roof may have come, metres
-  double clearance = 0.0;      // metres that windows keep to what is in their way
+  bool isLockedToo = false;                   // also windows on locked and frozen layers
+  double reach = REFIT_REACH;                 // how far over or under a window its roof may have come, metres
+  double clearance = 0.0;                     // metres that windows keep to what is in their way
+  LengthStyle lengths = LengthStyle::Metres;  // in which messages say lengths
 };
 
 // A window that was put onto another face.

@@ -153,7 +153,7 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
 
   const dxf::EditMark before = Work().drawing.Mark();
   EditedWindow edited;
-  edited.placed = PlacedBy(EditOnto(roof, request), Work().unit, roof);
+  edited.placed = PlacedBy(EditOnto(roof, request, order.lengths), Work().unit, roof);
   const WindowParams& after = edited.placed.record;
   edited.changes = ChangedFields(record, after);
   edited.isRewritten = !StandsAs(window, after);
@@ -161,8 +161,9 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
   return edited;
 }
 
-CommandOutcome WindowEditor::EditOnto(const RoofChoice& roof, const WindowRequest& request) {
-  return RunOntoRoof(request, roof, Work().roofs, Work().drawing,
+CommandOutcome WindowEditor::EditOnto(const RoofChoice& roof, const WindowRequest& request,
+                                      LengthStyle lengths) {
+  return RunOntoRoof(request, roof, Work().roofs, Work().drawing, lengths,
                      [&](const WindowRequest& run) { return site_.Module().Edit(Work().drawing, run); });
 }
 

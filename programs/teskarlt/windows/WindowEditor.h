@@ -56,7 +56,7 @@ class WindowEditor {
   const WorkedDrawing& Work() const { return site_.Work(); }
   void Choose(const WindowSelection& selection, bool isLockedToo);
   EditedWindow EditOne(const EditableWindow& window, const WindowOrder& order);
-  CommandOutcome EditOnto(const RoofChoice& roof, const WindowRequest& request);
+  CommandOutcome EditOnto(const RoofChoice& roof, const WindowRequest& request, LengthStyle lengths);
   // Puts the point for which the order's words stand into the request.
   void PutPlace(const WindowOrder& order, const RoofChoice& roof, WindowRequest& request);
   // Looks whether the edited windows fit, and tells the site where they stand now. Throws Error for those

@@ -81,8 +81,10 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
                                   const WindowNumbers& numbers) {
   WindowRequest request = RequestFor(order, roof, numbers);
   if (IsGiven(order.placing)) request.point = FindPlace(order, roof, request);
-  PlacedWindow window = PlacedBy(InsertOnto(roof, request), Work().unit, roof);
-  window.misfits = site_.Fit().Misfits(window.record, window.outline, RulesFor(window, order));
+  PlacedWindow window = PlacedBy(InsertOnto(roof, request, order.lengths), Work().unit, roof);
+  FitRules rules = RulesFor(window, order);
+  rules.bounds = BoundsOf(order, roof, Work().roofs);
+  window.misfits = site_.Fit().Misfits(window.record, window.outline, rules);
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
   return window;
 }
@@ -143,8 +145,9 @@ void WindowInserter::Note(const PlacedWindow& window) {
   site_.NoteInserted(window.record.markerValue, window.outline);
 }
 
-CommandOutcome WindowInserter::InsertOnto(const RoofChoice& roof, const WindowRequest& request) {
-  return RunOntoRoof(request, roof, Work().roofs, Work().drawing,
+CommandOutcome WindowInserter::InsertOnto(const RoofChoice& roof, const WindowRequest& request,
+                                          LengthStyle lengths) {
+  return RunOntoRoof(request, roof, Work().roofs, Work().drawing, lengths,
                      [&](const WindowRequest& run) { return site_.Module().Insert(Work().drawing, run); });
 }
 

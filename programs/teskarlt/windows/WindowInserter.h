@@ -44,7 +44,7 @@ class WindowInserter {
   PlanPoint PointOfRow(const WindowOrder& order, const RoofChoice& roof, double step);
   void Note(const PlacedWindow& window);
   const WorkedDrawing& Work() const { return site_.Work(); }
-  CommandOutcome InsertOnto(const RoofChoice& roof, const WindowRequest& request);
+  CommandOutcome InsertOnto(const RoofChoice& roof, const WindowRequest& request, LengthStyle lengths);
   // The point for which the order's words stand, in working units.
   std::array<double, 2> FindPlace(const WindowOrder& order, const RoofChoice& roof,
                                   const WindowRequest& request, const RowReach& row = {});

@@ -89,31 +89,37 @@ Obstacle Square(const char* face, const char* layer, double across) {
 TEST(ObstacleWords, FacesOfALayerAreToldTogether) {
   const std::vector<Obstacle> obstacles = {Square("1", "CHIMNEY", 0), Square("2", "CHIMNEY", 200),
                                            Square("3", "WALL", 900)};
-  EXPECT_THAT(ObstacleWords(obstacles, {500, 1500, 500, 2500}, 0, TOLERANCE, 1000),
+  EXPECT_THAT(ObstacleWords(obstacles, {500, 1500, 500, 2500}, 0, TOLERANCE, {1000}),
               ElementsAre("it meets faces 1 and 2 of layer CHIMNEY by 0.500 m",
                           "it meets face 3 of layer WALL by 0.500 m"));
 }
 
 TEST(ObstacleWords, ManyFacesAreNotAllNamed) {
   const std::vector<Obstacle> obstacles(6, Square("1", "A", 0));
-  EXPECT_THAT(ObstacleWords(obstacles, {500, 1500, 0, 1000}, 0, TOLERANCE, 1000),
+  EXPECT_THAT(ObstacleWords(obstacles, {500, 1500, 0, 1000}, 0, TOLERANCE, {1000}),
               ElementsAre("it meets faces 1, 1, 1 and 3 more of layer A by 0.500 m"));
 }
 
 TEST(ObstacleWords, WhatIsNearerThanTheClearanceIsToldWithItsDistance) {
   const std::vector<Obstacle> obstacles = {Square("1", "A", 0)};
-  EXPECT_THAT(ObstacleWords(obstacles, {1100, 2000, 0, 1000}, 0, TOLERANCE, 1000), IsEmpty());
+  EXPECT_THAT(ObstacleWords(obstacles, {1100, 2000, 0, 1000}, 0, TOLERANCE, {1000}), IsEmpty());
   EXPECT_THAT(
-      ObstacleWords(obstacles, {1100, 2000, 0, 1000}, 200, TOLERANCE, 1000),
+      ObstacleWords(obstacles, {1100, 2000, 0, 1000}, 200, TOLERANCE, {1000}),
       ElementsAre("it comes nearer than its clearance of 0.200 m to face 1 of layer A, 0.100 m away"));
-  EXPECT_THAT(ObstacleWords(obstacles, {1200, 2000, 0, 1000}, 200, TOLERANCE, 1000), IsEmpty());
+  EXPECT_THAT(ObstacleWords(obstacles, {1200, 2000, 0, 1000}, 200, TOLERANCE, {1000}), IsEmpty());
+}
+
+TEST(ObstacleWords, LengthsMayBeFeetAndInches) {
+  EXPECT_THAT(ObstacleWords({Square("1", "A", 0)}, {746, 2000, 0, 1000}, 0, TOLERANCE,
+                            {1000, LengthStyle::FeetAndInches}),
+              ElementsAre("it meets face 1 of layer A by 10\""));
 }
 
 TEST(WayWords, SayTheDirectionFromBelowTheEaves) {
-  EXPECT_EQ(WayWords({-400, 0}, 1000), "0.400 m to the left");
-  EXPECT_EQ(WayWords({400, 0}, 1000), "0.400 m to the right");
-  EXPECT_EQ(WayWords({0, 400}, 1000), "0.400 m up the slope");
-  EXPECT_EQ(WayWords({0, -400}, 1000), "0.400 m down the slope");
+  EXPECT_EQ(WayWords({-400, 0}, {1000}), "0.400 m to the left");
+  EXPECT_EQ(WayWords({400, 0}, {1000}), "0.400 m to the right");
+  EXPECT_EQ(WayWords({0, 400}, {1000}), "0.400 m up the slope");
+  EXPECT_EQ(WayWords({0, -400}, {1000}), "0.400 m down the slope");
 }
 
 }  // namespace

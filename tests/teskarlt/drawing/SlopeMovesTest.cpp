@@ -38,6 +38,14 @@ TEST(ReachesInto, RingThatRunsAroundTheFrameOnThreeSidesDoesNot) {
   EXPECT_FALSE(ReachesInto(u, FRAME));
 }
 
+TEST(DistanceBetween, IsTheShortestToARing) {
+  EXPECT_EQ(DistanceBetween(Shifted(SQUARE, 2, 0), FRAME), 1);
+  EXPECT_EQ(DistanceBetween(Shifted(SQUARE, 4, 5), FRAME), 5);  // 3 beside it and 4 above it
+  EXPECT_EQ(DistanceBetween(SQUARE, FRAME), 0);
+  EXPECT_EQ(DistanceBetween({5, 0}, {5, 9}, FRAME), 1);
+  EXPECT_EQ(DistanceBetween({0, 2}, {9, 2}, FRAME), 0);
+}
+
 TEST(WaysClearOf, AreTheFourWaysTheShortestFirst) {
   // The frame leaves the square by 1 to the left or downwards, by 3 to the right or upwards.
   const std::vector<SlopePoint> ways = WaysClearOf({SQUARE}, FRAME);

@@ -19,7 +19,7 @@ std::string Passed(const SurfaceOutline& roof, double left, double bottom, doubl
   const auto at = [&](double across, double up) { return roof.frame.At({across, up}); };
   return PassedEdges({at(left, bottom), at(left, bottom + length), at(left + width, bottom + length),
                       at(left + width, bottom)},
-                     roof, 1.0);
+                     roof, {1.0});
 }
 
 TEST(ReachAcross, OfAHipIsTheNarrowest) {
@@ -72,11 +72,23 @@ TEST(EdgesWithin, SayHowFarTheEdgesAre) {
     const auto at = [&](double across, double up) {
       return RECTANGLE.frame.At({left + across, bottom + up});
     };
-    return EdgesWithin(0.2, {at(0, 0), at(0, 1.5), at(1, 1.5), at(1, 0)}, RECTANGLE, 1.0);
+    return EdgesWithin(0.2, {at(0, 0), at(0, 1.5), at(1, 1.5), at(1, 0)}, RECTANGLE, {1.0});
   };
   EXPECT_EQ(within(0.15, 1), "the left verge, 0.150 m away");
-  EXPECT_EQ(within(6.9, 3.4), "the right verge, 0.100 m away and the ridge, 0.100 m away");
+  EXPECT_EQ(within(6.9, 3.4), "the ridge, 0.100 m away and the right verge, 0.100 m away");
   EXPECT_EQ(within(0.2, 1), "");
+}
+
+TEST(EdgesWithin, DistanceToAHipIsSquareToItWhateverTheClearanceIs) {
+  // The hip runs from (8, 0) to (4, 5). The frame's upper right corner, (5, 2.5), is 1 left of it along the
+  // eaves, and 1 x 5 / sqrt(41) square to it.
+  const auto within = [](double clearance) {
+    const auto at = [&](double across, double up) { return HIP.frame.At({across, up}); };
+    return EdgesWithin(clearance, {at(4, 1.5), at(4, 2.5), at(5, 2.5), at(5, 1.5)}, HIP, {1.0});
+  };
+  EXPECT_EQ(within(0.7), "");
+  EXPECT_EQ(within(0.8), "the right hip, 0.781 m away");
+  EXPECT_EQ(within(1.4), "the right hip, 0.781 m away");
 }
 
 TEST(PassedEdges, InsideAndTooLongForTheRoofNothingIsPassed) {

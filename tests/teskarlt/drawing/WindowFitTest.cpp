@@ -209,8 +209,25 @@ TEST(WindowFit, ClearanceIsKeptToObstaclesEdgesAndWindows) {
   fit.Add(1, OutlineOf(Window(5, 2)));
   const WindowParams beside = Window(6.1, 2);
   EXPECT_THAT(fit.Misfits(beside, OutlineOf(beside), {.clearance = 0.2}),
-              ElementsAre("it comes nearer than its clearance of 0.200 m to window 1"));
+              ElementsAre("it comes nearer than its clearance of 0.200 m to window 1, 0.100 m away"));
   EXPECT_THAT(fit.Misfits(beside, OutlineOf(beside), {.clearance = 0.1}), IsEmpty());
+}
+
+TEST(WindowFit, RoofThatWasRaisedIsNamedAndNotMet) {
+  const Roofs roofs = Slope(10);
+  const WindowParams record = Window(5, 2, -0.15);
+  EXPECT_THAT(WindowFit(roofs).Misfits(record, OutlineOf(record)),
+              ElementsAre("it lies on no roof face; roof R1 lies 0.150 m over it"));
+}
+
+TEST(WindowFit, EdgesOfAPlaneThatTheUserGaveAreKept) {
+  const Roofs none({}, TOLERANCE);
+  const WindowParams record = Window(5, 2);
+  const Roofs known = Slope(5.3);
+  const FitRules rules{.isPlaneGiven = true,
+                       .bounds = OutlineOf(known.Surfaces()[0], known.Faces(), TOLERANCE)};
+  EXPECT_THAT(WindowFit(none).Misfits(record, OutlineOf(record), rules),
+              ElementsAre("it passes the right verge by 0.200 m"));
 }
 
 TEST(WindowFit, PlaneThatTheUserGaveNeedsNoRoofFaceAndKnowsObstacles) {

@@ -77,7 +77,7 @@ TEST_F(RefitWindowsTest, WindowFarOverAFaceStaysOnItsGivenPlane) {
   dxf::Document reloaded = Reloaded(drawing);
   const RefitReport report = Refit(reloaded);
   ASSERT_EQ(report.staying.size(), 1U);
-  EXPECT_THAT(report.staying[0].message, HasSubstr("lies 4.500 m under it, and --reach is 1 m"));
+  EXPECT_THAT(report.staying[0].message, HasSubstr("lies 4.500 m under it, and --reach is 1.000 m"));
   EXPECT_EQ(Refit(reloaded, {.numbers = {}, .reach = 4.6}).refitted.size(), 1U);
 }
 
