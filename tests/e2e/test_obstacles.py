@@ -150,6 +150,28 @@ def test_clearance_is_asked_for_by_words_jobs_check_and_refit(teskarlt, tmp_path
     assert "it comes nearer than its clearance of 8\" to faces 35, 37 and 38 of layer CHIMNEY, ~3 15/16\" away" in answer.stderr
 
 
+def test_point_on_the_top_of_a_chimney_is_told_as_such(teskarlt, tmp_path):
+    path = tmp_path / "roof.dxf"
+    drawing = drawing_with_roof()
+    chimney_of_faces(drawing)
+    drawing.modelspace().add_3dface([(4600, 3000, 6000), (5000, 3000, 6000), (5000, 3400, 6000), (4600, 3400, 6000)],
+                                    {"layer": "CHIMNEY"})
+    drawing.saveas(path)
+    answer = teskarlt("insert", path, "--at", "4800,3200")
+    assert answer.status == 1 and answer.stderr == (
+        "teskarlt: the point lies on R2, which is flat: face 39 of layer CHIMNEY; --on R1 takes the roof under it\n")
+    assert "of layer CHIMNEY by" in teskarlt("insert", path, "--at", "4800,3200", "--on", "R1", "--strict").stderr
+
+
+def test_windows_of_a_row_keep_a_clearance_to_each_other(teskarlt, tmp_path):
+    path = tmp_path / "roof.dxf"
+    drawing_with_roof().saveas(path)
+    row = ("insert", path, "--on", "R1", "--from-eaves", "1", "--centre", "--row", "3", "--gap", "0.1", "--clearance", "0.2")
+    answer = teskarlt(*row, "--strict")
+    assert answer.status == 1 and "it comes nearer than its clearance of 0.200 m to window 1, 0.100 m away" in answer.stderr
+    assert teskarlt.done(*row[:-1], "0.1", "--strict").stderr == ""
+
+
 def test_negative_clearance_is_refused(teskarlt, house):
     for command in (("insert", house, "--at", "2500,1200"), ("check", house), ("refit", house)):
         answer = teskarlt(*command, "--clearance=-0.1")

@@ -17,9 +17,12 @@ struct Obstacle {
 };
 
 // What stands on the plane within the area of the plan, in the frame of the plane: the faces that rise more
-// than `least` above it, plumb in the unit of the faces, and come down to it or to less than 0.3 m above it.
-// Left out are level lines and fillings of plans, and the upper skin of a roof of which the plane is the
-// lower one: a parallel surface over half of the area or more.
-std::vector<Obstacle> ObstaclesOn(const Plane& plane, const PlanBox& area, double least, const Roofs& roofs);
+// than `least` above it, plumb in the unit of the faces, and come down there to it or to less than 0.3 m
+// above it; and those all of whose corners are corners of such faces, as the top of a chimney. A face that
+// rises above the plane in several places counts as often. Left out are level lines and fillings of plans,
+// and the upper skin of a roof of which the plane is the lower one: parallel surfaces on the layer of the
+// roof, or over most of it.
+std::vector<Obstacle> ObstaclesOn(const Plane& plane, const std::string& layer, const PlanBox& area,
+                                  double least, const Roofs& roofs);
 
 }  // namespace teskarlt

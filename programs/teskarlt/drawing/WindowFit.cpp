@@ -307,7 +307,10 @@ const std::vector<Obstacle>& WindowFit::ObstaclesOf(const RoofSurface& surface) 
   const auto known = obstacles_.find(&surface);
   if (known != obstacles_.end()) return known->second;
   const double least = ROOF_UNEVENNESS * roofs_.Tolerance() + surface.warp;
-  return obstacles_.emplace(&surface, ObstaclesOn(surface.plane, surface.box, least, roofs_)).first->second;
+  return obstacles_
+      .emplace(&surface, ObstaclesOn(surface.plane, roofs_.Faces()[surface.faces.front()].layer, surface.box,
+                                     least, roofs_))
+      .first->second;
 }
 
 void WindowFit::TellObstacles(const Outline& outline, const FitRules& rules, const SpokenUnit& unit,
@@ -319,7 +322,7 @@ void WindowFit::TellObstacles(const Outline& outline, const FitRules& rules, con
   const double tolerance = roofs_.Tolerance();
   const std::vector<Obstacle> around =
       surface != nullptr ? std::vector<Obstacle>()
-                         : ObstaclesOn(plane, PlanBoxOf(outline, AROUND * unit.perMetre + clearance),
+                         : ObstaclesOn(plane, {}, PlanBoxOf(outline, AROUND * unit.perMetre + clearance),
                                        ROOF_UNEVENNESS * tolerance, roofs_);
   const std::vector<Obstacle>& obstacles = surface != nullptr ? ObstaclesOf(*surface) : around;
   const SlopeFrame frame = FrameOf(plane);

@@ -96,19 +96,35 @@ std::vector<PlacedWindow> WindowInserter::DrawRow(const WindowOrder& order, cons
   WindowOrder one = order;
   one.placing = {};
   std::vector<PlacedWindow> windows;
-  for (const PlanPoint& point :
-       RowPoints(order.row, PointOfRow(order, roof, step), frame, step, Work().unit)) {
-    one.at = point;
-    try {
-      windows.push_back(Draw(one, roof, numbers));
-    } catch (const Error& error) {
-      throw Error(
-          fmt::format("window {} of the row, at {}: {}", windows.size() + 1, point.text, error.Message()),
-          error.Place());
+  // While the row is drawn, its windows are in the way of those that follow.
+  const auto forget = [&] {
+    for (const PlacedWindow& window : windows)
+      site_.NoteMoved(window.record.markerValue, window.outline, std::nullopt);
+  };
+  try {
+    for (const PlanPoint& point :
+         RowPoints(order.row, PointOfRow(order, roof, step), frame, step, Work().unit)) {
+      one.at = point;
+      windows.push_back(DrawOfRow(one, roof, numbers, windows.size() + 1));
+      numbers.Take(windows.back().record.markerValue);
+      site_.NoteMoved(windows.back().record.markerValue, std::nullopt, windows.back().outline);
     }
-    numbers.Take(windows.back().record.markerValue);
+  } catch (...) {
+    forget();
+    throw;
   }
+  forget();
   return windows;
+}
+
+PlacedWindow WindowInserter::DrawOfRow(const WindowOrder& order, const RoofChoice& roof,
+                                       const WindowNumbers& numbers, std::size_t place) {
+  try {
+    return Draw(order, roof, numbers);
+  } catch (const Error& error) {
+    throw Error(fmt::format("window {} of the row, at {}: {}", place, order.at->text, error.Message()),
+                error.Place());
+  }
 }
 
 PlanPoint WindowInserter::PointOfRow(const WindowOrder& order, const RoofChoice& roof, double step) {

@@ -38,6 +38,9 @@ class WindowInserter {
   // Draws the window, which counts with none of the next ones yet. Throws Error, and may leave a part behind.
   PlacedWindow Draw(const WindowOrder& order, const RoofChoice& roof, const WindowNumbers& numbers);
   std::vector<PlacedWindow> DrawRow(const WindowOrder& order, const RoofChoice& roof);
+  // Draws a window of a row, whose place in it, from 1, stands before an error.
+  PlacedWindow DrawOfRow(const WindowOrder& order, const RoofChoice& roof, const WindowNumbers& numbers,
+                         std::size_t place);
   // How far apart the points of a row lie, in working units along the roof.
   double StepOf(const WindowOrder& order, RoofChoice roof);
   // The point from which the row's windows are counted, where its order or its words say.

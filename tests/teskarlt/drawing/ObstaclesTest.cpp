@@ -32,7 +32,7 @@ Wall Standing(double low, double high) {
 }
 
 std::vector<Obstacle> On(std::vector<RoofFace> faces, std::vector<Wall> walls = {}) {
-  return ObstaclesOn(SLOPE, AREA, LEAST,
+  return ObstaclesOn(SLOPE, "ROOF", AREA, LEAST,
                      Roofs(std::move(faces), TOLERANCE, IN_DRAWING_UNITS, {}, std::move(walls)));
 }
 
@@ -73,13 +73,64 @@ TEST(ObstaclesOn, LevelLinesOfAPlanAreNone) {
   EXPECT_THAT(On({storey}), IsEmpty());
 }
 
+// Parallel to the roof, 200 mm above it.
+RoofFace Skin(const char* layer, double high) {
+  RoofFace skin = Face(
+      "S", {{0, 0, 200}, {10000, 0, 200}, {10000, high, 200 + 0.75 * high}, {0, high, 200 + 0.75 * high}});
+  skin.layer = layer;
+  return skin;
+}
+
 TEST(ObstaclesOn, UpperSkinOfTheRoofIsNoneAndAPanelIsOne) {
-  const auto skin = [](double high) {
-    return Face(
-        "S", {{0, 0, 200}, {10000, 0, 200}, {10000, high, 200 + 0.75 * high}, {0, high, 200 + 0.75 * high}});
+  EXPECT_THAT(On({Skin("TILES", 7500)}), IsEmpty());
+  EXPECT_THAT(On({Skin("ROOF", 2000)}), IsEmpty());
+  EXPECT_EQ(On({Skin("PANELS", 5000)}).size(), 1U);
+}
+
+// 9 m high, from x = 2000 and y = 1000 on.
+std::vector<Wall> Shaft() {
+  const auto wall = [](double x, double y, double u, double v) {
+    return Wall{"W", "SHAFT", {{x, y, 0}, {u, v, 0}, {u, v, 9000}, {x, y, 9000}}};
   };
-  EXPECT_THAT(On({skin(7000)}), IsEmpty());
-  EXPECT_EQ(On({skin(2000)}).size(), 1U);
+  return {wall(2000, 1000, 6000, 1000), wall(6000, 1000, 6000, 5000), wall(6000, 5000, 2000, 5000),
+          wall(2000, 5000, 2000, 1000)};
+}
+
+TEST(ObstaclesOn, TopThatStandingWallsBearCoversTheRoof) {
+  const RoofFace top =
+      Face("T", {{2000, 1000, 9000}, {6000, 1000, 9000}, {6000, 5000, 9000}, {2000, 5000, 9000}});
+  EXPECT_EQ(On({top}, Shaft()).size(), 5U);
+  EXPECT_THAT(On({top}), IsEmpty());
+  const RoofFace wider =
+      Face("T", {{1000, 0, 9000}, {7000, 0, 9000}, {7000, 6000, 9000}, {1000, 6000, 9000}});
+  EXPECT_EQ(On({wider}, Shaft()).size(), 4U);
+}
+
+TEST(ObstaclesOn, RoofThatGoesThroughThePlaneBeyondTheAreaIsNone) {
+  // Falls to the south, 3.5 m above the roof at y = 8000, and through its plane at y = 12667.
+  const RoofFace over =
+      Face("O", {{0, 7000, 9750}, {9000, 7000, 9750}, {9000, 20000, 9750}, {0, 20000, 9750}});
+  EXPECT_THAT(On({over}), IsEmpty());
+}
+
+TEST(ObstaclesOn, FaceThatRisesTwiceAboveTheRoofLeavesItFreeBetween) {
+  // A front at y = 4000, where the roof is 3000 high, with two gables that rise to 5000.
+  const Wall front{"F",
+                   "FRONT",
+                   {{1000, 4000, 0},
+                    {9000, 4000, 0},
+                    {9000, 4000, 2000},
+                    {8000, 4000, 5000},
+                    {7000, 4000, 2000},
+                    {3000, 4000, 2000},
+                    {2000, 4000, 5000},
+                    {1000, 4000, 2000}}};
+  const auto found = On({}, {front});
+  ASSERT_EQ(found.size(), 2U);
+  for (const Obstacle& gable : found) {
+    for (const SlopePoint& corner : gable.footprint)
+      EXPECT_TRUE(corner.across < 2700 || corner.across > 7300);
+  }
 }
 
 Obstacle Square(const char* face, const char* layer, double across) {
