@@ -158,9 +158,8 @@ TEST(Placing, WindowThatThereIsNotIsRefused) {
 }
 
 TEST(Placing, PlaceAboveTheRoofHasNoVerge) {
-  EXPECT_THAT(
-      RefusalOf([] { WayOn(PlainRoof(0), {.fromEaves = 6, .isCentred = true}); }),
-      HasSubstr("--centre: the window would lie above or below its roof, whose slope is 5.000 m long"));
+  EXPECT_THAT(RefusalOf([] { WayOn(PlainRoof(0), {.fromEaves = 6, .isCentred = true}); }),
+              HasSubstr("the window would lie above or below its roof, whose slope is 5.000 m long"));
 }
 
 TEST(Placing, PlaneWithoutBoundsHasHeightsAndNoEdges) {

@@ -68,6 +68,26 @@ TEST_F(WindowInserterTest, WordsSayThePlaceOnARoofThatIsDrawnInPlan) {
   EXPECT_NEAR(std::min(window.outline[0].x, window.outline[3].x), 500, 1e-6);
 }
 
+TEST_F(WindowInserterTest, WindowBesideARoofThatIsDrawnInPlanIsTold) {
+  WindowOrder order;
+  order.planRoof.eaves = {{0, 20000, ""}, {8000, 20000, ""}};
+  order.planRoof.pitch = 45;
+  order.planRoof.eavesHeight = 2.5;
+  order.placing = {.fromEaves = 1.0, .fromVerge = 7.5};  // a window is 0.94 m wide
+  EXPECT_THAT(inserter.Insert(order).misfits, ElementsAre("it passes the right verge by 0.440 m"));
+}
+
+TEST_F(WindowInserterTest, PointOnAFlatTopIsToldWithTheRoofUnderIt) {
+  const std::vector<geometry::Vec3> top = {
+      {3000, 1000, 7000}, {5000, 1000, 7000}, {5000, 3000, 7000}, {3000, 3000, 7000}};
+  dxf::Document house = DrawingWithFaces({RoofAt(0), top});
+  WindowInserter into(module, house, Millimetres());
+  EXPECT_THAT(
+      RefusalOf([&] { into.Insert(OrderAt(4000, 2000)); }),
+      HasSubstr(
+          "the point lies on R2, which is flat: face 101 of layer ROOF; --on R1 takes the roof under it"));
+}
+
 TEST_F(WindowInserterTest, EntitiesThatAreToldStandInTheDrawing) {
   const PlacedWindow window = inserter.Insert(OrderAt(4000, 2000));
   EXPECT_EQ(Reloaded(drawing).Entities().size(), drawing.Entities().size() + window.faces + window.lines);
@@ -151,6 +171,20 @@ TEST_F(WindowInserterTest, ColumnRunsUpTheSlope) {
 }
 
 // The fifth stands at 7000, up to 7470; the sixth would leave the roof at 8000.
+TEST_F(WindowInserterTest, WindowsOfARowKeepTheClearanceToEachOther) {
+  WindowOrder order = RowOf(3);
+  order.row = {.count = 3, .gap = 0.1};
+  order.clearance = 0.2;
+  const auto windows = inserter.InsertAll(order);
+  EXPECT_THAT(windows[0].misfits, ElementsAre());
+  EXPECT_THAT(windows[2].misfits,
+              ElementsAre("it comes nearer than its clearance of 0.200 m to window 2, 0.100 m away"));
+  order.isStrict = true;
+  order.at = PlanPoint{1000, 4500, ""};
+  EXPECT_NE(RefusalOf([&] { inserter.InsertAll(order); }), "");
+  EXPECT_EQ(inserter.Insert(OrderAt(1000, 4500)).misfits.size(), 0U);  // nothing of the refused row is left
+}
+
 TEST_F(WindowInserterTest, RowIsRefusedWholeWithTheWindowThatIsRefused) {
   const std::string before = drawing.Serialize();
   EXPECT_THAT(RefusalOf([&] { inserter.InsertAll(RowOf(6)); }),
