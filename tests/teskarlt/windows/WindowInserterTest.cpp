@@ -85,7 +85,7 @@ TEST_F(WindowInserterTest, PointOnAFlatTopIsToldWithTheRoofUnderIt) {
   EXPECT_THAT(
       RefusalOf([&] { into.Insert(OrderAt(4000, 2000)); }),
       HasSubstr(
-          "the point lies on R2, which is flat: face 101 of layer ROOF; --on R1 takes the roof under it"));
+          "the point lies on R2, which is flat: face 1D of layer ROOF; --on R1 takes the roof under it"));
 }
 
 TEST_F(WindowInserterTest, EntitiesThatAreToldStandInTheDrawing) {
