@@ -338,6 +338,7 @@ std::optional<SlopePoint> WindowFit::WayToFreePlace(const Outline& outline, cons
                                                     double perMetre) const {
   const double tolerance = roofs_.Tolerance();
   std::vector<SlopeRing> rings;
+  rings.reserve(obstacles.size());
   for (const Obstacle& obstacle : obstacles)
     rings.push_back(obstacle.footprint);
   for (const auto& [x, place] : places_) {
