@@ -77,9 +77,10 @@ void RefuseSharedNumbers(const std::vector<DrawnWindow>& windows, const std::str
     counts[window->number] = 0;
   for (const DrawnWindow& window : windows)
     if (const auto count = counts.find(window.number); count != counts.end()) ++count->second;
-  for (const DrawnWindow* const window : chosen)
-    if (const std::ptrdiff_t count = counts[window->number]; count > 1)
-      RefuseCopies(file, count, window->number);
+  for (const DrawnWindow* const window : chosen) {
+    const std::ptrdiff_t count = counts[window->number];
+    if (count > 1) RefuseCopies(file, count, window->number);
+  }
 }
 
 }  // namespace
