@@ -33,18 +33,20 @@ def test_windows_side_by_side_may_touch_and_not_overlap(teskarlt, tmp_path, roof
         assert teskarlt.done("insert", path, *at(roof, *place), *options).stderr == ""
     answer = teskarlt("insert", path, *at(roof, -1 + WIDTH - 0.01, up + row - 0.01), *options, "--strict")
     assert answer.status == 1 and answer.stderr == (
-        "teskarlt: --strict: the window is refused; it overlaps windows 1, 2, 3\n")
+        "teskarlt: --strict: the window is refused; it overlaps windows 1, 2, 3 by 0.950 m; the nearest free place is "
+        "0.950 m to the right\n")
     assert len(windows_of(teskarlt, path, roof)) == len(places)
 
 
 def test_overlap_is_warned_of_and_told_to_programs(teskarlt, house):
     teskarlt.done("insert", house, "--at", "2500,1200")
     answer = teskarlt.done("insert", house, "--at", "2700,1300", "--json")
-    assert answer.stderr == "teskarlt: warning: window 2: it overlaps window 1\n"
-    assert answer.json["warnings"] == ["it overlaps window 1"]
+    overlap = "it overlaps window 1 by 0.740 m; the nearest free place is 0.740 m to the right"  # 0.94 - 0.2
+    assert answer.stderr == f"teskarlt: warning: window 2: {overlap}\n"
+    assert answer.json["warnings"] == [overlap]
     findings = teskarlt.done("check", house, "--json").json["findings"]
     assert [(finding["severity"], finding["kind"], finding["message"]) for finding in findings] == [
-        ("warning", "window-misfit", "window 2: it overlaps window 1")]
+        ("warning", "window-misfit", f"window 2: {overlap}")]
 
 
 def test_refused_window_leaves_the_drawing(teskarlt, house):
@@ -63,7 +65,8 @@ def test_edit_that_makes_windows_overlap_is_warned_of_or_refused(teskarlt, house
     assert answer.status == 1 and "it overlaps window 2" in answer.stderr
     assert house.read_bytes() == before
     answer = teskarlt.done("edit", house, "1", "--set", "width=1.14")
-    assert answer.stderr == "teskarlt: warning: window 1: it overlaps window 2\n"
+    assert answer.stderr == (
+        "teskarlt: warning: window 1: it overlaps window 2 by 0.040 m; the nearest free place is 0.040 m to the left\n")
     assert teskarlt.done("edit", house, "1", "--set", "width=1").stderr == ""
 
 
@@ -90,7 +93,8 @@ def test_jobs_that_overlap_are_warned_of_or_refused(teskarlt, house, tmp_path):
     teskarlt.done("erase", house, "1")
     teskarlt.done("erase", house, "2")
     assert teskarlt.done("insert", house, "--jobs", jobs).stderr == (
-        f"teskarlt: {teskarlt.spelled(jobs)}:2: warning: window 4: it overlaps window 3\n")
+        f"teskarlt: {teskarlt.spelled(jobs)}:2: warning: window 4: it overlaps window 3 by 0.840 m; "
+        "the nearest free place is 0.840 m to the right\n")
 
 
 def test_window_that_leaves_its_face_is_found(teskarlt, house):
@@ -124,4 +128,5 @@ def test_many_copies_in_one_place_are_not_all_named(teskarlt, house, tmp_path):
     jobs = tmp_path / "jobs.jsonl"
     jobs.write_text('{"at": [2500, 1200]}\n' * 13)
     answer = teskarlt.done("insert", house, "--jobs", jobs, "--json")
-    assert answer.json["windows"][-1]["warnings"] == ["it overlaps windows 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 and 2 more"]
+    warning, = answer.json["windows"][-1]["warnings"]
+    assert warning.startswith("it overlaps windows 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 and 2 more by 0.940 m; ")

@@ -245,5 +245,6 @@ def test_refitted_window_that_overlaps_another_is_warned_of_or_refused(teskarlt,
     refused = teskarlt("refit", path, "--reach", "2", "--strict")
     assert refused.status == 1 and "it overlaps window 1" in refused.stderr and path.read_bytes() == before
     answer = teskarlt.done("refit", path, "--reach", "2", "--json")
-    assert answer.stderr == "teskarlt: warning: window 2: it overlaps window 1\n"
-    assert answer.json["windows"][0]["warnings"] == ["it overlaps window 1"]
+    overlap = "it overlaps window 1 by 0.640 m; the nearest free place is 0.640 m to the right"  # 0.94 - 0.3
+    assert answer.stderr == f"teskarlt: warning: window 2: {overlap}\n"
+    assert answer.json["windows"][0]["warnings"] == [overlap]

@@ -117,7 +117,7 @@ def test_strict_and_misfits_speak_metres_in_inches_too(teskarlt, tmp_path):
     roof(path, "in")
     teskarlt.done("insert", path, "--at", at("in"))
     answer = teskarlt.done("insert", path, "--at", at("in"), "--set", "width=1.1", "--json").json
-    assert answer["warnings"] == ["it overlaps window 1"]
+    assert answer["warnings"] == ["it overlaps window 1 by 1.020 m; the nearest free place is 1.020 m to the left"]
     assert math.isclose(answer["unitFactor"], 1 / 0.0254)
     assert near(answer["place"], in_roof(0, 0), "in")
 

@@ -28,6 +28,7 @@ using geometry::Vec3;
 
 constexpr double PERCENT = 100.0;
 constexpr double AROUND = 3.0;  // metres around a window that are looked at on a plane without bounds
+constexpr double FARTHEST_FREE_PLACE = 10.0;  // metres; beyond, it is no remedy any more
 
 Vec3 UnitNormal(const Outline& outline) {
   Vec3 normal = Cross(Difference(outline[3], outline[0]), Difference(outline[1], outline[0]));
@@ -88,11 +89,6 @@ const RoofSurface* SurfaceUnder(const Outline& outline, const Roofs& roofs) {
   const auto under = std::find_if(faces.begin(), faces.end(),
                                   [&](const RoofFace* face) { return LiesOver(*face, middle.x, middle.y); });
   return roofs.SurfaceOf(under == faces.end() ? *faces.front() : **under);
-}
-
-// That of the surface, which there is.
-SurfaceOutline OutlineUnder(const Outline& outline, const Roofs& roofs) {
-  return OutlineOf(*SurfaceUnder(outline, roofs), roofs.Faces(), roofs.Tolerance());
 }
 
 // "; roof R1 lies 0.152 m over it", of the nearest within reach of a refit; empty for none.
@@ -231,76 +227,83 @@ std::optional<Outline> WindowFit::OutlineOf(std::int32_t number) const {
   return std::nullopt;
 }
 
-// The windows that cover a piece of it.
-std::set<std::int32_t> WindowFit::NumbersOver(const Outline& outline) const {
+WindowFit::Site WindowFit::SiteOf(const Outline& outline, double clearance, const SpokenUnit& unit) const {
+  const RoofSurface* const surface = SurfaceUnder(outline, roofs_);
+  const Plane plane = surface != nullptr ? surface->plane : Plane{outline[0], UnitNormal(outline)};
+  return {outline, surface, plane, clearance, unit};
+}
+
+std::vector<const WindowFit::Place*> WindowFit::PlacesAround(const Outline& outline, double distance) const {
   const auto [least, most] = ReachAlongX(outline);
   const auto [leastY, mostY] = ReachAlongY(outline);
-  std::set<std::int32_t> numbers;
-  const auto end = places_.upper_bound(most);
-  for (auto at = places_.lower_bound(least - widest_); at != end; ++at) {
+  std::vector<const Place*> around;
+  const auto end = places_.upper_bound(most + distance);
+  for (auto at = places_.lower_bound(least - distance - widest_); at != end; ++at) {
     const Place& place = at->second;
-    const bool isNear = place.leastY <= mostY && place.mostY >= leastY;
-    if (isNear && Overlap(outline, place.outline, roofs_.Tolerance())) numbers.insert(place.number);
+    if (place.leastY <= mostY + distance && place.mostY >= leastY - distance) around.push_back(&place);
   }
-  return numbers;
+  return around;
 }
 
-double WindowFit::DistanceTo(std::int32_t number, const Outline& outline) const {
-  const SlopeFrame frame = FrameOf({outline[0], UnitNormal(outline)});
-  return DistanceBetween(RingOf(*OutlineOf(number), frame), BoxOf(outline, frame));
+std::vector<const WindowFit::Place*> WindowFit::PlacesOver(const Outline& outline) const {
+  std::vector<const Place*> over = PlacesAround(outline, 0.0);
+  std::erase_if(over,
+                [&](const Place* place) { return !Overlap(outline, place->outline, roofs_.Tolerance()); });
+  std::sort(over.begin(), over.end(), [](const Place* a, const Place* b) { return a->number < b->number; });
+  return over;
 }
 
-void WindowFit::TellWindows(const Outline& outline, double clearance, const SpokenUnit& unit,
-                            Sentences& misfits) const {
-  const std::set<std::int32_t> overlapped = NumbersOver(outline);
-  if (!overlapped.empty()) misfits.push_back("it overlaps " + NumberWords(overlapped));
-  if (clearance <= 0.0) return;
+// "it overlaps window 3 by 0.310 m", the shortest way along the eaves or the slope that makes it end.
+WindowFit::Sentences WindowFit::WindowsMet(const Site& site) const {
+  const SlopeFrame frame = FrameOf(site.plane);
+  const SlopeBox box = BoxOf(site.outline, frame);
+  Sentences met;
+  std::set<std::int32_t> overlapped;
+  std::vector<SlopeRing> rings;
+  for (const Place* place : PlacesOver(site.outline)) {
+    overlapped.insert(place->number);
+    rings.push_back(RingOf(place->outline, frame));
+  }
+  if (!overlapped.empty()) {
+    met.push_back(fmt::format("it overlaps {} by {}", NumberWords(overlapped),
+                              LengthText(Length(WaysClearOf(rings, box).front()), site.unit)));
+  }
+  if (site.clearance <= 0.0) return met;
   std::set<std::int32_t> near;
-  double least = clearance;
-  for (const std::int32_t number : NumbersOver(Grown(outline, clearance))) {
-    const double distance = overlapped.contains(number) ? clearance : DistanceTo(number, outline);
-    if (distance >= clearance - roofs_.Tolerance()) continue;
-    near.insert(number);
+  double least = site.clearance;
+  for (const Place* place : PlacesOver(Grown(site.outline, site.clearance))) {
+    const double distance = DistanceBetween(RingOf(place->outline, frame), box);
+    if (overlapped.contains(place->number) || distance >= site.clearance - roofs_.Tolerance()) continue;
+    near.insert(place->number);
     least = std::min(least, distance);
   }
   if (!near.empty()) {
-    misfits.push_back(fmt::format("{} {}, {} away", NearerThan(clearance, unit), NumberWords(near),
-                                  LengthText(least, unit)));
+    met.push_back(fmt::format("{} {}, {} away", NearerThan(site.clearance, site.unit), NumberWords(near),
+                              LengthText(least, site.unit)));
   }
+  return met;
 }
 
-// "it passes the ridge by 0.12 m"; over a hole, how much of it.
-std::string WindowFit::Outside(const Outline& outline, double covered, const SpokenUnit& unit) const {
-  const std::string passed = PassedEdges(outline, OutlineUnder(outline, roofs_), unit);
-  if (!passed.empty()) return "it " + passed;
-  return fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT);
+WindowFit::Sentences WindowFit::BoundsPassed(const Site& site, const SurfaceOutline& bounds) {
+  const std::string passed = PassedEdges(site.outline, bounds, site.unit);
+  if (!passed.empty()) return {"it " + passed};
+  if (site.clearance <= 0.0) return {};
+  const std::string near = EdgesWithin(site.clearance, site.outline, bounds, site.unit);
+  return near.empty() ? Sentences() : Sentences{NearerThan(site.clearance, site.unit) + " " + near};
 }
 
-void WindowFit::TellEdges(const Outline& outline, double clearance, const SpokenUnit& unit,
-                          Sentences& misfits) const {
-  const double covered = CoveredPart(outline, roofs_);
-  if (covered <= 0.0) {
-    misfits.push_back("it lies on no roof face" + NearestRoof(outline, roofs_, unit));
-  } else if (!IsWhole(covered)) {
-    misfits.push_back(Outside(outline, covered, unit));
-  } else if (clearance > 0.0) {
-    const std::string edges = EdgesWithin(clearance, outline, OutlineUnder(outline, roofs_), unit);
-    if (!edges.empty()) misfits.push_back(NearerThan(clearance, unit) + " " + edges);
-  }
-  const double unevenness = UnevennessIn(outline, roofs_) / roofs_.Tolerance();
+WindowFit::Sentences WindowFit::EdgesPassed(const Site& site) const {
+  const double covered = CoveredPart(site.outline, roofs_);
+  if (covered <= 0.0) return {"it lies on no roof face" + NearestRoof(site.outline, roofs_, site.unit)};
+  Sentences passed;
+  if (!IsWhole(covered) || site.clearance > 0.0)
+    passed = BoundsPassed(site, teskarlt::OutlineOf(*site.surface, roofs_.Faces(), roofs_.Tolerance()));
+  if (!IsWhole(covered) && passed.empty())  // as over a hole
+    passed.push_back(fmt::format("{:.1f} % of it lie outside its roof face", (1.0 - covered) * PERCENT));
+  const double unevenness = UnevennessIn(site.outline, roofs_) / roofs_.Tolerance();
   if (unevenness > ROOF_UNEVENNESS)
-    misfits.push_back(fmt::format("its roof is uneven there, {:.0f} mm off its plane", unevenness));
-}
-
-void WindowFit::TellBounds(const Outline& outline, const SurfaceOutline& bounds, double clearance,
-                           const SpokenUnit& unit, Sentences& misfits) {
-  const std::string passed = PassedEdges(outline, bounds, unit);
-  const std::string near = clearance > 0.0 ? EdgesWithin(clearance, outline, bounds, unit) : std::string();
-  if (!passed.empty()) {
-    misfits.push_back("it " + passed);
-  } else if (!near.empty()) {
-    misfits.push_back(NearerThan(clearance, unit) + " " + near);
-  }
+    passed.push_back(fmt::format("its roof is uneven there, {:.0f} mm off its plane", unevenness));
+  return passed;
 }
 
 const std::vector<Obstacle>& WindowFit::ObstaclesOf(const RoofSurface& surface) const {
@@ -313,62 +316,56 @@ const std::vector<Obstacle>& WindowFit::ObstaclesOf(const RoofSurface& surface) 
       .first->second;
 }
 
-void WindowFit::TellObstacles(const Outline& outline, const FitRules& rules, const SpokenUnit& unit,
-                              Sentences& misfits) const {
-  const double clearance = rules.clearance * unit.perMetre;
-  const RoofSurface* const surface = SurfaceUnder(outline, roofs_);
-  if (surface == nullptr && !rules.isPlaneGiven && !roofs_.IsEmpty()) return;  // its roof was taken away
-  const Plane plane = surface != nullptr ? surface->plane : Plane{outline[0], UnitNormal(outline)};
-  const double tolerance = roofs_.Tolerance();
-  const std::vector<Obstacle> around =
-      surface != nullptr ? std::vector<Obstacle>()
-                         : ObstaclesOn(plane, {}, PlanBoxOf(outline, AROUND * unit.perMetre + clearance),
-                                       ROOF_UNEVENNESS * tolerance, roofs_);
-  const std::vector<Obstacle>& obstacles = surface != nullptr ? ObstaclesOf(*surface) : around;
-  const SlopeFrame frame = FrameOf(plane);
-  Sentences met = ObstacleWords(obstacles, BoxOf(outline, frame), clearance, tolerance, unit);
-  if (met.empty()) return;
-  if (const auto way = WayToFreePlace(outline, frame, obstacles, clearance, unit.perMetre))
-    met.back() += fmt::format("; the nearest free place is {}", WayWords(*way, unit));
-  std::move(met.begin(), met.end(), std::back_inserter(misfits));
+std::vector<Obstacle> WindowFit::ObstaclesAt(const Site& site) const {
+  if (site.surface != nullptr) return ObstaclesOf(*site.surface);
+  const double around = AROUND * site.unit.perMetre + site.clearance;
+  return ObstaclesOn(site.plane, {}, PlanBoxOf(site.outline, around), ROOF_UNEVENNESS * roofs_.Tolerance(),
+                     roofs_);
 }
 
-std::optional<SlopePoint> WindowFit::WayToFreePlace(const Outline& outline, const SlopeFrame& frame,
-                                                    const std::vector<Obstacle>& obstacles, double clearance,
-                                                    double perMetre) const {
-  const double tolerance = roofs_.Tolerance();
+std::string WindowFit::FreePlace(const Site& site, const std::vector<Obstacle>& obstacles) const {
+  const SlopeFrame frame = FrameOf(site.plane);
+  const double reach = (site.surface != nullptr ? FARTHEST_FREE_PLACE : AROUND) * site.unit.perMetre;
   std::vector<SlopeRing> rings;
   rings.reserve(obstacles.size());
   for (const Obstacle& obstacle : obstacles)
     rings.push_back(obstacle.footprint);
-  for (const auto& [x, place] : places_) {
-    if (!LiesInPlane(place.outline, outline[0], UnitNormal(outline), tolerance)) continue;
-    rings.push_back(RingOf(place.outline, frame));
+  for (const Place* place : PlacesAround(site.outline, reach + site.clearance)) {
+    if (LiesInPlane(place->outline, site.outline[0], UnitNormal(site.outline), roofs_.Tolerance()))
+      rings.push_back(RingOf(place->outline, frame));
   }
-  const bool isBounded = SurfaceUnder(outline, roofs_) != nullptr;
-  for (const SlopePoint& way : WaysClearOf(rings, Grown(BoxOf(outline, frame), clearance))) {
-    Outline moved = Grown(outline, clearance);
+  const Outline wanted = Grown(site.outline, site.clearance);
+  for (const SlopePoint& way : WaysClearOf(rings, BoxOf(wanted, frame))) {
+    Outline moved = wanted;
     for (Vec3& corner : moved)
       corner = Moved(Moved(corner, frame.across, way.across), frame.up, way.up);
-    if (isBounded ? IsWhole(CoveredPart(moved, roofs_)) : Length(way) <= AROUND * perMetre) return way;
+    if (Length(way) <= reach && (site.surface == nullptr || IsWhole(CoveredPart(moved, roofs_))))
+      return "; the nearest free place is " + WayWords(way, site.unit);
   }
-  return std::nullopt;
+  return {};
 }
 
 std::vector<std::string> WindowFit::Misfits(const WindowParams& record, const Outline& outline,
                                             const FitRules& rules) const {
   const SpokenUnit unit{static_cast<double>(record.unitFactor), rules.lengths};
-  const double clearance = rules.clearance * unit.perMetre;
+  const Site site = SiteOf(outline, rules.clearance * unit.perMetre, unit);
+  Sentences met = WindowsMet(site);
+  if (HasOwnSecondPlane(record, roofs_.Tolerance())) return met;
+  const bool hasRoof = site.surface != nullptr || rules.isPlaneGiven || roofs_.IsEmpty();
   Sentences misfits;
-  TellWindows(outline, clearance, unit, misfits);
-  if (HasOwnSecondPlane(record, roofs_.Tolerance())) return misfits;
-  const bool hasFaces = !rules.isPlaneGiven || SurfaceUnder(outline, roofs_) != nullptr;
-  if (rules.bounds && !hasFaces) {
-    TellBounds(outline, *rules.bounds, clearance, unit, misfits);
-  } else if (hasFaces && !roofs_.IsEmpty()) {
-    TellEdges(outline, clearance, unit, misfits);
+  if (site.surface != nullptr || !hasRoof) {
+    misfits = EdgesPassed(site);
+  } else if (rules.bounds) {
+    misfits = BoundsPassed(site, *rules.bounds);
   }
-  TellObstacles(outline, rules, unit, misfits);
+  if (hasRoof) {
+    const std::vector<Obstacle> obstacles = ObstaclesAt(site);
+    Sentences stand = ObstacleWords(obstacles, BoxOf(outline, FrameOf(site.plane)), site.clearance,
+                                    roofs_.Tolerance(), unit);
+    std::move(stand.begin(), stand.end(), std::back_inserter(met));
+    if (!met.empty()) met.back() += FreePlace(site, obstacles);
+  }
+  std::move(met.begin(), met.end(), std::back_inserter(misfits));
   return misfits;
 }
 

@@ -74,10 +74,11 @@ class WindowFit {
   // The outline of a window that was added; none when there is no such number.
   std::optional<Outline> OutlineOf(std::int32_t number) const;
 
-  // What is wrong with a window that is to come or stands there, for people: "it overlaps window 3", "it
-  // passes the ridge by 0.120 m", "it meets face 2F of layer CHIMNEY by 0.310 m; the nearest free place is
-  // 0.400 m to the left". Of a window with a second plane of its own only
-  // the windows that it overlaps are told; roof faces have no part in it where the drawing has none.
+  // What is wrong with a window that is to come or stands there, for people: "it passes the ridge by 0.120
+  // m", "it overlaps window 3 by 0.200 m", "it meets face 2F of layer CHIMNEY by 0.310 m; the nearest free
+  // place is 0.400 m to the left", which is told of places up to 10 m away. Of a window with a second plane
+  // of its own only the windows that it overlaps are told; roof faces have no part in it where the drawing
+  // has none.
   std::vector<std::string> Misfits(const brevanta::WindowParams& record, const Outline& outline,
                                    const FitRules& rules = {}) const;
 
@@ -89,24 +90,31 @@ class WindowFit {
     double mostY;
   };
 
+  // Where a window is to be, in the spoken unit.
+  struct Site {
+    Outline outline;
+    const RoofSurface* surface;  // in whose plane it lies; null for none
+    Plane plane;                 // of the surface, or else of the outline
+    double clearance;
+    SpokenUnit unit;
+  };
+
   using Sentences = std::vector<std::string>;
 
-  std::set<std::int32_t> NumbersOver(const Outline& outline) const;
-  void TellWindows(const Outline& outline, double clearance, const SpokenUnit& unit,
-                   Sentences& misfits) const;
-  void TellEdges(const Outline& outline, double clearance, const SpokenUnit& unit, Sentences& misfits) const;
-  static void TellBounds(const Outline& outline, const SurfaceOutline& bounds, double clearance,
-                         const SpokenUnit& unit, Sentences& misfits);
-  void TellObstacles(const Outline& outline, const FitRules& rules, const SpokenUnit& unit,
-                     Sentences& misfits) const;
-  // Between the outline and a window that was added, which lies in its plane.
-  double DistanceTo(std::int32_t number, const Outline& outline) const;
-  std::string Outside(const Outline& outline, double covered, const SpokenUnit& unit) const;
+  Site SiteOf(const Outline& outline, double clearance, const SpokenUnit& unit) const;
+  // The windows that cover a piece of the outline, by their numbers.
+  std::vector<const Place*> PlacesOver(const Outline& outline) const;
+  // Those that lie within that distance of the outline along x and y, and maybe some more.
+  std::vector<const Place*> PlacesAround(const Outline& outline, double distance) const;
+  Sentences WindowsMet(const Site& site) const;
+  Sentences EdgesPassed(const Site& site) const;
+  static Sentences BoundsPassed(const Site& site, const SurfaceOutline& bounds);
   const std::vector<Obstacle>& ObstaclesOf(const RoofSurface& surface) const;
-  // The shortest way along the eaves or the slope to a place on the roof where nothing is met.
-  std::optional<SlopePoint> WayToFreePlace(const Outline& outline, const SlopeFrame& frame,
-                                           const std::vector<Obstacle>& obstacles, double clearance,
-                                           double perMetre) const;
+  // Those of the surface; without one, those around the outline on its plane.
+  std::vector<Obstacle> ObstaclesAt(const Site& site) const;
+  // "; the nearest free place is 0.400 m to the left": the shortest way along the eaves or the slope to a
+  // place on the roof where nothing is met; empty for none.
+  std::string FreePlace(const Site& site, const std::vector<Obstacle>& obstacles) const;
 
   const Roofs& roofs_;
   std::multimap<double, Place> places_;                                              // by the least x

@@ -140,7 +140,8 @@ TEST(WindowFit, NamesTheWindowsThatAreOverlapped) {
   for (int number = 1; number <= 4; ++number)
     fit.Add(number, OutlineOf(Window(2.0 * number, 2)));
   EXPECT_THAT(fit.Misfits(Window(3, 2), OutlineOf(Window(3, 2))), IsEmpty());
-  EXPECT_THAT(fit.Misfits(Window(6.1, 3), OutlineOf(Window(6.1, 3))), ElementsAre("it overlaps window 3"));
+  EXPECT_THAT(fit.Misfits(Window(6.1, 3), OutlineOf(Window(6.1, 3))),
+              ElementsAre("it overlaps window 3 by 0.750 m; the nearest free place is 0.750 m up the slope"));
 }
 
 TEST(WindowFit, RemovedWindowIsNotMet) {
@@ -152,7 +153,8 @@ TEST(WindowFit, RemovedWindowIsNotMet) {
   fit.Remove(1, place);
   fit.Remove(7, place);
   EXPECT_FALSE(fit.OutlineOf(1));
-  EXPECT_THAT(fit.Misfits(Window(3, 2), place), ElementsAre("it overlaps window 2"));
+  EXPECT_THAT(fit.Misfits(Window(3, 2), place),
+              ElementsAre("it overlaps window 2 by 1.000 m; the nearest free place is 1.000 m to the left"));
 }
 
 TEST(WindowFit, WideWindowIsFoundFromItsFarEnd) {
@@ -163,7 +165,8 @@ TEST(WindowFit, WideWindowIsFoundFromItsFarEnd) {
   fit.Add(1, OutlineOf(wide));
   for (int number = 2; number <= 5; ++number)
     fit.Add(number, OutlineOf(Window(2.0 * number, 8)));
-  EXPECT_THAT(fit.Misfits(Window(24, 2), OutlineOf(Window(24, 2))), ElementsAre("it overlaps window 1"));
+  EXPECT_THAT(fit.Misfits(Window(24, 2), OutlineOf(Window(24, 2))),
+              ElementsAre("it overlaps window 1 by 1.500 m; the nearest free place is 1.500 m to the right"));
 }
 
 // A wall across the slope at `x` metres, 1 m long from y on, that rises 2 m above it.
@@ -209,8 +212,23 @@ TEST(WindowFit, ClearanceIsKeptToObstaclesEdgesAndWindows) {
   fit.Add(1, OutlineOf(Window(5, 2)));
   const WindowParams beside = Window(6.1, 2);
   EXPECT_THAT(fit.Misfits(beside, OutlineOf(beside), {.clearance = 0.2}),
-              ElementsAre("it comes nearer than its clearance of 0.200 m to window 1, 0.100 m away"));
+              ElementsAre("it comes nearer than its clearance of 0.200 m to window 1, 0.100 m away; "
+                          "the nearest free place is 0.100 m to the right"));
   EXPECT_THAT(fit.Misfits(beside, OutlineOf(beside), {.clearance = 0.1}), IsEmpty());
+}
+
+// The one that stands there goes from 10 to 50 m along the eaves and from 1.25 to 12.25 m up the slope.
+TEST(WindowFit, FreePlaceMoreThanTenMetresAwayIsNotTold) {
+  const Roofs roofs = Slope(60);
+  WindowFit fit(roofs);
+  WindowParams wide = Window(30, 1);
+  wide.width = 40;
+  wide.length = 11;
+  fit.Add(1, OutlineOf(wide));
+  EXPECT_THAT(fit.Misfits(Window(30, 4), OutlineOf(Window(30, 4))),
+              ElementsAre("it overlaps window 1 by 5.750 m"));
+  EXPECT_THAT(fit.Misfits(Window(13, 4), OutlineOf(Window(13, 4))),
+              ElementsAre("it overlaps window 1 by 3.500 m; the nearest free place is 3.500 m to the left"));
 }
 
 TEST(WindowFit, RoofThatWasRaisedIsNamedAndNotMet) {

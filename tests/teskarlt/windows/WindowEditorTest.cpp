@@ -223,8 +223,11 @@ TEST_F(WindowEditorTest, WindowsThatBecomeTooWideOverlapEachOther) {
   order.settings = {{"width", "2.8"}};  // they stand 2.5 m apart
   const auto edited = WindowEditor(module, drawing, Millimetres(), {.numbers = {{1, 3}}}, false).Edit(order);
   EXPECT_TRUE(edited[0].placed.misfits.empty());
-  EXPECT_THAT(edited[1].placed.misfits, ElementsAre("it overlaps window 1"));
-  EXPECT_THAT(edited[2].placed.misfits, ElementsAre("it overlaps window 2"));
+  EXPECT_THAT(edited[1].placed.misfits,
+              ElementsAre("it overlaps window 1 by 0.300 m; the nearest free place is 0.300 m to the right"));
+  EXPECT_THAT(
+      edited[2].placed.misfits,
+      ElementsAre("it overlaps window 2 by 0.300 m; the nearest free place is 1.400 m down the slope"));
 }
 
 TEST_F(WindowEditorTest, SeveralWindowsDoNotGoToOnePoint) {

@@ -178,7 +178,8 @@ TEST_F(WindowInserterTest, WindowsOfARowKeepTheClearanceToEachOther) {
   const auto windows = inserter.InsertAll(order);
   EXPECT_THAT(windows[0].misfits, ElementsAre());
   EXPECT_THAT(windows[2].misfits,
-              ElementsAre("it comes nearer than its clearance of 0.200 m to window 2, 0.100 m away"));
+              ElementsAre("it comes nearer than its clearance of 0.200 m to window 2, 0.100 m away; "
+                          "the nearest free place is 0.100 m to the right"));
   order.isStrict = true;
   order.at = PlanPoint{1000, 4500, ""};
   EXPECT_NE(RefusalOf([&] { inserter.InsertAll(order); }), "");
