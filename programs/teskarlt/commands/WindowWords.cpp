@@ -57,9 +57,11 @@ void PrintPlace(const PlacedWindow& window, const LengthWords& words) {
              words.Cell(recorded.upper));
 }
 
-void PrintEntities(const WindowOptions& options, const PlacedWindow& window) {
-  fmt::print("{} faces and {} lines {}.\n", window.faces, window.lines,
-             options.target.Ending("added", "be added"));
+// What became of the window's entities; of a changed window, others have taken their places.
+void PrintEntities(const WindowOptions& options, const PlacedWindow& window, bool isChange = false) {
+  fmt::print(
+      "{} faces and {} lines {}.\n", window.faces, window.lines,
+      isChange ? options.target.Ending("redrawn", "be redrawn") : options.target.Ending("added", "be added"));
 }
 
 // Nothing drawn told the skirt's height, and the window now has one.
@@ -250,7 +252,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Edi
   }
   PrintPlace(window.placed, WordsOf(options));
   if (window.isRewritten) {
-    PrintEntities(options, window.placed);
+    PrintEntities(options, window.placed, true);
     PrintChanges(window, before, drawing, WordsOf(options));
   } else {
     fmt::print("Nothing changes: it stands there as ordered; {}.\n", options.target.UnchangedEnding());

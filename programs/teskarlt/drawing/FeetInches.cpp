@@ -1,6 +1,7 @@
-// FeetInches.cpp - lengths in feet and inches, out of texts and into them.
+// FeetInches.cpp - lengths out of texts, and feet and inches into them.
 #include "teskarlt/drawing/FeetInches.h"
 
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <numeric>
@@ -17,6 +18,13 @@ constexpr char FOOT_MARK = '\'';
 constexpr char INCH_MARK = '"';
 constexpr std::int64_t INCHES_PER_FOOT = 12;
 constexpr std::string_view DIGITS = "0123456789";
+
+struct LengthUnit {
+  std::string_view name;
+  double metres;
+};
+constexpr std::array UNITS = {LengthUnit{"mm", 0.001}, LengthUnit{"cm", 0.01}, LengthUnit{METRES, 1.0},
+                              LengthUnit{"in", METRES_PER_INCH}, LengthUnit{FEET, METRES_PER_FOOT}};
 
 // A number without a sign that fills the text: "4", "4.5", "1/2", "4 1/2", "4-1/2".
 std::optional<double> ParseAmount(std::string_view text) {
@@ -45,7 +53,8 @@ std::optional<double> ParseInchesBehindFeet(std::string_view text) {
   text = dxf::Trimmed(text);
   if (text.empty()) return 0.0;
   if (text.front() == '-') text.remove_prefix(1);
-  return ParseInches(text);
+  const std::optional<double> inches = ParseInches(text);
+  return inches && *inches < static_cast<double>(INCHES_PER_FOOT) ? inches : std::nullopt;
 }
 
 }  // namespace
@@ -64,8 +73,18 @@ std::optional<double> ParseFeetInches(std::string_view text) {
   return isNegative ? -metres : metres;
 }
 
+std::optional<double> ParseLengthWithUnit(std::string_view text) {
+  text = dxf::Trimmed(text);
+  for (const LengthUnit& unit : UNITS) {
+    if (!text.ends_with(unit.name)) continue;
+    const std::optional<double> number = dxf::ParseReal(text.substr(0, text.size() - unit.name.size()));
+    if (number) return *number * unit.metres;
+  }
+  return ParseFeetInches(text);
+}
+
 std::optional<double> ParseLengthIn(std::string_view text, LengthStyle style) {
-  if (const std::optional<double> metres = ParseFeetInches(text)) return metres;
+  if (const std::optional<double> metres = ParseLengthWithUnit(text)) return metres;
   const std::optional<double> number = dxf::ParseReal(text);
   return number && style == LengthStyle::FeetAndInches ? *number * METRES_PER_FOOT : number;
 }

@@ -1,4 +1,4 @@
-// FeetInches.h - lengths as people who count in feet and inches write them.
+// FeetInches.h - lengths as people write them: in feet and inches, or as a number with its unit.
 #pragma once
 
 #include <optional>
@@ -20,6 +20,9 @@ constexpr double METRES_PER_FOOT = 0.3048;
 // The length in metres of 5'-4 1/2", 5' 4.5", 64.5", 64 1/2", 5.375', 1/2" and the like, with a minus sign in
 // front or none; none where the text has neither of the marks ' and ", or is no such length.
 std::optional<double> ParseFeetInches(std::string_view text);
+
+// The same, and of a number with its unit behind it: 36in, 3ft, 762mm, 76.2 cm, 0.762 m.
+std::optional<double> ParseLengthWithUnit(std::string_view text);
 
 // The length in metres of such a text, or of a plain number of what the style counts; none of anything else.
 std::optional<double> ParseLengthIn(std::string_view text, LengthStyle style);

@@ -18,7 +18,7 @@ namespace {
 // A length in metres, as the dialog reads it.
 std::string LengthText(const FieldSetting& setting) {
   const std::string& value = setting.value;
-  if (const auto metres = ParseFeetInches(value)) return fmt::format("{}", *metres);
+  if (const auto metres = ParseLengthWithUnit(value)) return fmt::format("{}", *metres);
   if (value.find_first_of("'\"") != std::string::npos) {
     throw Error(fmt::format("--set {}={}: this is no length in feet and inches; they are written 5'-4 1/2\", "
                             "64.5\" or 5.375'",

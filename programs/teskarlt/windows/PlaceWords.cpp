@@ -7,6 +7,8 @@
 
 #include <fmt/format.h>
 
+#include "geometry/Matrix4.h"
+#include "geometry/Trigonometry.h"
 #include "inc/DialogServices.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -63,11 +65,21 @@ void ApplyRidge(const PlaceWord& word, const std::string& text, WindowOrder& ord
   order.planRoof.ridge = Edge(word, text, order);
 }
 
+// Degrees of "35", or of "8:12", rise to run; none of anything else.
+std::optional<double> ParsePitch(std::string_view text) {
+  const std::size_t colon = text.find(':');
+  if (colon == std::string_view::npos) return dxf::ParseReal(text);
+  const std::optional<double> rise = dxf::ParseReal(text.substr(0, colon));
+  const std::optional<double> run = dxf::ParseReal(text.substr(colon + 1));
+  if (!rise || !run || *run <= 0) return std::nullopt;
+  return geometry::RadToDeg(geometry::ArcTangent(*rise / *run));
+}
+
 void ApplyPitch(const PlaceWord& word, const std::string& text, WindowOrder& order) {
   constexpr double STEEPEST = 85.0;
-  const std::optional<double> pitch = dxf::ParseReal(text);
+  const std::optional<double> pitch = ParsePitch(text);
   if (!pitch || *pitch < 0 || *pitch > STEEPEST)
-    Refuse(word, text, "a pitch is a number of degrees from 0 to 85");
+    Refuse(word, text, "a pitch is a number of degrees from 0 to 85, or rise to run, as 8:12");
   order.planRoof.pitch = *pitch;
 }
 
@@ -134,7 +146,7 @@ constexpr std::array PLAN_ROOF_WORDS = {
               ApplyEaves},
     PlaceWord{"ridge", 2, "X,Y", "its ridge in place of the eaves; it lies to the left of it, too",
               ApplyRidge},
-    PlaceWord{"pitch", 1, "DEGREES", "its pitch", ApplyPitch},
+    PlaceWord{"pitch", 1, "DEGREES", "its pitch; or rise to run, as 8:12", ApplyPitch},
     PlaceWord{"eaves-height", 1, "LENGTH", "the height of the eaves", ApplyHeight<&PlanRoof::eavesHeight>},
     PlaceWord{"ridge-height", 1, "LENGTH", "the height of the ridge", ApplyHeight<&PlanRoof::ridgeHeight>},
     PlaceWord{"rises-to", 1, "X,Y", "a point on the side to which it rises", ApplyRisesTo},

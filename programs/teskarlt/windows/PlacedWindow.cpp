@@ -20,7 +20,10 @@ PlacedWindow PlacedBy(const CommandOutcome& outcome, const WorkingUnit& unit, co
 }
 
 FitRules RulesFor(const PlacedWindow& window, const WindowOrder& order) {
-  return {.clearance = order.clearance, .isPlaneGiven = !window.face, .lengths = order.lengths};
+  return {.clearance = order.clearance,
+          .isPlaneGiven = !window.face,
+          .bounds = window.bounds,
+          .lengths = order.lengths};
 }
 
 void RefuseMisfits(const std::vector<std::string>& misfits) {

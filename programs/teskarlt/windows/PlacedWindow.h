@@ -22,11 +22,12 @@ struct FaceName {
 };
 
 struct PlacedWindow {
-  brevanta::WindowParams record{};  // as the dialog confirmed it
-  WorkingUnit unit;                 // of its points
-  Outline outline{};                // of the frame, in this unit
-  std::optional<FaceName> face;     // none where the user gave the plane
-  std::size_t faces = 0;            // entities that came into the drawing
+  brevanta::WindowParams record{};       // as the dialog confirmed it
+  WorkingUnit unit;                      // of its points
+  Outline outline{};                     // of the frame, in this unit
+  std::optional<FaceName> face;          // none where the user gave the plane
+  std::optional<SurfaceOutline> bounds;  // of a roof that is only drawn in plan
+  std::size_t faces = 0;                 // entities that came into the drawing
   std::size_t lines = 0;
   std::set<std::string> layers;      // of these entities, UTF-8
   std::vector<std::string> misfits;  // why it does not fit, as WindowFit tells it

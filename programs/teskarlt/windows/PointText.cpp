@@ -50,8 +50,9 @@ PlanPoint ParsePlanPoint(const char* option, const std::string& text) {
 
 double ParseLength(const char* option, const std::string& text, LengthStyle style) {
   if (const std::optional<double> metres = ParseLengthIn(text, style)) return *metres;
-  const char* const counted =
-      style == LengthStyle::Metres ? "metres" : "feet, or feet and inches with their marks, as 5'-4 1/2\"";
+  const char* const counted = style == LengthStyle::Metres
+                                  ? "metres, or has its unit behind it, as 30cm or 12in"
+                                  : "feet, or feet and inches with their marks, as 5'-4 1/2\"";
   throw Error(
       fmt::format("{} {}: a length is a finite number of {}{}", option, text, counted, HintAt(text, "0.5")),
       {.value = text});

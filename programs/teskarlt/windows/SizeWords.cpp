@@ -53,11 +53,12 @@ void RefuseOtherUnits(const FieldSetting& setting) {
       std::find_if(SIZES.begin(), SIZES.end(), [&](const Size& s) { return s.field == setting.field; });
   const std::optional<double> value = dxf::ParseReal(setting.value);
   if (size == SIZES.end() || !value || *value < size->most) return;
-  const double meant =
-      *value / (*value >= size->leastMillimetres ? MILLIMETRES_A_METRE : CENTIMETRES_A_METRE);
-  throw Error(
-      fmt::format("--set {}={}: lengths are metres, did you mean {:g}?", setting.field, setting.value, meant),
-      {.value = setting.value});
+  const bool isInMillimetres = *value >= size->leastMillimetres;
+  const double meant = *value / (isInMillimetres ? MILLIMETRES_A_METRE : CENTIMETRES_A_METRE);
+  const std::string inInches = isInMillimetres ? std::string() : fmt::format(", or {}in", setting.value);
+  throw Error(fmt::format("--set {}={}: lengths are metres, did you mean {:g}{}?", setting.field,
+                          setting.value, meant, inInches),
+              {.value = setting.value});
 }
 
 }  // namespace teskarlt

@@ -154,6 +154,7 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
   const dxf::EditMark before = Work().drawing.Mark();
   EditedWindow edited;
   edited.placed = PlacedBy(EditOnto(roof, request, order.lengths), Work().unit, roof);
+  edited.placed.bounds = BoundsOf(order, roof, Work().roofs);
   const WindowParams& after = edited.placed.record;
   edited.changes = ChangedFields(record, after);
   edited.isRewritten = !StandsAs(window, after);

@@ -82,9 +82,8 @@ PlacedWindow WindowInserter::Draw(const WindowOrder& order, const RoofChoice& ro
   WindowRequest request = RequestFor(order, roof, numbers);
   if (IsGiven(order.placing)) request.point = FindPlace(order, roof, request);
   PlacedWindow window = PlacedBy(InsertOnto(roof, request, order.lengths), Work().unit, roof);
-  FitRules rules = RulesFor(window, order);
-  rules.bounds = BoundsOf(order, roof, Work().roofs);
-  window.misfits = site_.Fit().Misfits(window.record, window.outline, rules);
+  window.bounds = BoundsOf(order, roof, Work().roofs);
+  window.misfits = site_.Fit().Misfits(window.record, window.outline, RulesFor(window, order));
   if (order.isStrict && !window.misfits.empty()) RefuseMisfits(window.misfits);
   return window;
 }

@@ -25,8 +25,22 @@ TEST(ParseFeetInches, LeavesWhatHasNoMark) {
 }
 
 TEST(ParseFeetInches, RefusesWhatIsNoLength) {
-  for (const char* text : {"'", "\"", "5'x\"", "5'4'", "1/0\"", "/2\"", "--3\"", "5' 4\"\"", "1e3'", "5'-"})
+  for (const char* text : {"'", "\"", "5'x\"", "5'4'", "1/0\"", "/2\"", "--3\"", "5' 4\"\"", "1e3'", "5'-", "3'-14\""})
     EXPECT_EQ(ParseFeetInches(text), std::nullopt) << text;
+}
+
+TEST(ParseLengthWithUnit, TakesANumberWithItsUnit) {
+  EXPECT_EQ(ParseLengthWithUnit("36in"), 36 * 0.0254);
+  EXPECT_EQ(ParseLengthWithUnit("3 ft"), 3 * 0.3048);
+  EXPECT_EQ(ParseLengthWithUnit(" 762mm"), 762 * 0.001);
+  EXPECT_EQ(ParseLengthWithUnit("76.2 cm"), 76.2 * 0.01);
+  EXPECT_EQ(ParseLengthWithUnit("-0.762m"), -0.762);
+  EXPECT_EQ(ParseLengthWithUnit("5'-4 1/2\""), 64.5 * 0.0254);
+}
+
+TEST(ParseLengthWithUnit, LeavesWhatHasNoUnitOrNoNumber) {
+  for (const char* text : {"36", "in", "mm", "36 yd", "3x6in", "m36", "infin", "1/2in"})
+    EXPECT_EQ(ParseLengthWithUnit(text), std::nullopt) << text;
 }
 
 TEST(FeetInchesText, WritesFeetInchesAndTheShortestFraction) {

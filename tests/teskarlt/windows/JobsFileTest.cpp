@@ -105,8 +105,10 @@ TEST(ParseJob, RoofOfAJobReplacesTheEdgesOfTheDefaults) {
 }
 
 TEST(ParseJob, WordsThatCannotBeMeantAreRefusedByName) {
-  EXPECT_EQ(Refusal(R"({"pitch": 90})"), "--pitch 90: a pitch is a number of degrees from 0 to 85");
-  EXPECT_EQ(Refusal(R"({"sill": "high"})"), "--sill high: a length is a finite number of metres");
+  EXPECT_EQ(Refusal(R"({"pitch": 90})"),
+            "--pitch 90: a pitch is a number of degrees from 0 to 85, or rise to run, as 8:12");
+  EXPECT_EQ(Refusal(R"({"sill": "high"})"),
+            "--sill high: a length is a finite number of metres, or has its unit behind it, as 30cm or 12in");
   EXPECT_EQ(Refusal(R"({"between": [3]})"), "--between 3: it takes the numbers of two windows");
   EXPECT_EQ(Refusal(R"({"align": 1.5})"), "--align 1.5: a window is named by its number");
   EXPECT_EQ(Refusal(R"({"snap": 0})"), "--snap 0: a step is more than 0");

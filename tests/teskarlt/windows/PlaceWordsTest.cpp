@@ -35,7 +35,9 @@ TEST_P(BadPlaceWord, IsRefusedByItsName) {
 INSTANTIATE_TEST_SUITE_P(
     Words, BadPlaceWord,
     testing::Values(BadWord{"eaves", "0,0", "--eaves 0,0: an edge has two points, X,Y X,Y, in drawing units"},
-                    BadWord{"pitch", "95", "--pitch 95: a pitch is a number of degrees from 0 to 85"},
+                    BadWord{
+                        "pitch", "95",
+                        "--pitch 95: a pitch is a number of degrees from 0 to 85, or rise to run, as 8:12"},
                     BadWord{"from-eaves", "-1", "--from-eaves -1: a distance is not negative"},
                     BadWord{"centre", "yes", "--centre yes: it is said or not: true or false"},
                     BadWord{"between", "1", "--between 1: it takes the numbers of two windows"},
@@ -63,6 +65,14 @@ TEST(PlaceWords, WordsOfAPlaceGoIntoTheOrder) {
   EXPECT_EQ(OrderWith("edge", "axis").placing.edge, AlignedEdge::Axis);
   EXPECT_EQ(OrderWith("snap", "0.05").placing.snap, 0.05);
   EXPECT_TRUE(OrderWith("centre", "1").placing.isCentred);
+}
+
+TEST(PlaceWords, PitchIsInDegreesOrRiseToRun) {
+  EXPECT_EQ(OrderWith("pitch", "35").planRoof.pitch, 35);
+  EXPECT_NEAR(*OrderWith("pitch", "12:12").planRoof.pitch, 45, 1e-12);
+  EXPECT_EQ(RefusalOf([] { OrderWith("pitch", "8:0"); }),
+            "--pitch 8:0: a pitch is a number of degrees from 0 to 85, or rise to run, as 8:12");
+  EXPECT_NEAR(*OrderWith("pitch", "8:12").planRoof.pitch, 33.690067525979785, 1e-12);
 }
 
 TEST(PlaceWords, UnknownWordIsNone) {

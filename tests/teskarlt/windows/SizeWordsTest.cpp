@@ -13,9 +13,10 @@ std::string Refusal(const FieldSetting& setting) {
 
 TEST(RefuseOtherUnits, ProposesTheSizeInMetres) {
   EXPECT_EQ(Refusal({"width", "780"}), "--set width=780: lengths are metres, did you mean 0.78?");
-  EXPECT_EQ(Refusal({"width", "78"}), "--set width=78: lengths are metres, did you mean 0.78?");
+  EXPECT_EQ(Refusal({"width", "78"}), "--set width=78: lengths are metres, did you mean 0.78, or 78in?");
   EXPECT_EQ(Refusal({"length", "1180"}), "--set length=1180: lengths are metres, did you mean 1.18?");
-  EXPECT_EQ(Refusal({"frameWidth", "8"}), "--set frameWidth=8: lengths are metres, did you mean 0.08?");
+  EXPECT_EQ(Refusal({"frameWidth", "8"}),
+            "--set frameWidth=8: lengths are metres, did you mean 0.08, or 8in?");
   EXPECT_EQ(Refusal({"frameDepth", "80"}), "--set frameDepth=80: lengths are metres, did you mean 0.08?");
 }
 

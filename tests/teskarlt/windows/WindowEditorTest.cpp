@@ -194,6 +194,16 @@ TEST_F(WindowEditorTest, StrictOrderRefusesAnOverlapAndLeavesTheDrawing) {
   EXPECT_FALSE(drawing.IsChanged());
 }
 
+// The eaves lie away from the house's roof; the roof begins at the ends of them, at x = 0 and 8000.
+TEST_F(WindowEditorTest, WindowThatGoesOntoARoofInPlanKnowsItsEdges) {
+  WindowOrder order;
+  order.at = PlanPoint{300, 22000, ""};
+  order.planRoof.eaves = {{0, 20000, ""}, {8000, 20000, ""}};
+  order.planRoof.pitch = 45;
+  order.planRoof.eavesHeight = 2.5;
+  EXPECT_THAT(EditedBy(order).placed.misfits, ElementsAre("it passes the left verge by 0.170 m"));
+}
+
 TEST_F(WindowEditorTest, AllSelectedWindowsAreChanged) {
   drawing = HouseWithThree(module);
   WindowOrder order;
