@@ -25,7 +25,8 @@ TEST(ParseFeetInches, LeavesWhatHasNoMark) {
 }
 
 TEST(ParseFeetInches, RefusesWhatIsNoLength) {
-  for (const char* text : {"'", "\"", "5'x\"", "5'4'", "1/0\"", "/2\"", "--3\"", "5' 4\"\"", "1e3'", "5'-", "3'-14\""})
+  for (const char* text :
+       {"'", "\"", "5'x\"", "5'4'", "1/0\"", "/2\"", "--3\"", "5' 4\"\"", "1e3'", "5'-", "3'-14\""})
     EXPECT_EQ(ParseFeetInches(text), std::nullopt) << text;
 }
 
