@@ -8,6 +8,7 @@
 
 #include "dialog/Refusal.h"
 #include "window/Choices.h"
+#include "window/OpeningCode.h"
 
 namespace brevanta {
 
@@ -74,42 +75,16 @@ void CheckChoices(const WindowParams& record) {
                std::numeric_limits<std::int16_t>::max());
 }
 
-// Takes one of the letters off the front of the code; false when none stands there.
-bool TakeOneOf(std::string_view letters, std::string_view& code) {
-  if (code.empty() || letters.find(code.front()) == std::string_view::npos) return false;
-  code.remove_prefix(1);
-  return true;
-}
-
-// Takes one mark with its suffixes off the front: B, C (then
-// I or O), D, or E (then I or O and L or R, either first).
-bool TakeMark(std::string_view& code) {
-  if (TakeOneOf("D", code)) return true;
-  if (TakeOneOf("BC", code)) {
-    TakeOneOf("IO", code);
-    return true;
-  }
-  if (!TakeOneOf("E", code)) return false;
-  if (TakeOneOf("IO", code)) {
-    TakeOneOf("LR", code);
-  } else if (TakeOneOf("LR", code)) {
-    TakeOneOf("IO", code);
-  }
-  return true;
-}
-
 void CheckOpeningCode(const WindowParams& record) {
   const std::string code(record.openingCode);
-  std::string_view rest = code;
-  while (!rest.empty()) {
-    if (TakeMark(rest)) continue;
-    throw Refusal(
-        "openingCode: " + Quoted(code) + " is not understood from " + Quoted(rest) +
-        " on; the letters are B (hinges at the top), C (bottom), D (pivot) and E (side), behind B, C and E "
-        "an "
-        "I (inward) or O (outward), behind E also an L or R (hinges left or right, seen from inside); - or "
-        "no letter is fixed glazing");
-  }
+  const std::string_view rest = NotUnderstood(code);
+  if (rest.empty()) return;
+  throw Refusal(
+      "openingCode: " + Quoted(code) + " is not understood from " + Quoted(rest) +
+      " on; the letters are B (hinges at the top), C (bottom), D (pivot) and E (side), behind B, C and E "
+      "an "
+      "I (inward) or O (outward), behind E also an L or R (hinges left or right, seen from inside); - or "
+      "no letter is fixed glazing");
 }
 
 }  // namespace
