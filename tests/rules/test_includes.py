@@ -24,7 +24,7 @@ PARTS = {
     "drawing": (HOST + "drawing/", {"dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry", "platform"}),
     "modules": (HOST + "modules/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry",
                                     "platform"}),
-    "catalogue": (HOST + "catalogue/", {"modules", "dxf", "dxf tags", "errors", "inc", "platform"}),
+    "catalogue": (HOST + "catalogue/", {"modules", "dxf", "dxf tags", "errors", "window", "inc", "platform"}),
     "check": (HOST + "check/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "window", "inc", "geometry",
                                 "platform"}),
     "preview": (HOST + "preview/", {"drawing", "dxf", "dxf read", "dxf tags", "errors", "window", "geometry"}),

@@ -21,7 +21,6 @@ namespace {
 // The pattern of a header without its star.
 constexpr std::string_view HEADER_PATTERN = brevanta::SECTION_PATTERN;
 constexpr std::string_view HEADER_KEYWORD = HEADER_PATTERN.substr(0, HEADER_PATTERN.size() - 1);
-constexpr std::size_t LONGEST_LINE = 254;  // characters that the module reads as one line
 
 bool IsUtf8(std::string_view bytes) {
   for (std::size_t position = 0; position < bytes.size();) {
@@ -42,6 +41,7 @@ class CatalogueBuilder {
 
   // A line of the file; one that is too long comes in pieces, as the module reads it.
   void AddPhysicalLine(std::string_view line) {
+    ++number_;
     const bool hasReturn = line.ends_with('\r');
     if (hasReturn) catalogue_.hasWindowsLineEnds = true;
     if (line.size() - (hasReturn ? 1 : 0) > LONGEST_LINE) ++catalogue_.cutLines;
@@ -61,7 +61,7 @@ class CatalogueBuilder {
       hasSection_ = true;
     } else if (hasSection_) {
       const std::string_view key = WithoutLeadingBlanks(line.substr(0, line.find(brevanta::FIELD_DELIMITER)));
-      catalogue_.items.push_back({section_, key, line});
+      catalogue_.items.push_back({section_, key, line, number_});
     }
   }
 
@@ -69,6 +69,7 @@ class CatalogueBuilder {
   std::unordered_map<std::string_view, std::size_t> sectionOf_;
   std::size_t section_ = 0;
   bool hasSection_ = false;
+  std::size_t number_ = 0;
 };
 
 }  // namespace
@@ -116,6 +117,10 @@ Catalogue ReadCatalogue(const std::string& path) {
                 {.file = catalogue.path});
   }
   return catalogue;
+}
+
+std::string_view HeaderKeyword() {
+  return HEADER_KEYWORD;
 }
 
 std::string_view MakerOf(std::string_view header) {

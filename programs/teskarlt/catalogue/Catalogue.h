@@ -15,6 +15,7 @@ struct CatalogueItem {
   std::size_t section;    // index into the catalogue's sections
   std::string_view key;   // first field, without leading blanks
   std::string_view line;  // the whole line
+  std::size_t number;     // of the line in the file, from 1
 };
 
 struct Catalogue {
@@ -33,6 +34,12 @@ std::string CatalogueIn(const std::string& path);
 // a folder, empty, no text, or without a section.
 Catalogue ReadCatalogue(const std::string& path);
 
+// The beginning of the line that heads a section.
+std::string_view HeaderKeyword();
+
+// The longest line that the module reads as one, in bytes.
+constexpr std::size_t LONGEST_LINE = 254;
+
 // The name of a section for people: its header line without the keyword.
 std::string_view MakerOf(std::string_view header);
 
@@ -43,7 +50,9 @@ std::string CatalogueText(std::string_view bytes);
 std::string_view ItemField(std::string_view line, std::size_t index);
 
 // The item that "SECTION/KEY", or "KEY" alone, names. Section and key are compared exactly first, then
-// without regard to case. Throws Error, with the names that come near, when none or several are named.
-const CatalogueItem& ChooseItem(const Catalogue& catalogue, std::string_view name);
+// without regard to case. Throws Error, with the names that come near, when none or several are named;
+// `option` stands before the name then.
+const CatalogueItem& ChooseItem(const Catalogue& catalogue, std::string_view name,
+                                std::string_view option = "--window");
 
 }  // namespace teskarlt

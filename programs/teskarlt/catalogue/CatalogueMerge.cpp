@@ -15,6 +15,7 @@
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
 #include "teskarlt/catalogue/CatalogueEncoding.h"
+#include "teskarlt/catalogue/CatalogueFolder.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/modules/DataFolder.h"
 #include "teskarlt/modules/WindowModule.h"
@@ -24,15 +25,6 @@ namespace teskarlt {
 namespace {
 
 constexpr std::size_t LONGEST_PATH = 511;  // bytes that the module's buffer for the backup's name holds
-
-std::filesystem::path ToPath(const std::string& utf8) {
-  return {std::u8string(utf8.begin(), utf8.end())};
-}
-
-std::string FolderOf(const std::string& path) {
-  const std::u8string folder = ToPath(path).parent_path().u8string();
-  return folder.empty() ? "." : std::string(folder.begin(), folder.end());
-}
 
 // Where the catalogue really lies: the module renames what it is given, which would take a link for the file.
 std::string BehindLinks(const std::string& path) {
@@ -147,20 +139,6 @@ void CheckNothingLost(const Digest& source, const Digest& before, Digest& after)
     default:
       throw Error(fmt::format("the merge into {} failed with the result {}", target, result));
   }
-}
-
-// The module itself guards the data folder alone.
-void LockFolderOf(const std::string& target, platform::FolderLock& lock) {
-  const std::string folder = FolderOf(target);
-  const platform::LockResult result = lock.Take(folder);
-  if (result == platform::LockResult::Taken) return;
-  if (result == platform::LockResult::Busy)
-    throw Error(fmt::format("another merge is at work in the folder of {}", target));
-  std::error_code error;
-  throw Error(std::filesystem::is_directory(ToPath(folder), error)
-                  ? "the folder of the catalogue must not be written"
-                  : "there is no such folder",
-              {.file = target});
 }
 
 // Holds the data folder, which the module asks for once more, to the end of the merge.
@@ -312,7 +290,7 @@ MergeReport MergeCatalogues(const WindowModule& module, const std::string& sourc
   const std::string sourcePath = CatalogueIn(source);
   platform::FolderLock lock;
   std::optional<DataFolderClaim> claim;
-  if (target) {
+  if (target) {  // the module itself guards the data folder alone
     LockFolderOf(report.target, lock);
   } else {
     claim.emplace();

@@ -84,7 +84,7 @@ Matches Nearest(const Catalogue& catalogue, std::string_view name) {
 
 }  // namespace
 
-const CatalogueItem& ChooseItem(const Catalogue& catalogue, std::string_view name) {
+const CatalogueItem& ChooseItem(const Catalogue& catalogue, std::string_view name, std::string_view option) {
   const Comparison comparisons[] = {[](std::string_view a, std::string_view b) { return a == b; },
                                     dxf::SameName};
   for (const Comparison& same : comparisons) {
@@ -96,12 +96,12 @@ const CatalogueItem& ChooseItem(const Catalogue& catalogue, std::string_view nam
       return item->section == first.section && item->key == first.key;
     });
     if (oneItem) return first;
-    throw Error(fmt::format("--window {}: {} holds {} of that name: {}", name, catalogue.path, matches.size(),
-                            Quoted(catalogue, matches)),
+    throw Error(fmt::format("{} {}: {} holds {} of that name: {}", option, name, catalogue.path,
+                            matches.size(), Quoted(catalogue, matches)),
                 {.value = std::string(name)});
   }
   const Matches nearest = Nearest(catalogue, name);
-  throw Error(fmt::format("--window {}: {} has no such window{}{}", name, catalogue.path,
+  throw Error(fmt::format("{} {}: {} has no such window{}{}", option, name, catalogue.path,
                           nearest.empty() ? "" : "; near it are ", Quoted(catalogue, nearest)),
               {.value = std::string(name)});
 }

@@ -1,14 +1,18 @@
-// CatalogueCommand.cpp - the subcommand "catalogue": shows a window catalogue.
+// CatalogueCommand.cpp - the subcommand "catalogue": shows a window catalogue, unless one of its own
+// subcommands is named.
 #include <memory>
 
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
 #include "teskarlt/catalogue/Catalogue.h"
+#include "teskarlt/catalogue/CatalogueFolder.h"
+#include "teskarlt/commands/CatalogueCommands.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/modules/DataFolder.h"
 #include "teskarlt/terminal/Json.h"
+#include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
@@ -20,10 +24,6 @@ struct CatalogueOptions {
   std::string section;
   bool asJson = false;
 };
-
-// Fields of an item line in their order, behind the key.
-constexpr const char* FIELDS[] = {"widthCm",      "lengthCm",    "frameWidthCm",
-                                  "frameDepthCm", "openingCode", "description"};
 
 std::vector<const CatalogueItem*> ItemsOf(const Catalogue& catalogue, std::size_t section) {
   std::vector<const CatalogueItem*> items;
@@ -49,14 +49,6 @@ std::vector<std::size_t> ChosenSections(const Catalogue& catalogue, const std::s
   throw Error(fmt::format("--section {}: {} has no such section; it has {}", name, catalogue.path, makers));
 }
 
-Json ItemJson(const CatalogueItem& item) {
-  Json json;
-  json["key"] = CatalogueText(item.key);
-  for (std::size_t i = 0; i < std::size(FIELDS); ++i)
-    json[FIELDS[i]] = CatalogueText(ItemField(item.line, i + 1));
-  return json;
-}
-
 void PrintCatalogue(const Catalogue& catalogue, const std::vector<std::size_t>& sections) {
   Json json;
   json["version"] = JSON_VERSION;
@@ -68,7 +60,7 @@ void PrintCatalogue(const Catalogue& catalogue, const std::vector<std::size_t>& 
     entry["header"] = CatalogueText(catalogue.sections[section]);
     entry["items"] = Json::List();
     for (const CatalogueItem* item : ItemsOf(catalogue, section))
-      entry["items"].Add(ItemJson(*item));
+      entry["items"].Add(FieldsJson(TextsOf(item->line)));
     json["sections"].Add(entry);
   }
   PrintJson(json);
@@ -80,17 +72,15 @@ void PrintTables(const Catalogue& catalogue, const std::vector<std::size_t>& sec
                CatalogueText(MakerOf(catalogue.sections[section])));
     Table table({"key", "width cm", "length cm", "frame cm", "depth cm", "code", "description"});
     for (const CatalogueItem* item : ItemsOf(catalogue, section)) {
-      std::vector<std::string> row = {CatalogueText(item->key)};
-      for (std::size_t i = 0; i < std::size(FIELDS); ++i)
-        row.push_back(CatalogueText(ItemField(item->line, i + 1)));
-      table.Add(row);
+      const ItemTexts texts = TextsOf(item->line);
+      table.Add({texts.begin(), texts.end()});
     }
     table.Print();
   }
 }
 
 void RunCatalogue(const CatalogueOptions& options) {
-  const Catalogue catalogue = ReadCatalogue(options.file.empty() ? DataFolder() : options.file);
+  const Catalogue catalogue = ReadChosenCatalogue(options.file);
   const std::vector<std::size_t> sections = ChosenSections(catalogue, options.section);
   if (options.asJson) {
     PrintCatalogue(catalogue, sections);
@@ -101,11 +91,28 @@ void RunCatalogue(const CatalogueOptions& options) {
 
 }  // namespace
 
+Json FieldsJson(const ItemTexts& texts) {
+  Json json;
+  for (std::size_t field = 0; field < FIELD_COUNT; ++field)
+    json[FIELD_FORMS.at(field).inAnswers] = texts.at(field);
+  return json;
+}
+
+Catalogue ReadChosenCatalogue(const std::string& file) {
+  if (!file.empty()) return ReadCatalogue(file);
+  const UsualCatalogue usual = FindUsualCatalogue();
+  if (usual.isInstalled) {
+    TellNote(
+        fmt::format("the data folder {} has no catalogue; this is the example {}", DataFolder(), usual.path));
+  }
+  return ReadCatalogue(usual.path);
+}
+
 void AddCatalogueCommand(OptionParser& parser) {
-  Subcommand command = parser.Add("catalogue", "Show a window catalogue");
+  Subcommand command = parser.Add("catalogue", "Show, make, search and check window catalogues");
   const auto options = std::make_shared<CatalogueOptions>();
   command.Argument("FILE", options->file,
-                   "the catalogue, or its folder; without it the one in the data folder");
+                   "the catalogue to show, or its folder; without it the one in the data folder");
   command.Value("--section", options->section, "show this maker's windows only").Named("MAKER");
   command.Flag("--json", options->asJson, JSON_HELP);
   command.Footer(
@@ -113,8 +120,12 @@ void AddCatalogueCommand(OptionParser& parser) {
       "E\n"
       "an I (inward) or O (outward), behind E also an L or R (left or right, seen from inside); - is fixed\n"
       "glazing, an empty code what a window has by itself, D.\n"
-      "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder.\n"
+      "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder; while it has no "
+      "catalogue, "
+      "the\n"
+      "example beside the program is shown. A file named like a subcommand is shown by its path: ./new\n"
       "Example: teskarlt catalogue examples/BREVANTA.LIB");
+  AddCatalogueChangeCommands(command);
   command.Run([options] { RunCatalogue(*options); });
 }
 

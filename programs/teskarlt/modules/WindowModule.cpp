@@ -12,6 +12,7 @@
 #include "platform/SystemFolders.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/modules/KeptException.h"
+#include "teskarlt/modules/ProgramFolder.h"
 
 namespace teskarlt {
 
@@ -21,18 +22,6 @@ constexpr const char* WINDOW_MODULE = "BREVANTA.CRX";
 constexpr const char* INSERT_EXPORT = "Brevanta";
 constexpr const char* EDIT_EXPORT = "EditBrevanta";
 constexpr std::int32_t EDIT_MODE_DIALOG = 0;
-
-std::string ProgramPath() {
-  char path[4096];
-  const DWORD length = GetModuleFileNameA(GetModuleHandleA(nullptr), path, sizeof path);
-  return {path, length};
-}
-
-// The program's folder with the separator at its end.
-std::string ProgramFolder() {
-  const std::string path = ProgramPath();
-  return path.substr(0, path.find_last_of("\\/") + 1);
-}
 
 // The modules find their host, this program, by its name.
 void CheckProgramName() {

@@ -137,12 +137,22 @@ Option Subcommand::FlagInstead(const char* name, std::function<void()> action, c
   return Option(app_->add_flag_callback(name, actAndStop, help));
 }
 
+Subcommand Subcommand::Add(const char* name, const char* help) {
+  CLI::App* nested = app_->add_subcommand(name, help);
+  for (CLI::Option* option : app_->get_options()) {
+    if (option != app_->get_help_ptr()) nested->excludes(option);
+  }
+  return {*nested, *status_};
+}
+
 void Subcommand::Footer(const char* text) {
   app_->footer(text);
 }
 
 void Subcommand::Run(std::function<void()> run) {
-  app_->callback(std::move(run));
+  app_->callback([run = std::move(run), app = app_] {
+    if (app->get_subcommands().empty()) run();  // else a nested one has run
+  });
 }
 
 void Subcommand::RunWithStatus(std::function<int()> run) {

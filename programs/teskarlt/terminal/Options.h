@@ -80,6 +80,10 @@ class Subcommand {
   // Does what it stands for instead of running the command.
   Option FlagInstead(const char* name, std::function<void()> action, const char* help);
 
+  // A subcommand of this one, which runs in its place and takes none of the arguments and options that this
+  // one has by now.
+  Subcommand Add(const char* name, const char* help);
+
   // What stands at the end of the help: remarks and examples.
   void Footer(const char* text);
   // What the subcommand does; it has done its work when it throws nothing. It may throw UsageError.

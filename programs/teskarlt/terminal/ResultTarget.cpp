@@ -1,4 +1,4 @@
-// ResultTarget.cpp - which drawing a command reads, where its result goes, and what is said of that.
+// ResultTarget.cpp - which file a command reads, where its result goes, and what is said of that.
 #include "teskarlt/terminal/ResultTarget.h"
 
 #include <fmt/format.h>
@@ -8,17 +8,20 @@
 namespace teskarlt {
 
 void ResultTarget::AddFile(Subcommand& command) {
-  command.Argument("FILE", file_, "the drawing").Required();
+  command.Argument("FILE", file_, fmt::format("the {}", thing_).c_str()).Required();
 }
 
 void ResultTarget::AddOutput(Subcommand& command) {
-  command.Value("-o,--output", output_, "the drawing to write; without it FILE is replaced")
+  command
+      .Value("-o,--output", output_,
+             fmt::format("the {} to write; without it FILE is replaced", thing_).c_str())
       .Named("FILE")
       .NotEmpty();
-  command.Flag(
-      "--backup", wantsBackup_,
-      "keep the drawing that is replaced beside the new one, as FILE.bak; teskarlt undo goes back to "
-      "it");
+  command.Flag("--backup", wantsBackup_,
+               fmt::format("keep the {} that is replaced beside the new one, as FILE.bak; teskarlt undo goes "
+                           "back to it",
+                           thing_)
+                   .c_str());
 }
 
 void ResultTarget::AddDryRun(Subcommand& command) {

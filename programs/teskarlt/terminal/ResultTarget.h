@@ -1,4 +1,4 @@
-// ResultTarget.h - which drawing a command reads, where its result goes, and what is said of that.
+// ResultTarget.h - which file a command reads, where its result goes, and what is said of that.
 #pragma once
 
 #include <functional>
@@ -11,13 +11,21 @@ namespace teskarlt {
 
 class ResultTarget {
  public:
+  ResultTarget() = default;
+  // What the file holds, as the help calls it.
+  explicit ResultTarget(const char* thing) : thing_(thing) {}
+
   // Add FILE, -o with --backup, and --dry-run to the command. The object must outlive the parsing.
   void AddFile(Subcommand& command);
   void AddOutput(Subcommand& command);
   void AddDryRun(Subcommand& command);
 
-  // The drawing that is read.
+  // The file that is read.
   const std::string& File() const { return file_; }
+  // Where FILE stands for another file, as a folder does for the catalogue in it.
+  void ReadInstead(const std::string& file) { file_ = file; }
+  // The file that is written: without -o the one that is read.
+  const std::string& Path() const { return IsNamed() ? output_ : file_; }
   // Whether the user named a file of its own for the result, which is written then though nothing changed.
   bool IsNamed() const { return !output_.empty(); }
   bool IsDryRun() const { return isDryRun_; }
@@ -40,11 +48,10 @@ class ResultTarget {
   void AddTo(Json& answer) const;
 
  private:
-  // What is written: without -o the drawing itself is replaced.
-  const std::string& Path() const { return IsNamed() ? output_ : file_; }
   // "out.dxf", and where what was replaced is kept.
   std::string WrittenPath() const;
 
+  const char* thing_ = "drawing";
   std::string file_;
   std::string output_;
   bool wantsBackup_ = false;
