@@ -36,7 +36,7 @@ UPDATE = """\
 # Ukázková aktualizace katalogu.
 
 VYROBCE Oblačnice Lhota
-OL 78x140; 78; 140; 9; 8; D; kyvné okno, nový rám; okno v katalogu zůstane, jak je
+OL 78x140; 78; 140; 9; 8; D; kyvné okno, nový rám (okno v katalogu zůstane, jak je)
 OL 78x160; 78; 160; 9; 8; D; kyvné okno, borovice
 OL 134x140; 134; 140; 10; 8; D; kyvné okno, borovice
 

@@ -18,6 +18,9 @@ constexpr std::size_t FIELD_OPENING_CODE = 5;
 constexpr std::size_t FIELD_DESCRIPTION = 6;
 constexpr std::size_t FIELD_COUNT = 7;
 
+// What people begin a comment with. The module knows no comments: behind a heading each line is a window.
+constexpr char COMMENT_MARK = '#';
+
 struct FieldForm {
   const char* name;       // for maps and the heads of tables
   const char* inAnswers;  // for programs

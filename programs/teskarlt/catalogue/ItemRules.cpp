@@ -65,7 +65,8 @@ class ItemFindings {
       Add(Kind::Key, fmt::format("the key \"{}\" begins with {}, as the heading of a section does", key,
                                  HeaderKeyword()));
     }
-    if (key.starts_with('#')) Doubt(Kind::Comment, "a line behind a heading is a window, also this one");
+    if (key.starts_with(COMMENT_MARK))
+      Add(Kind::Key, fmt::format("the key \"{}\" begins with {}, as a comment does", key, COMMENT_MARK));
     if (key.ends_with(' '))
       Doubt(Kind::Key, fmt::format("the key \"{}\" ends with a blank, which belongs to it", key));
   }

@@ -69,7 +69,7 @@ TEST(ItemRules, KeyIsThereAndIsNoHeading) {
   EXPECT_THAT(Told({"VYROBCE"}),
               ElementsAre("key: the key \"VYROBCE\" begins with VYROBCE, as the heading of a section does"));
   EXPECT_THAT(Told({"A1 "}), ElementsAre("?key: the key \"A1 \" ends with a blank, which belongs to it"));
-  EXPECT_THAT(Told({"# old"}), ElementsAre("?comment: a line behind a heading is a window, also this one"));
+  EXPECT_THAT(Told({"# old"}), ElementsAre("key: the key \"# old\" begins with #, as a comment does"));
 }
 
 TEST(ItemRules, TextsFitIntoAWindow) {
