@@ -71,3 +71,13 @@ def test_file_that_is_no_catalogue_is_refused(teskarlt, tmp_path):
     refused(teskarlt("catalogue", "check", path), "none.LIB", "cannot be opened")
     path.write_bytes(b"x; 78\n")
     refused(teskarlt("catalogue", "check", path, "--json"), "none.LIB", "no line begins with VYROBCE")
+
+
+def test_example_is_shown_and_chosen_from_while_there_is_no_other(teskarlt, house):
+    answer = teskarlt.done("catalogue")
+    assert answer.stdout == teskarlt.done("catalogue", EXAMPLE).stdout
+    assert answer.stderr.startswith("teskarlt: note: the data folder ") and "has no catalogue" in answer.stderr
+    teskarlt.done("insert", house, "--at", "2500,1200", "--window", "Soumrak")
+    (teskarlt.data_folder / "BREVANTA.LIB").write_bytes(b"VYROBCE Own\nx; 78\n")
+    own = teskarlt.done("catalogue")
+    assert own.stdout.startswith("Own\n") and own.stderr == ""

@@ -126,6 +126,7 @@ void AddCatalogueCommand(OptionParser& parser) {
       "example beside the program is shown. A file named like a subcommand is shown by its path: ./new\n"
       "Example: teskarlt catalogue examples/BREVANTA.LIB");
   AddCatalogueChangeCommands(command);
+  AddCatalogueTableCommands(command);
   AddCatalogueLookCommands(command);
   command.Run([options] { RunCatalogue(*options); });
 }

@@ -13,6 +13,7 @@ namespace teskarlt {
 // Each adds subcommands that run in place of showing the catalogue.
 void AddCatalogueChangeCommands(Subcommand& catalogue);  // new, add, edit, remove
 void AddCatalogueLookCommands(Subcommand& catalogue);    // search, check
+void AddCatalogueTableCommands(Subcommand& catalogue);   // import, export
 
 // The catalogue that a command reads: `file`, or the usual one where that is empty. Tells where that is the
 // one that lies beside the program. Throws Error.

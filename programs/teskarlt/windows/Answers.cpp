@@ -4,9 +4,9 @@
 #include <fmt/format.h>
 
 #include "teskarlt/Error.h"
+#include "teskarlt/catalogue/CatalogueFolder.h"
 #include "teskarlt/drawing/FeetInches.h"
 #include "teskarlt/dxf/tags/TagValue.h"
-#include "teskarlt/modules/DataFolder.h"
 #include "teskarlt/windows/SizeWords.h"
 #include "window/Choices.h"
 #include "window/RecordFields.h"
@@ -65,7 +65,8 @@ void AddCatalogueWindow(const WindowOrder& order, const dxf::Document& drawing, 
 const Catalogue& CatalogueShelf::Get(const std::string& path) {
   const auto known = catalogues_.find(path);
   if (known != catalogues_.end()) return known->second;
-  return catalogues_.emplace(path, ReadCatalogue(path.empty() ? DataFolder() : path)).first->second;
+  return catalogues_.emplace(path, ReadCatalogue(path.empty() ? FindUsualCatalogue().path : path))
+      .first->second;
 }
 
 DialogAnswers AnswersOf(const WindowOrder& order, const dxf::Document& drawing, CatalogueShelf& shelf) {

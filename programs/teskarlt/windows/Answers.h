@@ -14,8 +14,8 @@ namespace teskarlt {
 // Catalogues, each of which is read when it is needed first.
 class CatalogueShelf {
  public:
-  // The catalogue with this file or folder, or that of the data folder for an empty path. It lives as long as
-  // the shelf. Throws Error as ReadCatalogue does.
+  // The catalogue with this file or folder, or the usual one for an empty path (CatalogueFolder.h). It lives
+  // as long as the shelf. Throws Error as ReadCatalogue does.
   const Catalogue& Get(const std::string& path);
 
  private:
