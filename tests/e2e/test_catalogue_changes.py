@@ -55,7 +55,7 @@ def test_changed_catalogue_is_merged(teskarlt, mine, tmp_path, build):
 
 
 def test_windows_are_answered_for_programs(teskarlt, mine):
-    answer = teskarlt.done("catalogue", "add", mine, "A2", "--maker", "Alfa", "--width", "66", "--json").json
+    answer = teskarlt.done("catalogue", "add", mine, "A2", "--maker", "alfa", "--width", "66", "--json").json
     window, = answer["windows"]
     assert (window["maker"], window["key"], window["widthCm"], window["openingCode"]) == ("Alfa", "A2", "66", "")
     assert answer["file"] == teskarlt.spelled(mine) and answer["dryRun"] is False

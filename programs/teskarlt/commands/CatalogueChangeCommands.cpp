@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <fmt/format.h>
@@ -27,6 +28,10 @@ constexpr const char* ENCODING_HELP =
 // What add and edit say of a window, each field under an option of its own.
 class FieldOptions {
  public:
+  // `first`: the field from which on there are options.
+  explicit FieldOptions(std::size_t first) : first_(first) {}
+
+  // The object must outlive the parsing.
   void AddTo(Subcommand& command) {
     constexpr std::array options = {"--key",         "--width", "--length",     "--frame-width",
                                     "--frame-depth", "--code",  "--description"};
@@ -37,6 +42,7 @@ class FieldOptions {
                                   "centimetres, depth of the frame square to the roof",
                                   "opening code; - is fixed glazing",
                                   "for people"};
+    static_assert(options.size() == FIELD_COUNT && helps.size() == FIELD_COUNT);
     given_.reserve(FIELD_COUNT);
     for (std::size_t field = first_; field < FIELD_COUNT; ++field) {
       given_.push_back(command.Value(options.at(field), texts_.at(field), helps.at(field))
@@ -44,17 +50,15 @@ class FieldOptions {
     }
   }
 
-  // `first`: the field from which on there are options.
-  explicit FieldOptions(std::size_t first) : first_(first) {}
+  bool IsAnyGiven() const {
+    return std::any_of(given_.begin(), given_.end(), [](const Option& option) { return option.IsGiven(); });
+  }
 
-  // Puts the fields that are given into the texts of a window. Throws UsageError where there are none.
+  // Puts the fields that are given into the texts of a window.
   void PutInto(ItemTexts& texts) const {
     for (std::size_t i = 0; i < given_.size(); ++i) {
       if (given_[i].IsGiven()) texts.at(first_ + i) = texts_.at(first_ + i);
     }
-  }
-  bool IsAnyGiven() const {
-    return std::any_of(given_.begin(), given_.end(), [](const Option& option) { return option.IsGiven(); });
   }
 
  private:
@@ -126,11 +130,15 @@ void PrintDone(const ChangeOptions& options, const std::vector<CatalogueWindow>&
     fmt::print("{} {}.\n", NameOf(window), options.target.Ending(done, planned));
 }
 
-// Where one maker alone is in the catalogue, it need not be named.
-std::string MakerOrOnlyOne(const Catalogue& catalogue, const std::string& maker) {
-  if (!maker.empty()) return maker;
-  if (catalogue.sections.size() == 1) return CatalogueText(MakerOf(catalogue.sections.front()));
-  throw UsageError("--maker is required: the catalogue has several");
+// The maker as the catalogue calls it. Where there is one alone, it need not be named.
+std::string MakerFor(const Catalogue& catalogue, const std::string& said) {
+  const auto nameOf = [&](std::size_t section) {
+    return CatalogueText(MakerOf(catalogue.sections[section]));
+  };
+  if (said.empty() && catalogue.sections.size() == 1) return nameOf(0);
+  if (said.empty()) throw UsageError("--maker is required: the catalogue has several");
+  const std::optional<std::size_t> section = SectionOf(catalogue, said);
+  return section ? nameOf(*section) : said;
 }
 
 void RunNew(const NewOptions& options) {
@@ -148,7 +156,7 @@ void RunNew(const NewOptions& options) {
 
 void RunAdd(ChangeOptions& options) {
   const ChangingCatalogue changing(options.target);
-  CatalogueWindow window{MakerOrOnlyOne(changing.Get(), options.maker), {options.name}};
+  CatalogueWindow window{MakerFor(changing.Get(), options.maker), {options.name}};
   options.fields.PutInto(window.texts);
   Save(options.target,
        WithWindow(changing.Get(), window, EncodingForChanges(changing.Get(), options.encoding)));

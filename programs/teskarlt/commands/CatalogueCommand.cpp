@@ -120,10 +120,9 @@ void AddCatalogueCommand(OptionParser& parser) {
       "E\n"
       "an I (inward) or O (outward), behind E also an L or R (left or right, seen from inside); - is fixed\n"
       "glazing, an empty code what a window has by itself, D.\n"
-      "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder; while it has no "
-      "catalogue, "
-      "the\n"
-      "example beside the program is shown. A file named like a subcommand is shown by its path: ./new\n"
+      "The data folder is $TESKAR_DATA, else \"teskar\" in the user's data folder; while it has no\n"
+      "catalogue, the example beside the program is shown. A file that is called like a subcommand is shown\n"
+      "by its path, as ./new.\n"
       "Example: teskarlt catalogue examples/BREVANTA.LIB");
   AddCatalogueChangeCommands(command);
   AddCatalogueTableCommands(command);
