@@ -20,7 +20,9 @@ constexpr std::string_view HEAD =
 constexpr char END_OF_TEXT = '\x1A';
 
 platform::FileBytes BytesOf(std::string_view text) {
-  platform::FileBytes bytes{std::make_unique<char[]>(text.size()), text.size()};
+  platform::FileBytes bytes;
+  bytes.bytes = std::make_unique<char[]>(text.size());
+  bytes.size = text.size();
   std::memcpy(bytes.bytes.get(), text.data(), text.size());
   return bytes;
 }
@@ -45,12 +47,14 @@ CatalogueEncoding EncodingForChanges(const Catalogue& catalogue, const std::stri
   const std::optional<CatalogueEncoding> own = EncodingOf(catalogue.file.View());
   if (said.empty()) return own.value_or(CatalogueEncoding::Utf8);
   const CatalogueEncoding wanted = EncodingNamed(said);
-  if (wanted != ReadableLike(wanted))
+  if (wanted != ReadableLike(wanted)) {
     throw Error(fmt::format("catalogues are in UTF-8 or code page 1250, not in {}", NameOf(wanted)),
                 {.value = said});
-  if (own && *own != wanted)
+  }
+  if (own && *own != wanted) {
     throw Error(fmt::format("the catalogue is in {}, not in {}", NameOf(*own), NameOf(wanted)),
                 {.file = catalogue.path, .value = said});
+  }
   return wanted;
 }
 
@@ -61,7 +65,7 @@ std::optional<std::size_t> SectionOf(const Catalogue& catalogue, std::string_vie
     }
     return std::nullopt;
   };
-  const auto exact = find(std::equal_to<std::string_view>());
+  const auto exact = find(std::equal_to<>());
   return exact ? exact : find(dxf::SameName);
 }
 

@@ -52,9 +52,10 @@ class TableImport {
       window.maker = CatalogueText(MakerOf(catalogue_.sections[*section]));
     const Name name{window.maker, window.texts[FIELD_KEY]};
     const auto taken = lines_.find(name);
-    if (taken != lines_.end())
+    if (taken != lines_.end()) {
       throw Error(
           fmt::format("{} has a window {} in line {} already", name.first, name.second, taken->second));
+    }
     const bool isReplaced = Put(window, name);
     lines_.emplace(name, row.line);
     return isReplaced;

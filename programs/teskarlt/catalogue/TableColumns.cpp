@@ -86,9 +86,10 @@ std::optional<TableColumns::Column> TableColumns::Find(std::size_t column) const
         fmt::format("there is no column \"{}\"; there are {}", factor ? factor->column : said, Columns()),
         {file_, ErrorPlace::Unit::Line, head_.line, said});
   }
-  if (column == MAKER_COLUMN || !FIELD_FORMS.at(column).IsSize())
+  if (column == MAKER_COLUMN || !FIELD_FORMS.at(column).IsSize()) {
     throw Error(fmt::format("--map {}={}: a factor goes with sizes only", ColumnName(column), said),
                 {.value = said});
+  }
   return WithUnit(*cell, factor);
 }
 
