@@ -1,23 +1,19 @@
 // ListCommand.cpp - the subcommand "list": lists the roof windows of a drawing.
-#include <algorithm>
-#include <cmath>
 #include <memory>
 #include <optional>
-#include <set>
 
 #include <fmt/format.h>
 
-#include "geometry/Matrix4.h"
 #include "teskarlt/commands/FieldWords.h"
 #include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/commands/WindowWords.h"
-#include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/terminal/Json.h"
 #include "teskarlt/terminal/Report.h"
+#include "teskarlt/windows/WindowListing.h"
 #include "window/EdgeHeights.h"
 #include "window/RecordFields.h"
 
@@ -49,39 +45,7 @@ Json FieldsJson(const DrawnWindow& window, const brevanta::WindowParams& params,
   return json;
 }
 
-// A window as it is listed.
-struct Row {
-  const DrawnWindow& window;
-  WindowReading reading;
-};
-
-std::vector<Row> ReadRows(const dxf::Document& drawing, const std::vector<DrawnWindow>& windows) {
-  std::vector<Row> rows;
-  rows.reserve(windows.size());
-  std::set<std::int32_t> numbers;
-  for (const DrawnWindow& window : windows) {
-    Row& row = rows.emplace_back(Row{window, ReadWindow(drawing, window)});
-    if (!numbers.insert(window.number).second) {
-      row.reading.notes.emplace_back(
-          EntityMismatch(window).empty()
-              ? "its number is that of a window before it; teskarlt renumber gives it one of its own"
-              : "its number is that of a window before it, of which it may be a part");
-    }
-    if (!row.reading.obstacle.empty())
-      row.reading.notes.push_back("it cannot be changed: " + row.reading.obstacle);
-  }
-  return rows;
-}
-
-// Where the roof falls to, in degrees counter-clockwise from the drawing's x axis; none when it is flat.
-std::optional<double> FallDirection(const brevanta::WindowParams& params) {
-  constexpr double FLAT = 0.01;  // degrees
-  constexpr double FULL_TURN = 360.0;
-  if (params.pitch < FLAT) return std::nullopt;
-  return std::fmod(geometry::RadToDeg(params.rotation) + 0.75 * FULL_TURN, FULL_TURN);
-}
-
-Json ToJson(const Row& row, const dxf::Document& drawing) {
+Json ToJson(const ListedWindow& row, const dxf::Document& drawing) {
   const auto& [window, reading] = row;
   const brevanta::WindowParams params = WithDrawnPoints(reading.params, window.unit);
   const std::optional<double> fall = window.isComplete ? FallDirection(reading.params) : std::nullopt;
@@ -100,12 +64,12 @@ Json ToJson(const Row& row, const dxf::Document& drawing) {
   return json;
 }
 
-void PrintRows(const std::vector<Row>& rows, const dxf::Document& drawing, const DrawingUnit& unit) {
+void PrintRows(const std::vector<ListedWindow>& rows, const dxf::Document& drawing, const DrawingUnit& unit) {
   Json json;
   json["version"] = JSON_VERSION;
   json["units"] = UnitJson(unit);
   json["windows"] = Json::List();
-  for (const Row& row : rows)
+  for (const ListedWindow& row : rows)
     json["windows"].Add(ToJson(row, drawing));
   PrintJson(json);
 }
@@ -132,7 +96,7 @@ std::string EdgeText(const WindowReading& reading, double brevanta::Edges::*edge
   return drawn == recorded ? drawn : fmt::format("{} ({})", drawn, recorded);
 }
 
-void PrintTable(const std::vector<Row>& rows, const LengthWords& words) {
+void PrintTable(const std::vector<ListedWindow>& rows, const LengthWords& words) {
   Table table({"number", words.Column("width"), words.Column("length"), "pitch deg", "falls to deg",
                words.Column("lower edge"), words.Column("upper edge"), "x", "y", "z", "code", "entities",
                "texts"});
@@ -157,23 +121,14 @@ void PrintTable(const std::vector<Row>& rows, const LengthWords& words) {
   }
 }
 
-// By their numbers; windows that share one in the order of the file.
-std::vector<DrawnWindow> WindowsByNumber(const dxf::Document& drawing, const DrawingUnit& unit) {
-  std::vector<DrawnWindow> windows = FindWindows(drawing, unit.working);
-  std::stable_sort(windows.begin(), windows.end(),
-                   [](const DrawnWindow& a, const DrawnWindow& b) { return a.number < b.number; });
-  return windows;
-}
-
 void RunList(const ListOptions& options) {
   const dxf::Document drawing = dxf::Document::Load(options.file);
   const DrawingUnit& unit = UnitToLookIn(drawing, options.units).unit;
-  const std::vector<DrawnWindow> windows = WindowsByNumber(drawing, unit);
-  const std::vector<Row> rows = ReadRows(drawing, windows);
+  const std::vector<ListedWindow> rows = ListWindows(drawing, unit.working);
   WarnOfTexts(drawing);
   if (options.asJson) {
     PrintRows(rows, drawing, unit);
-  } else if (windows.empty()) {
+  } else if (rows.empty()) {
     fmt::print("{} holds no roof window.\n", options.file);
   } else {
     PrintTable(rows, LengthWords(StyleSaid(options.lengths), IsStated(unit)));

@@ -307,4 +307,11 @@ WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow
   return reading;
 }
 
+std::optional<double> FallDirection(const brevanta::WindowParams& params) {
+  constexpr double FLAT = 0.01;  // degrees
+  constexpr double FULL_TURN = 360.0;
+  if (params.pitch < FLAT) return std::nullopt;
+  return std::fmod(geometry::RadToDeg(params.rotation) + 0.75 * FULL_TURN, FULL_TURN);
+}
+
 }  // namespace teskarlt

@@ -35,4 +35,8 @@ WindowReading ReadWindow(const dxf::Document& drawing, const DrawnWindow& window
 // cannot.
 WindowReading ReadEditableWindow(const dxf::Document& drawing, const DrawnWindow& window);
 
+// Where the roof of a window falls to, by its record: degrees counter-clockwise from the drawing's x axis,
+// from 0 up to but not 360; none for a flat one.
+std::optional<double> FallDirection(const brevanta::WindowParams& params);
+
 }  // namespace teskarlt

@@ -87,6 +87,13 @@ TEST(ReadWindow, NothingTellsTheSkirtOfAnOpening) {
   EXPECT_THAT(reading.defaults, Contains("skirtHeight"));
 }
 
+TEST(FallDirection, OfWindowIsThatOfItsRoof) {
+  brevanta::WindowParams params = ReadBack(Insert().entities).params;  // on a roof that rises along y
+  EXPECT_NEAR(*FallDirection(params), 270.0, 1e-9);
+  params.pitch = 0.0;
+  EXPECT_FALSE(FallDirection(params).has_value());
+}
+
 TEST(ReadWindow, UpperEdgeFollowsFromTheLowerOne) {
   const WindowParams record = ReadBack(Insert().entities).params;
   EXPECT_NEAR(record.lowerEdgeHeight, 1.5, SAME);
