@@ -21,6 +21,7 @@ DEMANDED = {
     "programs/teskarlt/dxf": 95,
     "programs/teskarlt/check": 95,
     "programs/teskarlt/preview": 95,
+    "programs/teskarlt/schedule": 95,
     "programs/teskarlt/windows": 95,
     # Tested through the program, by the end-to-end tests: these shares are only shown.
     "programs/teskarlt/commands": 0,

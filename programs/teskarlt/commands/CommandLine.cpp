@@ -39,6 +39,7 @@ void AddCommands(OptionParser& parser) {
   AddEraseCommand(parser);
   AddApplyCommand(parser);
   AddListCommand(parser);
+  AddScheduleCommand(parser);
   AddRefitCommand(parser);
   AddRenumberCommand(parser);
   AddUndoCommand(parser);

@@ -20,6 +20,7 @@ void AddPreviewCommand(OptionParser& parser);
 void AddRefitCommand(OptionParser& parser);
 void AddRenumberCommand(OptionParser& parser);
 void AddRoofsCommand(OptionParser& parser);
+void AddScheduleCommand(OptionParser& parser);
 void AddUndoCommand(OptionParser& parser);
 
 }  // namespace teskarlt

@@ -1,0 +1,65 @@
+// Html.cpp - a sheet as a page for browsers and printers.
+#include "teskarlt/schedule/Html.h"
+
+#include <fmt/format.h>
+
+#include "teskarlt/schedule/Markup.h"
+
+namespace teskarlt::schedule {
+
+namespace {
+
+constexpr const char* STYLE =
+    R"(body { font: 13px/1.4 "Segoe UI", "Helvetica Neue", Arial, sans-serif; color: #1c1c1c; margin: 24px; }
+h1 { font-size: 20px; font-weight: 600; margin: 0 0 12px; }
+table { border-collapse: collapse; }
+th, td { padding: 4px 8px; border-bottom: 1px solid #c8c8c8; text-align: left; vertical-align: top; }
+th { border-bottom: 2px solid #1c1c1c; vertical-align: bottom; font-weight: 600; }
+.n { text-align: right; white-space: nowrap; font-variant-numeric: tabular-nums; }
+tfoot td { border-top: 2px solid #1c1c1c; border-bottom: 0; font-weight: 600; }
+@page { size: landscape; margin: 10mm; }
+@media print {
+  body { font-size: 7pt; margin: 0; }
+  th, td { padding: 1pt 2pt; }
+  table { width: 100%; }
+  thead { display: table-header-group; }
+  tfoot { display: table-row-group; }
+  tr { break-inside: avoid; }
+}
+)";
+
+void PutRow(const std::vector<Cell>& cells, const Sheet& sheet, std::string& page) {
+  page += "<tr>";
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    page += fmt::format("<td{}>{}</td>", sheet.headings[i].isNumber ? R"( class="n")" : "",
+                        EscapedMarkup(Shown(cells[i], sheet.language->decimalMark)));
+  }
+  page += "</tr>\n";
+}
+
+}  // namespace
+
+std::string Html(const Sheet& sheet) {
+  const std::string title = EscapedMarkup(sheet.title);
+  std::string page = fmt::format(
+      "<!DOCTYPE html>\n<html lang=\"{}\">\n<head>\n<meta charset=\"utf-8\">\n"
+      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+      "<title>{}</title>\n<style>\n{}</style>\n</head>\n<body>\n<h1>{}</h1>\n<table>\n<thead>\n<tr>",
+      sheet.language->name, title, STYLE, title);
+  for (const Heading& heading : sheet.headings) {
+    page += fmt::format("<th scope=\"col\"{}>{}</th>", heading.isNumber ? R"( class="n")" : "",
+                        EscapedMarkup(heading.text));
+  }
+  page += "</tr>\n</thead>\n<tbody>\n";
+  for (const std::vector<Cell>& row : sheet.rows)
+    PutRow(row, sheet, page);
+  page += "</tbody>\n";
+  if (!sheet.totals.empty()) {
+    page += "<tfoot>\n";
+    PutRow(sheet.totals, sheet, page);
+    page += "</tfoot>\n";
+  }
+  return page + "</table>\n</body>\n</html>\n";
+}
+
+}  // namespace teskarlt::schedule
