@@ -15,12 +15,16 @@ h1 { font-size: 20px; font-weight: 600; margin: 0 0 12px; }
 table { border-collapse: collapse; }
 th, td { padding: 4px 8px; border-bottom: 1px solid #c8c8c8; text-align: left; vertical-align: top; }
 th { border-bottom: 2px solid #1c1c1c; vertical-align: bottom; font-weight: 600; }
-.n { text-align: right; white-space: nowrap; font-variant-numeric: tabular-nums; }
+.n { text-align: right; font-variant-numeric: tabular-nums; }
+td.n { white-space: nowrap; }
 tfoot td { border-top: 2px solid #1c1c1c; border-bottom: 0; font-weight: 600; }
 @page { size: landscape; margin: 10mm; }
 @media print {
   body { font-size: 7pt; margin: 0; }
+  h1 { font-size: 11pt; }
   th, td { padding: 1pt 2pt; }
+  th, th.n { writing-mode: vertical-rl; transform: rotate(180deg); text-align: left; vertical-align: top; }
+  th.n { vertical-align: bottom; }
   table { width: 100%; }
   thead { display: table-header-group; }
   tfoot { display: table-row-group; }
