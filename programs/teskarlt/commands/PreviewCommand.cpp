@@ -7,6 +7,7 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/FileEnding.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -44,11 +45,7 @@ struct PreviewOptions {
 
 std::string FormatOf(const PreviewOptions& options) {
   if (!options.format.empty()) return options.format;
-  const auto dot = options.output.find_last_of('.');
-  const std::string ending = dot == std::string::npos ? "" : options.output.substr(dot + 1);
-  for (const char* format : FORMATS) {
-    if (dxf::SameName(ending, format)) return format;
-  }
+  if (const char* const format = FormatByEnding(options.output, FORMATS)) return format;
   throw UsageError(fmt::format(
       "-o: the ending of {} names no format; end it in .svg, .png, .html or .glb, or give --format",
       options.output));

@@ -10,6 +10,7 @@
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
+#include "teskarlt/commands/FileEnding.h"
 #include "teskarlt/commands/LengthWords.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
@@ -60,11 +61,7 @@ std::string FormatOf(const ScheduleOptions& options) {
   if (options.asJson) return "json";
   if (!options.format.empty()) return options.format;
   if (options.output.empty()) return TABLE;
-  const auto dot = options.output.find_last_of('.');
-  const std::string ending = dot == std::string::npos ? "" : options.output.substr(dot + 1);
-  const auto* const format = std::find_if(std::begin(FILE_FORMATS), std::end(FILE_FORMATS),
-                                          [&](const char* name) { return dxf::SameName(ending, name); });
-  if (format != std::end(FILE_FORMATS)) return *format;
+  if (const char* const format = FormatByEnding(options.output, FILE_FORMATS)) return format;
   throw UsageError(
       fmt::format("-o: the ending of {} names no format; end it in .csv, .json, .md, .html or .xlsx, or give "
                   "--format",
@@ -121,10 +118,9 @@ std::vector<const Column*> ChosenColumns(const ScheduleOptions& options, const s
 }
 
 schedule::Order OrderOf(const ScheduleOptions& options) {
-  const std::string& sort = options.sort.empty() && options.by == "type" ? options.by : options.sort;
-  return sort == "roof"   ? schedule::Order::Roof
-         : sort == "type" ? schedule::Order::Type
-                          : schedule::Order::Mark;
+  if (options.sort == "roof") return schedule::Order::Roof;
+  const bool isByType = options.sort == "type" || (options.sort.empty() && options.by == "type");
+  return isByType ? schedule::Order::Type : schedule::Order::Mark;
 }
 
 // A semicolon where numbers have commas, as spreadsheet programs of such countries expect.

@@ -181,12 +181,14 @@ std::string WorkbookXml(const Sheet& sheet) {
 }  // namespace
 
 std::string Xlsx(const Sheet& sheet) {
-  return ZipArchive({{"[Content_Types].xml", std::string(XML) + CONTENT_TYPES},
-                     {"_rels/.rels", std::string(XML) + RELATIONS},
-                     {"xl/workbook.xml", WorkbookXml(sheet)},
-                     {"xl/_rels/workbook.xml.rels", std::string(XML) + WORKBOOK_RELATIONS},
-                     {"xl/styles.xml", StylesXml()},
-                     {"xl/worksheets/sheet1.xml", SheetXml(sheet)}});
+  ZipArchive archive;
+  archive.Add("[Content_Types].xml", std::string(XML) + CONTENT_TYPES);
+  archive.Add("_rels/.rels", std::string(XML) + RELATIONS);
+  archive.Add("xl/workbook.xml", WorkbookXml(sheet));
+  archive.Add("xl/_rels/workbook.xml.rels", std::string(XML) + WORKBOOK_RELATIONS);
+  archive.Add("xl/styles.xml", StylesXml());
+  archive.Add("xl/worksheets/sheet1.xml", SheetXml(sheet));
+  return archive.Bytes();
 }
 
 }  // namespace teskarlt::schedule
