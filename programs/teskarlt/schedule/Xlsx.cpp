@@ -64,6 +64,11 @@ constexpr std::size_t LEAST_WIDTH = 8;
 constexpr std::size_t MOST_WIDTH = 40;
 constexpr std::size_t MARGIN = 2;
 
+// A part that is the same in every workbook.
+std::string FixedXml(const char* content) {
+  return fmt::format("{}{}", XML, content);
+}
+
 std::string StylesXml() {
   const auto cellFormat = [](int numberFormat, int font, int border, const char* alignment) {
     return fmt::format(
@@ -157,13 +162,14 @@ std::string RowsXml(const Sheet& sheet) {
 }
 
 std::string SheetXml(const Sheet& sheet) {
-  return std::string(XML) +
-         R"(<worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main">)"
-         R"(<sheetPr><pageSetUpPr fitToPage="1"/></sheetPr><sheetViews><sheetView workbookViewId="0">)"
-         R"(<pane ySplit="1" topLeftCell="A2" activePane="bottomLeft" state="frozen"/></sheetView></sheetViews>)" +
-         ColumnsXml(sheet) + RowsXml(sheet) +
-         R"(<pageMargins left="0.4" right="0.4" top="0.4" bottom="0.4" header="0.2" footer="0.2"/>)"
-         R"(<pageSetup paperSize="9" orientation="landscape" fitToHeight="0"/></worksheet>)";
+  return fmt::format(
+      R"({}<worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main">)"
+      R"(<sheetPr><pageSetUpPr fitToPage="1"/></sheetPr><sheetViews><sheetView workbookViewId="0">)"
+      R"(<pane ySplit="1" topLeftCell="A2" activePane="bottomLeft" state="frozen"/></sheetView></sheetViews>)"
+      R"({}{})"
+      R"(<pageMargins left="0.4" right="0.4" top="0.4" bottom="0.4" header="0.2" footer="0.2"/>)"
+      R"(<pageSetup paperSize="9" orientation="landscape" fitToHeight="0"/></worksheet>)",
+      XML, ColumnsXml(sheet), RowsXml(sheet));
 }
 
 // What programs take for the name of a sheet: up to 31 characters without some marks.
@@ -182,10 +188,10 @@ std::string WorkbookXml(const Sheet& sheet) {
 
 std::string Xlsx(const Sheet& sheet) {
   ZipArchive archive;
-  archive.Add("[Content_Types].xml", std::string(XML) + CONTENT_TYPES);
-  archive.Add("_rels/.rels", std::string(XML) + RELATIONS);
+  archive.Add("[Content_Types].xml", FixedXml(CONTENT_TYPES));
+  archive.Add("_rels/.rels", FixedXml(RELATIONS));
   archive.Add("xl/workbook.xml", WorkbookXml(sheet));
-  archive.Add("xl/_rels/workbook.xml.rels", std::string(XML) + WORKBOOK_RELATIONS);
+  archive.Add("xl/_rels/workbook.xml.rels", FixedXml(WORKBOOK_RELATIONS));
   archive.Add("xl/styles.xml", StylesXml());
   archive.Add("xl/worksheets/sheet1.xml", SheetXml(sheet));
   return archive.Bytes();
