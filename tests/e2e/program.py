@@ -7,7 +7,7 @@ import subprocess
 import sys
 
 TIME_LIMIT = 600  # seconds; a hanging program ends here, a slow machine or sanitizer does not
-WRITING = ("new", "insert", "edit", "move", "erase", "apply", "renumber", "refit", "undo")  # the commands that write drawings
+WRITING = ("new", "insert", "edit", "move", "erase", "apply", "mark", "renumber", "refit", "undo")  # the commands that write drawings
 
 
 @dataclasses.dataclass

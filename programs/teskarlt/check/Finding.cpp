@@ -76,6 +76,7 @@ constexpr std::string_view KIND_NAMES[] = {
     "window-number",
     "window-size",
     "window-misfit",
+    "window-mark",
     "window-foreign-data",
 };
 static_assert(std::size(KIND_NAMES) == static_cast<std::size_t>(Kind::KindCount));

@@ -84,6 +84,7 @@ enum class Kind {
   WindowNumber,
   WindowSize,
   WindowMisfit,
+  WindowMark,
   WindowForeignData,
   KindCount
 };

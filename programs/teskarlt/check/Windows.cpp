@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
 #include <set>
 #include <span>
 #include <string>
@@ -48,6 +49,20 @@ void CheckNumbers(const Scene& scene) {
       Report(scene, Kind::WindowNumber, window,
              fmt::format("a window before this one has the number {}, too", window.number));
     }
+  }
+}
+
+// A mark that two windows bear names neither.
+void CheckMarks(const Scene& scene) {
+  std::map<std::string_view, std::int32_t> bearers;
+  for (const DrawnWindow& window : scene.windows) {
+    if (window.mark.empty()) continue;
+    const auto [known, isNew] = bearers.emplace(window.mark, window.number);
+    if (isNew) continue;
+    Report(scene, Kind::WindowMark, window,
+           fmt::format("window {} bears the mark {} of window {}, too; teskarlt mark gives it one of its own",
+                       window.number, window.mark, known->second),
+           Severity::Warning);
   }
 }
 
@@ -105,8 +120,8 @@ void CheckFits(const Scene& scene) {
 }
 
 // Whatever else can be wrong with windows and their roofs is one more function of this list.
-constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers, CheckDescriptions, CheckEntities, CheckShapes,
-                                            CheckFits};
+constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers,  CheckMarks,  CheckDescriptions,
+                                            CheckEntities, CheckShapes, CheckFits};
 
 bool IsWindowElement(std::span<const dxf::Tag> section) {
   for (const dxf::Tag& tag : section)

@@ -42,6 +42,7 @@ void AddCommands(OptionParser& parser) {
   AddScheduleCommand(parser);
   AddRefitCommand(parser);
   AddRenumberCommand(parser);
+  AddMarkCommand(parser);
   AddUndoCommand(parser);
   AddCheckCommand(parser);
   AddPreviewCommand(parser);

@@ -13,6 +13,7 @@ void AddEditCommand(OptionParser& parser);
 void AddEraseCommand(OptionParser& parser);
 void AddInsertCommand(OptionParser& parser);
 void AddListCommand(OptionParser& parser);
+void AddMarkCommand(OptionParser& parser);
 void AddMergeCommand(OptionParser& parser);
 void AddMoveCommand(OptionParser& parser);
 void AddNewCommand(OptionParser& parser);

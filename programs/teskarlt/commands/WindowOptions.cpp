@@ -89,6 +89,7 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options) {
       .Needs(window);
   command.Repeated("--set", options.settings, "a value of the window, as often as needed")
       .Named("FIELD=VALUE");
+  AddMarkOption(command, options.mark);
   AddResultOptions(command, options);
   return at;
 }
@@ -107,6 +108,16 @@ void AddResultOptions(Subcommand& command, WindowOptions& options) {
   command.Flag("--json", options.asJson, JSON_HELP);
 }
 
+Option AddMarkOption(Subcommand& command, std::string& mark) {
+  return command
+      .Value("--mark", mark,
+             "the window's mark: a text, in which {number}, {roof} and {type} stand for the window's and "
+             "{run} for "
+             "the first number that is free; W{number:02} is W07 for window 7")
+      .Named("MARK")
+      .NotEmpty();
+}
+
 void AddLockedOption(Subcommand& command, bool& isLockedToo) {
   command.Flag("--locked", isLockedToo, "change the window though its layer is locked or frozen");
 }
@@ -115,6 +126,7 @@ WindowOrder OrderOf(const WindowOptions& options) {
   WindowOrder order;
   order.lengths = StyleSaid(options.lengths);
   order.window = options.window;
+  order.mark = options.mark;
   order.catalogue = options.catalogue;
   for (const std::string& setting : options.settings)
     order.settings.push_back(ParseSetting(setting, order.lengths));

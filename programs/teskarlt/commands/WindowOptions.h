@@ -25,6 +25,7 @@ struct WindowOptions {
   std::string window;
   std::string catalogue;
   std::vector<std::string> settings;
+  std::string mark;
   RowOptions row;  // of a command that has them
   AskedUnit units;
   std::string lengths;
@@ -42,6 +43,9 @@ Option AddWindowOptions(Subcommand& command, WindowOptions& options);
 // Adds -o with --backup, --units, --strict, --dry-run and --json to a command that changes windows. The
 // options must outlive the parsing.
 void AddResultOptions(Subcommand& command, WindowOptions& options);
+
+// Adds --mark to a command that marks windows, and gives it. The text must outlive the parsing.
+Option AddMarkOption(Subcommand& command, std::string& mark);
 
 // Adds --locked to a command that changes a window. The flag must outlive the parsing.
 void AddLockedOption(Subcommand& command, bool& isLockedToo);

@@ -36,6 +36,10 @@ Json ChangesJson(const EditedWindow& window, const WindowReading& before, const 
                            {"from", FieldJson(from, *field, drawing)},
                            {"to", FieldJson(to, *field, drawing)}}));
   }
+  if (window.placed.mark != window.markBefore) {
+    json.Add(Json::Object(
+        {{"field", "mark"}, {"from", MarkJson(window.markBefore)}, {"to", MarkJson(window.placed.mark)}}));
+  }
   return json;
 }
 
@@ -50,7 +54,8 @@ void PrintPlace(const PlacedWindow& window, const LengthWords& words) {
                                         : "the given plane";
   const brevanta::Edges frame = brevanta::EdgesOf(window.outline, record.unitFactor);
   const brevanta::Edges recorded = brevanta::RecordedEdges(record);
-  fmt::print("Window {}: {} x {} on {}, pitch {:.2f} degrees.\n", record.markerValue,
+  const std::string mark = window.mark.empty() ? std::string() : fmt::format(" ({})", window.mark);
+  fmt::print("Window {}{}: {} x {} on {}, pitch {:.2f} degrees.\n", record.markerValue, mark,
              words.Size(record.width), words.SpokenSize(record.length), where, record.pitch);
   fmt::print("Its frame lies from {} to {}; lowerEdgeHeight {}, upperEdgeHeight {}.\n",
              words.Spoken(frame.lower), words.Spoken(frame.upper), words.Cell(recorded.lower),
@@ -82,14 +87,18 @@ std::vector<std::string> ChangeTexts(const EditedWindow& window, const WindowRea
     texts.push_back(OneLine(fmt::format("{}: {} -> {}", field->name, FieldText(from, *field, drawing, words),
                                         FieldText(to, *field, drawing, words))));
   }
+  const auto shown = [](const std::string& mark) { return mark.empty() ? std::string("none") : mark; };
+  if (window.placed.mark != window.markBefore)
+    texts.push_back(fmt::format("mark: {} -> {}", shown(window.markBefore), shown(window.placed.mark)));
   return texts;
 }
 
 void PrintChanges(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing,
                   const LengthWords& words) {
   const brevanta::WindowParams& after = window.placed.record;
-  if (window.changes.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
-  for (const std::string& text : ChangeTexts(window, before, drawing, words))
+  const std::vector<std::string> texts = ChangeTexts(window, before, drawing, words);
+  if (texts.empty()) fmt::print("No value changed; its description says again what is drawn.\n");
+  for (const std::string& text : texts)
     fmt::print("{}\n", text);
   if (AssumesSkirt(before, after)) {
     fmt::print("skirtHeight: {} by default, since nothing drawn told it\n",
@@ -154,6 +163,7 @@ Json WindowJson(const PlacedWindow& window) {
   const brevanta::WindowParams& record = window.record;
   Json json;
   json["number"] = record.markerValue;
+  json["mark"] = MarkJson(window.mark);
   json["roof"] = window.face ? Json(window.face->roof) : Json(nullptr);
   json["face"] = window.face ? Json(window.face->name) : Json(nullptr);
   json["pitch"] = record.pitch;
@@ -176,6 +186,10 @@ Json EditedJson(const EditedWindow& window, const WindowReading& before, const d
   json["notes"] = before.notes;
   json["changes"] = ChangesJson(window, before, drawing);
   return json;
+}
+
+Json MarkJson(const std::string& mark) {
+  return mark.empty() ? Json(nullptr) : Json(mark);
 }
 
 Json UnitJson(const DrawingUnit& unit) {

@@ -37,6 +37,9 @@ Json WindowJson(const PlacedWindow& window);
 // For programs: the same of a window that was changed, with what it was before.
 Json EditedJson(const EditedWindow& window, const WindowReading& before, const dxf::Document& drawing);
 
+// For programs: a window's mark; null for none.
+Json MarkJson(const std::string& mark);
+
 // For programs: the unit's name; null where none is stated.
 Json UnitJson(const DrawingUnit& unit);
 

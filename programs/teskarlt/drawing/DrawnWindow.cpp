@@ -26,18 +26,20 @@ namespace {
 
 constexpr std::int32_t NO_NUMBER = 0;
 
-enum class Section { Foreign, Element, WindowElement, Description };
+enum class Section { Foreign, Element, WindowElement, Description, Mark };
 
 // What the extended data of an entity says of its window.
 struct Marks {
   bool isWindow = false;
   std::optional<dxf::Tag> numberTag;
+  std::string mark;  // UTF-8
   DrawnWindow window;  // without its entities
 };
 
 Section SectionOf(std::string_view application) {
   if (dxf::SameName(application, brevanta::ELEMENT_APPLICATION)) return Section::Element;
   if (dxf::SameName(application, brevanta::DESCRIPTION_APPLICATION)) return Section::Description;
+  if (dxf::SameName(application, brevanta::MARK_APPLICATION)) return Section::Mark;
   return Section::Foreign;
 }
 
@@ -57,14 +59,14 @@ std::string_view ExtendedData(const dxf::Document& drawing, const dxf::Entity& e
   return {};
 }
 
-// What of it is ours: the text of the sections of our applications.
+// What of it tells windows apart: the text of the sections of our applications, but for the mark.
 std::string OwnData(const dxf::Document& drawing, std::string_view extendedData) {
   std::string own;
   Section section = Section::Foreign;
   dxf::TagReader reader(drawing.Source(), extendedData);
   for (dxf::Tag tag; reader.Next(tag);) {
     if (tag.code == dxf::CODE_XDATA_APPLICATION) section = SectionOf(dxf::Trimmed(tag.value));
-    if (section != Section::Foreign) own.append(reader.TagBegin(), reader.TagEnd());
+    if (section != Section::Foreign && section != Section::Mark) own.append(reader.TagBegin(), reader.TagEnd());
   }
   return own;
 }
@@ -84,6 +86,8 @@ Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, con
       marks.isWindow = true;
     } else if (section == Section::WindowElement && tag.code == dxf::CODE_XDATA_INTEGER32) {
       marks.numberTag = tag;
+    } else if (section == Section::Mark && tag.code == dxf::CODE_XDATA_TEXT && marks.mark.empty()) {
+      marks.mark = drawing.Text(tag);
     } else if (section == Section::Description) {
       description.Read(tag);
     }
@@ -226,6 +230,7 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, const Working
       if (!marks.isWindow) continue;
       found->second = windowOfOwn.try_emplace(OwnData(drawing, extendedData), windows.size()).first->second;
       if (found->second == windows.size()) windows.push_back(std::move(marks.window));
+      if (std::string& mark = windows[found->second].mark; mark.empty()) mark = std::move(marks.mark);
     }
     if (found->second == notOurs) continue;
     DrawnWindow& window = windows[found->second];

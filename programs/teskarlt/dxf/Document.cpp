@@ -237,6 +237,10 @@ void Document::Redraw(const Entity& entity, std::span<const TypedTag> tags, Line
   state_->edits.Redraw(entity, tags, linetype);
 }
 
+void Document::SetExtendedData(const Entity& entity, std::span<const TypedTag> tags) {
+  state_->edits.SetExtendedData(entity, tags);
+}
+
 void Document::ReplaceValue(const Tag& tag, std::string value) {
   state_->edits.ReplaceValue(tag, std::move(value));
 }

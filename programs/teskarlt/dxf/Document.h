@@ -105,6 +105,11 @@ class Document {
   // groups and drawing orders; the linetype unless it is renewed. One that was removed comes back.
   void Redraw(const Entity& entity, std::span<const TypedTag> tags, LinetypeOnRedraw linetype);
 
+  // Gives an entity of Entities() that data of an application, 1001 with its name first, in place of what it
+  // had of it; the name alone takes them from it. Once for each entity and application, and not for one that
+  // is drawn anew. Refused as AddEntity refuses extended data.
+  void SetExtendedData(const Entity& entity, std::span<const TypedTag> tags);
+
   // Writes another value, in the drawing's encoding, in the place of the tag's. The tag is one of the file,
   // and none is replaced twice.
   void ReplaceValue(const Tag& tag, std::string value);

@@ -122,6 +122,8 @@ struct ServiceCalls {
     WorkForModule([&] {
       ModuleSession& session = Session(context);
       session.outcome_.confirmed = *record;
+      if (session.request_.markOf) session.outcome_.mark = session.request_.markOf(*record);
+      session.mark_ = session.drawing_.Encode(session.outcome_.mark);
       session.faceRoles_ =
           FaceRoles(record->skirtHeight > 0.0 ? brevanta::FACES_WITH_SKIRT : brevanta::FACES_WITHOUT_SKIRT);
       session.lineRoles_ = LineRoles(DrawsSymbol(*record), record->openingCode);
@@ -180,6 +182,7 @@ std::int32_t ModuleSession::MakeEntity(const brevanta::ValueNode* list) {
 void ModuleSession::AddEntity(const brevanta::ValueNode* list) {
   std::vector<dxf::TypedTag> tags = TagsOf(list);
   TakeToDrawn(request_.unit, tags);
+  AddMark(tags);
   const bool isFace = !tags.empty() && tags[0].value == decltype(dxf::TypedTag::value)(dxf::TYPE_FACE);
   if (Redraw(tags, isFace)) return;
   drawing_.AddEntity(tags);
@@ -189,6 +192,13 @@ void ModuleSession::AddEntity(const brevanta::ValueNode* list) {
     outcome_.layers.insert(drawing_.Decode(std::get<std::string_view>(tag.value)));
     break;
   }
+}
+
+// The mark stands with each entity, so that it stays with the window whatever becomes of some of them.
+void ModuleSession::AddMark(std::vector<dxf::TypedTag>& tags) const {
+  if (mark_.empty()) return;
+  tags.push_back({dxf::CODE_XDATA_APPLICATION, std::string_view(brevanta::MARK_APPLICATION)});
+  tags.push_back({dxf::CODE_XDATA_TEXT, std::string_view(mark_)});
 }
 
 // Draws the part of the edited window that the next face or line is to be; false when it has none.

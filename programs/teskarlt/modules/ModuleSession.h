@@ -32,6 +32,10 @@ using FaceCorners = std::vector<geometry::Vec3>;  // in order around the face
 // Gives the faces of a roof, within which a window must stay, that touch the area.
 using FacesNear = std::function<std::vector<FaceCorners>(const PlanBox& area)>;
 
+// Gives the mark of the window with the record that the dialog confirmed, UTF-8; empty for none. May throw
+// Error, which refuses the window.
+using MarkOfRecord = std::function<std::string(const brevanta::WindowParams& record)>;
+
 // What the user wants, as the dialog asks for it. Coordinates are those of the drawing in working units;
 // texts are as they stand in its file.
 struct WindowRequest {
@@ -41,6 +45,7 @@ struct WindowRequest {
   FaceCorners roof;                              // a face, or three points, that span its plane
   FacesNear facesNear;                           // of the roof; null where it has no bounds
   const WindowNumbers* numbersInUse = nullptr;   // of the windows in the drawing; null: none
+  MarkOfRecord markOf;                           // null: the window gets no mark
   std::optional<brevanta::WindowParams> edited;  // the window that is changed
   std::vector<const dxf::Entity*> replaced;      // its entities, or those of one to erase
   std::map<PartRole, const dxf::Entity*> parts;  // those that are drawn anew in their places
@@ -55,6 +60,7 @@ struct DialogReport {
 struct CommandOutcome {
   bool isDialogRun = false;                         // it asked for something
   std::optional<brevanta::WindowParams> confirmed;  // the record that the dialog confirmed
+  std::string mark;                                 // of the window, UTF-8
   std::size_t faces = 0;                            // entities of finished batches
   std::size_t lines = 0;
   std::size_t erased = 0;        // entities of the window that was changed or erased
@@ -89,6 +95,7 @@ class ModuleSession {
   friend struct ServiceCalls;
 
   void AddEntity(const brevanta::ValueNode* list);
+  void AddMark(std::vector<dxf::TypedTag>& tags) const;
   bool Redraw(std::span<const dxf::TypedTag> tags, bool isFace);
 
   dxf::Document& drawing_;
@@ -102,6 +109,7 @@ class ModuleSession {
   // Of the confirmed window, in the order in which the module draws it; known when it begins to.
   std::vector<PartRole> faceRoles_;
   std::vector<PartRole> lineRoles_;
+  std::string mark_;  // of that window, in the drawing's encoding
 };
 
 }  // namespace teskarlt

@@ -60,7 +60,7 @@ std::vector<ErasedWindow> EraseWindows(JobSite& site, const WindowSelection& sel
   RefuseAny(drawing, chosen, isLockedToo);
   std::vector<ErasedWindow> erased = EraseAll(site.Module(), drawing, chosen);
   std::for_each(chosen.rbegin(), chosen.rend(), [&](const DrawnWindow* window) {  // the highest number first
-    site.NoteErased(window->number, DrawnOutline(drawing, *window));
+    site.NoteErased(window->number, DrawnOutline(drawing, *window), window->mark);
   });
   return erased;
 }

@@ -14,6 +14,7 @@ JobSite::JobSite(const WindowModule& module, dxf::Document& drawing, const Drawi
 void JobSite::Read() {
   work_.emplace(drawing_, unit_);
   numbers_ = work_->numbers;
+  marks_ = WindowMarks(work_->windows);
   fit_.emplace(work_->roofs);
   fit_->AddAll(drawing_, work_->windows);
   changed_.clear();
@@ -35,8 +36,9 @@ void JobSite::ReadFor(const WindowSelection& selection) {
   Read();
 }
 
-void JobSite::NoteInserted(std::int32_t number, const Outline& outline) {
+void JobSite::NoteInserted(std::int32_t number, const Outline& outline, const std::string& mark) {
   numbers_.Take(number);
+  marks_.Take(mark, number);
   fit_->Add(number, outline);
   changed_.insert(number);
 }
@@ -47,7 +49,9 @@ void JobSite::NoteMoved(std::int32_t number, const std::optional<Outline>& from,
   if (to) fit_->Add(number, *to);
 }
 
-void JobSite::NoteErased(std::int32_t number, const std::optional<Outline>& outline) {
+void JobSite::NoteErased(std::int32_t number, const std::optional<Outline>& outline,
+                         const std::string& mark) {
+  marks_.Release(mark, number);
   NoteMoved(number, outline, std::nullopt);
   if (number == numbers_.Highest()) kept_ = number;
   numbers_.Release(number);

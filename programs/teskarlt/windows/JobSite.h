@@ -5,12 +5,14 @@
 #include <functional>
 #include <optional>
 #include <set>
+#include <string>
 
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowNumbers.h"
 #include "teskarlt/modules/WindowModule.h"
 #include "teskarlt/windows/Answers.h"
 #include "teskarlt/windows/WindowChoice.h"
+#include "teskarlt/windows/WindowMarks.h"
 #include "teskarlt/windows/WorkedDrawing.h"
 
 namespace teskarlt {
@@ -34,15 +36,17 @@ class JobSite {
   const WindowNumbers& Numbers() const { return numbers_; }
   const WindowFit& Fit() const { return *fit_; }
   CatalogueShelf& Shelf() { return shelf_; }
+  // Of the windows that stand in the drawing now, and of those that a job is drawing.
+  WindowMarks& Marks() { return marks_; }
 
   // Reads the drawing anew where the selection may mean a window that is not as Work() has it.
   void ReadFor(const WindowSelection& selection);
 
   // What a job did to a window; outlines in working units, none where its entities show none.
-  void NoteInserted(std::int32_t number, const Outline& outline);
+  void NoteInserted(std::int32_t number, const Outline& outline, const std::string& mark);
   void NoteMoved(std::int32_t number, const std::optional<Outline>& from, const std::optional<Outline>& to);
   void NoteRedrawn(std::int32_t number) { changed_.insert(number); }
-  void NoteErased(std::int32_t number, const std::optional<Outline>& outline);
+  void NoteErased(std::int32_t number, const std::optional<Outline>& outline, const std::string& mark);
 
   // Leaves with the drawing what later programs need to know of erased windows. Once, before it is saved.
   void Finish();
@@ -57,6 +61,7 @@ class JobSite {
   Prove prove_;
   std::optional<WorkedDrawing> work_;
   WindowNumbers numbers_;
+  WindowMarks marks_;
   std::optional<WindowFit> fit_;
   CatalogueShelf shelf_;
   std::set<std::int32_t> changed_;  // numbers of windows that are not as work_ has them

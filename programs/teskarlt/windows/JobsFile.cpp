@@ -188,6 +188,7 @@ const std::vector<Member>& Members() {
       {"roof", PLACING, ApplyRoof},
       {"window", DRAWING, [](Text n, Value v, JobOrder& job) { job.window.window = NameText(n, v); }},
       {"catalogue", DRAWING, [](Text n, Value v, JobOrder& job) { job.window.catalogue = NameText(n, v); }},
+      {"mark", DRAWING, [](Text n, Value v, JobOrder& job) { job.window.mark = NameText(n, v); }},
       {"set", DRAWING,
        [](Text, Value v, JobOrder& job) { AddSettings(v, job.window.lengths, job.window.settings); }},
       {"row", INSERTING,

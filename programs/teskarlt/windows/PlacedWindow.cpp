@@ -10,6 +10,7 @@ namespace teskarlt {
 PlacedWindow PlacedBy(const CommandOutcome& outcome, const WorkingUnit& unit, const RoofChoice& roof) {
   PlacedWindow window;
   window.record = *outcome.confirmed;
+  window.mark = outcome.mark;
   window.unit = unit;
   window.outline = OutlineOf(window.record);
   if (roof.face != nullptr) window.face = FaceName{roof.face->name, roof.face->layer, roof.surface->name};

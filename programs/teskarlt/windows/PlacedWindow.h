@@ -22,6 +22,7 @@ struct FaceName {
 };
 
 struct PlacedWindow {
+  std::string mark;                      // UTF-8; empty for none
   brevanta::WindowParams record{};       // as the dialog confirmed it
   WorkingUnit unit;                      // of its points
   Outline outline{};                     // of the frame, in this unit

@@ -145,6 +145,7 @@ class Refitter {
     request.replaced = window.entities;
     request.parts = PartsByRole(work_.drawing, window);
     request.numbersInUse = &work_.numbers;
+    request.markOf = [&](const brevanta::WindowParams&) { return window.mark; };
     request.point = {reading.params.storedPoint.x, reading.params.storedPoint.y};
     if (order_.keeps == RefitKeeps::Height)
       request.answers["lowerEdgeHeight"] = fmt::format("{}", reading.params.lowerEdgeHeight);

@@ -6,6 +6,7 @@
 
 #include "teskarlt/drawing/DrawnWindow.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/windows/WindowMarks.h"
 
 namespace teskarlt {
 
@@ -33,6 +34,7 @@ std::vector<Renumbered> RenumberCopies(dxf::Document& drawing) {
     const brevanta::RecordPoint place = ReadWindow(drawing, window).params.storedPoint;
     changes.push_back({window.number, number, place, window.entities.size()});
     StoreNumber(window, number, drawing);
+    if (!window.mark.empty()) StoreMark(window, {}, drawing);
   }
   return changes;
 }

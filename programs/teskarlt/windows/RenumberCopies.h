@@ -17,7 +17,8 @@ struct Renumbered {
   std::size_t entities;
 };
 
-// Gives each whole window whose number a window before it bears a new one. Parts of windows keep
+// Gives each whole window whose number a window before it bears a new one, and takes the mark of its model
+// from it. Parts of windows keep
 // theirs, so that they can be put back to the rest.
 std::vector<Renumbered> RenumberCopies(dxf::Document& drawing);
 

@@ -118,20 +118,33 @@ std::vector<EditedWindow> WindowEditor::Edit(const WindowOrder& order) {
                             order.at->text),
                 {.value = order.at->text});
   }
+  std::vector<EditedWindow> edited;
+  edited.reserve(windows_.size());
+  for (const EditableWindow& window : windows_)
+    site_.Marks().Release(window.drawn->mark, window.drawn->number);
+  try {
+    AllOrNone(Work().drawing, [&] { EditAll(order, edited); });
+  } catch (...) {
+    for (const EditedWindow& window : edited)
+      site_.Marks().Release(window.placed.mark, window.placed.record.markerValue);
+    for (const EditableWindow& window : windows_)
+      site_.Marks().Take(window.drawn->mark, window.drawn->number);
+    throw;
+  }
+  return edited;
+}
+
+void WindowEditor::EditAll(const WindowOrder& order, std::vector<EditedWindow>& edited) {
   const WindowOrder working = InWorkingUnits(order, Work().unit);
-  return AllOrNone(Work().drawing, [&] {
-    std::vector<EditedWindow> edited;
-    edited.reserve(windows_.size());
-    for (const EditableWindow& window : windows_) {
-      try {
-        edited.push_back(EditOne(window, working));
-      } catch (const Error& error) {
-        throw Naming(window, error);
-      }
+  for (const EditableWindow& window : windows_) {
+    try {
+      edited.push_back(EditOne(window, working));
+    } catch (const Error& error) {
+      throw Naming(window, error);
     }
-    Fit(edited, order);
-    return edited;
-  });
+    site_.Marks().Take(edited.back().placed.mark, window.drawn->number);
+  }
+  Fit(edited, order);
 }
 
 EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrder& order) {
@@ -148,6 +161,7 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
   if (!moves) KeepSecondPlane(record, Work().tolerance, request.answers);
   const RoofChoice roof =
       moves ? ChooseRoof(order, Work().drawing.FileName(), Work().roofs) : RoofUnder(window.reading, Work());
+  request.markOf = MarkFor(order, roof, Work().drawing, site_.Marks(), window.drawn->mark);
   PutRoof(roof, request);
   if (IsGiven(order.placing)) PutPlace(order, roof, request);
 
@@ -156,8 +170,9 @@ EditedWindow WindowEditor::EditOne(const EditableWindow& window, const WindowOrd
   edited.placed = PlacedBy(EditOnto(roof, request, order.lengths), Work().unit, roof);
   edited.placed.bounds = BoundsOf(order, roof, Work().roofs);
   const WindowParams& after = edited.placed.record;
+  edited.markBefore = window.drawn->mark;
   edited.changes = ChangedFields(record, after);
-  edited.isRewritten = !StandsAs(window, after);
+  edited.isRewritten = !StandsAs(window, after) || edited.placed.mark != edited.markBefore;
   if (!edited.isRewritten) Work().drawing.Rollback(before);
   return edited;
 }

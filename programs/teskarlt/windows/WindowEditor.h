@@ -26,6 +26,7 @@ struct EditableWindow {
 
 struct EditedWindow {
   PlacedWindow placed;
+  std::string markBefore;  // UTF-8
   // The fields that differ from EditableWindow::reading, as ChangedFields gives them.
   std::vector<const brevanta::RecordField*> changes;
   bool isRewritten = false;  // else it stood there as ordered, and the drawing is what it was
@@ -55,6 +56,7 @@ class WindowEditor {
  private:
   const WorkedDrawing& Work() const { return site_.Work(); }
   void Choose(const WindowSelection& selection, bool isLockedToo);
+  void EditAll(const WindowOrder& order, std::vector<EditedWindow>& edited);
   EditedWindow EditOne(const EditableWindow& window, const WindowOrder& order);
   CommandOutcome EditOnto(const RoofChoice& roof, const WindowRequest& request, LengthStyle lengths);
   // Puts the point for which the order's words stand into the request.

@@ -72,6 +72,7 @@ WindowRequest WindowInserter::RequestFor(const WindowOrder& order, const RoofCho
   request.unit = Work().unit;
   request.numbersInUse = &numbers;
   request.answers = AnswersOf(order, Work().drawing, site_.Shelf());
+  request.markOf = MarkFor(order, roof, Work().drawing, site_.Marks());
   if (order.at) request.point = {order.at->x, order.at->y};
   PutRoof(roof, request);
   return request;
@@ -95,10 +96,12 @@ std::vector<PlacedWindow> WindowInserter::DrawRow(const WindowOrder& order, cons
   WindowOrder one = order;
   one.placing = {};
   std::vector<PlacedWindow> windows;
-  // While the row is drawn, its windows are in the way of those that follow.
+  // While the row is drawn, its windows are in the way of those that follow, and their marks are taken.
   const auto forget = [&] {
-    for (const PlacedWindow& window : windows)
+    for (const PlacedWindow& window : windows) {
       site_.NoteMoved(window.record.markerValue, window.outline, std::nullopt);
+      site_.Marks().Release(window.mark, window.record.markerValue);
+    }
   };
   try {
     for (const PlanPoint& point :
@@ -107,6 +110,7 @@ std::vector<PlacedWindow> WindowInserter::DrawRow(const WindowOrder& order, cons
       windows.push_back(DrawOfRow(one, roof, numbers, windows.size() + 1));
       numbers.Take(windows.back().record.markerValue);
       site_.NoteMoved(windows.back().record.markerValue, std::nullopt, windows.back().outline);
+      site_.Marks().Take(windows.back().mark, windows.back().record.markerValue);
     }
   } catch (...) {
     forget();
@@ -138,6 +142,7 @@ double WindowInserter::StepOf(const WindowOrder& order, RoofChoice roof) {
   WindowOrder sampleOrder = order;
   sampleOrder.isStrict = false;
   sampleOrder.placing = {};
+  sampleOrder.mark.clear();
   if (!order.at) sampleOrder.at = PlanPoint{roof.corners.front().x, roof.corners.front().y, {}};
   roof.facesNear = nullptr;
   const dxf::EditMark before = Work().drawing.Mark();
@@ -157,7 +162,7 @@ double WindowInserter::StepOf(const WindowOrder& order, RoofChoice roof) {
 }
 
 void WindowInserter::Note(const PlacedWindow& window) {
-  site_.NoteInserted(window.record.markerValue, window.outline);
+  site_.NoteInserted(window.record.markerValue, window.outline, window.mark);
 }
 
 CommandOutcome WindowInserter::InsertOnto(const RoofChoice& roof, const WindowRequest& request,

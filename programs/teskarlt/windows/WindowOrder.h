@@ -82,6 +82,7 @@ struct WindowOrder {
   std::string window;                         // of a catalogue, "MAKER/KEY"
   std::string catalogue;                      // its file or folder; without it the one in the data folder
   std::vector<FieldSetting> settings;         // of the same field the last one holds
+  std::string mark;                           // its pattern (WindowMarks.h); else none, or as it was
   LengthStyle lengths = LengthStyle::Metres;  // what plain lengths count that are still to be read
   double clearance = 0.0;                     // metres that windows keep to what is in their way
   bool isStrict = false;                      // a window that does not fit is refused

@@ -55,6 +55,16 @@ TEST(CheckWindows, CopyWithTheNumberOfItsModelIsAnError) {
               ElementsAre("error window-number LINE"));
 }
 
+TEST(CheckWindows, MarkThatTwoWindowsBearIsAWarningAtTheSecond) {
+  const std::string mark = "1001|TK_LT_MARK|1000|W01|";
+  const std::string text =
+      Damaged(WithWindows(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(1) + Description() + mark) +
+                          Window(200, LINES_OF_A_PLAIN_WINDOW, Element(2) + Description() + mark)),
+              "2|TK_LT_ELEM|70|0|",
+              "2|TK_LT_ELEM|70|0|" + Entry("APPID", "9", "94", "AcDbRegAppTableRecord", "TK_LT_MARK"));
+  EXPECT_THAT(Found(text), testing::Contains("warning window-mark LINE"));
+}
+
 TEST(CheckWindows, TwoWindowsWithOneNumberAreAnErrorAtTheSecond) {
   const std::string text =
       WithWindows(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(4) + Description()) +

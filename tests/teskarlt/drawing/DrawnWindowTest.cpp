@@ -137,6 +137,17 @@ TEST(FindWindows, ForeignDataBesideOursDoesNotMatter) {
   EXPECT_EQ(windows[0].params.length, 1.4);
 }
 
+TEST(FindWindows, MarkIsThatOfAnyEntityAndTellsNoWindowsApart) {
+  const std::string ours = Element(7) + Description();
+  const dxf::Document drawing = Drawing("", Line(ours) + Line(ours + "1001\nTK_LT_MARK\n1000\nW07\n") +
+                                                Line(ours) + Line(Element(8) + Description()));
+  const auto windows = FindWindows(drawing, MILLIMETRES);
+  ASSERT_EQ(windows.size(), 2U);
+  EXPECT_EQ(windows[0].mark, "W07");
+  EXPECT_EQ(windows[0].entities.size(), 3U);
+  EXPECT_EQ(windows[1].mark, "");
+}
+
 // --- Copies that other programs made ---
 
 Entities Joined(Entities first, const Entities& second) {

@@ -12,6 +12,9 @@ constexpr const char* ELEMENT_APPLICATION = "TK_LT_ELEM";
 constexpr const char* DESCRIPTION_APPLICATION = "TK_LT_DESC";
 constexpr const char* WINDOW_ELEMENT = "TKBRVA";
 
+// Application under which the host keeps the name that a user gives the window (1000); the module knows none.
+constexpr const char* MARK_APPLICATION = "TK_LT_MARK";
+
 // Colour number of the pane; the other entities have their layers' colours.
 constexpr std::int32_t GLASS_COLOUR = 4;
 

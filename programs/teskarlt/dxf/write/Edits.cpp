@@ -10,7 +10,9 @@
 
 #include "teskarlt/Error.h"
 #include "teskarlt/dxf/read/Owners.h"
+#include "teskarlt/dxf/read/TagReader.h"
 #include "teskarlt/dxf/tags/Codes.h"
+#include "teskarlt/dxf/tags/ExtendedData.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/Version.h"
@@ -169,6 +171,13 @@ std::string_view Edits::ExtendedData(std::span<const TypedTag> tags) {
   return lastExtendedData_;
 }
 
+const std::vector<std::string_view>& Edits::SharedData(std::span<const TypedTag> tags) {
+  const std::string_view extendedData = ExtendedData(tags);
+  if (sharedData_.empty() || sharedData_.back().front().data() != extendedData.data())
+    sharedData_.push_back({extendedData});
+  return sharedData_.back();
+}
+
 std::size_t Edits::NumberOf(const Entity& entity) const {
   const Entity* const first = index_.entities.data();
   if (std::less<>()(&entity, first) || !std::less<>()(&entity, first + index_.entities.size()))
@@ -191,10 +200,7 @@ void Edits::Redraw(const Entity& entity, std::span<const TypedTag> tags, Linetyp
       entries_.RequireLinetype(TextOf(tag));
     if (tag.code == CODE_XDATA_APPLICATION) entries_.RequireApplication(TextOf(tag));
   }
-  const std::string_view extendedData = ExtendedData(tags.subspan(extended));
-  if (sharedData_.empty() || sharedData_.back().front().data() != extendedData.data())
-    sharedData_.push_back({extendedData});
-  Redrawn redrawn{tags, &sharedData_.back(), linetype};
+  Redrawn redrawn{tags, &SharedData(tags.subspan(extended)), linetype};
   if (grouping_ && grouping_->fileGroups.empty()) {  // in those of the file it is already
     grouping_->members.push_back(entity.handle);
     if (groups_.NamesOwners()) redrawn.reactor = grouping_->newGroup;
@@ -208,6 +214,32 @@ void Edits::Redraw(const Entity& entity, std::span<const TypedTag> tags, Linetyp
 
 bool Edits::IsRemoved(const Entity& entity) const {
   return isRemoved_[NumberOf(entity)];
+}
+
+void Edits::SetExtendedData(const Entity& entity, std::span<const TypedTag> tags) {
+  const std::string_view application = TextOf(tags.front());
+  const char* begin = entity.text.data() + entity.text.size();  // of what it has of the application
+  const char* end = begin;
+  bool isOfIt = false;
+  std::size_t others = 0;
+  TagReader reader(source_, entity.text);
+  for (Tag tag; reader.Next(tag);) {
+    if (!IsExtendedData(tag.code)) continue;
+    if (tag.code == CODE_XDATA_APPLICATION) isOfIt = SameName(Trimmed(tag.value), application);
+    if (!isOfIt) {
+      others += ExtendedSize(tag.code, tag.value.size());
+      continue;
+    }
+    if (tag.code == CODE_XDATA_APPLICATION) begin = reader.TagBegin();
+    end = reader.TagEnd();
+  }
+  CheckExtendedData(tags, others);
+  if (tags.size() == 1) {
+    replaced_.push_back({begin, end});
+    return;
+  }
+  entries_.RequireApplication(application);
+  replaced_.push_back({begin, end, {}, &SharedData(tags)});
 }
 
 void Edits::ReplaceValue(const Tag& tag, std::string value) {

@@ -45,6 +45,7 @@ class Edits {
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
   void Redraw(const Entity& entity, std::span<const TypedTag> tags, LinetypeOnRedraw linetype);
+  void SetExtendedData(const Entity& entity, std::span<const TypedTag> tags);
   void ReplaceValue(const Tag& tag, std::string value);
   void KeepApplicationNumber(std::string_view name, std::int32_t number);
   void BeginGroup(std::span<const Entity* const> replaced);
@@ -83,7 +84,9 @@ class Edits {
   void RequireNames(std::span<const TypedTag> tags);
   std::uint64_t OwnerOfNew();
   std::uint64_t FindOwner() const;
+  // Texts as they are written; equal ones that follow each other share theirs.
   std::string_view ExtendedData(std::span<const TypedTag> tags);
+  const std::vector<std::string_view>& SharedData(std::span<const TypedTag> tags);
   void NoteShape(std::span<const TypedTag> own, std::size_t text);
   std::size_t NumberOf(const Entity& entity) const;
   std::vector<Splice> Splices() const;

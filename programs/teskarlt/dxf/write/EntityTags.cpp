@@ -142,16 +142,10 @@ std::size_t ShapeOf(std::span<const TypedTag> tags, Integers integers) {
   return shape;
 }
 
-void CheckTags(std::span<const TypedTag> tags) {
-  CheckType(tags);
-  const std::size_t extended = ExtendedDataBegin(tags);
-  for (const TypedTag& tag : tags.subspan(1, extended - 1)) {
-    if (tag.code == CODE_TYPE) Refuse(CODE_TYPE, "stands twice");
-    CheckValue(tag);
-  }
+void CheckExtendedData(std::span<const TypedTag> tags, std::size_t others) {
   bool isUnderApplication = false;
-  std::size_t size = 0;
-  for (const TypedTag& tag : tags.subspan(extended)) {
+  std::size_t size = others;
+  for (const TypedTag& tag : tags) {
     if (tag.code == CODE_XDATA_MARKER) continue;
     if (!IsExtendedData(tag.code)) Refuse(tag.code, "stands behind extended data");
     isUnderApplication = isUnderApplication || tag.code == CODE_XDATA_APPLICATION;
@@ -165,6 +159,16 @@ void CheckTags(std::span<const TypedTag> tags) {
                     "entity can hold",
                     size, MOST_EXTENDED_DATA));
   }
+}
+
+void CheckTags(std::span<const TypedTag> tags) {
+  CheckType(tags);
+  const std::size_t extended = ExtendedDataBegin(tags);
+  for (const TypedTag& tag : tags.subspan(1, extended - 1)) {
+    if (tag.code == CODE_TYPE) Refuse(CODE_TYPE, "stands twice");
+    CheckValue(tag);
+  }
+  CheckExtendedData(tags.subspan(extended));
 }
 
 void WriteTag(TagWriter& writer, const TypedTag& tag) {

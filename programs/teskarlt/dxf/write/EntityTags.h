@@ -15,6 +15,10 @@ namespace teskarlt::dxf {
 // an application. Handle and owner are not among the tags.
 void CheckTags(std::span<const TypedTag> tags);
 
+// Throws Error unless each tag stands under an application and has a value of its kind and range, and an
+// entity that has `others` bytes of extended data besides (ExtendedData.h) can hold them.
+void CheckExtendedData(std::span<const TypedTag> tags, std::size_t others = 0);
+
 // Number of tags before the extended data.
 std::size_t ExtendedDataBegin(std::span<const TypedTag> tags);
 

@@ -353,5 +353,59 @@ TEST(KeepApplicationNumber, StandsBeforeEntriesThatTheTableGets) {
   EXPECT_EQ(saved.ApplicationNumber("OTHER"), std::nullopt);
 }
 
+// What stands behind the layer of the POINT, which has `data`, once it is given the mark, or loses it.
+std::string Marked(std::string_view data, std::vector<TypedTag> mark) {
+  std::string text = Complete("AC1015");
+  const std::string point = Tags("  0|POINT|  5|1A|  8|0");
+  text.insert(text.find(point) + point.size(), data.empty() ? std::string() : Tags(data));
+  Document drawing = Parsed(text);
+  drawing.SetExtendedData(drawing.Entities()[0], mark);
+  return Added(drawing);
+}
+
+const std::vector<TypedTag> MARK = {{1001, "MARK"sv}, {1000, "W01"sv}};
+
+TEST(SetExtendedData, ComesBehindAllOtherData) {
+  EXPECT_EQ(Marked("", MARK), "1001|MARK|1000|W01|");
+  EXPECT_EQ(Marked("1001|OTHER|1071|7", MARK), "1001|OTHER|1071|7|1001|MARK|1000|W01|");
+}
+
+TEST(SetExtendedData, TakesThePlaceOfWhatTheApplicationHad) {
+  EXPECT_EQ(Marked("1001|mark|1000|X|1070|1|1001|OTHER|1071|7", MARK),
+            "1001|MARK|1000|W01|1001|OTHER|1071|7|");
+}
+
+TEST(SetExtendedData, NameAloneTakesTheDataAway) {
+  EXPECT_EQ(Marked("1001|MARK|1000|X|1001|OTHER|1071|7", {{1001, "MARK"sv}}), "1001|OTHER|1071|7|");
+  EXPECT_EQ(Marked("1001|OTHER|1071|7", {{1001, "MARK"sv}}), "1001|OTHER|1071|7|");
+}
+
+TEST(SetExtendedData, DeclaresTheApplication) {
+  Document drawing = Parsed(Complete("AC1015"));
+  drawing.SetExtendedData(drawing.Entities()[0], MARK);
+  const std::string text = drawing.Serialize();
+  const std::size_t entry = text.rfind("APPID\n", text.find("BLOCK_RECORD"));
+  EXPECT_NE(text.substr(entry, text.find("ENDTAB", entry) - entry).find("\nMARK\n"), std::string::npos)
+      << text;
+}
+
+// 16,383 bytes: names and texts count three bytes more than they have.
+TEST(SetExtendedData, MoreThanAnEntityCanHoldIsRefused) {
+  std::string others = "1001|OTHER";
+  for (int i = 0; i < 80; ++i)
+    others += "|1000|" + std::string(200, 'x');
+  EXPECT_NE(Marked(others, MARK), "");
+  EXPECT_THROW(Marked(others + "|1000|" + std::string(130, 'y'), MARK), Error);
+}
+
+TEST(SetExtendedData, GoesWithARollback) {
+  Document drawing = Parsed(Complete("AC1015"));
+  const EditMark before = drawing.Mark();
+  drawing.SetExtendedData(drawing.Entities()[0], MARK);
+  EXPECT_TRUE(drawing.IsChanged());
+  drawing.Rollback(before);
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
 }  // namespace
 }  // namespace teskarlt::dxf
