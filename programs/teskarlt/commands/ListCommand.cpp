@@ -1,6 +1,9 @@
 // ListCommand.cpp - the subcommand "list": lists the roof windows of a drawing.
+#include <algorithm>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -12,6 +15,7 @@
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowRecord.h"
 #include "teskarlt/terminal/Json.h"
+#include "teskarlt/terminal/Messages.h"
 #include "teskarlt/terminal/Report.h"
 #include "teskarlt/windows/WindowListing.h"
 #include "window/EdgeHeights.h"
@@ -51,6 +55,7 @@ Json ToJson(const ListedWindow& row, const dxf::Document& drawing) {
   const std::optional<double> fall = window.isComplete ? FallDirection(reading.params) : std::nullopt;
   Json json;
   json["number"] = window.number;
+  json["mark"] = MarkJson(window.mark);
   json["complete"] = window.isComplete;
   json["editable"] = reading.obstacle.empty() && reading.longText.empty();
   json["mirrored"] = reading.isMirrored;
@@ -96,24 +101,42 @@ std::string EdgeText(const WindowReading& reading, double brevanta::Edges::*edge
   return drawn == recorded ? drawn : fmt::format("{} ({})", drawn, recorded);
 }
 
+std::vector<std::string> TableRow(const ListedWindow& row, const LengthWords& words) {
+  const auto& [window, reading] = row;
+  const std::string number = std::to_string(window.number);
+  const std::string entities = std::to_string(window.entities.size());
+  if (!window.isComplete)
+    return {number, "?", "?", "?", "?", "?", "?", "?", "?", "?", "?", entities, "(description damaged)"};
+  const brevanta::WindowParams p = WithDrawnPoints(reading.params, window.unit);
+  return {number,
+          words.Size(p.width),
+          words.Size(p.length),
+          fmt::format("{:.2f}", p.pitch),
+          FallText(p),
+          EdgeText(reading, &brevanta::Edges::lower, words),
+          EdgeText(reading, &brevanta::Edges::upper, words),
+          fmt::format("{:.3f}", p.storedPoint.x),
+          fmt::format("{:.3f}", p.storedPoint.y),
+          fmt::format("{:.3f}", p.storedPoint.z),
+          p.openingCode,
+          entities,
+          Texts(window)};
+}
+
+// Marks have a column where there are any, behind the numbers.
 void PrintTable(const std::vector<ListedWindow>& rows, const LengthWords& words) {
-  Table table({"number", words.Column("width"), words.Column("length"), "pitch deg", "falls to deg",
-               words.Column("lower edge"), words.Column("upper edge"), "x", "y", "z", "code", "entities",
-               "texts"});
-  for (const auto& [window, reading] : rows) {
-    const brevanta::WindowParams p = WithDrawnPoints(reading.params, window.unit);
-    const std::string entities = std::to_string(window.entities.size());
-    if (!window.isComplete) {
-      table.Add({std::to_string(window.number), "?", "?", "?", "?", "?", "?", "?", "?", "?", "?", entities,
-                 "(description damaged)"});
-      continue;
-    }
-    table.Add({std::to_string(window.number), words.Size(p.width), words.Size(p.length),
-               fmt::format("{:.2f}", p.pitch), FallText(p), EdgeText(reading, &brevanta::Edges::lower, words),
-               EdgeText(reading, &brevanta::Edges::upper, words), fmt::format("{:.3f}", p.storedPoint.x),
-               fmt::format("{:.3f}", p.storedPoint.y), fmt::format("{:.3f}", p.storedPoint.z), p.openingCode,
-               entities, Texts(window)});
-  }
+  const bool hasMarks =
+      std::any_of(rows.begin(), rows.end(), [](const ListedWindow& row) { return !row.window.mark.empty(); });
+  const auto withMark = [&](std::vector<std::string> cells, const std::string& mark) {
+    if (hasMarks) cells.insert(cells.begin() + 1, OneLine(mark));
+    return cells;
+  };
+  Table table(withMark(
+      {"number", words.Column("width"), words.Column("length"), "pitch deg", "falls to deg",
+       words.Column("lower edge"), words.Column("upper edge"), "x", "y", "z", "code", "entities", "texts"},
+      "mark"));
+  for (const ListedWindow& row : rows)
+    table.Add(withMark(TableRow(row, words), row.window.mark));
   table.Print();
   for (const auto& [window, reading] : rows) {
     for (const std::string& note : reading.notes)

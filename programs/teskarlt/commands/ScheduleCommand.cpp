@@ -106,9 +106,10 @@ std::vector<const Column*> ChosenColumns(const ScheduleOptions& options, const s
     const std::size_t end = std::min(rest.find(','), rest.size());
     const std::string_view name = dxf::Trimmed(rest.substr(0, end));
     const Column* const column = schedule::FindColumn(name);
-    if (column == nullptr)
+    if (column == nullptr) {
       throw UsageError(
           fmt::format("--columns: no column is named \"{}\"; there are {}", name, ColumnNames()));
+    }
     if (std::find(columns.begin(), columns.end(), column) != columns.end())
       throw UsageError(fmt::format("--columns: names {} twice", column->name));
     columns.push_back(column);

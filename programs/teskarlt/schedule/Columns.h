@@ -24,39 +24,39 @@ enum class ColumnKind {
 // The values of a row are in its member `text`, or in its member `number`.
 struct Column {
   std::string_view name;  // for users, programs, and in the languages
-  ColumnKind kind;
   std::string ScheduleRow::*text = nullptr;
   std::optional<double> ScheduleRow::*number = nullptr;
+  ColumnKind kind = ColumnKind::Text;
   bool isOfType = false;    // what is to be ordered: windows of one type have it in common
   bool isTotalled = false;  // the sum over all windows means something
   bool isUsual = true;      // there unless the user chooses columns
 };
 
 inline constexpr Column COLUMNS[] = {
-    {.name = "mark", .kind = ColumnKind::Text, .text = &ScheduleRow::mark},
-    {.name = "quantity", .kind = ColumnKind::Count, .number = &ScheduleRow::quantity, .isTotalled = true},
-    {.name = "maker", .kind = ColumnKind::Text, .text = &ScheduleRow::maker, .isOfType = true},
-    {.name = "key", .kind = ColumnKind::Text, .text = &ScheduleRow::key, .isOfType = true},
-    {.name = "text", .kind = ColumnKind::Text, .text = &ScheduleRow::text, .isOfType = true},
-    {.name = "width", .kind = ColumnKind::Size, .number = &ScheduleRow::width, .isOfType = true},
-    {.name = "length", .kind = ColumnKind::Size, .number = &ScheduleRow::length, .isOfType = true},
-    {.name = "frameWidth", .kind = ColumnKind::Size, .number = &ScheduleRow::frameWidth, .isOfType = true},
-    {.name = "frameDepth", .kind = ColumnKind::Size, .number = &ScheduleRow::frameDepth, .isOfType = true},
-    {.name = "opening", .kind = ColumnKind::Opening, .text = &ScheduleRow::openingCode, .isOfType = true},
-    {.name = "pitch", .kind = ColumnKind::Angle, .number = &ScheduleRow::pitch},
-    {.name = "roof", .kind = ColumnKind::Text, .text = &ScheduleRow::roof},
-    {.name = "compass", .kind = ColumnKind::Compass, .text = &ScheduleRow::compass},
-    {.name = "sill", .kind = ColumnKind::Height, .number = &ScheduleRow::sill},
-    {.name = "head", .kind = ColumnKind::Height, .number = &ScheduleRow::head},
-    {.name = "glassArea", .kind = ColumnKind::Area, .number = &ScheduleRow::glassArea, .isTotalled = true},
-    {.name = "frameArea", .kind = ColumnKind::Area, .number = &ScheduleRow::frameArea, .isTotalled = true},
-    {.name = "toEaves", .kind = ColumnKind::Height, .number = &ScheduleRow::toEaves},
-    {.name = "toRidge", .kind = ColumnKind::Height, .number = &ScheduleRow::toRidge},
-    {.name = "layer", .kind = ColumnKind::Text, .text = &ScheduleRow::layer},
-    {.name = "number", .kind = ColumnKind::Count, .number = &ScheduleRow::number, .isUsual = false},
-    {.name = "code", .kind = ColumnKind::Text, .text = &ScheduleRow::openingCode, .isUsual = false},
-    {.name = "windowLayers", .kind = ColumnKind::Text, .text = &ScheduleRow::windowLayers, .isUsual = false},
-    {.name = "notes", .kind = ColumnKind::Text, .text = &ScheduleRow::notes, .isUsual = false},
+    {.name = "mark", .text = &ScheduleRow::mark, .kind = ColumnKind::Text},
+    {.name = "quantity", .number = &ScheduleRow::quantity, .kind = ColumnKind::Count, .isTotalled = true},
+    {.name = "maker", .text = &ScheduleRow::maker, .kind = ColumnKind::Text, .isOfType = true},
+    {.name = "key", .text = &ScheduleRow::key, .kind = ColumnKind::Text, .isOfType = true},
+    {.name = "text", .text = &ScheduleRow::text, .kind = ColumnKind::Text, .isOfType = true},
+    {.name = "width", .number = &ScheduleRow::width, .kind = ColumnKind::Size, .isOfType = true},
+    {.name = "length", .number = &ScheduleRow::length, .kind = ColumnKind::Size, .isOfType = true},
+    {.name = "frameWidth", .number = &ScheduleRow::frameWidth, .kind = ColumnKind::Size, .isOfType = true},
+    {.name = "frameDepth", .number = &ScheduleRow::frameDepth, .kind = ColumnKind::Size, .isOfType = true},
+    {.name = "opening", .text = &ScheduleRow::openingCode, .kind = ColumnKind::Opening, .isOfType = true},
+    {.name = "pitch", .number = &ScheduleRow::pitch, .kind = ColumnKind::Angle},
+    {.name = "roof", .text = &ScheduleRow::roof, .kind = ColumnKind::Text},
+    {.name = "compass", .text = &ScheduleRow::compass, .kind = ColumnKind::Compass},
+    {.name = "sill", .number = &ScheduleRow::sill, .kind = ColumnKind::Height},
+    {.name = "head", .number = &ScheduleRow::head, .kind = ColumnKind::Height},
+    {.name = "glassArea", .number = &ScheduleRow::glassArea, .kind = ColumnKind::Area, .isTotalled = true},
+    {.name = "frameArea", .number = &ScheduleRow::frameArea, .kind = ColumnKind::Area, .isTotalled = true},
+    {.name = "toEaves", .number = &ScheduleRow::toEaves, .kind = ColumnKind::Height},
+    {.name = "toRidge", .number = &ScheduleRow::toRidge, .kind = ColumnKind::Height},
+    {.name = "layer", .text = &ScheduleRow::layer, .kind = ColumnKind::Text},
+    {.name = "number", .number = &ScheduleRow::number, .kind = ColumnKind::Count, .isUsual = false},
+    {.name = "code", .text = &ScheduleRow::openingCode, .kind = ColumnKind::Text, .isUsual = false},
+    {.name = "windowLayers", .text = &ScheduleRow::windowLayers, .kind = ColumnKind::Text, .isUsual = false},
+    {.name = "notes", .text = &ScheduleRow::notes, .kind = ColumnKind::Text, .isUsual = false},
 };
 
 // The column of that name, without regard to case; null when there is none.

@@ -13,10 +13,10 @@
 namespace teskarlt {
 
 struct MarkOrder {
-  WindowSelection selection;    // nothing said: all windows
-  std::string mark;             // a pattern (MarkPattern); empty takes the marks away
-  bool isOnlyUnmarked = false;  // windows that have one keep it
-  bool isLockedToo = false;     // also windows on locked and frozen layers
+  WindowSelection selection = {};  // nothing said: all windows
+  std::string mark = {};           // a pattern (MarkPattern); empty takes the marks away
+  bool isOnlyUnmarked = false;     // windows that have one keep it
+  bool isLockedToo = false;        // also windows on locked and frozen layers
 };
 
 // UTF-8, empty for none; equal where the window keeps what it has.

@@ -15,6 +15,7 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/WindowListing.h"
+#include "teskarlt/windows/WindowMarks.h"
 #include "window/EdgeHeights.h"
 
 namespace teskarlt {
@@ -23,9 +24,9 @@ namespace {
 
 using schedule::ScheduleRow;
 
-// The name of a window on plans and in schedules.
+// The name of a window on plans and in schedules; of one without a mark, the one that it would get.
 std::string MarkOf(const DrawnWindow& window) {
-  return fmt::format("W{:02}", window.number);
+  return window.mark.empty() ? MarkPattern(USUAL_MARK).MarkOf({.number = window.number}, 0) : window.mark;
 }
 
 class Reader {

@@ -21,8 +21,8 @@ inline constexpr const char* USUAL_MARK = "W{number:02}";
 // What a pattern can tell of a window; UTF-8.
 struct MarkedWindow {
   std::int32_t number = 0;
-  std::string roof;  // its name; empty where the window lies on none
-  std::string type;  // its second text, as a catalogue's window has its key there; empty for none
+  std::string roof = {};  // its name; empty where the window lies on none
+  std::string type = {};  // its second text, as a catalogue's window has its key there; empty for none
 };
 
 // The pattern of marks: text, in which {number}, {roof} and {type} stand for what the window has of them, and

@@ -56,13 +56,14 @@ TEST(CheckWindows, CopyWithTheNumberOfItsModelIsAnError) {
 }
 
 TEST(CheckWindows, MarkThatTwoWindowsBearIsAWarningAtTheSecond) {
-  const std::string mark = "1001|TK_LT_MARK|1000|W01|";
-  const std::string text =
-      Damaged(WithWindows(Window(100, LINES_OF_A_PLAIN_WINDOW, Element(1) + Description() + mark) +
-                          Window(200, LINES_OF_A_PLAIN_WINDOW, Element(2) + Description() + mark)),
-              "2|TK_LT_ELEM|70|0|",
-              "2|TK_LT_ELEM|70|0|" + Entry("APPID", "9", "94", "AcDbRegAppTableRecord", "TK_LT_MARK"));
-  EXPECT_THAT(Found(text), testing::Contains("warning window-mark LINE"));
+  const auto window = [](int handle, int number, const std::string& mark) {
+    return Window(handle, LINES_OF_A_PLAIN_WINDOW,
+                  Element(number) + Description() + "1001|TK_LT_MARK|1000|" + mark + "|");
+  };
+  EXPECT_THAT(FoundIn(window(100, 1, "W01") + window(200, 2, "W01")),
+              testing::Contains("warning window-mark LINE"));
+  EXPECT_THAT(FoundIn(window(100, 1, "W01") + window(200, 2, "W02")),
+              testing::Not(testing::Contains("warning window-mark LINE")));
 }
 
 TEST(CheckWindows, TwoWindowsWithOneNumberAreAnErrorAtTheSecond) {

@@ -206,7 +206,7 @@ TEST(ParseJob, RefusalNamesTheMemberAndItsValue) {
   EXPECT_EQ(
       Refusal(R"({"place": 1})"),
       R"(a job to insert has no member "place"; it can have do, lengths, at, on, roof-face, roof, window, )"
-      "catalogue, set, row, spacing, gap, column, row-from, and the words for a place, as from-eaves");
+      "catalogue, mark, set, row, spacing, gap, column, row-from, and the words for a place, as from-eaves");
 }
 
 TEST(ParseJob, LongValueIsShownByItsBeginning) {
