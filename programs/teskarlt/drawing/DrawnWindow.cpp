@@ -32,7 +32,7 @@ enum class Section { Foreign, Element, WindowElement, Description, Mark };
 struct Marks {
   bool isWindow = false;
   std::optional<dxf::Tag> numberTag;
-  std::string mark;  // UTF-8
+  std::string mark;    // UTF-8
   DrawnWindow window;  // without its entities
 };
 
@@ -66,7 +66,8 @@ std::string OwnData(const dxf::Document& drawing, std::string_view extendedData)
   dxf::TagReader reader(drawing.Source(), extendedData);
   for (dxf::Tag tag; reader.Next(tag);) {
     if (tag.code == dxf::CODE_XDATA_APPLICATION) section = SectionOf(dxf::Trimmed(tag.value));
-    if (section != Section::Foreign && section != Section::Mark) own.append(reader.TagBegin(), reader.TagEnd());
+    if (section != Section::Foreign && section != Section::Mark)
+      own.append(reader.TagBegin(), reader.TagEnd());
   }
   return own;
 }

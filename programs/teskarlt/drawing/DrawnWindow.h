@@ -26,7 +26,7 @@ struct DrawnWindow {
   std::string text2;
   std::string text3;
   std::string openingCode;
-  std::string mark;  // the name that the user gave it, UTF-8; empty for none
+  std::string mark;         // the name that the user gave it, UTF-8; empty for none
   bool isComplete = false;  // every item of the description was there and could be read
   std::vector<const dxf::Entity*> entities;
   std::size_t faces = 0;  // of the entities
