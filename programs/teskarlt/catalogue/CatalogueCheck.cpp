@@ -53,7 +53,11 @@ class LineCheck {
   }
 
   void Add(Kind kind, bool isError, std::string message) {
-    findings_.push_back({kind, isError, std::move(message), number_});
+    CatalogueFinding& finding = findings_.emplace_back();
+    finding.kind = kind;
+    finding.isError = isError;
+    finding.message = std::move(message);
+    finding.line = number_;
   }
 
   // Told once, at the first line that differs.
@@ -153,7 +157,11 @@ class ItemCheck {
 
  private:
   void Add(Kind kind, bool isError, std::string message, const CatalogueItem& item) {
-    findings_.push_back({kind, isError, std::move(message), item.number});
+    CatalogueFinding& finding = findings_.emplace_back();
+    finding.kind = kind;
+    finding.isError = isError;
+    finding.message = std::move(message);
+    finding.line = item.number;
   }
 
   void LookAtKey(const CatalogueItem& item) {

@@ -25,10 +25,10 @@ struct CatalogueFinding {
     Outside  // before the first section, where no window is seen
   };
 
-  Kind kind;
-  bool isError;
-  std::string message;   // one sentence, UTF-8
-  std::size_t line = 0;  // in the file, from 1; 0: of no one line
+  Kind kind = Kind::Key;
+  bool isError = false;
+  std::string message = {};  // one sentence, UTF-8
+  std::size_t line = 0;      // in the file, from 1; 0: of no one line
 };
 
 // For programs: "duplicate", "doubtful-size". Names stay what they are for good.
