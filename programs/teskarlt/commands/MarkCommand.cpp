@@ -73,9 +73,10 @@ void PrintText(const MarkOptions& options, const std::vector<MarkChange>& change
     return;
   }
   const auto shown = [](const std::string& mark) { return mark.empty() ? std::string("no mark") : mark; };
-  for (const MarkChange& change : changes)
+  for (const MarkChange& change : changes) {
     if (IsChange(change))
       fmt::print("Window {}: {} -> {}\n", change.number, shown(change.from), shown(change.to));
+  }
   fmt::print("{} window{} {}.\n", count, count == 1 ? "" : "s", options.target.Ending("marked", "be marked"));
 }
 

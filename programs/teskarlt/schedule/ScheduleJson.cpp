@@ -55,9 +55,10 @@ Json JsonOf(const Schedule& schedule, Columns columns, const Language& language)
   for (const ScheduleRow& row : schedule.rows)
     json["windows"].Add(RowJson(row, columns, language));
   json["totals"] = Json::Object();
-  for (const Column* const column : columns)
+  for (const Column* const column : columns) {
     if (column->isTotalled)
       json["totals"][column->name] = NumberJson(TotalOf(*column, schedule), column->kind);
+  }
   return json;
 }
 

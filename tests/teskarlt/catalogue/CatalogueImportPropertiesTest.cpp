@@ -36,7 +36,7 @@ class AnyCatalogue {
     return choices[static_cast<std::size_t>(Upto(static_cast<int>(choices.size()) - 1))];
   }
 
-  std::string AnyText() { return AnyOf({"Běla", "a, b", "5\" \"x\"", "'", "=1+1", "ž\"", "Łódź"}); }
+  std::string AnyText() { return AnyOf({"Běla", "a, b", R"(5" "x")", "'", "=1+1", "ž\"", "Łódź"}); }
 
   std::string AnyItem(int number) {
     return AnyText() + std::to_string(number) + "; " + AnyOf({"", "78", "78.5", "+94", "1e2"}) + ";" +

@@ -36,6 +36,7 @@ inline Schedule ScheduleOf(std::vector<ScheduleRow> rows) {
 // The columns of those names, each of which there is.
 inline std::vector<const Column*> ColumnsOf(std::initializer_list<const char*> names) {
   std::vector<const Column*> columns;
+  columns.reserve(names.size());
   for (const char* const name : names)
     columns.push_back(FindColumn(name));
   return columns;
@@ -44,6 +45,7 @@ inline std::vector<const Column*> ColumnsOf(std::initializer_list<const char*> n
 // The texts of one row.
 inline std::vector<std::string> TextsOf(const std::vector<Cell>& cells) {
   std::vector<std::string> texts;
+  texts.reserve(cells.size());
   for (const Cell& cell : cells)
     texts.push_back(cell.text);
   return texts;

@@ -30,6 +30,7 @@ std::vector<std::string> MarksIn(const dxf::Document& drawing) {
 
 std::vector<std::string> NewMarks(const std::vector<MarkChange>& changes) {
   std::vector<std::string> marks;
+  marks.reserve(changes.size());
   for (const MarkChange& change : changes)
     marks.push_back(change.to);
   return marks;

@@ -14,7 +14,6 @@ namespace {
 
 using schedule::Schedule;
 using schedule::ScheduleRow;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;

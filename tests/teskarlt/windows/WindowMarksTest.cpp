@@ -34,9 +34,10 @@ TEST(MarkPattern, PatternThatSaysNothingIsRefused) {
   EXPECT_THAT(RefusalOf([] { MarkPattern("W{number"); }), HasSubstr("a brace stands alone"));
   EXPECT_THAT(RefusalOf([] { MarkPattern("W}"); }), HasSubstr("a brace stands alone"));
   EXPECT_THAT(RefusalOf([] { MarkPattern("W\n1"); }), HasSubstr("this is no name"));
-  for (const char* text : {"{number:}", "{number:0}", "{number:10}", "{number:x}", "{roof:2}"})
+  for (const char* text : {"{number:}", "{number:0}", "{number:10}", "{number:x}", "{roof:2}"}) {
     EXPECT_THAT(RefusalOf([&] { MarkPattern{text}; }), HasSubstr("is no number of digits from 1 to 9"))
         << text;
+  }
 }
 
 TEST(MarkPattern, WindowWithoutWhatIsNamedIsRefused) {
@@ -61,7 +62,7 @@ TEST(WindowMarks, RunCountsTheMarksThatAreAlikeBesides) {
   WindowMarks marks;
   const MarkPattern pattern("{type}-{run}");
   const auto give = [&](const char* type) {
-    const std::string mark = marks.Fill(pattern, {.number = 1, .type = type});
+    std::string mark = marks.Fill(pattern, {.number = 1, .type = type});
     marks.Take(mark, 1);
     return mark;
   };
