@@ -154,11 +154,12 @@ TEST_F(CatalogueEditorTest, WindowThatCannotBeIsRefused) {
 }
 
 TEST_F(CatalogueEditorTest, MakerWhoseNameWouldNotComeBackIsRefused) {
-  for (const char* maker : {"", ": Alfa", " Alfa", "Alfa "})
+  for (const char* maker : {"", ": Alfa", " Alfa", "Alfa "}) {
     EXPECT_THAT(Refusal([&] {
                   Added("VYROBCE A\n", {maker, {"x"}});
                 }),
                 HasSubstr("cannot be the name of a maker"));
+  }
   EXPECT_THAT(Refusal([&] { Added("VYROBCE A\n", {"B\nC", {"x"}}); }), HasSubstr("control character"));
 }
 
