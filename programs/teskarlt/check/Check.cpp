@@ -92,7 +92,7 @@ class Checks {
     CheckLinetype(object, header_, findings_);
     CheckMarkers(object, header_, findings_);
     CheckExtendedData(object, findings_);
-    CheckWindowMarks(object, findings_);
+    CheckWindowData(object, findings_);
     handles_.Check(object);
     names_.Check(object);
   }

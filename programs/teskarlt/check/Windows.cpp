@@ -144,7 +144,7 @@ std::span<const dxf::Tag> SectionOf(std::span<const dxf::Tag> extended, std::str
 
 }  // namespace
 
-void CheckWindowMarks(const Object& object, Findings& findings) {
+void CheckWindowData(const Object& object, Findings& findings) {
   const auto extended = object.Extended();
   const bool isOurs = std::any_of(extended.begin(), extended.end(), [](const dxf::Tag& tag) {
     return tag.code == dxf::CODE_XDATA_APPLICATION && tag.value.starts_with(OUR_PREFIX);
@@ -152,6 +152,7 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
   if (!isOurs) return;
   const auto element = SectionOf(extended, brevanta::ELEMENT_APPLICATION);
   const auto description = SectionOf(extended, brevanta::DESCRIPTION_APPLICATION);
+  const auto mark = SectionOf(extended, brevanta::MARK_APPLICATION);
   const auto report = [&](const dxf::Tag& tag, std::string_view what) {
     findings.Warning(Kind::WindowForeignData, tag.value.data(), fmt::format("the {} {}", object.type, what),
                      object.number);
@@ -162,6 +163,8 @@ void CheckWindowMarks(const Object& object, Findings& findings) {
     report(element[0], "is marked as an element of ours that is no roof window");
   } else if (element.empty() && !description.empty()) {
     report(description[0], "has a description of a roof window and is not marked as one");
+  } else if (element.empty() && !mark.empty()) {
+    report(mark[0], "bears the mark of a roof window and is no part of one");
   } else if (!element.empty() && description.empty()) {
     report(element[0], "is marked as a part of a roof window and has no description of it");
   }

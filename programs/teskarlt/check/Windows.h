@@ -9,7 +9,7 @@
 namespace teskarlt::check {
 
 // Extended data under the names of our applications that no roof window has.
-void CheckWindowMarks(const Object& object, Findings& findings);
+void CheckWindowData(const Object& object, Findings& findings);
 
 // Each window by itself and all of them together. Sizes are checked where the header names the unit. Windows
 // that do not fit by the rules are told.

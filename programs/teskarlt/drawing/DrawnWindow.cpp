@@ -29,7 +29,7 @@ constexpr std::int32_t NO_NUMBER = 0;
 enum class Section { Foreign, Element, WindowElement, Description, Mark };
 
 // What the extended data of an entity says of its window.
-struct Marks {
+struct WindowData {
   bool isWindow = false;
   std::optional<dxf::Tag> numberTag;
   std::string mark;    // UTF-8
@@ -43,7 +43,7 @@ Section SectionOf(std::string_view application) {
   return Section::Foreign;
 }
 
-bool IsWindowMark(const dxf::Tag& tag) {
+bool IsWindowElement(const dxf::Tag& tag) {
   return tag.code == dxf::CODE_XDATA_TEXT && dxf::Trimmed(tag.value) == brevanta::WINDOW_ELEMENT;
 }
 
@@ -73,8 +73,8 @@ std::string OwnData(const dxf::Document& drawing, std::string_view extendedData)
 }
 
 // Reads all but the entities; what no complete description tells stays as it is by default.
-Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, const WorkingUnit& unit) {
-  Marks marks;
+WindowData ReadData(const dxf::Document& drawing, std::string_view extendedData, const WorkingUnit& unit) {
+  WindowData data;
   DrawnWindow described;
   DescriptionReader description(drawing, unit, described);
   Section section = Section::Foreign;
@@ -82,19 +82,19 @@ Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, con
   for (dxf::Tag tag; reader.Next(tag);) {
     if (tag.code == dxf::CODE_XDATA_APPLICATION) {
       section = SectionOf(dxf::Trimmed(tag.value));
-    } else if (section == Section::Element && IsWindowMark(tag)) {
+    } else if (section == Section::Element && IsWindowElement(tag)) {
       section = Section::WindowElement;
-      marks.isWindow = true;
+      data.isWindow = true;
     } else if (section == Section::WindowElement && tag.code == dxf::CODE_XDATA_INTEGER32) {
-      marks.numberTag = tag;
-    } else if (section == Section::Mark && tag.code == dxf::CODE_XDATA_TEXT && marks.mark.empty()) {
-      marks.mark = drawing.Text(tag);
+      data.numberTag = tag;
+    } else if (section == Section::Mark && tag.code == dxf::CODE_XDATA_TEXT && data.mark.empty()) {
+      data.mark = drawing.Text(tag);
     } else if (section == Section::Description) {
       description.Read(tag);
     }
   }
-  const std::optional<std::int32_t> number = marks.numberTag ? IntegerOf(*marks.numberTag) : NO_NUMBER;
-  DrawnWindow& window = marks.window;
+  const std::optional<std::int32_t> number = data.numberTag ? IntegerOf(*data.numberTag) : NO_NUMBER;
+  DrawnWindow& window = data.window;
   if (number && description.IsComplete()) {
     window = std::move(described);
     window.isComplete = true;
@@ -103,7 +103,7 @@ Marks ReadMarks(const dxf::Document& drawing, std::string_view extendedData, con
   window.params.markerValue = window.number;
   window.params.unitFactor = unit.perMetre;
   window.unit = unit;
-  return marks;
+  return data;
 }
 
 bool IsFace(const dxf::Entity& entity) {
@@ -187,7 +187,7 @@ bool CanBePart(std::string_view type) {
 
 bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
   const std::string_view extendedData = ExtendedData(drawing, entity);
-  return !extendedData.empty() && ReadMarks(drawing, extendedData, IN_DRAWING_UNITS).isWindow;
+  return !extendedData.empty() && ReadData(drawing, extendedData, IN_DRAWING_UNITS).isWindow;
 }
 
 std::string DrawnWindow::*TextMember(const brevanta::RecordField& field) {
@@ -214,7 +214,7 @@ std::string EntityMismatch(const DrawnWindow& window) {
 }
 
 std::optional<dxf::Tag> NumberTagOf(const dxf::Document& drawing, const dxf::Entity& entity) {
-  return ReadMarks(drawing, ExtendedData(drawing, entity), IN_DRAWING_UNITS).numberTag;
+  return ReadData(drawing, ExtendedData(drawing, entity), IN_DRAWING_UNITS).numberTag;
 }
 
 std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, const WorkingUnit& unit) {
@@ -227,11 +227,11 @@ std::vector<DrawnWindow> FindWindows(const dxf::Document& drawing, const Working
     if (extendedData.empty() || !CanBePart(entity.type)) continue;
     auto [found, isNew] = windowOf.try_emplace(extendedData, notOurs);
     if (isNew) {
-      Marks marks = ReadMarks(drawing, extendedData, unit);
-      if (!marks.isWindow) continue;
+      WindowData data = ReadData(drawing, extendedData, unit);
+      if (!data.isWindow) continue;
       found->second = windowOfOwn.try_emplace(OwnData(drawing, extendedData), windows.size()).first->second;
-      if (found->second == windows.size()) windows.push_back(std::move(marks.window));
-      if (std::string& mark = windows[found->second].mark; mark.empty()) mark = std::move(marks.mark);
+      if (found->second == windows.size()) windows.push_back(std::move(data.window));
+      if (std::string& mark = windows[found->second].mark; mark.empty()) mark = std::move(data.mark);
     }
     if (found->second == notOurs) continue;
     DrawnWindow& window = windows[found->second];

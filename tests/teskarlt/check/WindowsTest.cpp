@@ -55,6 +55,11 @@ TEST(CheckWindows, CopyWithTheNumberOfItsModelIsAnError) {
               ElementsAre("error window-number LINE"));
 }
 
+TEST(CheckWindows, MarkOnWhatIsNoPartOfAWindowIsAWarning) {
+  EXPECT_THAT(FoundIn(Line("100", "1001|TK_LT_MARK|1000|W01|")),
+              testing::Contains("warning window-foreign-data TK_LT_MARK"));
+}
+
 TEST(CheckWindows, MarkThatTwoWindowsBearIsAWarningAtTheSecond) {
   const auto window = [](int handle, int number, const std::string& mark) {
     return Window(handle, LINES_OF_A_PLAIN_WINDOW,
@@ -94,13 +99,13 @@ TEST(CheckWindows, WindowThatIsNoRectangleIsAnErrorWhereTheUnitIsKnown) {
   EXPECT_EQ(verdict.findings.back().kind, Kind::WindowSize);
 }
 
-TEST(CheckWindowMarks, ForeignDataUnderOurNamesAreDoubtful) {
+TEST(CheckWindowData, ForeignDataUnderOurNamesAreDoubtful) {
   EXPECT_THAT(FoundIn(Line("100", "1001|TK_LT_ELEM|1000|OTHER|")),
               ElementsAre("warning window-foreign-data TK_LT_ELEM"));
   EXPECT_THAT(FoundIn(Line("100", Description())), ElementsAre("warning window-foreign-data TK_LT_DESC"));
 }
 
-TEST(CheckWindowMarks, PartWithoutADescriptionIsDoubtful) {
+TEST(CheckWindowData, PartWithoutADescriptionIsDoubtful) {
   EXPECT_THAT(FoundIn(Line("100", Element(1))),
               ElementsAre("error window-description LINE", "warning window-foreign-data TK_LT_ELEM"));
 }
