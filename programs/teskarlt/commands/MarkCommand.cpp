@@ -46,8 +46,9 @@ MarkOrder OrderOf(const MarkOptions& options) {
 }
 
 // The unit has to be known for conditions on lengths and for roofs; else any will do.
-WorkingUnit UnitFor(const dxf::Document& drawing, const MarkOptions& options) {
-  const bool isNeeded = !options.selection.where.empty() || options.mark.find("{roof}") != std::string::npos;
+WorkingUnit UnitFor(const dxf::Document& drawing, const MarkOptions& options, const MarkOrder& order) {
+  const bool namesRoof = !order.mark.empty() && MarkPattern(order.mark).NamesRoof();
+  const bool isNeeded = order.selection.where.has_value() || namesRoof;
   return isNeeded ? UnitOf(drawing, options.units).working : IN_DRAWING_UNITS;
 }
 
@@ -83,7 +84,7 @@ void PrintText(const MarkOptions& options, const std::vector<MarkChange>& change
 void RunMark(MarkOptions& options) {
   const MarkOrder order = OrderOf(options);
   dxf::Document drawing = dxf::Document::Load(options.target.File());
-  const std::vector<MarkChange> changes = MarkWindows(drawing, UnitFor(drawing, options), order);
+  const std::vector<MarkChange> changes = MarkWindows(drawing, UnitFor(drawing, options, order), order);
   if (drawing.IsChanged() || options.target.IsNamed()) SaveDrawing(drawing, options.target);
   (options.asJson ? PrintAnswer : PrintText)(options, changes);
 }

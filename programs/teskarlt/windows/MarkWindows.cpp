@@ -7,6 +7,7 @@
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/windows/AllOrNone.h"
 #include "teskarlt/windows/ClosedLayers.h"
 
 namespace teskarlt {
@@ -50,8 +51,10 @@ std::vector<MarkChange> MarkWindows(dxf::Document& drawing, const WorkingUnit& u
     marks.Take(mark, window->number);
     changes.push_back({window->number, window->mark, std::move(mark)});
   }
-  for (std::size_t i = 0; i < chosen.size(); ++i)
-    if (changes[i].from != changes[i].to) StoreMark(*chosen[i], changes[i].to, drawing);
+  AllOrNone(drawing, [&] {
+    for (std::size_t i = 0; i < chosen.size(); ++i)
+      if (changes[i].from != changes[i].to) StoreMark(*chosen[i], changes[i].to, drawing);
+  });
   return changes;
 }
 

@@ -39,7 +39,7 @@ const std::string& Required(const std::string& value, const char* what, const Ma
 }  // namespace
 
 MarkPattern::MarkPattern(std::string_view text) : text_(text) {
-  if (text.empty() || std::any_of(text.begin(), text.end(), IsControl))
+  if (text.empty() || dxf::Trimmed(text) != text || std::any_of(text.begin(), text.end(), IsControl))
     RefusePattern(text, "this is no name");
   while (!text.empty()) {
     const std::size_t brace = text.find_first_of("{}");

@@ -30,8 +30,8 @@ struct MarkedWindow {
 // counts the windows of each type. {number:03} and {run:03} have at least three digits.
 class MarkPattern {
  public:
-  // Throws Error for a text that is empty or holds another word in braces, a brace alone, or control
-  // characters.
+  // Throws Error for a text that is empty, has blanks at its ends, or holds another word in braces, a brace
+  // alone, or control characters.
   explicit MarkPattern(std::string_view text);
 
   bool NamesRoof() const { return Has(Word::Roof); }

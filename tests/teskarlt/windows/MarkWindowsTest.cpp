@@ -148,6 +148,15 @@ TEST_F(MarkWindowsTest, TwoWindowsWithOneMarkAreRefused) {
   EXPECT_FALSE(drawing.IsChanged());
 }
 
+// Texts hold 255 bytes at the most.
+TEST_F(MarkWindowsTest, MarkThatIsTooLongLeavesAllWindowsAsTheyWere) {
+  const std::string pattern = std::string(254, 'x') + "{run}";
+  MarkWindows(drawing, Millimetres().working, {.mark = pattern});
+  drawing = HouseWithThree();
+  EXPECT_NE(RefusalOf([&] { Mark({.mark = pattern + "{number}"}); }), "");
+  EXPECT_FALSE(drawing.IsChanged());
+}
+
 TEST_F(MarkWindowsTest, ClearedWindowsHaveNone) {
   EXPECT_THAT(Mark({}), ElementsAre("", "", ""));
   const dxf::Document cleared = Reloaded(drawing);

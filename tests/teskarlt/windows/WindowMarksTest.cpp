@@ -33,7 +33,8 @@ TEST(MarkPattern, PatternThatSaysNothingIsRefused) {
             std::string("--mark W{name}: {name} stands for nothing") + form);
   EXPECT_THAT(RefusalOf([] { MarkPattern("W{number"); }), HasSubstr("a brace stands alone"));
   EXPECT_THAT(RefusalOf([] { MarkPattern("W}"); }), HasSubstr("a brace stands alone"));
-  EXPECT_THAT(RefusalOf([] { MarkPattern("W\n1"); }), HasSubstr("this is no name"));
+  for (const char* text : {"W\n1", " ", "W1 ", " W1"})
+    EXPECT_THAT(RefusalOf([&] { MarkPattern{text}; }), HasSubstr("this is no name")) << text;
   for (const char* text : {"{number:}", "{number:0}", "{number:10}", "{number:x}", "{roof:2}"}) {
     EXPECT_THAT(RefusalOf([&] { MarkPattern{text}; }), HasSubstr("is no number of digits from 1 to 9"))
         << text;
