@@ -45,6 +45,17 @@ def test_row_for_each_window_and_their_sums(teskarlt, windows):
     assert windows.read_bytes() == before
 
 
+def test_terminal_has_no_columns_in_which_nothing_stands_and_headings_as_wide_as_their_columns(teskarlt, house):
+    teskarlt.done("insert", house, "--at", "2500,1200")
+    assert [line.split() for line in table(teskarlt.done("schedule", house))] == [
+        "Frame Frame Roof Sill Head Glass Frame To To".split(),
+        "Width Length width depth pitch height height area area eaves ridge".split(),
+        "Mark Quantity mm mm mm mm Opening ° Roof Orientation m m m² m² m m Layer".split(),
+        "W01 1 940 1400 100 80 centre-pivot 35.0 R1 S 4.240 5.043 0.89 0.43 2.075 2.018 ROOF_SOUTH".split(),
+        "Total 1 0.89 0.43".split()]
+    assert "Maker" in teskarlt.done("schedule", house, "--columns", "mark,maker").stdout
+
+
 def test_row_for_each_type_with_its_quantity(teskarlt, windows):
     answer = teskarlt.done("schedule", windows, "--by", "type", "--columns", "mark,quantity,maker,width,compass")
     assert table(answer) == ["Mark      Quantity  Maker            Width mm  Orientation",

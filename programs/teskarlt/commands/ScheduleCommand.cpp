@@ -118,6 +118,12 @@ std::vector<const Column*> ChosenColumns(const ScheduleOptions& options, const s
   }
 }
 
+bool IsTold(const Column& column, const Schedule& schedule) {
+  return std::any_of(schedule.rows.begin(), schedule.rows.end(), [&](const schedule::ScheduleRow& row) {
+    return column.text != nullptr ? !(row.*column.text).empty() : (row.*column.number).has_value();
+  });
+}
+
 schedule::Order OrderOf(const ScheduleOptions& options) {
   if (options.sort == "roof") return schedule::Order::Roof;
   const bool isByType = options.sort == "type" || (options.sort.empty() && options.by == "type");
@@ -212,7 +218,10 @@ schedule::SheetStyle StyleOf(const ScheduleOptions& options) {
 }
 
 void PutSchedule(ReadDrawing read, const std::string& format, const ScheduleOptions& options) {
-  const std::vector<const Column*> columns = ChosenColumns(options, format);
+  std::vector<const Column*> columns = ChosenColumns(options, format);
+  if (format == TABLE && options.columns.empty()) {
+    std::erase_if(columns, [&](const Column* column) { return !IsTold(*column, read.schedule); });
+  }
   if (options.by == "type") read.schedule = schedule::ByType(read.schedule);
   schedule::Sort(OrderOf(options), read.schedule);
   const schedule::SheetStyle style = StyleOf(options);

@@ -17,7 +17,8 @@ constexpr const char* JSON_HELP = "print JSON, for programs";
 void PrintJson(const Json& json);
 
 // A table in aligned columns for people; the texts are UTF-8. Line breaks and other control characters of
-// theirs become blanks.
+// theirs become blanks. In a table of more than 100 characters headings that are wider than their columns are
+// broken into lines.
 class Table {
  public:
   explicit Table(std::vector<std::string> headings);
@@ -25,6 +26,7 @@ class Table {
   void Print() const;  // to standard output
 
  private:
+  std::vector<std::string> headings_;
   std::vector<std::vector<std::string>> rows_;
 };
 

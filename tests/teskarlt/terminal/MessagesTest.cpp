@@ -1,8 +1,7 @@
-// MessagesTest.cpp - texts of drawings in messages and tables.
+// MessagesTest.cpp - texts of drawings in messages.
 #include <gtest/gtest.h>
 
 #include "teskarlt/terminal/Messages.h"
-#include "teskarlt/terminal/Report.h"
 
 namespace teskarlt {
 namespace {
@@ -18,14 +17,6 @@ TEST(Messages, LettersStayAsTheyAre) {
 
 TEST(Messages, TerminalIsNotCommanded) {
   EXPECT_EQ(OneLine("\x1B[31mred"), " [31mred");
-}
-
-TEST(Table, TextWithALineBreakStaysInItsRow) {
-  Table table({"number", "texts"});
-  table.Add({"1", "Maker\nType"});
-  testing::internal::CaptureStdout();
-  table.Print();
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "number  texts\n1       Maker Type\n");
 }
 
 }  // namespace
