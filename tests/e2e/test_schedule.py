@@ -213,6 +213,18 @@ def test_comparison_tells_what_came_went_and_changed(teskarlt, windows, tmp_path
     assert told["changed"] == [{"mark": "W02", "changes": [{"column": "width", "before": 0.94, "after": 1.14}]}]
 
 
+def test_comparison_of_types_tells_their_quantities(teskarlt, windows, tmp_path):
+    now = tmp_path / "now.dxf"
+    teskarlt.done("erase", windows, "2", "-o", now)
+    teskarlt.done("edit", now, "3", "--set", "width=1.14")
+    answer = teskarlt.done("schedule", now, "--against", windows, "--by", "type", "--columns", "quantity", "--format",
+                           "csv")
+    assert answer.stdout.splitlines() == ["Mark,Change,Value,Before,Now",
+                                          "W03,new,,,Oblačnice Lhota OL 78x118 1140 x 1180",
+                                          "W03,gone,,Oblačnice Lhota OL 78x118 780 x 1180,",
+                                          "W01,changed,Quantity,2,1"]
+
+
 def test_comparison_of_the_same_windows_says_so(teskarlt, windows):
     answer = teskarlt.done("schedule", windows, "--against", windows)
     assert answer.stdout == f"The windows of {teskarlt.spelled(windows)} are those of {teskarlt.spelled(windows)}.\n"
@@ -264,7 +276,6 @@ WRONG_USAGE = [
     (("-o", "windows.md", "--bom"), "--bom: is for .csv files"),
     (("--decimal-comma",), "--decimal-comma: is for .csv files"),
     (("--json", "--delimiter", ";"), "--delimiter: is for .csv files"),
-    (("--by", "type", "--against", "old.dxf"), "--against: windows are compared one by one; leave --by type out"),
 ]
 
 

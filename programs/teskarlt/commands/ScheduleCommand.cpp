@@ -74,8 +74,6 @@ void RefuseUnusable(const ScheduleOptions& options, const std::string& format) {
     throw UsageError("--format xlsx: a workbook goes into a file; add -o FILE");
   if (format == TABLE && !options.output.empty())
     throw UsageError("--format table: a table goes to the terminal; leave -o out");
-  if (options.by == "type" && !options.against.empty())
-    throw UsageError("--against: windows are compared one by one; leave --by type out");
   const bool isCsv = format == "csv";
   const auto refuse = [&](bool isGiven, const char* option) {
     if (isGiven && !isCsv) throw UsageError(fmt::format("{}: is for .csv files", option));
@@ -243,10 +241,13 @@ void PutComparison(ReadDrawing after, const std::string& format, const ScheduleO
         fmt::format("{}: only one of the two drawings says its unit; say it with --units", options.against));
   }
   const std::vector<const Column*> columns = ChosenColumns(options, format);
-  schedule::Sort(OrderOf(options), before.schedule);
-  schedule::Sort(OrderOf(options), after.schedule);
+  for (Schedule* const schedule : {&before.schedule, &after.schedule}) {
+    if (options.by == "type") *schedule = schedule::ByType(*schedule);
+    schedule::Sort(OrderOf(options), *schedule);
+  }
   const schedule::SheetStyle style = StyleOf(options);
-  const schedule::Comparison comparison = schedule::Compare(before.schedule, after.schedule, columns);
+  const auto by = options.by == "type" ? schedule::SameBy::Type : schedule::SameBy::Mark;
+  const schedule::Comparison comparison = schedule::Compare(before.schedule, after.schedule, columns, by);
   const Sheet sheet = schedule::SheetOf(comparison, before.schedule, after.schedule, style);
   if (format == "json") {
     Json json = JsonHead(after);

@@ -25,6 +25,16 @@ std::vector<const Column*> ChangedColumns(const ScheduleRow& before, const Sched
   return changed;
 }
 
+// What rows that are the same have in common.
+std::string KeyOf(const ScheduleRow& row, SameBy by, bool hasUnit) {
+  if (by == SameBy::Mark) return row.mark;
+  std::string key = row.isRead ? "" : "damaged";
+  for (const Column& column : COLUMNS) {
+    if (column.isOfType) key += "\n" + CellOf(row, column, {}, hasUnit).text;
+  }
+  return key;
+}
+
 // "Cloudworks CW 78x140 780 x 1400", as far as it is known.
 std::string TypeWords(const ScheduleRow& row, const SheetStyle& style, bool hasUnit) {
   const auto shown = [&](const char* column) {
@@ -40,14 +50,15 @@ std::string TypeWords(const ScheduleRow& row, const SheetStyle& style, bool hasU
 
 }  // namespace
 
-Comparison Compare(const Schedule& before, const Schedule& after, Columns columns) {
+Comparison Compare(const Schedule& before, const Schedule& after, Columns columns, SameBy by) {
   std::multimap<std::string, const ScheduleRow*> old;
   for (const ScheduleRow& row : before.rows)
-    old.emplace(row.mark, &row);
+    old.emplace(KeyOf(row, by, before.hasUnit), &row);
   Comparison comparison;
   for (const ScheduleRow& row : after.rows) {
-    const auto found = old.lower_bound(row.mark);
-    if (found == old.end() || found->first != row.mark) {
+    const std::string key = KeyOf(row, by, after.hasUnit);
+    const auto found = old.lower_bound(key);
+    if (found == old.end() || found->first != key) {
       comparison.came.push_back(&row);
       continue;
     }
@@ -55,7 +66,7 @@ Comparison Compare(const Schedule& before, const Schedule& after, Columns column
     if (!changed.empty()) comparison.changed.push_back({found->second, &row, std::move(changed)});
     old.erase(found);
   }
-  for (const auto& [mark, row] : old)
+  for (const auto& [key, row] : old)
     comparison.went.push_back(row);
   std::sort(comparison.went.begin(), comparison.went.end());  // as they stand in their schedule
   return comparison;
@@ -71,22 +82,22 @@ Sheet SheetOf(const Comparison& comparison, const Schedule& before, const Schedu
               {}};
   for (const char* const key : {"mark", "change", "value", "before", "after"})
     sheet.headings.push_back({language[key]});
-  const auto addWindow = [&](const ScheduleRow& row, const char* change, bool isNow) {
+  const auto addRow = [&](const ScheduleRow& row, const char* change, bool isNow) {
     const Cell type{TypeWords(row, style, after.hasUnit)};
     sheet.rows.push_back(
         {{OneLine(row.mark)}, {language[change]}, {}, isNow ? Cell{} : type, isNow ? type : Cell{}});
   };
   for (const ScheduleRow* const row : comparison.came)
-    addWindow(*row, "came", true);
+    addRow(*row, "came", true);
   for (const ScheduleRow* const row : comparison.went)
-    addWindow(*row, "went", false);
-  for (const ChangedWindow& window : comparison.changed) {
-    for (const Column* const column : window.columns) {
-      sheet.rows.push_back({{OneLine(window.after->mark)},
+    addRow(*row, "went", false);
+  for (const ChangedRow& changed : comparison.changed) {
+    for (const Column* const column : changed.columns) {
+      sheet.rows.push_back({{OneLine(changed.after->mark)},
                             {language["changed"]},
                             {HeadingOf(*column, style, after.hasUnit)},
-                            CellOf(*window.before, *column, style, after.hasUnit),
-                            CellOf(*window.after, *column, style, after.hasUnit)});
+                            CellOf(*changed.before, *column, style, after.hasUnit),
+                            CellOf(*changed.after, *column, style, after.hasUnit)});
     }
   }
   return sheet;

@@ -9,8 +9,14 @@
 
 namespace teskarlt::schedule {
 
-// A window that is in both schedules, and the columns in which they show other values.
-struct ChangedWindow {
+// By what a row of one schedule is found again in the other.
+enum class SameBy {
+  Mark,  // rows for windows
+  Type,  // rows for types, which differ in their quantity then
+};
+
+// A row that is in both schedules, and the columns in which they show other values.
+struct ChangedRow {
   const ScheduleRow* before;
   const ScheduleRow* after;
   std::vector<const Column*> columns;
@@ -20,14 +26,14 @@ struct ChangedWindow {
 struct Comparison {
   std::vector<const ScheduleRow*> came;
   std::vector<const ScheduleRow*> went;
-  std::vector<ChangedWindow> changed;
+  std::vector<ChangedRow> changed;
 };
 
-// Windows are the same by their marks; of several with one mark, the first ones are compared with each other.
-// Both schedules have a row for each window and count in the same unit.
-Comparison Compare(const Schedule& before, const Schedule& after, Columns columns);
+// Of several windows with one mark, the first ones are compared with each other. Both schedules have rows of
+// the same kind and count in the same unit.
+Comparison Compare(const Schedule& before, const Schedule& after, Columns columns, SameBy by = SameBy::Mark);
 
-// A row for each window that came or went, and one for each value that changed.
+// A row for each window or type that came or went, and one for each value that changed.
 Sheet SheetOf(const Comparison& comparison, const Schedule& before, const Schedule& after,
               const SheetStyle& style);
 

@@ -37,12 +37,12 @@ Json RowsJson(const std::vector<const ScheduleRow*>& rows, Columns columns, cons
   return json;
 }
 
-Json ChangesJson(const ChangedWindow& window, const Language& language) {
+Json ChangesJson(const ChangedRow& changed, const Language& language) {
   Json json = Json::List();
-  for (const Column* const column : window.columns) {
+  for (const Column* const column : changed.columns) {
     json.Add(Json::Object({{"column", column->name},
-                           {"before", ValueJson(*window.before, *column, language)},
-                           {"after", ValueJson(*window.after, *column, language)}}));
+                           {"before", ValueJson(*changed.before, *column, language)},
+                           {"after", ValueJson(*changed.after, *column, language)}}));
   }
   return json;
 }
@@ -67,10 +67,8 @@ Json JsonOf(const Comparison& comparison, Columns columns, const Language& langu
   json["came"] = RowsJson(comparison.came, columns, language);
   json["went"] = RowsJson(comparison.went, columns, language);
   json["changed"] = Json::List();
-  for (const ChangedWindow& window : comparison.changed) {
-    json["changed"].Add(
-        Json::Object({{"mark", window.after->mark}, {"changes", ChangesJson(window, language)}}));
-  }
+  for (const ChangedRow& row : comparison.changed)
+    json["changed"].Add(Json::Object({{"mark", row.after->mark}, {"changes", ChangesJson(row, language)}}));
   return json;
 }
 

@@ -45,6 +45,20 @@ TEST(Compare, SecondWindowOfOneMarkIsAnotherOne) {
   EXPECT_THAT(Compare(before, after, ColumnsOf({"width"})).came, ElementsAre(&after.rows[1]));
 }
 
+TEST(Compare, TypesAreTheSameByWhatIsOrdered) {
+  Schedule before = ScheduleOf({Window("W01"), Window("W02")});
+  before.rows[0].quantity = 3.0;
+  before.rows[1].width = 1.14;
+  Schedule after = ScheduleOf({Window("W07"), Window("W02")});
+  after.rows[1].openingCode = "F";
+  const Comparison comparison = Compare(before, after, ColumnsOf({"quantity"}), SameBy::Type);
+  EXPECT_THAT(comparison.came, ElementsAre(&after.rows[1]));
+  EXPECT_THAT(comparison.went, ElementsAre(&before.rows[1]));
+  ASSERT_THAT(comparison.changed, SizeIs(1));
+  EXPECT_EQ(comparison.changed[0].before, &before.rows[0]);
+  EXPECT_EQ(comparison.changed[0].after, &after.rows[0]);
+}
+
 TEST(ComparisonSheet, HasARowForEachWindowThatCameOrWentAndEachValueThatChanged) {
   const Schedule before = ScheduleOf({Window("W01"), Window("W02")});
   Schedule after = ScheduleOf({Window("W02"), Window("W03")});
