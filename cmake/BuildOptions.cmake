@@ -19,6 +19,8 @@ if(BREVANTA_SANITIZE)
   add_compile_options(-fsanitize=${BREVANTA_SANITIZE} -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${BREVANTA_SANITIZE})
+  # At a fixed address: the sanitizers' tables have millions of pointers that each start would have to relocate.
+  string(APPEND CMAKE_EXE_LINKER_FLAGS " -no-pie")
 endif()
 if(BREVANTA_COVERAGE)
   add_compile_options(--coverage)
