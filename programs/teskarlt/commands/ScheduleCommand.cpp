@@ -116,12 +116,6 @@ std::vector<const Column*> ChosenColumns(const ScheduleOptions& options, const s
   }
 }
 
-bool IsTold(const Column& column, const Schedule& schedule) {
-  return std::any_of(schedule.rows.begin(), schedule.rows.end(), [&](const schedule::ScheduleRow& row) {
-    return column.text != nullptr ? !(row.*column.text).empty() : (row.*column.number).has_value();
-  });
-}
-
 schedule::Order OrderOf(const ScheduleOptions& options) {
   if (options.sort == "roof") return schedule::Order::Roof;
   const bool isByType = options.sort == "type" || (options.sort.empty() && options.by == "type");

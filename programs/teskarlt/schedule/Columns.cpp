@@ -15,6 +15,12 @@ const Column* FindColumn(std::string_view name) {
   return found == std::end(COLUMNS) ? nullptr : found;
 }
 
+bool IsTold(const Column& column, const Schedule& schedule) {
+  return std::any_of(schedule.rows.begin(), schedule.rows.end(), [&](const ScheduleRow& row) {
+    return column.text != nullptr ? !(row.*column.text).empty() : (row.*column.number).has_value();
+  });
+}
+
 std::optional<double> TotalOf(const Column& column, const Schedule& schedule) {
   std::optional<double> total;
   const bool isQuantity = column.number == &ScheduleRow::quantity;

@@ -62,6 +62,9 @@ inline constexpr Column COLUMNS[] = {
 // The column of that name, without regard to case; null when there is none.
 const Column* FindColumn(std::string_view name);
 
+// Whether any row has a value in the column.
+bool IsTold(const Column& column, const Schedule& schedule);
+
 // The sum of a column over all windows; none where no row has a value.
 std::optional<double> TotalOf(const Column& column, const Schedule& schedule);
 

@@ -32,38 +32,42 @@ tfoot td { border-top: 2px solid #1c1c1c; border-bottom: 0; font-weight: 600; }
 }
 )";
 
-void PutRow(const std::vector<Cell>& cells, const Sheet& sheet, std::string& page) {
-  page += "<tr>";
+void PutRow(const std::vector<Cell>& cells, const Sheet& sheet, std::string& table) {
+  table += "<tr>";
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    page += fmt::format("<td{}>{}</td>", sheet.headings[i].isNumber ? R"( class="n")" : "",
-                        EscapedMarkup(Shown(cells[i], sheet.language->decimalMark)));
+    table += fmt::format("<td{}>{}</td>", sheet.headings[i].isNumber ? R"( class="n")" : "",
+                         EscapedMarkup(Shown(cells[i], sheet.language->decimalMark)));
   }
-  page += "</tr>\n";
+  table += "</tr>\n";
 }
 
 }  // namespace
 
+std::string HtmlTable(const Sheet& sheet) {
+  std::string table = "<table>\n<thead>\n<tr>";
+  for (const Heading& heading : sheet.headings) {
+    table += fmt::format("<th scope=\"col\"{}>{}</th>", heading.isNumber ? R"( class="n")" : "",
+                         EscapedMarkup(heading.text));
+  }
+  table += "</tr>\n</thead>\n<tbody>\n";
+  for (const std::vector<Cell>& row : sheet.rows)
+    PutRow(row, sheet, table);
+  table += "</tbody>\n";
+  if (!sheet.totals.empty()) {
+    table += "<tfoot>\n";
+    PutRow(sheet.totals, sheet, table);
+    table += "</tfoot>\n";
+  }
+  return table + "</table>\n";
+}
+
 std::string Html(const Sheet& sheet) {
   const std::string title = EscapedMarkup(sheet.title);
-  std::string page = fmt::format(
+  return fmt::format(
       "<!DOCTYPE html>\n<html lang=\"{}\">\n<head>\n<meta charset=\"utf-8\">\n"
       "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-      "<title>{}</title>\n<style>\n{}</style>\n</head>\n<body>\n<h1>{}</h1>\n<table>\n<thead>\n<tr>",
-      sheet.language->name, title, STYLE, title);
-  for (const Heading& heading : sheet.headings) {
-    page += fmt::format("<th scope=\"col\"{}>{}</th>", heading.isNumber ? R"( class="n")" : "",
-                        EscapedMarkup(heading.text));
-  }
-  page += "</tr>\n</thead>\n<tbody>\n";
-  for (const std::vector<Cell>& row : sheet.rows)
-    PutRow(row, sheet, page);
-  page += "</tbody>\n";
-  if (!sheet.totals.empty()) {
-    page += "<tfoot>\n";
-    PutRow(sheet.totals, sheet, page);
-    page += "</tfoot>\n";
-  }
-  return page + "</table>\n</body>\n</html>\n";
+      "<title>{}</title>\n<style>\n{}</style>\n</head>\n<body>\n<h1>{}</h1>\n{}</body>\n</html>\n",
+      sheet.language->name, title, STYLE, title, HtmlTable(sheet));
 }
 
 }  // namespace teskarlt::schedule

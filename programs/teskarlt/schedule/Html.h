@@ -11,4 +11,7 @@ namespace teskarlt::schedule {
 // page.
 std::string Html(const Sheet& sheet);
 
+// The sheet alone, an element <table>; cells of numbers are of the class "n".
+std::string HtmlTable(const Sheet& sheet);
+
 }  // namespace teskarlt::schedule

@@ -23,17 +23,10 @@ Json ValueJson(const ScheduleRow& row, const Column& column, const Language& lan
   return text;
 }
 
-Json RowJson(const ScheduleRow& row, Columns columns, const Language& language) {
-  Json json = Json::Object();
-  for (const Column* const column : columns)
-    json[column->name] = ValueJson(row, *column, language);
-  return json;
-}
-
 Json RowsJson(const std::vector<const ScheduleRow*>& rows, Columns columns, const Language& language) {
   Json json = Json::List();
   for (const ScheduleRow* const row : rows)
-    json.Add(RowJson(*row, columns, language));
+    json.Add(JsonOf(*row, columns, language));
   return json;
 }
 
@@ -49,11 +42,18 @@ Json ChangesJson(const ChangedRow& changed, const Language& language) {
 
 }  // namespace
 
+Json JsonOf(const ScheduleRow& row, Columns columns, const Language& language) {
+  Json json = Json::Object();
+  for (const Column* const column : columns)
+    json[column->name] = ValueJson(row, *column, language);
+  return json;
+}
+
 Json JsonOf(const Schedule& schedule, Columns columns, const Language& language) {
   Json json = Json::Object();
   json["windows"] = Json::List();
   for (const ScheduleRow& row : schedule.rows)
-    json["windows"].Add(RowJson(row, columns, language));
+    json["windows"].Add(JsonOf(row, columns, language));
   json["totals"] = Json::Object();
   for (const Column* const column : columns) {
     if (column->isTotalled)

@@ -9,8 +9,11 @@
 
 namespace teskarlt::schedule {
 
-// "windows", a list of objects whose members have the names of the columns, and "totals". Lengths in metres,
-// areas in square metres, or in drawing units; what is not known is null. The opening is in words.
+// An object whose members have the names of the columns. Lengths in metres, areas in square metres, or in
+// drawing units; what is not known is null. The opening is in words.
+Json JsonOf(const ScheduleRow& row, Columns columns, const Language& language);
+
+// "windows", a list of such objects, and "totals".
 Json JsonOf(const Schedule& schedule, Columns columns, const Language& language);
 
 // "came" and "went", lists of windows, and "changed": marks with the changed values, before and now.
