@@ -14,8 +14,8 @@ namespace teskarlt::preview {
 namespace {
 
 constexpr std::string_view SIGNATURE("\x89PNG\r\n\x1a\n", 8);
-constexpr char HEADER_REST[] = {8, 2, 0, 0, 0};  // 8 bits of red, green, blue; no interlacing
-constexpr std::size_t PIXEL = 3;
+constexpr char HEADER_REST[] = {8, 2, 0, 0, 0};              // 8 bits of red, green, blue; no interlacing
+constexpr char TRANSPARENT_HEADER_REST[] = {8, 6, 0, 0, 0};  // and of alpha
 
 const Bytef* AsBytes(const std::string& text) {
   return reinterpret_cast<const Bytef*>(text.data());
@@ -46,7 +46,8 @@ int Paeth(int left, int up, int upperLeft) {
 // The rows, each behind the number of its filter.
 std::string Filtered(const Picture& picture) {
   constexpr char paethFilter = 4;
-  const std::size_t width = static_cast<std::size_t>(picture.width) * PIXEL;
+  const std::size_t pixel = picture.Channels();
+  const std::size_t width = static_cast<std::size_t>(picture.width) * pixel;
   std::string rows;
   rows.reserve((width + 1) * static_cast<std::size_t>(picture.height));
   for (std::size_t row = 0; row < static_cast<std::size_t>(picture.height); ++row) {
@@ -54,9 +55,9 @@ std::string Filtered(const Picture& picture) {
     const std::uint8_t* const own = &picture.bytes[row * width];
     const std::uint8_t* const above = row == 0 ? nullptr : own - width;
     for (std::size_t i = 0; i < width; ++i) {
-      const int left = i < PIXEL ? 0 : own[i - PIXEL];
+      const int left = i < pixel ? 0 : own[i - pixel];
       const int up = above == nullptr ? 0 : above[i];
-      const int upperLeft = i < PIXEL || above == nullptr ? 0 : above[i - PIXEL];
+      const int upperLeft = i < pixel || above == nullptr ? 0 : above[i - pixel];
       rows += static_cast<char>(own[i] - Paeth(left, up, upperLeft));
     }
   }
@@ -80,7 +81,7 @@ std::string Png(const Picture& picture) {
   std::string header;
   PutNumber(header, static_cast<std::uint32_t>(picture.width));
   PutNumber(header, static_cast<std::uint32_t>(picture.height));
-  header.append(HEADER_REST, sizeof HEADER_REST);
+  header.append(picture.isTransparent ? TRANSPARENT_HEADER_REST : HEADER_REST, sizeof HEADER_REST);
   std::string file(SIGNATURE);
   PutChunk(file, "IHDR", header);
   PutChunk(file, "IDAT", Compressed(Filtered(picture)));

@@ -22,16 +22,22 @@ namespace teskarlt::preview {
 
 namespace {
 
-constexpr int BAND = 16;                         // rows of pixels that are held at a time
-constexpr double MARGIN = 0.04;                  // of the picture's width
-constexpr double TALLEST = 1.5;                  // height of the picture against its width
-constexpr double EDGE_WIDTH = 1.1;               // pixels
+constexpr int BAND = 16;            // rows of pixels that are held at a time
+constexpr double MARGIN = 0.04;     // of the picture's width, or of its height where that is less
+constexpr double TALLEST = 1.5;     // height of the picture against its width
+constexpr double EDGE_WIDTH = 1.1;  // pixels
 constexpr LetterHeights NAME_HEIGHTS = {9, 16};  // pixels
 constexpr double NAME_WIDTH = 2.2;               // of the lines of letters, likewise
+constexpr double TAG_WIDTH = 1.6;                // of the lines of letters of windows
 constexpr double HALO_WIDTH = 6;                 // of what is left free around them
+constexpr LetterHeights TAG_HEIGHTS = {7, 13};   // pixels
+constexpr double TAG_SHARE = 0.25;               // height of its letters against the window
+constexpr double LEAST_FACING = 0.1;             // cosine between a tagged window and the way to the viewer
 constexpr Colour NAME_INK = {29, 58, 79};
 constexpr Colour HALO = {255, 255, 255};
 constexpr Colour GROUND = {236, 239, 241};
+constexpr std::uint32_t GROUND_OWNER = 0;  // its index among the colours
+constexpr std::uint8_t OPAQUE_ALPHA = 255;
 
 // Samples in each direction of a pixel: fewer where so many surfaces lie over one another that more would
 // take too long.
@@ -49,17 +55,34 @@ struct Stroke {
   double width = 0;
 };
 
+double MarginOf(const PictureOptions& options) {
+  return MARGIN * (options.height > 0 ? std::min(options.width, options.height) : options.width);
+}
+
+// What is shown; of a picture with a size of its own, made as wide or high as the picture has room for.
+Frame FrameFor(const Scene& scene, const PictureOptions& options) {
+  Frame frame = FrameOf(scene, *options.view, options.zoom);
+  if (options.height == 0) return frame;
+  const double margins = 2 * MarginOf(options);
+  const double slimness = (options.height - margins) / (options.width - margins);
+  const double wider = std::max(0.0, frame.Height() / slimness - frame.Width());
+  const double higher = std::max(0.0, frame.Width() * slimness - frame.Height());
+  return {frame.left - wider / 2, frame.bottom - higher / 2, frame.right + wider / 2, frame.top + higher / 2};
+}
+
 class Renderer {
  public:
-  Renderer(const Scene& scene, const PictureOptions& options, const std::vector<VisibleLine>& lines,
-           int samples)
-      : scene_(scene), view_(*options.view), frame_(FrameOf(scene, view_, options.zoom)), samples_(samples) {
-    const double margin = options.width * MARGIN;
+  Renderer(const Scene& scene, const PictureOptions& options, const Frame& frame,
+           const std::vector<VisibleLine>& lines, int samples)
+      : scene_(scene), view_(*options.view), frame_(frame), samples_(samples) {
+    const double margin = MarginOf(options);
     const double room = options.width - 2 * margin;
     double scale = room / frame_.Width();
-    scale = std::min(scale, room * TALLEST / frame_.Height());
+    if (options.height == 0) scale = std::min(scale, room * TALLEST / frame_.Height());
     picture_.width = options.width;
-    picture_.height = static_cast<int>(std::ceil(frame_.Height() * scale + 2 * margin));
+    picture_.height = options.height > 0 ? options.height
+                                         : static_cast<int>(std::ceil(frame_.Height() * scale + 2 * margin));
+    picture_.isTransparent = options.isTransparent;
     scale_ = scale * samples;
     left_ = (options.width - frame_.Width() * scale) / 2 * samples;
     top_ = margin * samples;
@@ -71,13 +94,14 @@ class Renderer {
     for (const VisibleLine& line : lines)
       AddLine(line);
     AddNames();
+    if (options.withTags) AddTags();
     ListByBands();
   }
 
   // Nothing when it would take too long.
   std::optional<Picture> Run() {
     picture_.bytes.resize(static_cast<std::size_t>(picture_.width) *
-                          static_cast<std::size_t>(picture_.height) * 3);
+                          static_cast<std::size_t>(picture_.height) * picture_.Channels());
     DepthBand band(picture_.width * samples_, BAND * samples_);
     for (int row = 0; row < picture_.height && band.Steps() <= MOST_STEPS; row += BAND)
       RenderBand(band, row);
@@ -150,6 +174,22 @@ class Renderer {
     }
   }
 
+  // A tag comes nearer to the viewer than its window, but not than what stands before that.
+  void AddTags() {
+    for (const SceneWindow& window : scene_.windows) {
+      if (window.box.IsEmpty() || geometry::VecDot(window.facing, view_.toward) < LEAST_FACING) continue;
+      const double size = geometry::Distance(window.box.low, window.box.high);
+      const double letters = std::min(TAG_HEIGHTS.most * samples_ / scale_, size * TAG_SHARE);
+      if (letters < TAG_HEIGHTS.least * samples_ / scale_) {
+        ++picture_.untaggedWindows;
+        continue;
+      }
+      const PlacedName tag = {window.name, view_.Project(window.box.Centre()), letters};
+      AddName(tag, HALO_WIDTH * samples_, HALO, size * scale_);
+      AddName(tag, TAG_WIDTH * samples_, NAME_INK, 1.1 * size * scale_);
+    }
+  }
+
   // A name comes so much nearer to the viewer than what it stands on.
   void AddName(const PlacedName& name, double width, const Colour& colour, double pull) {
     const Vec3 middle = InSamples(name.middle);
@@ -190,7 +230,7 @@ class Renderer {
       for (int column = 0; column < picture_.width; ++column) {
         const auto pixel = static_cast<std::size_t>(row) * static_cast<std::size_t>(picture_.width) +
                            static_cast<std::size_t>(column);
-        Average(band, row, column, &picture_.bytes[pixel * 3]);
+        Average(band, row, column, &picture_.bytes[pixel * picture_.Channels()]);
       }
     }
   }
@@ -243,28 +283,42 @@ class Renderer {
       for (int x = 0; x < samples_; ++x)
         others |= owners[y * DepthBand::TILE + x] ^ owners[0];
     }
-    if (others == 0) {
-      const Colour& colour = colours_[owners[0]];
-      to[0] = colour.red;
-      to[1] = colour.green;
-      to[2] = colour.blue;
-      return;
+    if (others != 0) {
+      PutMixed(owners, to);
+    } else if (picture_.isTransparent && owners[0] == GROUND_OWNER) {
+      Put({}, 0, to);
+    } else {
+      Put(colours_[owners[0]], OPAQUE_ALPHA, to);
     }
-    int red = 0;
-    int green = 0;
-    int blue = 0;
+  }
+
+  void Put(const Colour& colour, std::uint8_t alpha, std::uint8_t* to) const {
+    to[0] = colour.red;
+    to[1] = colour.green;
+    to[2] = colour.blue;
+    if (picture_.isTransparent) to[3] = alpha;
+  }
+
+  // In a transparent picture the ground has no part in the colour.
+  void PutMixed(const std::uint32_t* owners, std::uint8_t* to) const {
+    std::array<int, 3> sums{};
+    int count = 0;
     for (int y = 0; y < samples_; ++y) {
       for (int x = 0; x < samples_; ++x) {
-        const Colour& colour = colours_[owners[y * DepthBand::TILE + x]];
-        red += colour.red;
-        green += colour.green;
-        blue += colour.blue;
+        const std::uint32_t owner = owners[y * DepthBand::TILE + x];
+        if (picture_.isTransparent && owner == GROUND_OWNER) continue;
+        const Colour& colour = colours_[owner];
+        sums[0] += colour.red;
+        sums[1] += colour.green;
+        sums[2] += colour.blue;
+        ++count;
       }
     }
-    const int count = samples_ * samples_;
-    to[0] = static_cast<std::uint8_t>((red + count / 2) / count);
-    to[1] = static_cast<std::uint8_t>((green + count / 2) / count);
-    to[2] = static_cast<std::uint8_t>((blue + count / 2) / count);
+    const auto mean = [](int sum, int of) {
+      return of == 0 ? std::uint8_t{0} : static_cast<std::uint8_t>((sum + of / 2) / of);
+    };
+    Put({mean(sums[0], count), mean(sums[1], count), mean(sums[2], count)},
+        mean(OPAQUE_ALPHA * count, samples_ * samples_), to);
   }
 
   const Scene& scene_;
@@ -288,10 +342,10 @@ class Renderer {
 }  // namespace
 
 Picture Render(const Scene& scene, const PictureOptions& options) {
-  const std::vector<VisibleLine> lines =
-      VisibleLines(scene, *options.view, FrameOf(scene, *options.view, options.zoom));
+  const Frame frame = FrameFor(scene, options);
+  const std::vector<VisibleLine> lines = VisibleLines(scene, *options.view, frame);
   for (const int samples : SAMPLES) {
-    if (std::optional<Picture> picture = Renderer(scene, options, lines, samples).Run())
+    if (std::optional<Picture> picture = Renderer(scene, options, frame, lines, samples).Run())
       return *std::move(picture);
   }
   throw Error(fmt::format(

@@ -13,6 +13,9 @@ struct PictureOptions {
   const View* view = nullptr;  // never null
   int width = 0;               // pixels
   Zoom zoom;
+  int height = 0;              // of pictures of pixels: 0 is as high as what is shown
+  bool isTransparent = false;  // of pictures of pixels: without a ground
+  bool withTags = false;       // of pictures of pixels: the windows bear their names
 };
 
 struct VectorPicture {

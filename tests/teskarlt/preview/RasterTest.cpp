@@ -1,4 +1,6 @@
 // RasterTest.cpp - pixels, with hidden surfaces right.
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "teskarlt/preview/Raster.h"
@@ -54,6 +56,40 @@ TEST(Render, PictureHasTheGroundAroundTheDrawing) {
   const Picture picture = Rendered(Rectangle("RED", 0, 0, 9, 9, 5), "plan");
   EXPECT_EQ(picture.width, 100);
   EXPECT_EQ(At(picture, 0.01, 0.01), (std::array<int, 3>{236, 239, 241}));
+}
+
+// A square of red with so much ground around it as the picture of that size has.
+Picture Sized(int width, int height, bool isTransparent) {
+  PictureOptions options;
+  options.view = FindView("plan");
+  options.width = width;
+  options.height = height;
+  options.isTransparent = isTransparent;
+  return Render(SceneOf({.tables = RED_AND_BLUE, .entities = Rectangle("RED", 0, 0, 9, 9, 5)}), options);
+}
+
+TEST(Render, DrawingStandsInTheMiddleOfAPictureOfItsOwnSize) {
+  for (const auto& [width, height] : {std::pair(300, 100), std::pair(100, 300)}) {
+    const Picture picture = Sized(width, height, false);
+    EXPECT_EQ(picture.width, width);
+    EXPECT_EQ(picture.height, height);
+    EXPECT_EQ(picture.bytes.size(), 300U * 100 * 3);
+    EXPECT_TRUE(IsRed(At(picture, 0.5, 0.5)));
+    EXPECT_EQ(IsRed(At(picture, 0.25, 0.5)), width < height);
+    EXPECT_EQ(IsRed(At(picture, 0.75, 0.5)), width < height);
+    EXPECT_EQ(IsRed(At(picture, 0.5, 0.25)), width > height);
+    EXPECT_EQ(IsRed(At(picture, 0.5, 0.75)), width > height);
+  }
+}
+
+TEST(Render, TransparentPictureHasNoGround) {
+  const Picture picture = Sized(100, 100, true);
+  ASSERT_EQ(picture.bytes.size(), 100U * 100 * 4);
+  const std::size_t middle = (50 * 100 + 50) * 4;
+  EXPECT_EQ(picture.bytes[3], 0);
+  EXPECT_EQ(picture.bytes[middle + 3], 255);
+  const Picture opaque = Sized(100, 100, false);
+  EXPECT_EQ(picture.bytes[middle], opaque.bytes[(50 * 100 + 50) * 3]);
 }
 
 TEST(Render, HiddenEdgeIsNotDrawn) {
