@@ -78,6 +78,11 @@ class Browser:
         elif method == "Network.requestWillBeSent":
             self.requests.append(parameters["request"]["url"])
 
+    def prefer(self, scheme="light", motion="reduce"):
+        """What the user wants of pages: light or dark colours; motion, or as little as possible."""
+        self.call("Emulation.setEmulatedMedia", features=[{"name": "prefers-color-scheme", "value": scheme},
+                                                          {"name": "prefers-reduced-motion", "value": motion}])
+
     def open(self, path, width=1000, height=700, is_phone=False):
         """Loads a file and waits until it is drawn."""
         self.call("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=1, mobile=is_phone)
@@ -101,6 +106,9 @@ class Browser:
         for kind, (x, y) in (("mousePressed", start), ("mouseMoved", end), ("mouseReleased", end)):
             self.call("Input.dispatchMouseEvent", type=kind, x=x, y=y, button="left", buttons=1, clickCount=1)
         self.settle()
+
+    def click(self, place):
+        self.drag(place, place)
 
     def press(self, key):
         for kind in ("keyDown", "keyUp"):

@@ -32,17 +32,29 @@ def difference(a, b):
     return sum(max(abs(p - q) for p, q in zip(one, other)) > 12 for one, other in pairs) / (a.width * a.height)
 
 
-def pixels(png):
-    """A PNG file (bytes) as GDAL decodes it."""
+def decoded(png, *bands):
+    """Kind, width, height, depth and values of these bands of a PNG file (bytes) as GDAL decodes it."""
     with tempfile.TemporaryDirectory() as folder:
         with open(f"{folder}/in.png", "wb") as file:
             file.write(png)
-        subprocess.run(["gdal_translate", "-q", "-of", "PNM", "-b", "1", "-b", "2", "-b", "3", f"{folder}/in.png",
-                        f"{folder}/out.ppm"], check=True)
+        chosen = [word for band in bands for word in ("-b", str(band))]
+        subprocess.run(["gdal_translate", "-q", "-of", "PNM", *chosen, f"{folder}/in.png", f"{folder}/out.ppm"], check=True)
         with open(f"{folder}/out.ppm", "rb") as file:
-            kind, width, height, depth, values = header(file)
+            return header(file)
+
+
+def pixels(png):
+    """The colours of a PNG file."""
+    kind, width, height, depth, values = decoded(png, 1, 2, 3)
     assert (kind, depth) == (b"P6", 255)
     return Pixels(width, height, values)
+
+
+def alpha(png):
+    """How much of the ground each pixel of a PNG file hides, up to 255, row by row."""
+    kind, _, _, depth, values = decoded(png, 4)
+    assert (kind, depth) == (b"P5", 255)
+    return values
 
 
 def header(file):

@@ -1,5 +1,6 @@
 # test_page.py - the page of a drawing in a browser: it loads from a file, shows the house, and can be turned.
 import make_house
+import node_tools
 import pictures
 import pytest
 from browser import Browser
@@ -25,6 +26,7 @@ def page(tmp_path_factory):
 @pytest.fixture(scope="module")
 def running(tmp_path_factory):
     browser = Browser(tmp_path_factory.mktemp("profile"))
+    browser.prefer()
     yield browser
     browser.close()
 
@@ -83,10 +85,152 @@ def test_window_in_the_list_is_flown_to(browser):
     def is_pane(red, green, blue):
         return blue > red + 20 and green > red + 5
     before = shown(browser).share(is_pane)
+    browser.prefer(motion="no-preference")
     browser.evaluate("document.querySelector('#windows button').click()")
     browser.settle(1200)
+    browser.prefer()
     assert shown(browser).share(is_pane) > before + 0.02
     assert browser.evaluate("document.querySelector('#windows button').getAttribute('aria-pressed')") == "true"
+
+
+def text(browser, selector):
+    return browser.evaluate(f"document.querySelector('{selector}').textContent")
+
+
+def is_shown(browser, selector):
+    return browser.evaluate(f"document.querySelector('{selector}').checkVisibility()")
+
+
+def choose(browser, name):
+    """A click on the button of that name; the view changes at once."""
+    browser.evaluate(f"[...document.querySelectorAll('button')].find(button => button.textContent === '{name}').click()")
+    browser.settle(200)
+
+
+def tag_place(browser):
+    """The middle of the name at the window."""
+    return browser.evaluate("(({ x, y, width, height }) => [x + width / 2, y + height / 2])"
+                            "(document.querySelector('#tags span').getBoundingClientRect())")
+
+
+def card_lines(browser):
+    return browser.evaluate("Object.fromEntries([...document.querySelectorAll('#card dl div')]"
+                            ".map(line => [...line.children].map(cell => cell.textContent)))")
+
+
+def test_click_on_a_window_shows_its_card(browser):
+    assert not is_shown(browser, "#card")
+    browser.click(tag_place(browser))
+    assert is_shown(browser, "#card") and text(browser, "#card h2") == "W01"
+    lines = card_lines(browser)
+    assert (lines["Width mm"], lines["Length mm"], lines["Roof pitch °"]) == ("940", "1400", "35.0")
+    assert lines["Opening"] == "centre-pivot"
+    assert "" not in lines.values()
+
+
+def test_card_is_closed_by_a_click_beside_windows_or_by_a_key(browser):
+    for close in (lambda: browser.click((560, 60)), lambda: browser.press("Escape"),
+                  lambda: browser.evaluate("document.querySelector('#card .close').click()")):
+        browser.click(tag_place(browser))
+        assert is_shown(browser, "#card")
+        close()
+        assert not is_shown(browser, "#card")
+
+
+def test_turning_the_house_is_no_click(browser):
+    x, y = tag_place(browser)
+    browser.drag((x, y), (x + 40, y))
+    assert not is_shown(browser, "#card")
+
+
+def test_window_in_the_list_shows_its_card(browser):
+    browser.evaluate("document.querySelector('#windows button').click()")
+    assert text(browser, "#card h2") == "W01"
+
+
+def test_names_stand_at_windows_that_face_the_viewer(browser):
+    assert is_shown(browser, "#tags span") and text(browser, "#tags span") == "W01"
+    choose(browser, "North")
+    assert not is_shown(browser, "#tags span")
+    choose(browser, "Plan")
+    assert is_shown(browser, "#tags span")
+    browser.evaluate("document.querySelector('#names').click()")
+    assert not is_shown(browser, "#tags span")
+
+
+def test_schedule_is_a_tab(browser):
+    choose(browser, "Schedule")
+    assert is_shown(browser, "#table") and not is_shown(browser, "#view")
+    assert text(browser, "#table tbody td") == "W01"
+    assert browser.evaluate("document.querySelector('#save').download") == "house-windows.csv"
+    assert browser.evaluate("document.querySelector('#save').href").startswith("blob:")
+
+
+def test_name_in_the_schedule_leads_to_the_window(browser):
+    choose(browser, "Schedule")
+    choose(browser, "W01")
+    assert is_shown(browser, "#view") and is_shown(browser, "#card")
+
+
+def test_tabs_are_chosen_by_arrow_keys(browser):
+    browser.evaluate("document.querySelector('#house-tab').focus()")
+    browser.press("ArrowRight")
+    assert is_shown(browser, "#table")
+    browser.press("ArrowRight")
+    assert is_shown(browser, "#view")
+
+
+def test_names_with_markup_stay_texts(teskarlt, running, house, tmp_path):
+    name = "<img src=x onerror=document.title='hit'>"
+    teskarlt.done("insert", house, "--at", "2500,1200", "--mark", name)
+    teskarlt.done("preview", house, "-o", tmp_path / "out.html", "--window", "1")
+    running.open(tmp_path / "out.html")
+    for selector in ("#card h2", "#tags span", "#windows .name", "#table tbody td"):
+        assert text(running, selector) == name, selector
+    assert running.evaluate("document.images.length") == 0 and running.evaluate("document.title") == "house"
+
+
+def test_elevations_are_parallel_projections(teskarlt, running, tmp_path):
+    """A red board before and a blue one of the same size twenty metres behind it, beside it as seen from the south."""
+    drawing = Drawing(units="m")
+    drawing.layer("RED", 1), drawing.layer("BLUE", 5)
+    for name, x, y in (("RED", 0, 0), ("BLUE", 5, 20)):
+        drawing.face(name, (x, y, 0), (x + 4, y, 0), (x + 4, y, 4), (x, y, 4))
+    teskarlt.done("preview", drawing.save(tmp_path / "in.dxf"), "-o", tmp_path / "out.html")
+    running.open(tmp_path / "out.html")
+    shares = {}
+    for view in ("3D", "South"):
+        choose(running, view)
+        red = shown(running).share(pictures.is_red)
+        blue = shown(running).share(lambda red, green, blue: blue > red + 50 and blue > green + 50)
+        shares[view] = blue / red
+    assert abs(shares["South"] - 1) < 0.03 < abs(shares["3D"] - 1)
+
+
+@pytest.mark.parametrize("scheme", ["light", "dark"])
+@pytest.mark.parametrize("width, height", [(1440, 900), (820, 1180), (390, 844)])
+def test_page_is_accessible(running, page, width, height, scheme):
+    running.prefer(scheme)
+    running.open(page, width, height)
+    try:
+        for step in ("document.querySelector('#panel').open = true", "document.querySelector('#windows button').click()",
+                     "document.querySelector('#schedule-tab').click()"):
+            running.evaluate(step + ";0")
+            running.settle(200)
+            assert node_tools.findings_of_page(running) == []
+    finally:
+        running.prefer()
+
+
+def test_page_is_dark_where_the_user_wants_it(running, page):
+    def brightness():
+        return sum(map(sum, shown(running).all()))
+    running.open(page)
+    light = brightness()
+    running.prefer("dark")
+    running.settle()
+    assert brightness() < light * 0.6
+    running.prefer()
 
 
 def test_page_fits_a_phone(browser, page):

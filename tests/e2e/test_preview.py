@@ -1,11 +1,13 @@
 # test_preview.py - pictures, pages and models of drawings, read by programs that nobody here wrote.
 import base64
+import json
 import re
 import shutil
 import subprocess
 import xml.etree.ElementTree as ElementTree
 
 import ezdxf
+import node_tools
 import pictures
 import pytest
 import readers
@@ -134,6 +136,57 @@ def test_model_is_read_by_another_program(teskarlt, windowed, tmp_path):
         assert layer in done.stdout
 
 
+def model_of(path):
+    """The JSON of a binary glTF file."""
+    content = path.read_bytes()
+    length = int.from_bytes(content[12:16], "little")
+    return json.loads(content[20:20 + length])
+
+
+def test_model_keeps_to_its_format(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "house.glb")
+    assert node_tools.findings_of_model(tmp_path / "house.glb") == []
+
+
+def test_validator_finds_what_is_wrong(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "house.glb")
+    content = (tmp_path / "house.glb").read_bytes()
+    (tmp_path / "wrong.glb").write_bytes(content.replace(b'"mode":4', b'"mode":9'))
+    assert node_tools.findings_of_model(tmp_path / "wrong.glb") != []
+
+
+def test_model_has_a_node_for_each_window_with_its_values(teskarlt, windowed, tmp_path):
+    """The second window has no mark and is called by its number."""
+    teskarlt.done("mark", windowed, "--mark", "Bath")
+    teskarlt.done("insert", windowed, "--at", "6000,1200", "--set", "width=0.78")
+    teskarlt.done("preview", windowed, "-o", tmp_path / "house.glb")
+    listed = teskarlt.done("schedule", windowed, "--json").json["windows"]
+    model = model_of(tmp_path / "house.glb")
+    nodes = {node["name"]: node for node in model["nodes"] if "children" in node}
+    assert nodes.keys() == {"Bath", "W02"}
+    for window in listed:
+        values = {name: value for name, value in window.items() if value is not None and name != "quantity"}
+        assert nodes[window["mark"]]["extras"] == values
+    assert nodes["W02"]["extras"]["width"] == 0.78
+
+
+def test_frames_and_panes_of_a_model_are_told_apart(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "house.glb")
+    model = model_of(tmp_path / "house.glb")
+    children = [model["nodes"][child] for node in model["nodes"] for child in node.get("children", [])]
+    materials = {node["name"]: {model["materials"][primitive["material"]]["name"]
+                                for primitive in model["meshes"][node["mesh"]]["primitives"]} for node in children}
+    assert materials["ROOF_WINDOW_BODY"] == {"frame", "glass", "line"}
+    assert {name for name, found in materials.items() if "surface" in found} == set()
+
+
+def test_page_holds_the_schedule_that_the_program_makes(teskarlt, windowed, tmp_path):
+    teskarlt.done("preview", windowed, "-o", tmp_path / "house.html")
+    teskarlt.done("schedule", windowed, "--bom", "-o", tmp_path / "house.csv")
+    csv = re.search(r'id="csv">([^<]*)<', (tmp_path / "house.html").read_text()).group(1)
+    assert base64.b64decode(csv) == (tmp_path / "house.csv").read_bytes()
+
+
 def test_page_holds_the_model(teskarlt, windowed, tmp_path):
     for name in ("house.glb", "house.html"):
         teskarlt.done("preview", windowed, "-o", tmp_path / name)
@@ -223,7 +276,48 @@ def test_names_without_room_are_counted(teskarlt, windowed, tmp_path):
     assert "3 roofs have no room for their names in this picture" in answer.stderr
 
 
-WRONG_USAGE = {"no format": ["-o", "out.jpg"], "view of a page": ["-o", "out.html", "--view", "iso"],
+def test_picture_has_the_size_that_was_asked_for(teskarlt, windowed, tmp_path):
+    for size in ((640, 360), (300, 500)):
+        teskarlt.done("preview", windowed, "-o", tmp_path / "out.png", "--size", "{}x{}".format(*size))
+        picture = pictures.pixels((tmp_path / "out.png").read_bytes())
+        assert (picture.width, picture.height) == size
+        assert picture.share(pictures.is_red) > 0.05
+
+
+def test_windows_bear_their_tags(teskarlt, windowed, tmp_path):
+    """The tag is seen from the south, where the window faces, and not from the north."""
+    def is_ink(red, green, blue):
+        return abs(red - 29) + abs(green - 58) + abs(blue - 79) < 12
+    shares = {}
+    for view in ("south", "north"):
+        for options in ((), ("--tags",)):
+            teskarlt.done("preview", windowed, "-o", tmp_path / "out.png", "--width", "800", "--view", view, *options)
+            picture = pictures.pixels((tmp_path / "out.png").read_bytes())
+            shares[view, bool(options)] = sum(is_ink(*pixel) for pixel in picture.all())
+    assert shares["south", True] > shares["south", False] + 20
+    assert shares["north", True] == shares["north", False]
+
+
+def test_tags_without_room_are_counted(teskarlt, windowed, tmp_path):
+    answer = teskarlt.done("preview", windowed, "-o", tmp_path / "out.png", "--tags", "--width", "100")
+    assert "1 window has no room for its tag in this picture" in answer.stderr
+
+
+def test_transparent_picture_has_alpha(teskarlt, windowed, tmp_path):
+    """Around the house nothing, the house as it is in a picture with a ground."""
+    for name, options in (("plain", []), ("clear", ["--transparent"])):
+        teskarlt.done("preview", windowed, "-o", tmp_path / f"{name}.png", "--size", "200x200", *options)
+    plain, clear = (pictures.pixels((tmp_path / f"{name}.png").read_bytes()) for name in ("plain", "clear"))
+    alpha = pictures.alpha((tmp_path / "clear.png").read_bytes())
+    assert alpha[0] == 0 and set(alpha) >= {0, 255}
+    opaque = [place for place, value in enumerate(alpha) if value == 255]
+    plain, clear = plain.all(), clear.all()
+    assert len(opaque) > 4000 and [plain[place] for place in opaque] == [clear[place] for place in opaque]
+
+
+WRONG_USAGE = {"size of a page": ["-o", "out.html", "--size", "300x300"], "size and width": ["-o", "out.png", "--size", "300x300", "--width", "300"],
+               "size that is none": ["-o", "out.png", "--size", "300"], "transparent plan": ["-o", "out.svg", "--transparent"], "tags of a plan": ["-o", "out.svg", "--tags"],
+               "no format": ["-o", "out.jpg"], "view of a page": ["-o", "out.html", "--view", "iso"],
                "names in a model": ["-o", "out.glb", "--roofs"], "roof and window": ["-o", "out.svg", "--on", "R1", "--window", "1"],
                "width of a model": ["-o", "out.glb", "--width", "500"], "unknown view": ["-o", "out.svg", "--view", "up"],
                "no output": []}

@@ -2,12 +2,15 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include <fmt/format.h>
 
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/FileEnding.h"
+#include "teskarlt/commands/PictureSize.h"
+#include "teskarlt/commands/PreviewSchedule.h"
 #include "teskarlt/commands/Subcommands.h"
 #include "teskarlt/commands/UnitOptions.h"
 #include "teskarlt/dxf/tags/TagValue.h"
@@ -26,8 +29,6 @@ namespace {
 
 constexpr int SVG_WIDTH = 1000;
 constexpr int PNG_WIDTH = 1600;
-constexpr int LEAST_WIDTH = 100;
-constexpr int GREATEST_WIDTH = 10000;
 constexpr const char* FORMATS[] = {"svg", "png", "html", "glb"};
 
 struct PreviewOptions {
@@ -39,6 +40,9 @@ struct PreviewOptions {
   std::vector<std::string> layers;
   std::optional<int> window;
   std::optional<int> width;
+  std::string size;  // width and height
+  bool isTransparent = false;
+  bool withTags = false;
   bool withRoofs = false;
   std::string roof;  // to zoom to
 };
@@ -51,9 +55,13 @@ std::string FormatOf(const PreviewOptions& options) {
       options.output));
 }
 
+bool IsPicture(const std::string& format) {
+  return format == "svg" || format == "png";
+}
+
 // What a format has no use for is wrong usage.
 void RefuseUnusable(const PreviewOptions& options, const std::string& format) {
-  const bool isFlat = format == "svg" || format == "png";
+  const bool isFlat = IsPicture(format);
   const auto refuse = [&](const char* option) {
     throw UsageError(fmt::format("{}: has no meaning for a .{} file", option, format));
   };
@@ -61,6 +69,12 @@ void RefuseUnusable(const PreviewOptions& options, const std::string& format) {
   if (!isFlat && options.width) refuse("--width");
   if (!isFlat && options.withRoofs) refuse("--roofs");
   if (!isFlat && !options.roof.empty()) refuse("--on");
+  if (format != "png" && !options.size.empty()) refuse("--size");
+  if (format != "png" && options.isTransparent) refuse("--transparent");
+  if (format != "png" && options.withTags) refuse("--tags");
+  if (options.width && !options.size.empty())
+    throw UsageError("--size: says the width already; leave --width out");
+  if (!options.size.empty()) ReadPictureSize(options.size);
   if (format == "glb" && options.window) refuse("--window");
 }
 
@@ -85,6 +99,12 @@ std::optional<std::size_t> RoofIndex(const PreviewOptions& options, const previe
   return static_cast<std::size_t>(found - scene.roofs.begin());
 }
 
+void ReportUntagged(std::size_t count) {
+  if (count == 0) return;
+  TellNote(fmt::format("{} window{} no room for {} in this picture; a greater --size may give it", count,
+                       count == 1 ? " has" : "s have", count == 1 ? "its tag" : "their tags"));
+}
+
 void ReportUnnamed(std::size_t count) {
   if (count == 0) return;
   TellNote(fmt::format(
@@ -92,10 +112,24 @@ void ReportUnnamed(std::size_t count) {
       count == 1 ? "" : "s", count == 1 ? "has" : "have", count == 1 ? "its name" : "their names"));
 }
 
-std::string Made(const PreviewOptions& options, const std::string& format, const preview::Scene& scene) {
+std::string MadePng(const PreviewOptions& options, const preview::Scene& scene,
+                    preview::PictureOptions picture) {
+  if (!options.size.empty()) {
+    const PictureSize size = ReadPictureSize(options.size);
+    picture.width = size.width;
+    picture.height = size.height;
+  }
+  picture.isTransparent = options.isTransparent;
+  picture.withTags = options.withTags;
+  const preview::Picture made = preview::Render(scene, picture);
+  ReportUnnamed(made.unnamedRoofs);
+  ReportUntagged(made.untaggedWindows);
+  return preview::Png(made);
+}
+
+std::string MadePicture(const PreviewOptions& options, const std::string& format,
+                        const preview::Scene& scene) {
   const std::optional<std::size_t> window = WindowIndex(options, scene);
-  if (format == "glb") return preview::Glb(scene);
-  if (format == "html") return preview::Page(scene, options.window);
   const bool isSvg = format == "svg";
   preview::PictureOptions picture;
   picture.view = preview::FindView(!options.view.empty() ? options.view : isSvg ? "plan" : "iso");
@@ -106,9 +140,18 @@ std::string Made(const PreviewOptions& options, const std::string& format, const
     ReportUnnamed(made.unnamedRoofs);
     return std::move(made.text);
   }
-  const preview::Picture made = preview::Render(scene, picture);
-  ReportUnnamed(made.unnamedRoofs);
-  return preview::Png(made);
+  return MadePng(options, scene, picture);
+}
+
+// What the schedule says of the windows is only read where it is shown.
+std::string Made(const PreviewOptions& options, const std::string& format, const dxf::Document& drawing,
+                 preview::Scene& scene) {
+  if (IsPicture(format) && !options.withTags) return MadePicture(options, format, scene);
+  WindowIndex(options, scene);  // a window that is not there is refused
+  schedule::Schedule schedule = DescribeWindows(drawing, options.units, scene);
+  if (format == "glb") return preview::Glb(scene);
+  if (format == "html") return preview::Page(scene, PageScheduleOf(std::move(schedule)), options.window);
+  return MadePicture(options, format, scene);
 }
 
 void ReportLeftOut(const preview::Scene& scene) {
@@ -122,11 +165,31 @@ void RunPreview(const PreviewOptions& options) {
   const std::string format = FormatOf(options);
   RefuseUnusable(options, format);
   const dxf::Document drawing = dxf::Document::Load(options.file);
-  const preview::Scene scene = preview::ReadScene(
+  preview::Scene scene = preview::ReadScene(
       drawing, {options.units, options.layers, options.withRoofs || !options.roof.empty()});
-  platform::WriteWholeFile(options.output, Made(options, format, scene));
+  platform::WriteWholeFile(options.output, Made(options, format, drawing, scene));
   ReportLeftOut(scene);
   fmt::print("{} written.\n", options.output);
+}
+
+void AddPictureOptions(Subcommand& command, PreviewOptions& options, const Option& window) {
+  command.Value("--width", options.width, "width of the picture, from 100 to 10000")
+      .Named("PIXELS")
+      .Within(LEAST_PIXELS, MOST_PIXELS);
+  command
+      .Value("--size", options.size,
+             "width and height of the picture, in which the drawing stands in the middle (.png)")
+      .Named("WxH")
+      .NotEmpty();
+  command.Flag("--transparent", options.isTransparent,
+               "leave the ground out, so that the picture can be put onto another (.png)");
+  command.Value("--on", options.roof, "zoom to the roof of this name, with the names of --roofs")
+      .Named("ROOF")
+      .Excludes(window);
+  command.Flag("--roofs", options.withRoofs,
+               "write the names of the roofs, as teskarlt roofs lists them, onto them (.svg, .png)");
+  command.Flag("--tags", options.withTags,
+               "write the windows' names onto them, as schedules have them (.png)");
 }
 
 }  // namespace
@@ -147,14 +210,7 @@ void AddPreviewCommand(OptionParser& parser) {
   const Option window =
       command.Value("--window", options->window, "zoom to the window with this number").Named("NUMBER");
   command.Many("--layer", options->layers, "show this layer only; several may be given").Named("LAYER");
-  command.Value("--width", options->width, "width of the picture, from 100 to 10000")
-      .Named("PIXELS")
-      .Within(LEAST_WIDTH, GREATEST_WIDTH);
-  command.Value("--on", options->roof, "zoom to the roof of this name, with the names of --roofs")
-      .Named("ROOF")
-      .Excludes(window);
-  command.Flag("--roofs", options->withRoofs,
-               "write the names of the roofs, as teskarlt roofs lists them, onto them (.svg, .png)");
+  AddPictureOptions(command, *options, window);
   AddUnitOptions(command, options->units);
   command.Footer(
       "A .svg is a drawing with title, scale bar and a group for each layer; a .png is seen from the "
@@ -165,7 +221,8 @@ void AddPreviewCommand(OptionParser& parser) {
       "  teskarlt preview house.dxf -o plan.svg\n"
       "  teskarlt preview house.dxf -o south.svg --view south\n"
       "  teskarlt preview house.dxf -o roofs.svg --roofs\n"
-      "  teskarlt preview house.dxf -o window.png --window 3");
+      "  teskarlt preview house.dxf -o window.png --window 3\n"
+      "  teskarlt preview house.dxf -o slide.png --size 1920x1080 --transparent");
   command.Run([options] { RunPreview(*options); });
 }
 

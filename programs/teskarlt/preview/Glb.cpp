@@ -6,12 +6,16 @@
 #include <cmath>
 #include <cstdint>
 #include <map>
+#include <optional>
+#include <string>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
 #include "geometry/Vectors.h"
+#include "teskarlt/preview/GlassPanes.h"
 
 namespace teskarlt::preview {
 
@@ -48,9 +52,24 @@ double Light(std::uint8_t channel) {
   return std::round(value * value * 1000) / 1000;
 }
 
-enum class Kind { Surface, Glass, Edge, Line };
+enum class Kind { Surface, Frame, Glass, Edge, Line };
 
-// The primitives of a layer are told apart by these.
+constexpr const char* NameOf(Kind kind) {
+  switch (kind) {
+    case Kind::Surface:
+      return "surface";
+    case Kind::Frame:
+      return "frame";
+    case Kind::Glass:
+      return "glass";
+    case Kind::Edge:
+    case Kind::Line:
+      break;
+  }
+  return "line";
+}
+
+// The primitives of a node are told apart by these.
 struct Material {
   Kind kind;
   std::uint8_t red, green, blue;
@@ -69,23 +88,35 @@ struct Vertices {
 
 using Primitives = std::map<Material, Vertices>;
 
+// What a node holds: of a window, or else of the rest of the drawing, which comes first.
+struct Place {
+  int window;
+  std::size_t layer;
+
+  bool operator<(const Place& other) const {
+    return std::tie(window, layer) < std::tie(other.window, other.layer);
+  }
+};
+
 class Writer {
  public:
-  explicit Writer(const Scene& scene) : scene_(scene) {
+  explicit Writer(const Scene& scene) : scene_(scene), panes_(scene) {
     scale_ = scene.perMetre > 0 ? 1 / scene.perMetre : 1;
     const Vec3 centre = scene.box.Centre();
     origin_ = {centre.x, centre.y, scene.box.low.z};
   }
 
   std::string Run() {
-    std::vector<Primitives> layers(scene_.layers.size());
-    for (std::size_t i = 0; i < scene_.surfaces.size(); ++i)
-      AddSurface(i, layers[scene_.surfaces[i].layer]);
+    std::map<Place, Primitives> content;
+    for (std::size_t i = 0; i < scene_.surfaces.size(); ++i) {
+      const Surface& surface = scene_.surfaces[i];
+      AddSurface(i, content[{surface.window, surface.layer}]);
+    }
     for (const Curve& curve : scene_.curves)
-      AddCurve(curve, layers[curve.layer]);
+      AddCurve(curve, content[{curve.window, curve.layer}]);
     Begin();
-    for (std::size_t i = 0; i < layers.size(); ++i)
-      PutLayer(scene_.layers[i], layers[i]);
+    PutNodes(content);
+    PutWindows();
     return File();
   }
 
@@ -109,14 +140,19 @@ class Writer {
     vertices.surfaces.resize(vertices.points.size(), NumberOf(surface));
   }
 
-  void AddSurface(std::size_t index, Primitives& layer) const {
+  static Kind KindOf(const Surface& surface) {
+    if (surface.isGlass) return Kind::Glass;
+    return surface.window == NO_WINDOW ? Kind::Surface : Kind::Frame;
+  }
+
+  void AddSurface(std::size_t index, Primitives& node) const {
     const Surface& surface = scene_.surfaces[index];
     const std::vector<Vec3>& corners = surface.corners;
-    Vertices& triangles = layer[MaterialOf(surface.isGlass ? Kind::Glass : Kind::Surface, PaintOf(surface))];
+    Vertices& triangles = node[MaterialOf(KindOf(surface), PaintOf(surface))];
     for (const std::size_t corner : Triangles(corners))
       triangles.points.push_back(corners[corner]);
     NumberAll(triangles, index);
-    Vertices& edges = layer[MaterialOf(Kind::Edge, EdgeInk(surface.colour))];
+    Vertices& edges = node[MaterialOf(Kind::Edge, EdgeInk(surface.colour))];
     for (std::size_t k = 0; k < corners.size(); ++k) {
       if (k >= HIDDEN_EDGE_BITS || (surface.hiddenEdges >> k & 1U) == 0)
         AddLine(corners[k], corners[(k + 1) % corners.size()], edges);
@@ -124,11 +160,11 @@ class Writer {
     NumberAll(edges, index);
   }
 
-  void AddCurve(const Curve& curve, Primitives& layer) const {
+  void AddCurve(const Curve& curve, Primitives& node) const {
     const bool isOutline = curve.outlined != NO_SURFACE;
-    Vertices& lines = layer[MaterialOf(isOutline ? Kind::Edge : Kind::Line, Ink(curve.colour))];
+    Vertices& lines = node[MaterialOf(isOutline ? Kind::Edge : Kind::Line, Ink(curve.colour))];
     const DashPattern pattern = ReadablePattern(scene_.patterns[curve.pattern], ShortestPeriod(curve));
-    for (const std::vector<Vec3>& dash : Dashes(curve.points, pattern)) {
+    for (const std::vector<Vec3>& dash : Dashes(panes_.OntoPane(curve), pattern)) {
       for (std::size_t i = 1; i < dash.size(); ++i)
         AddLine(dash[i - 1], dash[i], lines);
     }
@@ -151,25 +187,13 @@ class Writer {
   }
 
   void Begin() {
-    Json windows = Json::array();
-    for (const SceneWindow& window : scene_.windows) {
-      if (window.box.IsEmpty()) continue;
-      const Vec3 middle = Placed(window.box.Centre());
-      const Vec3 diagonal = {window.box.high.x - window.box.low.x, window.box.high.y - window.box.low.y,
-                             window.box.high.z - window.box.low.z};
-      windows.push_back({{"number", window.number},
-                         {"label", window.label},
-                         {"middle", {middle.x, middle.y, middle.z}},
-                         {"size", geometry::VecLength(diagonal) * scale_},
-                         {"facing", {window.facing.x, window.facing.z, -window.facing.y}}});
-    }
     json_["asset"] = {{"version", "2.0"},
                       {"generator", "teskarlt"},
                       {"extras",
                        {{"name", scene_.name},
                         {"unit", scene_.unit},
                         {"origin", {origin_.x, origin_.y, origin_.z}},
-                        {"windows", windows}}}};
+                        {"windows", Json::array()}}}};
     json_["scene"] = 0;
     json_["scenes"] = {{{"name", scene_.name}, {"nodes", Json::array()}}};
     for (const char* list : {"nodes", "meshes", "materials", "accessors", "bufferViews"})
@@ -181,9 +205,7 @@ class Writer {
     if (!isNew) return found->second;
     const bool isGlass = material.kind == Kind::Glass;
     json_["materials"].push_back(
-        {{"name", IsLine(material) ? "line"
-                  : isGlass        ? "glass"
-                                   : "surface"},
+        {{"name", NameOf(material.kind)},
          {"pbrMetallicRoughness",
           {{"baseColorFactor", {Light(material.red), Light(material.green), Light(material.blue), 1.0}},
            {"metallicFactor", 0.0},
@@ -192,7 +214,20 @@ class Writer {
     return found->second;
   }
 
-  void PutLayer(const SceneLayer& layer, const Primitives& content) {
+  void PutNodes(const std::map<Place, Primitives>& content) {
+    for (const auto& [place, primitives] : content) {
+      const std::optional<std::size_t> node = PutLayer(scene_.layers[place.layer], primitives);
+      if (!node) continue;
+      if (place.window == NO_WINDOW) {
+        json_["scenes"][0]["nodes"].push_back(*node);
+      } else {
+        layersOf_[static_cast<std::size_t>(place.window)].push_back(*node);
+      }
+    }
+  }
+
+  // Adds a node with what lies on the layer and gives its index; none where that is nothing.
+  std::optional<std::size_t> PutLayer(const SceneLayer& layer, const Primitives& content) {
     Json primitives = Json::array();
     for (const auto& [material, vertices] : content) {
       if (vertices.points.empty()) continue;
@@ -202,12 +237,47 @@ class Writer {
                             {"material", MaterialIndex(material)},
                             {"mode", IsLine(material) ? LINES : TRIANGLES}});
     }
-    if (primitives.empty()) return;
-    json_["scenes"][0]["nodes"].push_back(json_["nodes"].size());
+    if (primitives.empty()) return std::nullopt;
     json_["nodes"].push_back({{"name", layer.name},
                               {"mesh", json_["meshes"].size()},
                               {"extras", {{"colour", Hex(layer.colour)}}}});
     json_["meshes"].push_back({{"name", layer.name}, {"primitives", primitives}});
+    return json_["nodes"].size() - 1;
+  }
+
+  void PutWindows() {
+    for (const auto& [index, layers] : layersOf_) {
+      const SceneWindow& window = scene_.windows[index];
+      const std::size_t node = json_["nodes"].size();
+      json_["scenes"][0]["nodes"].push_back(node);
+      json_["nodes"].push_back({{"name", window.name.empty() ? std::to_string(window.number) : window.name},
+                                {"children", layers},
+                                {"extras", ValuesOf(window)}});
+      json_["asset"]["extras"]["windows"].push_back(Summary(window, node));
+    }
+  }
+
+  // What the schedule knows of the window; what it does not know is left out.
+  static Json ValuesOf(const SceneWindow& window) {
+    Json values = {{"number", window.number}};
+    if (window.values.empty()) return values;
+    const Json known = Json::parse(window.values);
+    for (const auto& [name, value] : known.items()) {
+      if (!value.is_null()) values[name] = value;
+    }
+    return values;
+  }
+
+  // Where the window of that node is to be seen.
+  Json Summary(const SceneWindow& window, std::size_t node) const {
+    const Vec3 middle = Placed(window.box.Centre());
+    return {{"node", node},
+            {"number", window.number},
+            {"name", window.name},
+            {"label", window.label},
+            {"middle", {middle.x, middle.y, middle.z}},
+            {"size", geometry::Distance(window.box.low, window.box.high) * scale_},
+            {"facing", {window.facing.x, window.facing.z, -window.facing.y}}};
   }
 
   // Adds an accessor with these points and gives its index.
@@ -261,9 +331,11 @@ class Writer {
   }
 
   const Scene& scene_;
+  GlassPanes panes_;
   double scale_ = 1;
   Vec3 origin_{};
   Json json_;
+  std::map<std::size_t, std::vector<std::size_t>> layersOf_;  // nodes of each window, by its index
   std::map<Material, std::size_t> materials_;
   std::string binary_;
 };

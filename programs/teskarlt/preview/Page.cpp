@@ -5,6 +5,8 @@
 #include <array>
 #include <string_view>
 
+#include <fmt/format.h>
+
 #include "teskarlt/Error.h"
 #include "teskarlt/preview/Glb.h"
 #include "teskarlt/preview/PageTemplate.h"
@@ -49,7 +51,7 @@ bool HasPage() {
   return !PageTemplate().empty();
 }
 
-std::string Page(const Scene& scene, std::optional<std::int32_t> window) {
+std::string Page(const Scene& scene, const PageSchedule& schedule, std::optional<std::int32_t> window) {
   if (!HasPage())
     throw Error("this teskarlt was built without its page; write .glb, .svg or .png instead of .html");
   struct Filling {
@@ -57,9 +59,13 @@ std::string Page(const Scene& scene, std::optional<std::int32_t> window) {
     std::string text;
   };
   // In the order of the page.
-  const std::array<Filling, 3> fillings = {{{"PAGE_TITLE", Escaped(scene.name)},
-                                            {"PAGE_WINDOW", window ? std::to_string(*window) : ""},
-                                            {"PAGE_MODEL", Base64(Glb(scene))}}};
+  const std::array<Filling, 6> fillings = {
+      {{"PAGE_TITLE", Escaped(scene.name)},
+       {"PAGE_NUMBERS", fmt::format("{}", fmt::join(schedule.windows, " "))},
+       {"PAGE_TABLE", schedule.table},
+       {"PAGE_CSV", Base64(schedule.csv)},
+       {"PAGE_WINDOW", window ? std::to_string(*window) : ""},
+       {"PAGE_MODEL", Base64(Glb(scene))}}};
   std::string_view rest = PageTemplate();
   std::string page;
   for (const auto& [mark, text] : fillings) {

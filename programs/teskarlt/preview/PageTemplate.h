@@ -5,7 +5,7 @@
 
 namespace teskarlt::preview {
 
-// HTML with the marks PAGE_TITLE, PAGE_MODEL and PAGE_WINDOW; empty in a program that was built without it.
+// HTML with the marks that Page.cpp fills in; empty in a program that was built without it.
 std::string_view PageTemplate();
 
 }  // namespace teskarlt::preview

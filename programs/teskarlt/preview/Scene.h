@@ -66,6 +66,8 @@ struct SceneLayer {
 
 struct SceneWindow {
   std::int32_t number = 0;
+  std::string name;      // its mark, as its schedule says it; empty where nobody has asked for it
+  std::string values;    // likewise, the text of a JSON object with the schedule's values
   std::string label;     // "0.94 x 1.40 m"; empty where the drawing does not say it
   Vec3 facing{0, 0, 1};  // unit normal of its pane, z positive
   Box box;

@@ -1,6 +1,9 @@
 // GlbTest.cpp - the structure of 3D models.
+#include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -97,6 +100,63 @@ TEST(Glb, WindowIsListedWithItsPlace) {
   EXPECT_EQ(window["number"], 7);
   EXPECT_EQ(window["size"], 5);
   EXPECT_EQ(window["facing"], (nlohmann::json{0, 1, 0}));
+}
+
+constexpr const char* OF_WINDOW = "|1001 TK_LT_ELEM|1000 TKBRVA|1071 7";
+
+// A window with a frame of one face, a pane half a metre above it, and a line between both.
+Scene WindowScene() {
+  return SceneOf({.entities = Rectangle("BODY", 0, 0, 3, 4, 0, OF_WINDOW) +
+                              Rectangle("BODY", 0, 0, 3, 4, 0.5, std::string("|62 4") + OF_WINDOW) +
+                              Line("SYMBOL", 0, 0, 3, 4, OF_WINDOW) + Line("WALLS", 0, 0, 3, 4)});
+}
+
+// The names of the node's children.
+std::vector<std::string> ChildrenOf(const Model& model, const nlohmann::json& node) {
+  std::vector<std::string> names;
+  for (const std::size_t child : node["children"])
+    names.push_back(model.json["nodes"][child]["name"]);
+  return names;
+}
+
+TEST(Glb, WindowIsANodeWithANodeALayer) {
+  const Model model = Read(Glb(WindowScene()));
+  const nlohmann::json& roots = model.json["scenes"][0]["nodes"];
+  ASSERT_EQ(roots.size(), 2U);
+  EXPECT_EQ(model.json["nodes"][roots[0].get<std::size_t>()]["name"], "WALLS");
+  const nlohmann::json& window = model.json["nodes"][roots[1].get<std::size_t>()];
+  EXPECT_EQ(window["name"], "7");
+  EXPECT_EQ(ChildrenOf(model, window), (std::vector<std::string>{"BODY", "SYMBOL"}));
+  EXPECT_EQ(model.json["asset"]["extras"]["windows"][0]["node"], roots[1]);
+}
+
+TEST(Glb, WindowHasItsNameAndThoseValuesThatAreKnown) {
+  Scene scene = WindowScene();
+  scene.windows[0].name = "W07";
+  scene.windows[0].values = R"({"mark": "W07", "width": 0.78, "roof": null})";
+  const Model model = Read(Glb(scene));
+  const nlohmann::json& window = model.json["nodes"].back();
+  EXPECT_EQ(window["name"], "W07");
+  EXPECT_EQ(window["extras"], (nlohmann::json{{"number", 7}, {"mark", "W07"}, {"width", 0.78}}));
+}
+
+TEST(Glb, FrameAndPaneAreMaterials) {
+  const Model model = Read(Glb(WindowScene()));
+  std::vector<std::string> names;
+  for (const nlohmann::json& material : model.json["materials"])
+    names.push_back(material["name"]);
+  EXPECT_EQ(std::count(names.begin(), names.end(), "frame"), 1);
+  EXPECT_EQ(std::count(names.begin(), names.end(), "glass"), 1);
+  EXPECT_EQ(std::count(names.begin(), names.end(), "surface"), 0);
+}
+
+TEST(Glb, SymbolLiesOnThePane) {
+  const Model model = Read(Glb(WindowScene()));
+  const nlohmann::json& node = model.json["nodes"][2];
+  ASSERT_EQ(node["name"], "SYMBOL");
+  const std::size_t mesh = node["mesh"];
+  const std::size_t points = model.json["meshes"][mesh]["primitives"][0]["attributes"]["POSITION"];
+  EXPECT_FLOAT_EQ(model.json["accessors"][points]["min"][1], 0.505F);  // a thousandth of its diagonal over it
 }
 
 TEST(Glb, DashesAreCutOut) {

@@ -25,24 +25,30 @@ Scene Diagonal(const std::string& name) {
 }
 
 TEST_F(PageTest, TitleIsTheNameOfTheDrawing) {
-  EXPECT_THAT(Page(Diagonal("a<b"), std::nullopt), HasSubstr("<title>a&lt;b</title>"));
+  EXPECT_THAT(Page(Diagonal("a<b"), {}, std::nullopt), HasSubstr("<title>a&lt;b</title>"));
 }
 
 TEST_F(PageTest, ModelAndWindowAreWithinIt) {
   // "glTF" and version 2 in base 64.
-  EXPECT_THAT(Page(Diagonal("a"), 7), HasSubstr("id=\"model\" data-window=\"7\">Z2xURgIAAA"));
-  EXPECT_THAT(Page(Diagonal("a"), std::nullopt), HasSubstr("data-window=\"\">Z2xURgIAAA"));
+  EXPECT_THAT(Page(Diagonal("a"), {}, 7), HasSubstr("id=\"model\" data-window=\"7\">Z2xURgIAAA"));
+  EXPECT_THAT(Page(Diagonal("a"), {}, std::nullopt), HasSubstr("data-window=\"\">Z2xURgIAAA"));
+}
+
+TEST_F(PageTest, ScheduleIsWithinItWithTheNumbersOfItsRows) {
+  const std::string page = Page(Diagonal("a"), {"<table>T</table>", "csv", {3, 1}}, std::nullopt);
+  EXPECT_THAT(page, HasSubstr("data-windows=\"3 1\"><table>T</table>"));
+  EXPECT_THAT(page, HasSubstr("id=\"csv\">Y3N2<"));  // in base 64
 }
 
 TEST_F(PageTest, NothingIsFetched) {
-  const std::string page = Page(Diagonal("a"), std::nullopt);
+  const std::string page = Page(Diagonal("a"), {}, std::nullopt);
   EXPECT_THAT(page, Not(HasSubstr(" src=")));
   EXPECT_THAT(page, Not(HasSubstr("@import")));
   EXPECT_THAT(page, Not(HasSubstr("url(http")));
 }
 
 TEST_F(PageTest, NoMarkIsLeft) {
-  EXPECT_THAT(Page(Diagonal("a"), std::nullopt), Not(HasSubstr("PAGE_")));
+  EXPECT_THAT(Page(Diagonal("a"), {}, std::nullopt), Not(HasSubstr("PAGE_")));
 }
 
 }  // namespace

@@ -11,8 +11,8 @@ const STEP_BACK = 8;
 const STEP_FORWARD = 2;
 const STEEP_STEP_BACK = 2;
 
-// How far a vertex is moved away from the camera, as a share of its distance: the steep surfaces step behind the others,
-// so that no wall is seen through the roof whose plane it ends in.
+// How far a vertex is moved away from the camera, as a share of its distance, or in a parallel view as a length: the
+// steep surfaces step behind the others, so that no wall is seen through the roof whose plane it ends in.
 const BACK = `
   uniform float back;
   #ifdef STEEP_ONLY
@@ -20,6 +20,9 @@ const BACK = `
   #else
     #define BACK back
   #endif
+  vec4 movedBack(vec3 place, float by) {
+    return isOrthographic ? vec4(place.xy, place.z - by, 1.0) : vec4(place * (1.0 + by), 1.0);
+  }
 `;
 
 const VERTEX = `${BACK}
@@ -28,7 +31,7 @@ const VERTEX = `${BACK}
   void main() {
     number = surface;
     vec4 place = modelViewMatrix * vec4(position, 1.0);
-    gl_Position = projectionMatrix * vec4(place.xyz * (1.0 + BACK), 1.0);
+    gl_Position = projectionMatrix * movedBack(place.xyz, BACK);
   }`;
 
 // A number takes up the three bytes of a colour.
@@ -48,6 +51,12 @@ const numberMaterial = (defines, back) => new ShaderMaterial({
 const seen = { value: null }; // texture: the number of the surface that is seen in each pixel, 0 where there is none
 const forward = { value: 0 };
 const steepBack = { value: 0 };
+const paleness = { value: 0 };
+
+// How much paler lines are drawn beside all surfaces than the drawing says, 0 to 1: on a dark ground they have to be.
+export function paleLines(share) {
+  paleness.value = share;
+}
 
 // Lets the steep surfaces of a material step back.
 export function steppingBack(material) {
@@ -58,7 +67,7 @@ export function steppingBack(material) {
       shader.vertexShader = BACK + shader.vertexShader.replace(
         "#include <project_vertex>",
         `#include <project_vertex>
-        gl_Position = projectionMatrix * vec4(mvPosition.xyz * (1.0 + BACK), 1.0);`);
+        gl_Position = projectionMatrix * movedBack(mvPosition.xyz, BACK);`);
     },
   });
 }
@@ -67,12 +76,15 @@ export function lineMaterial(color) {
   return new ShaderMaterial({
     vertexShader: VERTEX,
     fragmentShader: `
+      uniform sampler2D seen;
       uniform vec3 color;
+      uniform float paleness;
       void main() {
-        gl_FragColor = vec4(color, 1.0);
+        bool isOnGround = texelFetch(seen, ivec2(gl_FragCoord.xy), 0).rgb == vec3(0.0);
+        gl_FragColor = vec4(mix(color, vec3(1.0), isOnGround ? paleness : 0.0), 1.0);
         #include <colorspace_fragment>
       }`,
-    uniforms: { back: forward, color: { value: color } },
+    uniforms: { back: forward, color: { value: color }, paleness, seen },
   });
 }
 
@@ -102,6 +114,7 @@ export class SeenSurfaces {
   constructor(renderer) {
     this.renderer = renderer;
     this.target = new WebGLRenderTarget(1, 1, { minFilter: NearestFilter, magFilter: NearestFilter });
+    this.bytes = new Uint8Array(4);
     this.edgesBack = { value: 0 };
     this.surfaces = numberMaterial({ STEEP_ONLY: "" }, steepBack);
     this.edges = numberMaterial({}, this.edgesBack);
@@ -111,7 +124,7 @@ export class SeenSurfaces {
   // To be called before each picture of the scene: edges look there for their surfaces.
   render(scene, camera) {
     const { x, y } = this.renderer.getDrawingBufferSize(new Vector2());
-    const pixel = 2 / (camera.projectionMatrix.elements[5] * y); // as a share of the distance
+    const pixel = 2 / (camera.projectionMatrix.elements[5] * y); // as `back` counts
     forward.value = -STEP_FORWARD * pixel;
     steepBack.value = STEEP_STEP_BACK * pixel;
     this.edgesBack.value = STEP_BACK * pixel;
@@ -124,6 +137,13 @@ export class SeenSurfaces {
     this.renderer.autoClear = true;
     this.renderer.setRenderTarget(null);
     camera.layers.set(0);
+  }
+
+  // The number of the surface that was seen last in a pixel, counted from the lower left; 0 where there is none.
+  numberAt(x, y) {
+    this.renderer.readRenderTargetPixels(this.target, x, y, 1, 1, this.bytes);
+    const [red, green, blue] = this.bytes;
+    return red + green * 256 + blue * 65536;
   }
 
   renderLayer(scene, camera, layer, material) {
