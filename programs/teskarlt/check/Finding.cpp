@@ -77,6 +77,7 @@ constexpr std::string_view KIND_NAMES[] = {
     "window-size",
     "window-misfit",
     "window-mark",
+    "window-tag",
     "window-foreign-data",
 };
 static_assert(std::size(KIND_NAMES) == static_cast<std::size_t>(Kind::KindCount));

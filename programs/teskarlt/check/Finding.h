@@ -85,6 +85,7 @@ enum class Kind {
   WindowSize,
   WindowMisfit,
   WindowMark,
+  WindowTag,
   WindowForeignData,
   KindCount
 };

@@ -16,6 +16,7 @@
 #include "teskarlt/drawing/Units.h"
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/drawing/WindowRecord.h"
+#include "teskarlt/drawing/WindowTag.h"
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "window/Parts.h"
@@ -63,6 +64,39 @@ void CheckMarks(const Scene& scene) {
            fmt::format("window {} bears the mark {} of window {}, too; teskarlt mark gives it one of its own",
                        window.number, window.mark, known->second),
            Severity::Warning);
+  }
+}
+
+// What is wrong with a tag, which is the first of its window or not; empty when nothing is. `bearers` are the
+// windows of its number.
+std::string FaultOf(const WindowTag& tag, const std::vector<const DrawnWindow*>& bearers, bool isFirst) {
+  if (bearers.empty())
+    return fmt::format("this is a part of the tag of window {}, which is gone", tag.number);
+  if (bearers.size() > 1) return {};  // nobody knows whose it is
+  if (!tag.HasText()) {
+    return fmt::format("the tag of window {} has lost its text; teskarlt mark --tags draws it anew",
+                       tag.number);
+  }
+  if (!isFirst) return fmt::format("window {} has another tag before this one", tag.number);
+  const std::string mark = ShownMark(*bearers.front());
+  if (tag.text == mark) return {};
+  return fmt::format(
+      "the tag of window {} reads {}, and the window is called {}; teskarlt mark --tags "
+      "rewrites it",
+      tag.number, tag.text, mark);
+}
+
+void CheckTags(const Scene& scene) {
+  const std::vector<WindowTag> tags = FindWindowTags(scene.drawing);
+  std::map<std::int32_t, std::vector<const DrawnWindow*>> bearers;
+  for (const DrawnWindow& window : scene.windows)
+    bearers[window.number].push_back(&window);
+  std::set<std::int32_t> known;
+  for (const WindowTag& tag : tags) {
+    const std::string fault = FaultOf(tag, bearers[tag.number], known.insert(tag.number).second);
+    if (fault.empty()) continue;
+    const dxf::Entity& first = *tag.parts.front().entity;
+    scene.findings.Warning(Kind::WindowTag, first.type.data(), fault, first.handle);
   }
 }
 
@@ -120,7 +154,7 @@ void CheckFits(const Scene& scene) {
 }
 
 // Whatever else can be wrong with windows and their roofs is one more function of this list.
-constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers,  CheckMarks,  CheckDescriptions,
+constexpr void (*CHECKS[])(const Scene&) = {CheckNumbers,  CheckMarks,  CheckTags, CheckDescriptions,
                                             CheckEntities, CheckShapes, CheckFits};
 
 bool IsWindowElement(std::span<const dxf::Tag> section) {

@@ -5,11 +5,16 @@
 
 #include "teskarlt/check/Proof.h"
 #include "teskarlt/terminal/Messages.h"
+#include "teskarlt/windows/TagWindows.h"
 
 namespace teskarlt {
 
-void SaveDrawing(const dxf::Document& drawing, ResultTarget& target) {
-  if (!target.IsDryRun()) check::ProveChanges(drawing);  // before anything is kept of what is replaced
+void SaveDrawing(dxf::Document& drawing, ResultTarget& target) {
+  const auto prove = [&] {
+    if (!target.IsDryRun()) check::ProveChanges(drawing);
+  };
+  prove();  // before anything is kept of what is replaced
+  if (LetTagsFollow(drawing)) prove();
   target.Write([&](const std::string& path) {
     drawing.Save(path);
     for (const std::string& note : drawing.Notes())

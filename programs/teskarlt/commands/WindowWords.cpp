@@ -216,7 +216,7 @@ Json SourcesJson(const WindowReading& reading) {
   return json;
 }
 
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window) {
+void SaveAndTell(WindowOptions& options, dxf::Document& drawing, const PlacedWindow& window) {
   Warn(drawing, window);
   SaveDrawing(drawing, options.target);
   if (options.asJson) {
@@ -227,8 +227,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Pla
   }
 }
 
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
-                 const std::vector<PlacedWindow>& windows) {
+void SaveAndTell(WindowOptions& options, dxf::Document& drawing, const std::vector<PlacedWindow>& windows) {
   PlacedWindow all;  // their sums
   for (const PlacedWindow& window : windows) {
     WarnOfMisfits(window);
@@ -254,7 +253,7 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
   PrintEntities(options, all);
 }
 
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
+void SaveAndTell(WindowOptions& options, dxf::Document& drawing, const EditedWindow& window,
                  const WindowReading& before) {
   Warn(drawing, window.placed);
   if (window.isRewritten || options.target.IsNamed()) SaveDrawing(drawing, options.target);
@@ -273,8 +272,8 @@ void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const Edi
   }
 }
 
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
-                 const std::vector<EditedWindow>& windows, const std::vector<EditableWindow>& before) {
+void SaveAndTell(WindowOptions& options, dxf::Document& drawing, const std::vector<EditedWindow>& windows,
+                 const std::vector<EditableWindow>& before) {
   std::set<std::string> layers;
   std::size_t rewritten = 0;
   for (const EditedWindow& window : windows) {

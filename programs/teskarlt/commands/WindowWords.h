@@ -54,19 +54,18 @@ Json FrameJson(const std::optional<Outline>& outline, const brevanta::WindowPara
 Json SourcesJson(const WindowReading& reading);
 
 // Warns of what is doubtful about the new window, saves the drawing and tells what became of it.
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const PlacedWindow& window);
+void SaveAndTell(WindowOptions& options, dxf::Document& drawing, const PlacedWindow& window);
 
 // The same for the windows of a row.
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
-                 const std::vector<PlacedWindow>& windows);
+void SaveAndTell(WindowOptions& options, dxf::Document& drawing, const std::vector<PlacedWindow>& windows);
 
 // The same for a window that was changed. One that stood there as ordered is not written, but to a file that
 // the user named.
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing, const EditedWindow& window,
+void SaveAndTell(WindowOptions& options, dxf::Document& drawing, const EditedWindow& window,
                  const WindowReading& before);
 
 // The same for the windows of a selection: a line each, and what became of all.
-void SaveAndTell(WindowOptions& options, const dxf::Document& drawing,
-                 const std::vector<EditedWindow>& windows, const std::vector<EditableWindow>& before);
+void SaveAndTell(WindowOptions& options, dxf::Document& drawing, const std::vector<EditedWindow>& windows,
+                 const std::vector<EditableWindow>& before);
 
 }  // namespace teskarlt

@@ -190,6 +190,10 @@ bool IsWindowEntity(const dxf::Document& drawing, const dxf::Entity& entity) {
   return !extendedData.empty() && ReadData(drawing, extendedData, IN_DRAWING_UNITS).isWindow;
 }
 
+std::string ShownMark(const DrawnWindow& window) {
+  return window.mark.empty() ? fmt::format("W{:02}", window.number) : window.mark;
+}
+
 std::string DrawnWindow::*TextMember(const brevanta::RecordField& field) {
   const auto* text = std::find_if(std::begin(DRAWN_TEXTS), std::end(DRAWN_TEXTS),
                                   [&](const DrawnText& drawn) { return drawn.field == field.name; });

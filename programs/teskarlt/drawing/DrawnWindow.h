@@ -42,6 +42,10 @@ inline constexpr DrawnText DRAWN_TEXTS[] = {{"text1", &DrawnWindow::text1},
                                             {"text3", &DrawnWindow::text3},
                                             {"openingCode", &DrawnWindow::openingCode}};
 
+// The window's name on plans and in schedules: its mark, or of one without a mark that which it would get
+// where nobody says another.
+std::string ShownMark(const DrawnWindow& window);
+
 // Where a window has the text of that field, which is one of the texts.
 std::string DrawnWindow::*TextMember(const brevanta::RecordField& field);
 

@@ -100,9 +100,10 @@ class Document {
   void RemoveEntity(const Entity& entity);
   bool IsRemoved(const Entity& entity) const;
 
-  // Gives a line or 3D face of Entities() the points and extended data of a new entity of its type, in its
-  // place. All else of it stays as a user left it: handle, layer, colour, other applications' data, places in
-  // groups and drawing orders; the linetype unless it is renewed. One that was removed comes back.
+  // Gives a line, circle, text or 3D face of Entities() the points and extended data of a new entity of its
+  // type, in its place. All else of it stays as a user left it: handle, layer, colour, other applications'
+  // data, places in groups and drawing orders; the linetype unless it is renewed. One that was removed comes
+  // back.
   void Redraw(const Entity& entity, std::span<const TypedTag> tags, LinetypeOnRedraw linetype);
 
   // Gives an entity of Entities() that data of an application, 1001 with its name first, in place of what it

@@ -15,7 +15,6 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/WindowListing.h"
-#include "teskarlt/windows/WindowMarks.h"
 #include "window/EdgeHeights.h"
 
 namespace teskarlt {
@@ -24,18 +23,13 @@ namespace {
 
 using schedule::ScheduleRow;
 
-// The name of a window on plans and in schedules; of one without a mark, the one that it would get.
-std::string MarkOf(const DrawnWindow& window) {
-  return window.mark.empty() ? MarkPattern(USUAL_MARK).MarkOf({.number = window.number}, 0) : window.mark;
-}
-
 class Reader {
  public:
   Reader(const dxf::Document& drawing, const Roofs& roofs) : drawing_(drawing), roofs_(roofs) {}
 
   ScheduleRow RowOf(const ListedWindow& listed) {
     const auto& [window, reading] = listed;
-    ScheduleRow row{.mark = MarkOf(window), .number = window.number};
+    ScheduleRow row{.mark = ShownMark(window), .number = window.number};
     row.windowLayers = fmt::format("{}", fmt::join(LayersOf(drawing_, window.entities), ", "));
     row.notes = fmt::format("{}", fmt::join(reading.notes, "; "));
     row.isRead = window.isComplete;

@@ -18,8 +18,8 @@ struct Renumbered {
 };
 
 // Gives each whole window whose number a window before it bears a new one, and takes the mark of its model
-// from it. Parts of windows keep
-// theirs, so that they can be put back to the rest.
+// from it; a tag that was copied with it becomes its own. Parts of windows keep theirs, so that they can be
+// put back to the rest.
 std::vector<Renumbered> RenumberCopies(dxf::Document& drawing);
 
 }  // namespace teskarlt

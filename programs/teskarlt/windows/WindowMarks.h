@@ -15,7 +15,7 @@
 
 namespace teskarlt {
 
-// Of what the marks are made that windows get where nobody says another.
+// Of what the marks are made that windows get where nobody says another; ShownMark is made so, too.
 inline constexpr const char* USUAL_MARK = "W{number:02}";
 
 // What a pattern can tell of a window; UTF-8.

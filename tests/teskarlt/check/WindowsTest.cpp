@@ -55,6 +55,56 @@ TEST(CheckWindows, CopyWithTheNumberOfItsModelIsAnError) {
               ElementsAre("error window-number LINE"));
 }
 
+std::string WindowNumbered(int number) {
+  return Window(100 * number, LINES_OF_A_PLAIN_WINDOW, Element(number) + Description());
+}
+
+// The text of a tag, whose handle is the number.
+std::string TagText(int handle, int number, const std::string& text) {
+  return fmt::format(
+      "0|TEXT|5|{}|330|14|100|AcDbEntity|8|0|100|AcDbText|10|0.0|20|0.0|40|10.0|1|{}|72|1|11|0.0|21|0.0|100|"
+      "AcDbText|73|2|1001|TK_LT_TAG|1070|0|1071|{}|1010|0.0|1020|0.0|1030|0.0|",
+      handle, text, number);
+}
+
+// What is told of tags.
+std::vector<std::string> FoundOfTags(const std::string& entities) {
+  std::vector<std::string> found = FoundIn(entities);
+  std::erase_if(found, [](const std::string& line) { return line.find("window-tag") == std::string::npos; });
+  return found;
+}
+
+TEST(CheckWindows, TagThatReadsAsItsWindowIsCalledIsSound) {
+  EXPECT_THAT(FoundOfTags(WindowNumbered(1) + TagText(900, 1, "W01")), IsEmpty());
+}
+
+TEST(CheckWindows, TagWithAnotherTextIsAWarning) {
+  EXPECT_THAT(FoundOfTags(WindowNumbered(1) + TagText(900, 1, "W02")),
+              ElementsAre("warning window-tag TEXT"));
+}
+
+TEST(CheckWindows, TagWithoutAWindowIsAWarning) {
+  EXPECT_THAT(FoundOfTags(WindowNumbered(1) + TagText(900, 2, "W02")),
+              ElementsAre("warning window-tag TEXT"));
+}
+
+TEST(CheckWindows, SecondTagOfAWindowIsAWarning) {
+  EXPECT_THAT(FoundOfTags(WindowNumbered(1) + TagText(900, 1, "W01") + TagText(901, 1, "W01")),
+              ElementsAre("warning window-tag TEXT"));
+}
+
+TEST(CheckWindows, TagWithoutItsTextIsAWarning) {
+  const std::string leader = Line("900", "1001|TK_LT_TAG|1070|1|1071|1|1010|0.0|1020|0.0|1030|0.0|");
+  EXPECT_THAT(FoundOfTags(WindowNumbered(1) + leader), ElementsAre("warning window-tag LINE"));
+}
+
+TEST(CheckWindows, TagsOfCopiesAreNobodysFault) {
+  EXPECT_THAT(
+      FoundOfTags(WindowNumbered(1) + Window(200, LINES_OF_A_PLAIN_WINDOW, Element(1) + Description()) +
+                  TagText(900, 1, "W01") + TagText(901, 1, "W01")),
+      IsEmpty());
+}
+
 TEST(CheckWindows, MarkOnWhatIsNoPartOfAWindowIsAWarning) {
   EXPECT_THAT(FoundIn(Line("100", "1001|TK_LT_MARK|1000|W01|")),
               testing::Contains("warning window-foreign-data TK_LT_MARK"));

@@ -32,6 +32,7 @@ constexpr std::string_view VARIABLE_HANDLE_SEED = "$HANDSEED";
 constexpr std::string_view VARIABLE_UNITS = "$INSUNITS";
 constexpr std::string_view VARIABLE_MEASUREMENT = "$MEASUREMENT";
 constexpr std::string_view VARIABLE_LINETYPE_SCALE = "$LTSCALE";
+constexpr std::string_view VARIABLE_TEXT_STYLE = "$TEXTSTYLE";  // for new texts
 
 // --- Tables; their entries are of the type with the same name ---
 

@@ -25,7 +25,7 @@ struct Redrawn {
   std::uint64_t reactor = 0;  // handle of an object that is to hear of its changes from now on, or 0
 };
 
-// Adds what gives the entity, a line or 3D face with that text, its new points and numbers. All else stays:
+// Adds what gives the entity, a line, circle, text or 3D face with that text, its new points. All else stays:
 // handle, owner, layer, colour, other applications' data. The extended data must outlive the splices.
 void AddRedrawSplices(const SourceText& source, const Rules& rules, std::string_view entity,
                       const Redrawn& redrawn, std::vector<Splice>& splices);
