@@ -76,7 +76,8 @@ PlanLine LineOverMText(const dxf::TagList& text) {
   const double height = rows * LINE_SPACING * letterHeight;
   const std::int64_t attachment = std::max<std::int64_t>(text.Integer(dxf::CODE_MTEXT_ATTACHMENT, 1), 1) - 1;
   const double left = -width * static_cast<double>(attachment % ATTACHMENTS_IN_ROW) / 2;
-  const double top = height * static_cast<double>(attachment / ATTACHMENTS_IN_ROW) / 2;
+  const std::int64_t row = attachment / ATTACHMENTS_IN_ROW;
+  const double top = height * static_cast<double>(row) / 2;
   return TurnedText(text, {left, top - height, left + width, top});
 }
 

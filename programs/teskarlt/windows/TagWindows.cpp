@@ -20,8 +20,6 @@ namespace teskarlt {
 
 namespace {
 
-using geometry::Vec3;
-
 constexpr double SAME_PLACE_OF_TAG = 1e-3;  // of the text's height
 
 // A tag that is to be drawn.

@@ -17,6 +17,7 @@ const PlanIndex EVERYWHERE({{-1e6, -1e6, 1e6, 1e6}});
 // "0,0 10,5", with a "t" behind for the box around a text, rounded.
 std::vector<std::string> Told(const std::vector<PlanLine>& lines) {
   std::vector<std::string> told;
+  told.reserve(lines.size());
   for (const PlanLine& line : lines) {
     told.push_back(fmt::format("{:.0f},{:.0f} {:.0f},{:.0f}{}", line.from.x, line.from.y, line.to.x,
                                line.to.y, line.isText ? " t" : ""));

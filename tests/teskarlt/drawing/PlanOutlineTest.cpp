@@ -8,9 +8,10 @@ namespace {
 
 std::string TextOf(const Ring& ring) {
   std::string text;
-  for (const geometry::Vec3& corner : ring)
+  for (const geometry::Vec3& corner : ring) {
     text +=
         std::to_string(static_cast<int>(corner.x)) + "," + std::to_string(static_cast<int>(corner.y)) + " ";
+  }
   return text;
 }
 

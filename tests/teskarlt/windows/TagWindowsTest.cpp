@@ -39,9 +39,10 @@ dxf::Document WithMoved(const dxf::Document& drawing, TagRole role, double x) {
     for (const TagPart& part : tag.parts) {
       if (part.role != role) continue;
       dxf::TagReader reader = moved.Reader(*part.entity);
-      for (dxf::Tag value; reader.Next(value) && !dxf::IsExtendedData(value.code);)
+      for (dxf::Tag value; reader.Next(value) && !dxf::IsExtendedData(value.code);) {
         if (value.code == 10 || value.code == 11)
           moved.ReplaceValue(value, std::to_string(reader.Real(value) + x));
+      }
     }
   }
   return Reloaded(moved);
