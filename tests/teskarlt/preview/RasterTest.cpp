@@ -85,11 +85,11 @@ TEST(Render, DrawingStandsInTheMiddleOfAPictureOfItsOwnSize) {
 TEST(Render, TransparentPictureHasNoGround) {
   const Picture picture = Sized(100, 100, true);
   ASSERT_EQ(picture.bytes.size(), 100U * 100 * 4);
-  const std::size_t middle = (50 * 100 + 50) * 4;
+  constexpr std::size_t middle = 50 * 100 + 50;
   EXPECT_EQ(picture.bytes[3], 0);
-  EXPECT_EQ(picture.bytes[middle + 3], 255);
+  EXPECT_EQ(picture.bytes[middle * 4 + 3], 255);
   const Picture opaque = Sized(100, 100, false);
-  EXPECT_EQ(picture.bytes[middle], opaque.bytes[(50 * 100 + 50) * 3]);
+  EXPECT_EQ(picture.bytes[middle * 4], opaque.bytes[middle * 3]);
 }
 
 TEST(Render, HiddenEdgeIsNotDrawn) {
