@@ -12,6 +12,7 @@ import pictures
 import pytest
 import readers
 from conftest import ROOT
+from ezdxf.enums import TextEntityAlignment
 from plain_dxf import Drawing
 from test_bad_input import refused
 
@@ -203,10 +204,34 @@ def test_what_is_not_shown_is_said(teskarlt, tmp_path):
     drawing = Drawing()
     drawing.line("A", (0, 0, 0), (1000, 500, 0))
     path = drawing.save(tmp_path / "in.dxf")
-    text = path.read_text().replace("  0\nLINE", "  0\nTEXT\n  8\nA\n  1\nHello\n  0\nLINE")
+    text = path.read_text().replace("  0\nLINE", "  0\nTEXT\n  8\nA\n 40\n250\n  1\nHello\n  0\nLINE")
     path.write_text(text)
-    answer = teskarlt.done("preview", path, "-o", tmp_path / "out.svg")
+    answer = teskarlt.done("preview", path, "-o", tmp_path / "out.png", "--width", "100")
     assert answer.stderr == "teskarlt: not shown: 1 TEXT\n"
+
+
+def test_plan_shows_texts_and_hatches(teskarlt, tmp_path):
+    """Written by another library: texts of all kinds, in blocks too, and a level hatch."""
+    document = ezdxf.new("R2010")
+    space = document.modelspace()
+    space.add_line((0, 0), (20, 10))
+    space.add_text("K\u00fcche 12,5 m\u00b2", height=0.5, rotation=90).set_placement((5, 5), align=TextEntityAlignment.MIDDLE_CENTER)
+    space.add_mtext(r"{\fArial|b1;Bath}\P\H0.7x;h = 2,50", dxfattribs={"char_height": 0.4, "insert": (1, 9)})
+    block = document.blocks.new("DOOR")
+    block.add_text("D", height=0.2)
+    block.add_attdef("NO", (0, 1), height=0.2)
+    space.add_blockref("DOOR", (10, 2), dxfattribs={"xscale": 2, "yscale": 2, "rotation": 30}).add_auto_attribs({"NO": "D 17"})
+    hatch = space.add_hatch(color=1)
+    hatch.paths.add_polyline_path([(12, 1), (18, 1), (18, 4), (12, 4)], is_closed=True)
+    document.saveas(tmp_path / "in.dxf")
+    answer = teskarlt.done("preview", tmp_path / "in.dxf", "-o", tmp_path / "out.svg")
+    assert "TEXT" not in answer.stderr and "HATCH" not in answer.stderr
+    texts = {text.text: text for text in ElementTree.parse(tmp_path / "out.svg").getroot().iter(f"{SVG}text")}
+    assert {"K\u00fcche 12,5 m\u00b2", "Bath", "h = 2,50", "D", "D 17"} <= texts.keys()
+    assert texts["K\u00fcche 12,5 m\u00b2"].get("transform").startswith("matrix(0 -1 1 0 ")
+    assert texts["D"].get("transform").startswith("matrix(0.866 -0.5 0.5 0.866 ")
+    assert float(texts["D"].get("font-size")) / float(texts["Bath"].get("font-size")) == pytest.approx(1, abs=0.01)
+    assert 'fill-opacity="0.2"' in (tmp_path / "out.svg").read_text()
 
 
 def test_holes_of_roofs_stay_open(teskarlt, tmp_path):

@@ -59,6 +59,24 @@ struct Curve {
       NO_SURFACE;  // index in Scene::surfaces of the one whose corners it connects, in their order
 };
 
+enum class TextAnchor { Start, Middle, End };
+
+// A line of text, which only plans show.
+struct SceneText {
+  std::string text;  // UTF-8, not empty
+  Vec3 at{};         // of its anchor, on the baseline
+  Vec3 along{};      // the way of the baseline, as long as capitals are high where letters are of usual width
+  Vec3 up{};         // up the letters, as long as capitals are high
+  TextAnchor anchor = TextAnchor::Start;
+  Colour colour;
+};
+
+// What a level hatch fills, which only plans show.
+struct Filling {
+  std::vector<std::vector<Vec3>> rings;  // around it and its holes
+  Colour colour;
+};
+
 struct SceneLayer {
   std::string name;  // UTF-8
   Colour colour;
@@ -93,8 +111,11 @@ struct Scene {
   std::vector<Surface> surfaces;
   std::vector<Curve> curves;
   std::vector<SceneWindow> windows;
-  std::vector<SceneRoof> roofs;                // where their names are asked for
-  std::map<std::string, std::size_t> leftOut;  // entities that no picture shows, by type
+  std::vector<SceneRoof> roofs;  // where their names are asked for
+  std::vector<SceneText> texts;
+  std::vector<Filling> fillings;
+  std::map<std::string, std::size_t> leftOut;   // entities that no picture shows, by type
+  std::map<std::string, std::size_t> planOnly;  // those that only plans show
   Box box;
 };
 

@@ -23,6 +23,7 @@
 #include "teskarlt/preview/Bridges.h"
 #include "teskarlt/preview/SceneHoles.h"
 #include "teskarlt/preview/Styles.h"
+#include "teskarlt/preview/Texts.h"
 #include "window/Parts.h"
 
 namespace teskarlt::preview {
@@ -105,6 +106,9 @@ class Reader {
   void ReadRoofs(const AskedUnit& units);
   double Tolerance(const AskedUnit& units) const;
   void ReadEntity(const dxf::Entity& entity, const Placement& placement);
+  void ReadAttributes(const std::vector<dxf::TagList>& lists, const Placement& placement);
+  void AddTexts(const dxf::TagList& entity, const Look& look, const Placement& placement);
+  void AddFillings(const std::vector<EntityFace>& faces, const Look& look, const Placement& placement);
   void ReadInsert(const dxf::TagList& insert, const Look& look, const Placement& placement);
   Look LookOf(const dxf::TagList& entity, const Placement& placement) const;
   bool IsVisible(const Look& look) const;
@@ -125,6 +129,7 @@ class Reader {
   WorkingUnit working_ = IN_DRAWING_UNITS;
   std::unordered_map<const dxf::Entity*, int> windowOf_;
   std::unordered_map<std::string, std::size_t> layerIndices_;
+  std::set<std::string> planLayers_;  // of what only plans show
   std::map<DashPattern, std::size_t> patternIndices_;
   std::size_t entities_ = 0;
   std::vector<std::size_t> outlines_;  // surfaces of closed polylines, by number
@@ -260,6 +265,49 @@ void Reader::AddOutlines(const std::vector<EntityFace>& faces, const dxf::TagLis
   }
 }
 
+// Texts stand where the entity does, also where that lies in a block.
+void Reader::AddTexts(const dxf::TagList& entity, const Look& look, const Placement& placement) {
+  std::vector<SceneText> texts = TextsOf(entity, drawing_);
+  if (texts.empty()) return;
+  ++scene_.planOnly[std::string(entity.Type())];
+  planLayers_.insert(dxf::FoldedName(look.layer));
+  for (SceneText& text : texts) {
+    if (placement.isBlock) {
+      geometry::MatTransformPoint(placement.matrix, text.at, text.at);
+      geometry::MatTransformVector(placement.matrix, text.along, text.along);
+      geometry::MatTransformVector(placement.matrix, text.up, text.up);
+    }
+    text.colour = look.colour;
+    scene_.texts.push_back(std::move(text));
+  }
+}
+
+// Of an INSERT: they stand beside it, not in its block.
+void Reader::ReadAttributes(const std::vector<dxf::TagList>& lists, const Placement& placement) {
+  for (const dxf::TagList& part : lists) {
+    if (!dxf::SameName(part.Type(), dxf::TYPE_ATTRIBUTE)) continue;
+    const Look look = LookOf(part, placement);
+    if (part.Integer(dxf::CODE_INVISIBLE) == 0 && IsVisible(look)) AddTexts(part, look, placement);
+  }
+}
+
+// The level faces of a hatch, which are no surfaces.
+void Reader::AddFillings(const std::vector<EntityFace>& faces, const Look& look, const Placement& placement) {
+  for (const EntityFace& face : faces) {
+    if (face.corners.size() < 3 || !IsLevel(face)) continue;
+    Filling filling{{face.corners}, look.colour};
+    filling.rings.insert(filling.rings.end(), face.holes.begin(), face.holes.end());
+    if (placement.isBlock) {
+      for (std::vector<Vec3>& ring : filling.rings) {
+        for (Vec3& corner : ring)
+          geometry::MatTransformPoint(placement.matrix, corner, corner);
+      }
+    }
+    planLayers_.insert(dxf::FoldedName(look.layer));
+    scene_.fillings.push_back(std::move(filling));
+  }
+}
+
 // An INSERT, or a DIMENSION, whose block is drawn where it stands.
 void Reader::ReadInsert(const dxf::TagList& insert, const Look& look, const Placement& placement) {
   const auto found = blocks_.find(dxf::FoldedName(insert.Text(dxf::CODE_NAME)));
@@ -299,13 +347,21 @@ void Reader::ReadEntity(const dxf::Entity& entity, const Placement& placement) {
   if (own.Integer(dxf::CODE_INVISIBLE) != 0 || !IsVisibleLayer(styles_.Layer(look.layer))) return;
   if (is(dxf::TYPE_INSERT) || is(dxf::TYPE_DIMENSION)) {
     ReadInsert(own, look, placement);
+    ReadAttributes(lists, placement);
     return;
   }
   if (!IsVisible(look)) return;
+  if (IsText(entity.type)) {
+    AddTexts(own, look, placement);
+    return;
+  }
   EntityFaces faces = FacesOf(lists);
   std::optional<CurvePoints> points = PointsOf(lists);
+  if (is(dxf::TYPE_HATCH)) AddFillings(faces.faces, look, placement);
+  const bool isFilling = is(dxf::TYPE_HATCH) && !faces.faces.empty();
   if (points || is(dxf::TYPE_HATCH)) KeepSolid(faces);
-  if (faces.faces.empty() && !points) ++scene_.leftOut[std::string(entity.type)];
+  if (faces.faces.empty() && !points)
+    ++(isFilling ? scene_.planOnly : scene_.leftOut)[std::string(entity.type)];
   const std::size_t next = scene_.surfaces.size();
   AddSurfaces(faces.faces, own, look, placement);
   if (points) {
@@ -326,7 +382,8 @@ Scene Reader::Run(const SceneOptions& options) {
     ReadEntity(entity, placement);
   }
   for (const std::string& layer : options.layers) {
-    if (!layerIndices_.contains(dxf::FoldedName(layer)))
+    const std::string name = dxf::FoldedName(layer);
+    if (!layerIndices_.contains(name) && !planLayers_.contains(name))
       drawing_.Source().Fail(fmt::format("nothing is to be seen on layer \"{}\"", layer));
   }
   if (scene_.box.IsEmpty()) drawing_.Source().Fail("nothing is to be seen in this drawing");

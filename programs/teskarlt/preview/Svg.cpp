@@ -8,6 +8,7 @@
 
 #include "teskarlt/preview/PaintOrder.h"
 #include "teskarlt/preview/RoofNames.h"
+#include "teskarlt/preview/SvgText.h"
 #include "teskarlt/preview/VisibleLines.h"
 
 namespace teskarlt::preview {
@@ -20,48 +21,13 @@ constexpr double TALLEST = 1.5;        // height of the drawing against its widt
 constexpr double SHORTEST_LINE = 0.3;  // shorter parts are no more than dots between two surfaces
 constexpr double NUMBER_ROOM = 22;     // a window of this size has room for its number
 
-// A coordinate with at most two decimals.
-std::string Number(double value) {
-  return fmt::format("{}", std::round(value * 100) / 100 + 0.0);
-}
-
-std::string Escaped(const std::string& text) {
-  std::string escaped;
-  for (const char c : text) {
-    switch (c) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '>':
-        escaped += "&gt;";
-        break;
-      case '"':
-        escaped += "&quot;";
-        break;
-      default:
-        escaped += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
-    }
-  }
-  return escaped;
-}
-
-// 1, 2 or 5 times a power of ten: the largest such length up to `most`.
-double RoundLength(double most) {
-  double step = 1;
-  while (step > most)
-    step /= 10;
-  while (step * 10 <= most)
-    step *= 10;
-  return step * 5 <= most ? step * 5 : step * 2 <= most ? step * 2 : step;
-}
-
 class Writer {
  public:
   Writer(const Scene& scene, const PictureOptions& options)
-      : scene_(scene), options_(options), view_(*options.view), frame_(FrameOf(scene, view_, options.zoom)) {
+      : scene_(scene),
+        options_(options),
+        view_(*options.view),
+        frame_(view_.IsPlan() ? PlanFrameOf(scene, options.zoom) : FrameOf(scene, view_, options.zoom)) {
     scale_ = (options.width - 2 * MARGIN) / frame_.Width();
     height_ = frame_.Height() * scale_;
     const double tallest = options.width * TALLEST;
@@ -75,7 +41,9 @@ class Writer {
   VectorPicture Run() {
     Head();
     Surfaces();
+    if (view_.IsPlan()) Fillings();
     Layers();
+    if (view_.IsPlan()) Texts();
     text_ += "</g>\n";
     if (view_.IsPlan()) Numbers();
     if (!scene_.roofs.empty()) Names();
@@ -103,7 +71,9 @@ class Writer {
 
   void Head();
   void Surfaces();
+  void Fillings();
   void Layers();
+  void Texts();
   void LayerLines(const std::vector<VisibleLine>& lines, const SceneLayer& layer);
   bool IsOutside(const Vec3& a, const Vec3& b) const;
   std::string DashText(const VisibleLine& line) const;
@@ -160,6 +130,33 @@ void Writer::Surfaces() {
     };
     const std::string colour = Hex({washed(paint.red), washed(paint.green), washed(paint.blue)});
     Put("<path class=\"layer-{0}\" fill=\"{1}\" stroke=\"{1}\" d=\"{2}Z\"/>\n", surface.layer, colour, path);
+  }
+  Put("</g>\n");
+}
+
+void Writer::Fillings() {
+  if (scene_.fillings.empty()) return;
+  Put("<g id=\"fillings\" fill-rule=\"evenodd\" fill-opacity=\"0.2\" stroke-width=\"0.6\">\n");
+  for (const Filling& filling : scene_.fillings) {
+    std::string path;
+    for (const std::vector<Vec3>& ring : filling.rings) {
+      for (std::size_t i = 0; i < ring.size(); ++i)
+        path += (i == 0 ? "M" : "L") + At(view_.Project(ring[i]));
+      path += "Z";
+    }
+    Put("<path fill=\"{0}\" stroke=\"{0}\" d=\"{1}\"/>\n", Hex(Ink(filling.colour)), path);
+  }
+  Put("</g>\n");
+}
+
+void Writer::Texts() {
+  if (scene_.texts.empty()) return;
+  Put("<g id=\"texts\">\n");
+  for (const SceneText& text : scene_.texts) {
+    const Vec3 at = view_.Project(text.at);
+    text_ += TextElement(text, {{X(at), Y(at), 0},
+                                {text.along.x * scale_, -text.along.y * scale_, 0},
+                                {text.up.x * scale_, -text.up.y * scale_, 0}});
   }
   Put("</g>\n");
 }

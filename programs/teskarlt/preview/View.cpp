@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "geometry/Vectors.h"
+
 namespace teskarlt::preview {
 
 namespace {
@@ -34,6 +36,18 @@ void Grow(Frame& frame, double by) {
   frame.right += by;
   frame.bottom -= by;
   frame.top += by;
+}
+
+// As far as its letters reach in a usual font.
+void AddText(const SceneText& text, Box& box) {
+  constexpr double advance = 0.8;  // of a letter against the height of capitals
+  const double width = advance * static_cast<double>(text.text.size());
+  const double start = text.anchor == TextAnchor::Start ? 0 : text.anchor == TextAnchor::Middle ? -0.5 : -1;
+  for (const double share : {start, start + 1}) {
+    const Vec3 end = geometry::Moved(text.at, text.along, share * width);
+    box.Add(end);
+    box.Add(geometry::Sum(end, text.up));
+  }
 }
 
 Frame FrameOf(const SceneRoof& roof, const View& view) {
@@ -90,6 +104,21 @@ Frame FrameOf(const Scene& scene, const View& view, const Zoom& zoom) {
   if (window) Grow(frame, size);
   if (!(frame.Width() > 0 && frame.Height() > 0)) Grow(frame, size > 0 ? size / 20 : 1);
   return frame;
+}
+
+Frame PlanFrameOf(const Scene& scene, const Zoom& zoom) {
+  Frame frame = FrameOf(scene, *FindView("plan"), zoom);
+  if (zoom.window || zoom.roof) return frame;
+  Box box;
+  box.Add({frame.left, frame.bottom, 0});
+  box.Add({frame.right, frame.top, 0});
+  for (const SceneText& text : scene.texts)
+    AddText(text, box);
+  for (const Filling& filling : scene.fillings) {
+    for (const std::vector<Vec3>& ring : filling.rings)
+      std::for_each(ring.begin(), ring.end(), [&](const Vec3& corner) { box.Add(corner); });
+  }
+  return Around(box);
 }
 
 }  // namespace teskarlt::preview

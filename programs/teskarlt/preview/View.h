@@ -50,4 +50,7 @@ struct Zoom {
 // of its roofs with a quarter more; never without width or height.
 Frame FrameOf(const Scene& scene, const View& view, const Zoom& zoom);
 
+// The frame of a plan, which shows the scene's texts and fillings too: where it shows all, with them.
+Frame PlanFrameOf(const Scene& scene, const Zoom& zoom);
+
 }  // namespace teskarlt::preview

@@ -73,7 +73,7 @@ class Gatherer {
       const Vec3& from = corners[k];
       const Vec3& to = corners[(k + 1) % corners.size()];
       const VisibleLine line = {
-          view_.Project(from), view_.Project(to), surface.colour, surface.layer, 0, 0, true};
+          view_.Project(from), view_.Project(to), surface.colour, surface.layer, 0, 0, true, surface.window};
       if (!IsOutside(line.a, line.b)) AddParts(line, VisibleInside(line, from, to, normal));
     }
   }
@@ -99,7 +99,8 @@ class Gatherer {
                                 curve.layer,
                                 curve.pattern,
                                 offset,
-                                false};
+                                false,
+                                curve.window};
       offset += DistanceInPicture(line.a, line.b);
       if (IsOutside(line.a, line.b)) continue;
       AddParts(line, view_.IsPlan() ? Parts{{0, 1}}

@@ -18,6 +18,7 @@ struct VisibleLine {
   std::size_t pattern = 0;
   double offset = 0;  // length of the pattern that is used up at a, as seen in the projection
   bool isEdge = false;
+  int window = NO_WINDOW;  // index in Scene::windows
 };
 
 // Edges of surfaces, then curves, each in the order of the scene, as far as they lie in the frame. An edge

@@ -129,8 +129,8 @@ TEST(ReadScene, ClosedPolylineInSpaceIsSurfaceAndCurve) {
 
 TEST(ReadScene, WhatIsNotShownIsCounted) {
   const Scene scene =
-      SceneOf({.entities = "0 TEXT|8 A|1 Hi|0 TEXT|8 A|1 Ho|0 HATCH|8 A|" + Line("A", 0, 0, 1, 1)});
-  EXPECT_EQ(scene.leftOut.at("TEXT"), 2U);
+      SceneOf({.entities = "0 TOLERANCE|8 A|1 Hi|0 TOLERANCE|8 A|1 Ho|0 HATCH|8 A|" + Line("A", 0, 0, 1, 1)});
+  EXPECT_EQ(scene.leftOut.at("TOLERANCE"), 2U);
   EXPECT_EQ(scene.leftOut.at("HATCH"), 1U);
 }
 
