@@ -1,5 +1,6 @@
 // PreviewCommand.cpp - the subcommand "preview": makes a picture or a model of a drawing.
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "platform/FileOperations.h"
 #include "teskarlt/Error.h"
 #include "teskarlt/commands/FileEnding.h"
+#include "teskarlt/commands/PaperOptions.h"
 #include "teskarlt/commands/PictureSize.h"
 #include "teskarlt/commands/PreviewSchedule.h"
 #include "teskarlt/commands/Subcommands.h"
@@ -45,6 +47,7 @@ struct PreviewOptions {
   bool withTags = false;
   bool withRoofs = false;
   std::string roof;  // to zoom to
+  PaperOptions paper;
 };
 
 std::string FormatOf(const PreviewOptions& options) {
@@ -57,6 +60,15 @@ std::string FormatOf(const PreviewOptions& options) {
 
 bool IsPicture(const std::string& format) {
   return format == "svg" || format == "png";
+}
+
+// What a plan on paper has no use for is wrong usage.
+void RefuseBesidePaper(const PreviewOptions& options, const std::string& format) {
+  const char* const asked = options.paper.scale ? "--scale" : "--paper";
+  if (format != "svg") throw UsageError(fmt::format("{}: is for .svg files, not for .{}", asked, format));
+  if (!options.view.empty() && options.view != "plan")
+    throw UsageError(fmt::format("{}: is for the plan; leave --view {} out", asked, options.view));
+  if (options.width) throw UsageError(fmt::format("{}: says the size already; leave --width out", asked));
 }
 
 // What a format has no use for is wrong usage.
@@ -76,6 +88,8 @@ void RefuseUnusable(const PreviewOptions& options, const std::string& format) {
     throw UsageError("--size: says the width already; leave --width out");
   if (!options.size.empty()) ReadPictureSize(options.size);
   if (format == "glb" && options.window) refuse("--window");
+  RefuseUnusable(options.paper);
+  if (options.paper.IsGiven()) RefuseBesidePaper(options, format);
 }
 
 std::optional<std::size_t> WindowIndex(const PreviewOptions& options, const preview::Scene& scene) {
@@ -154,21 +168,42 @@ std::string Made(const PreviewOptions& options, const std::string& format, const
   return MadePicture(options, format, scene);
 }
 
-void ReportLeftOut(const preview::Scene& scene) {
+// What the picture leaves out of the drawing.
+void ReportLeftOut(const preview::Scene& scene, bool isPlan) {
+  std::map<std::string, std::size_t> leftOut = scene.leftOut;
+  if (!isPlan) {
+    for (const auto& [type, count] : scene.planOnly)
+      leftOut[type] += count;
+  }
   std::string list;
-  for (const auto& [type, count] : scene.leftOut)
+  for (const auto& [type, count] : leftOut)
     list += fmt::format("{}{} {}", list.empty() ? "" : ", ", count, type);
   if (!list.empty()) Tell("not shown: " + list);
+}
+
+// A plan to scale; what is told of it.
+std::string PutOnPaper(const PreviewOptions& options, const dxf::Document& drawing) {
+  const DrawingUnit& unit = UnitOf(drawing, options.units);
+  const preview::Scene scene = preview::ReadScene(drawing, {options.units, options.layers, true});
+  const preview::Zoom zoom{WindowIndex(options, scene), RoofIndex(options, scene)};
+  const plot::Plot plot = PlotOf(drawing, unit, scene, zoom, options.paper);
+  platform::WriteWholeFile(options.output, plot.text);
+  ReportLeftOut(scene, true);
+  return fmt::format("{} written, 1:{} on {}.\n", options.output, plot.scale, plot.paper);
 }
 
 void RunPreview(const PreviewOptions& options) {
   const std::string format = FormatOf(options);
   RefuseUnusable(options, format);
   const dxf::Document drawing = dxf::Document::Load(options.file);
+  if (options.paper.IsGiven()) {
+    fmt::print("{}", PutOnPaper(options, drawing));
+    return;
+  }
   preview::Scene scene = preview::ReadScene(
       drawing, {options.units, options.layers, options.withRoofs || !options.roof.empty()});
   platform::WriteWholeFile(options.output, Made(options, format, drawing, scene));
-  ReportLeftOut(scene);
+  ReportLeftOut(scene, format == "svg" && (options.view.empty() || options.view == "plan"));
   fmt::print("{} written.\n", options.output);
 }
 
@@ -212,6 +247,7 @@ void AddPreviewCommand(OptionParser& parser) {
   command.Many("--layer", options->layers, "show this layer only; several may be given").Named("LAYER");
   AddPictureOptions(command, *options, window);
   AddUnitOptions(command, options->units);
+  AddPaperOptions(command, options->paper);
   command.Footer(
       "A .svg is a drawing with title, scale bar and a group for each layer; a .png is seen from the "
       "south-east;\n"
@@ -221,6 +257,8 @@ void AddPreviewCommand(OptionParser& parser) {
       "  teskarlt preview house.dxf -o plan.svg\n"
       "  teskarlt preview house.dxf -o south.svg --view south\n"
       "  teskarlt preview house.dxf -o roofs.svg --roofs\n"
+      "  teskarlt preview house.dxf -o plan.svg --scale 50 --paper A2 --project \"House B\" --date "
+      "2026-05-04\n"
       "  teskarlt preview house.dxf -o window.png --window 3\n"
       "  teskarlt preview house.dxf -o slide.png --size 1920x1080 --transparent");
   command.Run([options] { RunPreview(*options); });
