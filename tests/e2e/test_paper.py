@@ -103,7 +103,7 @@ def test_scale_is_the_largest_usual_one_where_paper_alone_is_said(teskarlt, wind
 
 def test_plan_without_room_is_refused_with_what_would_do(teskarlt, windowed, tmp_path):
     refused(teskarlt("preview", windowed, "-o", tmp_path / "plan.svg", "--scale", "20", "--paper", "A4"),
-            "house.dxf: at 1:20 the plan takes 785 x", "1:75 fits on it; 1:20 fits on A0")
+            "house.dxf: at 1:20 the plan takes 785 x", "1:75 fits on it; 1:20 fits on A1")
     assert not (tmp_path / "plan.svg").exists()
 
 

@@ -23,6 +23,8 @@ constexpr std::size_t NOBODY = static_cast<std::size_t>(-1);
 
 // Where along an edge of a window a dimension may begin.
 constexpr std::array SHARES = {0.5, 0.25, 0.75, 0.1, 0.9};
+// Where along its line its text may stand.
+constexpr std::array TEXT_SHARES = {0.5, 0.35, 0.65, 0.2, 0.8};
 // How far below a window its dimension to the verge may run, and how far away its tag may stand.
 constexpr std::array BELOW = {4.0, 8.0, 12.0, 16.0, 20.0};
 constexpr std::array AWAY = {3.0, 6.0, 10.0, 15.0, 21.0, 28.0};
@@ -35,21 +37,29 @@ enum class Crossing { Forbidden, Allowed };
 class TakenRoom {
  public:
   // `owner` is the window whose footprint it is.
-  void Take(const Quad& quad, std::size_t owner = NOBODY) { taken_.push_back({quad, owner, {}}); }
+  void Take(const Quad& quad, std::size_t owner = NOBODY) {
+    taken_.push_back({quad, BoxOf(quad), owner, {}});
+  }
   void TakeLine(const PaperLine& line) {
-    if (LengthOf(line) > 0) taken_.push_back({StripOf(line, LINE_ROOM), NOBODY, DirectionOf(line)});
+    if (!(LengthOf(line) > 0)) return;
+    const Quad strip = StripOf(line, LINE_ROOM);
+    taken_.push_back({strip, BoxOf(strip), NOBODY, DirectionOf(line)});
   }
 
   bool IsFree(const Quad& quad) const {
-    return std::none_of(taken_.begin(), taken_.end(),
-                        [&](const Piece& piece) { return Overlap(piece.quad, quad); });
+    const PaperBox box = BoxOf(quad);
+    return std::none_of(taken_.begin(), taken_.end(), [&](const Piece& piece) {
+      return Touch(piece.box, box) && Overlap(piece.quad, quad);
+    });
   }
 
   // Whether nothing lies there but the footprint of the window at which the line begins.
   bool IsFreeLine(const PaperLine& line, std::size_t window, Crossing crossing) const {
     const Quad strip = StripOf(line, LINE_ROOM);
+    const PaperBox box = BoxOf(strip);
     const PaperPoint direction = DirectionOf(line);
     return std::none_of(taken_.begin(), taken_.end(), [&](const Piece& piece) {
+      if (!Touch(piece.box, box)) return false;
       const bool isOwn = window != NOBODY && piece.owner == window;
       const bool mayCross =
           crossing == Crossing::Allowed && piece.line && !AreParallel(*piece.line, direction);
@@ -60,9 +70,14 @@ class TakenRoom {
  private:
   struct Piece {
     Quad quad;
+    PaperBox box;                    // around it
     std::size_t owner;               // NOBODY for what is no footprint
     std::optional<PaperPoint> line;  // the direction of one
   };
+
+  static bool Touch(const PaperBox& a, const PaperBox& b) {
+    return a.left <= b.right && b.left <= a.right && a.top <= b.bottom && b.top <= a.bottom;
+  }
 
   static bool AreParallel(const PaperPoint& a, const PaperPoint& b) {
     constexpr double least = 0.1;  // sine of the angle between them
@@ -256,28 +271,30 @@ bool Placer::TryDimension(const Measure& measure, const PlanRoof& roof, std::siz
   return true;
 }
 
-// Along the line on either side of it, or level beside it where the line is too short for that.
+// Along the line on either side of it, or level beside its middle where it is too short for that.
 bool Placer::TryText(PlacedDimension& dimension) {
   const PaperPoint along = DirectionOf(dimension.line);
+  const double length = LengthOf(dimension.line);
   const double width = TextWidth(dimension.text, DIMENSION_SIZE);
-  const PaperPoint middle{(dimension.line.from.x + dimension.line.to.x) / 2,
-                          (dimension.line.from.y + dimension.line.to.y) / 2};
-  const auto isTaken = [&] {
-    const Quad quad =
-        QuadAround(dimension.middle, dimension.along, {width + AROUND, DIMENSION_SIZE + AROUND / 2});
+  const auto isPlaced = [&](const PaperPoint& middle, const PaperPoint& direction) {
+    const Quad quad = QuadAround(middle, direction, {width + AROUND, DIMENSION_SIZE + AROUND / 2});
     if (!IsFree(quad) || Overlap(quad, StripOf(dimension.line, AROUND / 2))) return false;
     room_.Take(quad);
+    dimension.middle = middle;
+    dimension.along = direction;
     return true;
   };
   for (const double side : {-1.0, 1.0}) {
     const PaperPoint aside{-along.y * side, along.x * side};
-    dimension.middle = Moved(middle, aside, DIMENSION_SIZE / 2 + AROUND);
-    dimension.along = Readable(along);
-    if (width <= LengthOf(dimension.line) && isTaken()) return true;
+    for (const double share : TEXT_SHARES) {
+      const PaperPoint beside =
+          Moved(Moved(dimension.line.from, along, share * length), aside, DIMENSION_SIZE / 2 + AROUND);
+      const bool hasRoom = width / 2 <= std::min(share, 1 - share) * length;
+      if (hasRoom && isPlaced(beside, Readable(along))) return true;
+    }
     const double reach = std::abs(aside.x) * width / 2 + std::abs(aside.y) * DIMENSION_SIZE / 2;
-    dimension.middle = Moved(middle, aside, reach + 2 * AROUND);
-    dimension.along = {1, 0};
-    if (isTaken()) return true;
+    if (isPlaced(Moved(Moved(dimension.line.from, along, length / 2), aside, reach + 2 * AROUND), {1, 0}))
+      return true;
   }
   return false;
 }
@@ -326,6 +343,7 @@ bool Placer::TryFall(const PlacedFall& fall, const PaperRings& rings) {
   const Quad arrow = StripOf(fall.arrow, 2 * LINE_ROOM + 1);
   const Quad text =
       QuadAround(fall.middle, {1, 0}, {TextWidth(fall.text, FALL_SIZE) + AROUND, FALL_SIZE + AROUND});
+  if (Overlap(arrow, text)) return false;
   for (const Quad& quad : {arrow, text}) {
     const bool isOnRoof = std::all_of(quad.begin(), quad.end(),
                                       [&](const PaperPoint& corner) { return LieAround(rings, corner); });
@@ -361,7 +379,8 @@ void Placer::PlaceFall(const PlanRoof& roof) {
     isInArea = isInArea || LiesIn({place, place, place, place}, ground_.area);
     fall.arrow = {Moved(place, down, -ARROW / 2), Moved(place, down, ARROW / 2)};
     for (const PaperPoint& middle :
-         {PaperPoint{fall.arrow.from.x, fall.arrow.from.y + behind}, PaperPoint{place.x + beside, place.y}}) {
+         {PaperPoint{fall.arrow.from.x, fall.arrow.from.y + behind}, PaperPoint{place.x + beside, place.y},
+          PaperPoint{place.x, place.y - FALL_SIZE - AROUND}}) {
       fall.middle = middle;
       if (TryFall(fall, rings)) return;
     }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <unordered_map>
 
 #include <fmt/format.h>
 
@@ -116,7 +117,7 @@ void Writer::Surfaces(bool ofWindows) {
 void Writer::Fillings() {
   if (scene_.fillings.empty()) return;
   canvas_.BeginGroup("fillings", R"( fill-rule="evenodd" fill-opacity="0.2" stroke-width="0.13")");
-  for (const preview::Filling& filling : scene_.fillings) {
+  for (const preview::SceneFilling& filling : scene_.fillings) {
     std::string path;
     for (const std::vector<Vec3>& ring : filling.rings) {
       for (std::size_t i = 0; i < ring.size(); ++i)
@@ -235,22 +236,31 @@ void DrawPlan(const PlanPicture& picture, const std::vector<Quad>& footprints, C
   Writer(picture, canvas).Run(footprints);
 }
 
-Quad FootprintOf(const PlanWindow& window, const PlanPicture& picture) {
+std::vector<Quad> FootprintsOf(const std::vector<PlanWindow>& windows, const PlanPicture& picture) {
   const preview::Scene& scene = *picture.scene;
-  const auto found = std::find_if(scene.windows.begin(), scene.windows.end(),
-                                  [&](const auto& shown) { return shown.number == window.number; });
-  const int index = static_cast<int>(found - scene.windows.begin());
-  Footprint footprint(window, picture.map);
-  const auto add = [&](const std::vector<Vec3>& points, int owner) {
-    if (owner != index) return;
+  std::vector<Footprint> footprints;
+  footprints.reserve(windows.size());
+  std::unordered_map<int, std::size_t> byNumber;
+  for (const PlanWindow& window : windows) {
+    byNumber.try_emplace(window.number, footprints.size());
+    footprints.emplace_back(window, picture.map);
+  }
+  const auto add = [&](const std::vector<Vec3>& points, int window) {
+    if (window == preview::NO_WINDOW) return;
+    const auto found = byNumber.find(scene.windows[static_cast<std::size_t>(window)].number);
+    if (found == byNumber.end()) return;
     for (const Vec3& point : points)
-      footprint.Add(InMetres(point, scene));
+      footprints[found->second].Add(InMetres(point, scene));
   };
   for (const preview::Surface& surface : scene.surfaces)
     add(surface.corners, surface.window);
   for (const preview::Curve& curve : scene.curves)
     add(curve.points, curve.window);
-  return footprint.Corners();
+  std::vector<Quad> quads;
+  quads.reserve(footprints.size());
+  for (const Footprint& footprint : footprints)
+    quads.push_back(footprint.Corners());
+  return quads;
 }
 
 }  // namespace teskarlt::plot

@@ -23,8 +23,8 @@ struct PlanPicture {
 // windows, so that no line of a wall runs over their glass. `footprints` are what they cover.
 void DrawPlan(const PlanPicture& picture, const std::vector<Quad>& footprints, Canvas& canvas);
 
-// What the window covers in the plan: the rectangle along its edges around all that is drawn of it; its frame
-// where the scene shows nothing of it.
-Quad FootprintOf(const PlanWindow& window, const PlanPicture& picture);
+// What each window covers in the plan: the rectangle along its edges around all that is drawn of it, or its
+// frame where the scene shows nothing of it.
+std::vector<Quad> FootprintsOf(const std::vector<PlanWindow>& windows, const PlanPicture& picture);
 
 }  // namespace teskarlt::plot

@@ -146,9 +146,7 @@ void Plotter::DrawPlanWithLabels(Canvas& canvas) {
   const Size size = SizeAt(plot_.scale);
   if (options_.zoom.window || options_.zoom.roof)
     ground.area = BoxOf(QuadAround(layout_.plan.Middle(), {1, 0}, size));
-  ground.footprints.reserve(notes_.windows.size());
-  for (const PlanWindow& window : notes_.windows)
-    ground.footprints.push_back(FootprintOf(window, picture));
+  ground.footprints = FootprintsOf(notes_.windows, picture);
   DrawPlan(picture, ground.footprints, canvas);
   const PlacedLabels labels = PlaceLabels(ground);
   DrawLabels(labels, canvas);

@@ -16,13 +16,13 @@ namespace teskarlt::plot {
 
 struct PlotOptions {
   Paper paper;
-  bool isUpright = false;    // for what the refusal proposes
-  std::optional<int> scale;  // 50 for 1:50; none: the largest usual one that fits
-  preview::Zoom zoom;        // what is shown
+  bool isUpright = false;         // for what the refusal proposes
+  std::optional<int> scale = {};  // 50 for 1:50; none: the largest usual one that fits
+  preview::Zoom zoom = {};        // what is shown
   LengthStyle lengths = LengthStyle::Metres;
-  std::string project;  // UTF-8, as the three below
-  std::string title;
-  std::string date;
+  std::string project = {};  // UTF-8, as the two below
+  std::string title = {};
+  std::string date = {};
 };
 
 // What is drawn: a scene whose unit is known, its roofs and windows, and their schedule.

@@ -41,11 +41,11 @@ double AdvanceOf(unsigned char c) {
   constexpr unsigned char continued = 0x80;
   constexpr unsigned char lead = 0xC0;
   if (c >= continued && c < lead) return 0;  // a further byte of a character
-  if (c >= lead) return 0.75;
+  if (c >= lead) return 0.8;
   const char letter = static_cast<char>(c);
-  if (narrow.find(letter) != std::string_view::npos) return 0.36;
-  if (wide.find(letter) != std::string_view::npos) return 0.95;
-  return letter >= 'A' && letter <= 'Z' ? 0.73 : 0.57;
+  if (narrow.find(letter) != std::string_view::npos) return 0.42;
+  if (wide.find(letter) != std::string_view::npos) return 1.05;
+  return letter >= 'A' && letter <= 'Z' ? 0.78 : 0.66;
 }
 
 }  // namespace

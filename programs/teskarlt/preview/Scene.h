@@ -72,7 +72,7 @@ struct SceneText {
 };
 
 // What a level hatch fills, which only plans show.
-struct Filling {
+struct SceneFilling {
   std::vector<std::vector<Vec3>> rings;  // around it and its holes
   Colour colour;
 };
@@ -113,7 +113,7 @@ struct Scene {
   std::vector<SceneWindow> windows;
   std::vector<SceneRoof> roofs;  // where their names are asked for
   std::vector<SceneText> texts;
-  std::vector<Filling> fillings;
+  std::vector<SceneFilling> fillings;
   std::map<std::string, std::size_t> leftOut;   // entities that no picture shows, by type
   std::map<std::string, std::size_t> planOnly;  // those that only plans show
   Box box;

@@ -295,7 +295,7 @@ void Reader::ReadAttributes(const std::vector<dxf::TagList>& lists, const Placem
 void Reader::AddFillings(const std::vector<EntityFace>& faces, const Look& look, const Placement& placement) {
   for (const EntityFace& face : faces) {
     if (face.corners.size() < 3 || !IsLevel(face)) continue;
-    Filling filling{{face.corners}, look.colour};
+    SceneFilling filling{{face.corners}, look.colour};
     filling.rings.insert(filling.rings.end(), face.holes.begin(), face.holes.end());
     if (placement.isBlock) {
       for (std::vector<Vec3>& ring : filling.rings) {

@@ -137,7 +137,7 @@ void Writer::Surfaces() {
 void Writer::Fillings() {
   if (scene_.fillings.empty()) return;
   Put("<g id=\"fillings\" fill-rule=\"evenodd\" fill-opacity=\"0.2\" stroke-width=\"0.6\">\n");
-  for (const Filling& filling : scene_.fillings) {
+  for (const SceneFilling& filling : scene_.fillings) {
     std::string path;
     for (const std::vector<Vec3>& ring : filling.rings) {
       for (std::size_t i = 0; i < ring.size(); ++i)

@@ -114,7 +114,7 @@ Frame PlanFrameOf(const Scene& scene, const Zoom& zoom) {
   box.Add({frame.right, frame.top, 0});
   for (const SceneText& text : scene.texts)
     AddText(text, box);
-  for (const Filling& filling : scene.fillings) {
+  for (const SceneFilling& filling : scene.fillings) {
     for (const std::vector<Vec3>& ring : filling.rings)
       std::for_each(ring.begin(), ring.end(), [&](const Vec3& corner) { box.Add(corner); });
   }

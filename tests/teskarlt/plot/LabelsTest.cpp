@@ -105,6 +105,18 @@ TEST(Labels, FallPointsDownTheSlopeAndTellsThePitch) {
   EXPECT_EQ(labels.withoutRoom, 0);
 }
 
+TEST(Labels, FallToTheEastHasItsTextBesideTheArrow) {
+  PlanNotes notes = NotesWith({});
+  const double root = 0.70710678118654757;
+  notes.roofs[0].frame = {{0, 0, 0}, {0, 1, 0}, {-root, 0, root}};
+  notes.roofs[0].rings = {{{0, 0}, {4, 0}, {4, -8}, {0, -8}}};  // 4 m along y, 5.657 m along x
+  const PlacedLabels labels = Placed(notes);
+  ASSERT_THAT(labels.falls, SizeIs(1));
+  EXPECT_NEAR(DirectionOf(labels.falls[0].arrow).x, 1, 1e-9);
+  const Quad text = QuadAround(labels.falls[0].middle, {1, 0}, {TextWidth("R1  45°", FALL_SIZE), FALL_SIZE});
+  EXPECT_FALSE(Overlap(text, StripOf(labels.falls[0].arrow, 0.5)));
+}
+
 TEST(Labels, FallOfARoofThatIsNotSeenIsLeftOut) {
   PlanNotes notes = NotesWith({});
   notes.roofs[0].isShown = false;

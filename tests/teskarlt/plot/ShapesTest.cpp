@@ -45,7 +45,7 @@ TEST(Shapes, WideLettersTakeMoreRoomThanNarrowOnes) {
 }
 
 TEST(Shapes, LetterOfSeveralBytesCountsOnce) {
-  EXPECT_NEAR(TextWidth("é", 1), 0.75, ROUNDING);
+  EXPECT_NEAR(TextWidth("é", 1), 0.8, ROUNDING);
 }
 
 }  // namespace
