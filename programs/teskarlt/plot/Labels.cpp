@@ -146,6 +146,8 @@ class Placer {
   explicit Placer(const LabelGround& ground) : ground_(ground), notes_(*ground.notes) {
     for (std::size_t i = 0; i < ground.footprints.size(); ++i)
       room_.Take(ground.footprints[i], i);
+    for (const Quad& text : ground.texts)
+      room_.Take(text);
   }
 
   PlacedLabels Run() {

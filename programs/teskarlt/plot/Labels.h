@@ -54,6 +54,7 @@ struct LabelGround {
   PaperBox area;                 // beyond which no label may lie
   std::vector<Quad> footprints;  // what each window covers in the plan, in the order of the notes
   LengthStyle lengths = LengthStyle::Metres;
+  std::vector<Quad> texts = {};  // of the drawing, over which no label may lie
 };
 
 // Of each window the dimensions to the eaves and to the nearer verge and the tag, then of each roof its fall,

@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include "geometry/Vectors.h"
 #include "teskarlt/preview/PaintOrder.h"
 #include "teskarlt/preview/SvgText.h"
 #include "teskarlt/preview/VisibleLines.h"
@@ -261,6 +262,26 @@ std::vector<Quad> FootprintsOf(const std::vector<PlanWindow>& windows, const Pla
   for (const Footprint& footprint : footprints)
     quads.push_back(footprint.Corners());
   return quads;
+}
+
+std::vector<Quad> TextRoomOf(const PlanPicture& picture) {
+  const preview::Scene& scene = *picture.scene;
+  std::vector<Quad> room;
+  room.reserve(scene.texts.size());
+  for (const preview::SceneText& text : scene.texts) {
+    const PaperPoint at = picture.map.Of(InMetres(text.at, scene));
+    const PaperPoint end = picture.map.Of(InMetres(geometry::Sum(text.at, text.along), scene));
+    const PaperPoint top = picture.map.Of(InMetres(geometry::Sum(text.at, text.up), scene));
+    const double height = LengthOf({at, top});
+    const double width = TextWidth(text.text, LengthOf({at, end}) / CAPITAL);
+    const double fromStart = text.anchor == preview::TextAnchor::Start    ? 0.5
+                             : text.anchor == preview::TextAnchor::Middle ? 0
+                                                                          : -0.5;
+    const PaperPoint along = DirectionOf({at, end});
+    const PaperPoint middle = Moved(Moved(at, along, fromStart * width), DirectionOf({at, top}), height / 2);
+    room.push_back(QuadAround(middle, along, {width, height}));
+  }
+  return room;
 }
 
 }  // namespace teskarlt::plot

@@ -27,4 +27,7 @@ void DrawPlan(const PlanPicture& picture, const std::vector<Quad>& footprints, C
 // frame where the scene shows nothing of it.
 std::vector<Quad> FootprintsOf(const std::vector<PlanWindow>& windows, const PlanPicture& picture);
 
+// What the texts of the scene cover, about.
+std::vector<Quad> TextRoomOf(const PlanPicture& picture);
+
 }  // namespace teskarlt::plot

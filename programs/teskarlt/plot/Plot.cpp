@@ -147,6 +147,7 @@ void Plotter::DrawPlanWithLabels(Canvas& canvas) {
   if (options_.zoom.window || options_.zoom.roof)
     ground.area = BoxOf(QuadAround(layout_.plan.Middle(), {1, 0}, size));
   ground.footprints = FootprintsOf(notes_.windows, picture);
+  ground.texts = TextRoomOf(picture);
   DrawPlan(picture, ground.footprints, canvas);
   const PlacedLabels labels = PlaceLabels(ground);
   DrawLabels(labels, canvas);

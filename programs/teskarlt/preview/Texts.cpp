@@ -113,7 +113,7 @@ SceneText SingleLine(const dxf::TagList& entity) {
   text.along = letters.along;
   text.up = letters.up;
   text.at = isBetween ? geometry::Between(point, other, 0.5) : isAligned ? other : point;
-  text.at = Moved(text.at, text.up, -(across == dxf::TEXT_MIDDLE ? 0.5 : DropOf(up)));
+  text.at = Moved(text.at, text.up, -(across == dxf::TEXT_MIDDLE_OF_BOTH ? 0.5 : DropOf(up)));
   ToDrawing(entity, text);
   return text;
 }

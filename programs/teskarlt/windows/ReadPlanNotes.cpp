@@ -7,7 +7,6 @@
 #include "teskarlt/drawing/WindowFit.h"
 #include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/WindowListing.h"
-#include "teskarlt/windows/WindowMarks.h"
 
 namespace teskarlt {
 

@@ -105,10 +105,6 @@ std::string MarkPattern::MarkOf(const MarkedWindow& window, std::int64_t run) co
   return mark;
 }
 
-std::string ShownMark(const DrawnWindow& window) {
-  return window.mark.empty() ? MarkPattern(USUAL_MARK).MarkOf({.number = window.number}, 0) : window.mark;
-}
-
 WindowMarks::WindowMarks(const std::vector<DrawnWindow>& windows) {
   for (const DrawnWindow& window : windows)
     Take(window.mark, window.number);

@@ -55,9 +55,6 @@ class MarkPattern {
   std::vector<Piece> pieces_;
 };
 
-// The name of a window on plans and in schedules; of one without a mark, the one that it would get.
-std::string ShownMark(const DrawnWindow& window);
-
 // The marks of a drawing's windows.
 class WindowMarks {
  public:

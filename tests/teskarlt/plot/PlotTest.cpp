@@ -117,6 +117,17 @@ TEST(Plot, WindowLiesOverTheLinesOfWalls) {
   EXPECT_THAT(text, HasSubstr(">W01</text>"));
 }
 
+TEST(Plot, TextOfTheDrawingKeepsItsRoom) {
+  // A text over the whole of the plan leaves no room for the window's tag within it.
+  const std::string window = Rectangle("B", 4, 2, 5, 3, 0, "|1001 TK_LT_ELEM|1000 TKBRVA|1071 1");
+  Drawn drawn{.parts = {.entities = window + Line("WALL", 0, 0, 10, 5)}};
+  drawn.notes = {{}, {WindowAt(4, 2, "W01", 1)}};
+  drawn.notes.windows[0].roof.reset();
+  EXPECT_EQ(drawn.Make().labelsWithoutRoom, 0);
+  drawn.parts.entities += "0 TEXT|8 A|10 -40|20 -40|40 80|1 XXXX|";
+  EXPECT_EQ(drawn.Make().labelsWithoutRoom, 1);
+}
+
 TEST(Plot, ScheduleStandsBesideThePlan) {
   Drawn drawn{.parts = {.entities = Line("A", 0, 0, 5, 5)}};
   drawn.schedule = {"Windows",
