@@ -17,6 +17,7 @@
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
 #include "teskarlt/dxf/tags/TextCodec.h"
+#include "teskarlt/dxf/tags/TextCodes.h"
 
 namespace teskarlt {
 
@@ -47,7 +48,7 @@ double LettersIn(std::string_view utf8) {
 PlanLine TurnedText(const dxf::TagList& text, const PlanBox& box) {
   Matrix4 turn{};
   geometry::MatRotationZ(geometry::DegToRad(text.Real(dxf::CODE_TEXT_ROTATION)), turn);
-  const Vec3 place = text.Point(dxf::CODE_TEXT_START);
+  const Vec3 place = text.Point(dxf::CODE_TEXT_POINT);
   std::array<Vec3, 4> corners = {{{box.lowX, box.lowY, 0},
                                   {box.highX, box.lowY, 0},
                                   {box.highX, box.highY, 0},
@@ -62,12 +63,13 @@ PlanLine TurnedText(const dxf::TagList& text, const PlanBox& box) {
 
 PlanLine LineOverText(const dxf::TagList& text) {
   const double height = text.Real(dxf::CODE_TEXT_HEIGHT);
-  return TurnedText(text, {0, 0, LettersIn(text.Text(dxf::CODE_TEXT_VALUE)) * LETTER_WIDTH * height, height});
+  return TurnedText(text,
+                    {0, 0, LettersIn(text.Text(dxf::CODE_TEXT_CONTENT)) * LETTER_WIDTH * height, height});
 }
 
 PlanLine LineOverMText(const dxf::TagList& text) {
   const double letterHeight = text.Real(dxf::CODE_TEXT_HEIGHT);
-  const std::string value = text.Text(dxf::CODE_TEXT_VALUE);
+  const std::string value = text.Text(dxf::CODE_TEXT_CONTENT);
   double rows = 1;
   for (std::size_t at = value.find(LINE_BREAK); at != std::string::npos;
        at = value.find(LINE_BREAK, at + LINE_BREAK.size()))

@@ -12,6 +12,7 @@
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/TextCodes.h"
 
 namespace teskarlt {
 
@@ -84,9 +85,9 @@ std::optional<LoosePart> PartOf(const dxf::Document& drawing, const dxf::Entity&
 WindowTag TagWithText(const dxf::Document& drawing, const LoosePart& text) {
   const dxf::TagList tags = drawing.TagLists(text.part.entity->text).front();
   return {.number = text.number,
-          .text = tags.Text(dxf::CODE_TEXT_VALUE),
+          .text = tags.Text(dxf::CODE_TEXT_CONTENT),
           .height = tags.Real(dxf::CODE_TEXT_HEIGHT),
-          .place = tags.Point(dxf::CODE_TEXT_ALIGNMENT, tags.Point(dxf::CODE_TEXT_START)),
+          .place = tags.Point(dxf::CODE_TEXT_ALIGNMENT_POINT, tags.Point(dxf::CODE_TEXT_POINT)),
           .put = text.put,
           .parts = {text.part}};
 }

@@ -15,6 +15,7 @@
 #include "teskarlt/dxf/tags/Codes.h"
 #include "teskarlt/dxf/tags/Names.h"
 #include "teskarlt/dxf/tags/TagValue.h"
+#include "teskarlt/dxf/tags/TextCodes.h"
 
 namespace teskarlt {
 
@@ -111,14 +112,14 @@ std::vector<dxf::TypedTag> CircleTags(const TagPlan& plan) {
 // Text and style as they stand in the file; no style is the usual one.
 std::vector<dxf::TypedTag> TextTags(const TagPlan& plan, std::string_view text, std::string_view style) {
   std::vector<dxf::TypedTag> tags = Head(dxf::TYPE_TEXT, TEXT_MARKER);
-  tags.push_back({dxf::CODE_TEXT_START, PointOf(TextStart(plan))});
-  tags.push_back({dxf::CODE_TEXT_ALIGNMENT, PointOf(plan.place)});
+  tags.push_back({dxf::CODE_TEXT_POINT, PointOf(TextStart(plan))});
+  tags.push_back({dxf::CODE_TEXT_ALIGNMENT_POINT, PointOf(plan.place)});
   tags.push_back({dxf::CODE_TEXT_HEIGHT, plan.height});
-  tags.push_back({dxf::CODE_TEXT_VALUE, text});
+  tags.push_back({dxf::CODE_TEXT_CONTENT, text});
   if (!style.empty()) tags.push_back({dxf::CODE_TEXT_STYLE, style});
-  tags.push_back({dxf::CODE_TEXT_ACROSS, dxf::TEXT_CENTRED});
+  tags.push_back({dxf::CODE_TEXT_ACROSS, dxf::TEXT_CENTRE});
   tags.push_back({dxf::CODE_SUBCLASS, TEXT_MARKER});
-  tags.push_back({dxf::CODE_TEXT_UP, dxf::TEXT_MIDDLE});
+  tags.push_back({dxf::CODE_TEXT_UP, dxf::TEXT_AT_MIDDLE});
   return tags;
 }
 
@@ -213,7 +214,7 @@ void RedrawTag(const WindowTag& tag, const TagPlan& plan, dxf::Document& drawing
       if (role != part.role) continue;
       drawing.Redraw(*entity, part.tags, dxf::LinetypeOnRedraw::Kept);
       if (role == TagRole::Text && text != drawing.Encode(tag.text))
-        Replace(*entity, dxf::CODE_TEXT_VALUE, text, drawing);
+        Replace(*entity, dxf::CODE_TEXT_CONTENT, text, drawing);
       if (role == TagRole::Circle)
         Replace(*entity, dxf::CODE_CIRCLE_RADIUS, RealText(RadiusOf(plan)), drawing);
     }

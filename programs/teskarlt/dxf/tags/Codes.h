@@ -196,20 +196,6 @@ constexpr int CODE_INSERT_HAS_ATTRIBUTES = 66;
 constexpr int CODE_INSERT_COLUMNS = 70;
 constexpr int CODE_INSERT_ROWS = 71;
 
-// Of a TEXT; one that is aligned otherwise than by its start has a point of alignment.
-constexpr int CODE_TEXT_VALUE = 1;
-constexpr int CODE_TEXT_START = 10;
-constexpr int CODE_TEXT_ALIGNMENT = 11;
-constexpr int CODE_TEXT_HEIGHT = 40;
-constexpr int CODE_TEXT_ROTATION = 50;  // degrees
-constexpr int CODE_TEXT_ACROSS = 72;
-constexpr std::int64_t TEXT_CENTRED = 1;
-constexpr int CODE_TEXT_UP = 73;
-constexpr std::int64_t TEXT_MIDDLE = 2;
-
-// Of an MTEXT: the point of its box that lies at the place, from 1 at the upper left to 9.
-constexpr int CODE_MTEXT_ATTACHMENT = 71;
-
 constexpr int CODE_DIMENSION_STYLE = 3;  // of a DIMENSION, LEADER or TOLERANCE
 constexpr int CODE_TEXT_STYLE = 7;       // of a TEXT, MTEXT, ATTRIB or ATTDEF
 
