@@ -28,7 +28,7 @@ constexpr double SHORTEST_LINE = 0.05;
 constexpr double SHORTEST_PERIOD = 1.5;  // of dashes that can be told apart
 constexpr double CLIP_MARGIN = 0.5;
 constexpr double WASH = 0.72;  // share of white in the colours of surfaces
-constexpr std::string_view GLASS_GROUND = " fill=\"#e6eff5\" stroke=\"none\"";
+constexpr std::string_view GLASS_GROUND = R"( fill="#e6eff5" stroke="none")";
 
 std::uint8_t Washed(std::uint8_t channel) {
   return static_cast<std::uint8_t>(channel + (255 - channel) * WASH);
@@ -110,7 +110,7 @@ void Writer::Surfaces(bool ofWindows) {
     corners.reserve(surface.corners.size());
     for (const Vec3& corner : surface.corners)
       corners.push_back(Place(corner));
-    canvas_.Shape(corners, fmt::format(" fill=\"{0}\" stroke=\"{0}\"", colour));
+    canvas_.Shape(corners, fmt::format(R"( fill="{0}" stroke="{0}")", colour));
   }
   canvas_.EndGroup();
 }
@@ -146,7 +146,7 @@ void Writer::Texts() {
 void Writer::Layers() {
   for (std::size_t layer = 0; layer < scene_.layers.size(); ++layer) {
     canvas_.BeginGroup(fmt::format("layer-{}", layer),
-                       fmt::format(" inkscape:groupmode=\"layer\" inkscape:label=\"{}\"",
+                       fmt::format(R"( inkscape:groupmode="layer" inkscape:label="{}")",
                                    Escaped(scene_.layers[layer].name)));
     Lines([layer](const VisibleLine& line) {
       return line.layer == layer && line.window == preview::NO_WINDOW;

@@ -159,7 +159,7 @@ void Plotter::DrawFrame(Canvas& canvas) const {
   texts.drawing += fmt::format(" ({})", scene_.unit);
   DrawLegend(layout_.legend, plot_.scale, options_.lengths, canvas);
   DrawTitleBlock(texts, layout_.title, plot_.scale, canvas);
-  canvas.Box(layout_.frame, " fill=\"none\" stroke=\"#000000\" stroke-width=\"0.7\"");
+  canvas.Box(layout_.frame, R"( fill="none" stroke="#000000" stroke-width="0.7")");
 }
 
 }  // namespace

@@ -115,7 +115,7 @@ void ScheduleTable::DrawRow(const std::vector<schedule::Cell>& cells, const Pape
 void ScheduleTable::DrawRules(const PaperPoint& corner, Canvas& canvas) const {
   const double right = corner.x + std::accumulate(widths_.begin(), widths_.end(), 0.0);
   const double bottom = corner.y + Height() - TITLE_HEIGHT;
-  canvas.BeginGroup("rules", " fill=\"none\" stroke=\"#000000\" stroke-width=\"0.13\"");
+  canvas.BeginGroup("rules", R"( fill="none" stroke="#000000" stroke-width="0.13")");
   double y = corner.y + HeadHeight();
   for (std::size_t row = 0; row < RowCount(); ++row) {
     canvas.Line({{corner.x, y}, {right, y}});

@@ -28,7 +28,7 @@ void DrawRow(const std::vector<Field>& fields, const PaperBox& row, Canvas& canv
   for (const Field& field : fields) {
     const double width = row.Width() * field.share;
     canvas.Box({left, row.top, left + width, row.bottom},
-               " fill=\"none\" stroke=\"#000000\" stroke-width=\"0.25\"");
+               R"( fill="none" stroke="#000000" stroke-width="0.25")");
     canvas.Text({field.caption, {left + PADDING, row.top + PADDING + CAPTION_SIZE * CAPITAL}, CAPTION_SIZE});
     canvas.TextWithin({field.text, {left + PADDING, row.bottom - PADDING - 0.5}, field.size},
                       width - 2 * PADDING);
@@ -39,7 +39,7 @@ void DrawRow(const std::vector<Field>& fields, const PaperBox& row, Canvas& canv
 // A circle with an arrow in it, and the letter above.
 void DrawNorth(const PaperPoint& middle, Canvas& canvas) {
   constexpr double radius = 6;
-  canvas.BeginGroup("north", " stroke=\"#000000\" stroke-width=\"0.25\"");
+  canvas.BeginGroup("north", R"( stroke="#000000" stroke-width="0.25")");
   canvas.Put(fmt::format("<circle fill=\"none\" cx=\"{}\" cy=\"{}\" r=\"{}\"/>\n", Number(middle.x),
                          Number(middle.y), radius));
   canvas.Shape({{middle.x, middle.y - radius}, {middle.x + 2.4, middle.y + 4}, {middle.x, middle.y + 2.4}},
@@ -61,7 +61,7 @@ void DrawScaleBar(const PaperBox& room, int scale, LengthStyle lengths, Canvas& 
   const double middle = room.left + width / 2;
   canvas.BeginGroup("scale-bar", " fill=\"#000000\"");
   canvas.Box({room.left, room.top, room.left + width, room.top + thickness},
-             " fill=\"#ffffff\" stroke=\"#000000\" stroke-width=\"0.18\"");
+             R"( fill="#ffffff" stroke="#000000" stroke-width="0.18")");
   canvas.Box({room.left, room.top, middle, room.top + thickness});
   const double base = room.top + thickness + size + 0.4;
   canvas.Text({"0", {room.left, base}, size});

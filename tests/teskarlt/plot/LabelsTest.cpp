@@ -17,9 +17,11 @@ using testing::SizeIs;
 // At 1:50 a metre is 20 mm: the roof lies from (0, 100) to (200, 0) of the paper.
 PlacedLabels Placed(const PlanNotes& notes, double scale = 50, LengthStyle lengths = LengthStyle::Metres) {
   LabelGround ground{&notes, {scale, {0, 0, 0}, {0, 100}}, {-50, -50, 250, 150}, {}, lengths};
-  for (const PlanWindow& window : notes.windows)
+  ground.footprints.reserve(notes.windows.size());
+  for (const PlanWindow& window : notes.windows) {
     ground.footprints.push_back({ground.map.Of(window.frame[0]), ground.map.Of(window.frame[1]),
                                  ground.map.Of(window.frame[2]), ground.map.Of(window.frame[3])});
+  }
   return PlaceLabels(ground);
 }
 
@@ -72,6 +74,7 @@ TEST(Labels, LeaderEndsAtTheWindow) {
 
 TEST(Labels, NothingHidesAnything) {
   std::vector<PlanWindow> windows;
+  windows.reserve(6);
   for (int i = 0; i < 6; ++i)
     windows.push_back(WindowAt(0.5 + 1.5 * i, 1 + 0.5 * (i % 2), "W0" + std::to_string(i + 1), i + 1));
   const PlanNotes notes = NotesWith(windows);

@@ -45,7 +45,7 @@ std::string RefusalOf(const Drawn& drawn) {
 
 TEST(Plot, PaperIsMillimetres) {
   EXPECT_THAT(Drawn{.parts = {.entities = Line("A", 0, 0, 10, 5)}}.Make().text,
-              HasSubstr("width=\"297mm\" height=\"210mm\" viewBox=\"0 0 297 210\""));
+              HasSubstr(R"(width="297mm" height="210mm" viewBox="0 0 297 210")"));
 }
 
 TEST(Plot, LineHasItsLengthByTheScale) {

@@ -30,7 +30,7 @@ TEST_F(PageTest, TitleIsTheNameOfTheDrawing) {
 
 TEST_F(PageTest, ModelAndWindowAreWithinIt) {
   // "glTF" and version 2 in base 64.
-  EXPECT_THAT(Page(Diagonal("a"), {}, 7), HasSubstr("id=\"model\" data-window=\"7\">Z2xURgIAAA"));
+  EXPECT_THAT(Page(Diagonal("a"), {}, 7), HasSubstr(R"(id="model" data-window="7">Z2xURgIAAA)"));
   EXPECT_THAT(Page(Diagonal("a"), {}, std::nullopt), HasSubstr("data-window=\"\">Z2xURgIAAA"));
 }
 
