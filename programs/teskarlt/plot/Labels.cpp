@@ -154,7 +154,7 @@ class Placer {
     for (std::size_t i = 0; i < notes_.windows.size(); ++i)
       PlaceDimensions(i);
     for (std::size_t i = 0; i < notes_.windows.size(); ++i)
-      PlaceTag(i);
+      if (!notes_.windows[i].hasTag) PlaceTag(i);
     for (const PlanRoof& roof : notes_.roofs)
       if (roof.isShown) PlaceFall(roof);
     return std::move(labels_);

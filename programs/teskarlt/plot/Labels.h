@@ -57,8 +57,8 @@ struct LabelGround {
   std::vector<Quad> texts = {};  // of the drawing, over which no label may lie
 };
 
-// Of each window the dimensions to the eaves and to the nearer verge and the tag, then of each roof its fall,
-// each at the first free one of its usual places: over no window and no other label.
+// Of each window the dimensions to the eaves and to the nearer verge and, unless it has one, the tag, then of
+// each roof its fall, each at the first free one of its usual places: over no window and no other label.
 PlacedLabels PlaceLabels(const LabelGround& ground);
 
 }  // namespace teskarlt::plot

@@ -27,6 +27,7 @@ struct PlanWindow {
   std::int32_t number = 0;
   brevanta::Outline frame{};        // as it is drawn
   std::optional<std::size_t> roof;  // index in PlanNotes::roofs
+  bool hasTag = false;              // the drawing shows its mark beside it
 };
 
 struct PlanNotes {

@@ -2,9 +2,11 @@
 #include "teskarlt/windows/ReadPlanNotes.h"
 
 #include <unordered_map>
+#include <unordered_set>
 
 #include "teskarlt/drawing/Roofs.h"
 #include "teskarlt/drawing/WindowFit.h"
+#include "teskarlt/drawing/WindowTag.h"
 #include "teskarlt/windows/Placing.h"
 #include "teskarlt/windows/WindowListing.h"
 
@@ -40,6 +42,14 @@ plot::PlanWindow WindowOf(const ListedWindow& listed) {
   return window;
 }
 
+// The numbers of the windows whose marks the drawing shows.
+std::unordered_set<std::int32_t> TaggedWindows(const dxf::Document& drawing) {
+  std::unordered_set<std::int32_t> numbers;
+  for (const WindowTag& tag : FindWindowTags(drawing))
+    if (tag.HasText()) numbers.insert(tag.number);
+  return numbers;
+}
+
 }  // namespace
 
 plot::PlanNotes ReadPlanNotes(const dxf::Document& drawing, const DrawingUnit& unit) {
@@ -51,9 +61,11 @@ plot::PlanNotes ReadPlanNotes(const dxf::Document& drawing, const DrawingUnit& u
     indices.emplace(&surface, notes.roofs.size());
     notes.roofs.push_back(RoofOf(surface, roofs));
   }
+  const std::unordered_set<std::int32_t> tagged = TaggedWindows(drawing);
   for (const ListedWindow& listed : ListWindows(drawing, unit.working)) {
     if (!listed.reading.outline) continue;
     notes.windows.push_back(WindowOf(listed));
+    notes.windows.back().hasTag = tagged.contains(listed.window.number);
     const RoofFace* const face = FaceUnder(listed.reading.params, roofs);
     const auto roof = face == nullptr ? indices.end() : indices.find(roofs.SurfaceOf(*face));
     if (roof != indices.end()) notes.windows.back().roof = roof->second;

@@ -72,6 +72,14 @@ TEST(Labels, LeaderEndsAtTheWindow) {
   EXPECT_NEAR(std::max({40 - end.x, end.x - 60, 60 - end.y, end.y - 80}), 0.3, 1e-9);
 }
 
+TEST(Labels, WindowThatHasATagInTheDrawingGetsNoSecondOne) {
+  PlanWindow window = WindowAt(2, 2, "W01", 1);
+  window.hasTag = true;
+  const PlacedLabels labels = Placed(NotesWith({window}));
+  EXPECT_THAT(labels.tags, IsEmpty());
+  EXPECT_THAT(labels.dimensions, SizeIs(2));
+}
+
 TEST(Labels, NothingHidesAnything) {
   std::vector<PlanWindow> windows;
   windows.reserve(6);
