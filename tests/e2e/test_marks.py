@@ -26,8 +26,7 @@ def test_marks_are_told_by_insert_and_list(teskarlt, house):
     assert teskarlt.done("insert", house, "--at", "5000,1200", "--mark", "W{number:02}").stdout.startswith(
         "Window 2 (W02): ")
     assert marks(teskarlt, house) == ["W01", "W02"]
-    headings = [line.split()[:2] for line in teskarlt.done("list", house).stdout.splitlines()]
-    assert ["number", "mark"] in headings
+    assert teskarlt.done("list", house).stdout.splitlines()[0].split()[:2] == ["number", "mark"]
 
 
 def test_windows_without_marks_are_listed_as_before(teskarlt, house):

@@ -166,7 +166,7 @@ void PrintTable(const Sheet& sheet) {
   headings.reserve(sheet.headings.size());
   for (const schedule::Heading& heading : sheet.headings)
     headings.push_back(heading.text);
-  Table table(std::move(headings));
+  Table table(std::move(headings), Table::Headings::Broken);
   for (const std::vector<schedule::Cell>& row : sheet.rows)
     table.Add(cellsOf(row));
   if (!sheet.totals.empty()) table.Add(cellsOf(sheet.totals));

@@ -102,7 +102,8 @@ void PrintJson(const Json& json) {
   fmt::print("\n");
 }
 
-Table::Table(std::vector<std::string> headings) : headings_(std::move(headings)) {}
+Table::Table(std::vector<std::string> headings, Headings style)
+    : headings_(std::move(headings)), style_(style) {}
 
 void Table::Add(std::vector<std::string> row) {
   for (std::string& text : row)
@@ -113,8 +114,8 @@ void Table::Add(std::vector<std::string> row) {
 void Table::Print() const {
   const std::vector<std::size_t> widths = WidthsOf(rows_, headings_.size());
   Rows head{headings_};
-  if (TotalWidth(WidestOf(widths, WidthsOf(head, headings_.size()))) > WIDE_TABLE)
-    head = BrokenHeadings(headings_, widths);
+  const bool isWide = TotalWidth(WidestOf(widths, WidthsOf(head, headings_.size()))) > WIDE_TABLE;
+  if (isWide && style_ == Headings::Broken) head = BrokenHeadings(headings_, widths);
   const std::vector<std::size_t> printed = WidestOf(widths, WidthsOf(head, headings_.size()));
   for (const std::vector<std::string>& row : head)
     PrintRow(row, printed);

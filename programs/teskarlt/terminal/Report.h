@@ -17,16 +17,19 @@ constexpr const char* JSON_HELP = "print JSON, for programs";
 void PrintJson(const Json& json);
 
 // A table in aligned columns for people; the texts are UTF-8. Line breaks and other control characters of
-// theirs become blanks. In a table of more than 100 characters headings that are wider than their columns are
-// broken into lines.
+// theirs become blanks.
 class Table {
  public:
-  explicit Table(std::vector<std::string> headings);
+  // How headings stand that are wider than their columns in a table of more than 100 characters.
+  enum class Headings { InOneLine, Broken };
+
+  explicit Table(std::vector<std::string> headings, Headings style = Headings::InOneLine);
   void Add(std::vector<std::string> row);
   void Print() const;  // to standard output
 
  private:
   std::vector<std::string> headings_;
+  Headings style_;
   std::vector<std::vector<std::string>> rows_;
 };
 

@@ -23,20 +23,26 @@ TEST(Table, WithoutRowsHasItsHeadings) {
 }
 
 TEST(Table, HeadingsStayInOneLineWhereThereIsRoom) {
-  Table table({"number of the window", "text"});
+  Table table({"number of the window", "text"}, Table::Headings::Broken);
   table.Add({"1", std::string(100 - 20 - 2, 'x')});
   EXPECT_EQ(Printed(table),
             "number of the window  text\n1" + std::string(21, ' ') + std::string(78, 'x') + "\n");
 }
 
 TEST(Table, HeadingsOfATableThatIsTooWideAreBrokenAboveTheirColumns) {
-  Table table({"mark", "depth of frame", "text"});
+  Table table({"mark", "depth of frame", "text"}, Table::Headings::Broken);
   table.Add({"W01", "0.08 m", std::string(90, 'x')});
   const std::string printed = Printed(table);
   EXPECT_EQ(printed.substr(0, printed.find("W01")),
             "      depth   \n"
             "      of      \n"
             "mark  frame   text\n");
+}
+
+TEST(Table, HeadingsOfAWideTableAreInOneLineUnlessTheyMayBeBroken) {
+  Table table({"depth of frame", "text"});
+  table.Add({"0.08 m", std::string(90, 'x')});
+  EXPECT_EQ(Printed(table).substr(0, 21), "depth of frame  text\n");
 }
 
 }  // namespace
