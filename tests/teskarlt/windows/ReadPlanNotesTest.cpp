@@ -1,5 +1,5 @@
 // ReadPlanNotesTest.cpp - what a plan tells of the roofs and roof windows of a drawing.
-#include <cmath>
+#include <algorithm>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
